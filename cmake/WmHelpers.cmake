@@ -1,0 +1,30 @@
+# A lean precompiled header for targets that use Qt Widgets.
+function(wm_qt_pch target)
+  target_precompile_headers(${target} PRIVATE
+    <QString> <QWidget> <QPainter> <QTimer> <QLabel> <QPushButton> <vector> <string>)
+endfunction()
+
+# A QtTest program run offscreen by ctest.
+function(wm_qt_test name)
+  cmake_parse_arguments(T "" "" "SOURCES;LIBS" ${ARGN})
+  add_executable(${name} ${T_SOURCES})
+  target_link_libraries(${name} PRIVATE ${T_LIBS} Qt6::Test)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;WM_TEST_APP_DIR=${WM_APP_DIR}" TIMEOUT 300)
+endfunction()
+
+# A GoogleTest program.
+function(wm_gtest name)
+  cmake_parse_arguments(T "" "" "SOURCES;LIBS" ${ARGN})
+  add_executable(${name} ${T_SOURCES})
+  target_link_libraries(${name} PRIVATE ${T_LIBS} GTest::gtest GTest::gtest_main)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+endfunction()
+
+# Adds a folder when it already has its CMakeLists.txt, so pieces can land one by one.
+macro(wm_add_optional dir)
+  if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${dir}/CMakeLists.txt)
+    add_subdirectory(${dir})
+  endif()
+endmacro()

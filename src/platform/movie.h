@@ -1,0 +1,60 @@
+// The animation player. Scenes are our own, drawn with QPainter, found by name in a registry
+// (the name a screen asks for, such as "wmsplash").
+#pragma once
+
+#include <QElapsedTimer>
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <memory>
+
+namespace wm {
+
+class MovieScene {
+public:
+    virtual ~MovieScene() = default;
+    virtual double duration() const = 0;  // seconds of one pass
+    // Paints the scene at time `t` seconds into `rect`.
+    virtual void paint(QPainter& painter, const QRectF& rect, double t) = 0;
+    virtual QSize naturalSize() const { return {640, 480}; }
+};
+
+using SceneFactory = std::function<std::unique_ptr<MovieScene>()>;
+void RegisterScene(const QString& name, SceneFactory factory);
+std::unique_ptr<MovieScene> MakeScene(const QString& name);  // nullptr when unknown
+
+class Movie : public QWidget {
+    Q_OBJECT
+public:
+    explicit Movie(QWidget* parent = nullptr);
+    ~Movie() override;
+
+    // Loads a scene by name ("wmsplash" or "wmsplash.swf"); false when there is none.
+    bool load(const QString& name);
+    // Plays once (or in a loop); `onFinished` runs when a single pass ends or stop() is called.
+    void play(bool loop = false, std::function<void()> onFinished = {});
+    void stop();
+    bool isPlaying() const;
+    double position() const;  // seconds into the pass
+    // Jumps the clock, for tests and for stepping without waiting.
+    void advance(double seconds);
+
+signals:
+    void finished();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void tick();
+    std::unique_ptr<MovieScene> scene_;
+    QTimer timer_;
+    QElapsedTimer clock_;
+    double offset_ = 0;
+    bool playing_ = false;
+    bool loop_ = false;
+    std::function<void()> onFinished_;
+};
+
+}  // namespace wm
