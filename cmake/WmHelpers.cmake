@@ -23,8 +23,10 @@ function(wm_gtest name)
 endfunction()
 
 # Adds a folder when it already has its CMakeLists.txt, so pieces can land one by one.
+# WM_SKIP lists folder names to leave out while they are being written.
 macro(wm_add_optional dir)
-  if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${dir}/CMakeLists.txt)
+  get_filename_component(_wm_name ${dir} NAME)
+  if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${dir}/CMakeLists.txt AND NOT _wm_name IN_LIST WM_SKIP)
     add_subdirectory(${dir})
   endif()
 endmacro()

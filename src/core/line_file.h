@@ -3,6 +3,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace wm {
@@ -41,5 +42,23 @@ void AppendLinesAtomic(const std::string& path, const std::vector<std::string>& 
 
 void RenameFile(const std::string& from, const std::string& to);  // throws FileError
 void RemoveFile(const std::string& path);                         // missing is fine
+
+}  // namespace wm
+
+namespace wm {
+
+// Walks the lines of a file's bytes without copying them, with the same line ends as ReadLines.
+class LineReader {
+public:
+    explicit LineReader(std::string bytes) : bytes_(std::move(bytes)) {}
+    static LineReader open(const std::string& path) { return LineReader(ReadBytes(path)); }
+    bool atEnd() const { return pos_ >= bytes_.size(); }
+    // The next line; an empty view at the end.
+    std::string_view next();
+
+private:
+    std::string bytes_;
+    std::size_t pos_ = 0;
+};
 
 }  // namespace wm

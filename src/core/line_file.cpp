@@ -1,0 +1,156 @@
+#include "core/line_file.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace wm {
+
+FileError::FileError(std::string path, const std::string& what)
+    : std::runtime_error(what), path_(std::move(path)) {}
+
+bool FileExists(const std::string& path) {
+    std::error_code ec;
+    return fs::is_regular_file(path, ec);
+}
+
+bool DirExists(const std::string& path) {
+    std::error_code ec;
+    return fs::is_directory(path, ec);
+}
+
+std::string JoinPath(const std::string& folder, const std::string& name) {
+    if (folder.empty()) return name;
+    if (folder.back() == '/') return folder + name;
+    return folder + "/" + name;
+}
+
+std::string FileNameOf(const std::string& path) {
+    auto pos = path.find_last_of('/');
+    return pos == std::string::npos ? path : path.substr(pos + 1);
+}
+
+std::string FolderOf(const std::string& path) {
+    auto pos = path.find_last_of('/');
+    return pos == std::string::npos ? std::string(".") : path.substr(0, pos == 0 ? 1 : pos);
+}
+
+std::string ReadBytes(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) throw FileError(path, "The file " + path + " cannot be opened.");
+    std::ostringstream buf;
+    buf << in.rdbuf();
+    if (in.bad()) throw FileError(path, "The file " + path + " cannot be read.");
+    return buf.str();
+}
+
+std::vector<std::string> ReadLines(const std::string& path) {
+    const std::string bytes = ReadBytes(path);
+    std::vector<std::string> lines;
+    std::string line;
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        char c = bytes[i];
+        if (c == '\r' || c == '\n') {
+            lines.push_back(std::move(line));
+            line.clear();
+            if (c == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n') ++i;
+        } else {
+            line.push_back(c);
+        }
+    }
+    if (!line.empty()) lines.push_back(std::move(line));
+    return lines;
+}
+
+std::string JoinLines(const std::vector<std::string>& lines) {
+    std::size_t size = 0;
+    for (const auto& l : lines) size += l.size() + 2;
+    std::string out;
+    out.reserve(size);
+    for (const auto& l : lines) {
+        out += l;
+        out += "\r\n";
+    }
+    return out;
+}
+
+void WriteBytesAtomic(const std::string& path, const std::string& bytes) {
+    const std::string temp = JoinPath(FolderOf(path), "." + FileNameOf(path) + ".tmp");
+    int fd = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    if (fd < 0) {
+        throw FileError(path, "The file " + path + " cannot be written: " + std::strerror(errno));
+    }
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+        ssize_t n = ::write(fd, bytes.data() + done, bytes.size() - done);
+        if (n < 0) {
+            if (errno == EINTR) continue;
+            int err = errno;
+            ::close(fd);
+            ::unlink(temp.c_str());
+            throw FileError(path, "The file " + path + " cannot be written: " + std::strerror(err));
+        }
+        done += static_cast<std::size_t>(n);
+    }
+    if (::fsync(fd) != 0 || ::close(fd) != 0) {
+        int err = errno;
+        ::unlink(temp.c_str());
+        throw FileError(path, "The file " + path + " cannot be written: " + std::strerror(err));
+    }
+    if (::rename(temp.c_str(), path.c_str()) != 0) {
+        int err = errno;
+        ::unlink(temp.c_str());
+        throw FileError(path, "The file " + path + " cannot be replaced: " + std::strerror(err));
+    }
+}
+
+void WriteLinesAtomic(const std::string& path, const std::vector<std::string>& lines) {
+    WriteBytesAtomic(path, JoinLines(lines));
+}
+
+void AppendLinesAtomic(const std::string& path, const std::vector<std::string>& lines) {
+    std::string bytes = FileExists(path) ? ReadBytes(path) : std::string();
+    // A last line without its end gets one, so the new lines do not run into it.
+    if (!bytes.empty() && bytes.back() != '\n' && bytes.back() != '\r') bytes += "\r\n";
+    bytes += JoinLines(lines);
+    WriteBytesAtomic(path, bytes);
+}
+
+void RenameFile(const std::string& from, const std::string& to) {
+    if (::rename(from.c_str(), to.c_str()) != 0) {
+        throw FileError(from, "The file " + from + " cannot be renamed to " + to + ": " +
+                                  std::strerror(errno));
+    }
+}
+
+void RemoveFile(const std::string& path) {
+    std::error_code ec;
+    fs::remove(path, ec);
+}
+
+}  // namespace wm
+
+namespace wm {
+
+std::string_view LineReader::next() {
+    if (pos_ >= bytes_.size()) return {};
+    std::size_t start = pos_;
+    std::size_t end = bytes_.find_first_of("\r\n", start);
+    if (end == std::string::npos) {
+        pos_ = bytes_.size();
+        return std::string_view(bytes_).substr(start);
+    }
+    pos_ = end + 1;
+    if (bytes_[end] == '\r' && pos_ < bytes_.size() && bytes_[pos_] == '\n') ++pos_;
+    return std::string_view(bytes_).substr(start, end - start);
+}
+
+}  // namespace wm

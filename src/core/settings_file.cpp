@@ -1,0 +1,66 @@
+#include "core/settings_file.h"
+
+#include "core/line_file.h"
+#include "core/shared_state.h"
+#include "core/strings.h"
+
+namespace wm {
+
+void FirstRunRenames(const std::string& appPath) {
+    const std::string live = JoinPath(appPath, kSettingsName);
+    const std::string factory = JoinPath(appPath, kSettingsFactoryName);
+    if (!FileExists(live)) {
+        if (!FileExists(factory)) {
+            throw FileError(live, "The settings file " + std::string(kSettingsName) +
+                                      " (or its factory copy " + kSettingsFactoryName +
+                                      ") cannot be found in the folder " + appPath + ".");
+        }
+        RenameFile(factory, live);
+    }
+    const std::string lists = JoinPath(appPath, kListFileName);
+    const std::string listsFactory = JoinPath(appPath, kListFactoryName);
+    if (!FileExists(lists) && FileExists(listsFactory)) RenameFile(listsFactory, lists);
+}
+
+bool Settings::soundOn() const { return lines.size() > kSoundLine && lines[kSoundLine] == "Sound On"; }
+
+std::string Settings::password() const {
+    return lines.size() > kPasswordLine ? lines[kPasswordLine] : std::string();
+}
+
+Settings ReadSettings(const std::string& appPath) {
+    const std::string path = JoinPath(appPath, kSettingsName);
+    Settings s;
+    s.lines = ReadLines(path);
+    if (s.lines.size() < 6) {
+        throw FileError(path, "The settings file " + path +
+                                  " is too short: it needs six lines. Delete it to go back to "
+                                  "the factory settings.");
+    }
+    return s;
+}
+
+std::string ResolvePath(const std::string& line, const std::string& literal,
+                        const std::string& appPath, const std::string& fileName) {
+    if (LCase(Trim(line)) == literal) return JoinPath(appPath, fileName);
+    return line;
+}
+
+void ApplySettings(const Settings& settings, const std::string& appPath, SharedState& state) {
+    state.SoundDefault = settings.soundOn() ? kTrue : kFalse;
+    state.ListFilePath =
+        ResolvePath(settings.lines[kListPathLine], "listpath", appPath, kListFileName);
+    state.FolderFilePath =
+        ResolvePath(settings.lines[kFolderPathLine], "folderpath", appPath, kFolderFileName);
+}
+
+void RewriteSettingsLine(const std::string& appPath, int line, const std::string& text) {
+    const std::string path = JoinPath(appPath, kSettingsName);
+    std::vector<std::string> lines = ReadLines(path);
+    if (line < 0) return;
+    if (static_cast<std::size_t>(line) >= lines.size()) lines.resize(line + 1);
+    lines[line] = text;
+    WriteLinesAtomic(path, lines);
+}
+
+}  // namespace wm

@@ -1,0 +1,52 @@
+#include <gtest/gtest.h>
+
+#include "core/category_file.h"
+#include "core/line_file.h"
+#include "temp_folder.h"
+
+using namespace wm;
+using wm::test::TempFolder;
+using Lines = std::vector<std::string>;
+
+TEST(Categories, CollectKeepsTheFirstNameTwiceAndDropsTheFilesLastLine) {
+    Lines lines = {"^Science", "Weather", "Space", "", "^History", "Rome", "Egypt"};
+    EXPECT_EQ(CollectLists(lines, "Science"), (Lines{"Weather", "Weather", "Space"}));
+    // The very last line of the file is not kept: left as it is.
+    EXPECT_EQ(CollectLists(lines, "History"), (Lines{"Rome", "Rome"}));
+    // Unless it is the category's only line.
+    EXPECT_EQ(CollectLists({"^Solo", "Only"}, "Solo"), (Lines{"Only"}));
+    EXPECT_TRUE(CollectLists(lines, "Nowhere").empty());
+    EXPECT_TRUE(CollectLists({"^Empty"}, "Empty").empty());
+    EXPECT_EQ(CategoryNames(lines), (Lines{"Science", "History"}));
+}
+
+TEST(Categories, ReadersFollowTheLock) {
+    TempFolder dir;
+    const std::string path = dir.file("folders.dat");
+    EnsureCategoryFile(dir.path(), path);
+    EXPECT_EQ(dir.read("folders.dat"), "");
+    WriteLinesAtomic(path, {"^A", "x", "y"});
+    LockCategories(path);
+    EXPECT_TRUE(IsLocked(path));
+    EXPECT_TRUE(dir.exists("folders.lok"));
+    EXPECT_EQ(ReadCategoryLines(path), (Lines{"^A", "x", "y"}));
+    // Ensuring does not make a second file while the lock stands.
+    EnsureCategoryFile(dir.path(), path);
+    EXPECT_FALSE(dir.exists("folders.dat"));
+    // A list deleted during a lock stays named in its category.
+    RemoveListFromCategories(path, "x");
+    EXPECT_EQ(ReadCategoryLines(path).size(), 3u);
+    SaveAndUnlockCategories(path, {"^B", "z"});
+    EXPECT_FALSE(IsLocked(path));
+    EXPECT_EQ(dir.read("folders.dat"), "^B\r\nz\r\n");
+}
+
+TEST(Categories, RemoveListTakesEveryMatchingLine) {
+    TempFolder dir;
+    const std::string path = dir.file("folders.dat");
+    WriteLinesAtomic(path, {"^A", "x", "y", "^B", "x"});
+    RemoveListFromCategories(path, "x");
+    EXPECT_EQ(ReadLines(path), (Lines{"^A", "y", "^B"}));
+    EXPECT_EQ(LockName("/a/b/folders.dat"), "/a/b/folders.lok");
+    EXPECT_TRUE(ReadCategoryLines(dir.file("missing.dat")).empty());
+}

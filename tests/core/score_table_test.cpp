@@ -1,0 +1,118 @@
+#include <gtest/gtest.h>
+
+#include "core/line_file.h"
+#include "core/score_table.h"
+#include "core/strings.h"
+#include "temp_folder.h"
+
+using namespace wm;
+using wm::test::TempFolder;
+
+namespace {
+ScoreTable tableOf(std::initializer_list<std::pair<const char*, const char*>> entries) {
+    ScoreTable t = ScoreTable::Fresh();
+    int r = 1;
+    for (auto& [i, s] : entries) {
+        t.Initials[r] = std::string(i).append(3 - std::string(i).size(), ' ');
+        t.Scores[r] = std::string(s).append(7 - std::string(s).size(), ' ');
+        ++r;
+    }
+    return t;
+}
+}  // namespace
+
+TEST(ScoreTable, FreshRecordIs510BytesOfPaddedText) {
+    std::string bytes = ScoreTable::Fresh().toBytes();
+    ASSERT_EQ(bytes.size(), 510u);
+    EXPECT_EQ(bytes.substr(0, 3), "   ");
+    EXPECT_EQ(bytes.substr(3, 3), "---");
+    EXPECT_EQ(bytes.substr(153, 7), "       ");
+    EXPECT_EQ(bytes.substr(160, 7), "0      ");
+    EXPECT_EQ(ScoreTable::fromBytes(bytes).toBytes(), bytes);
+}
+
+TEST(ScoreTable, WrongSizedFilesReadAsFarAsTheyGo) {
+    ScoreTable full = tableOf({{"ABC", "900"}, {"DEF", "800"}});
+    std::string bytes = full.toBytes();
+    // Cut inside the score area: rank 1's score survives, later ones are fresh.
+    ScoreTable cut = ScoreTable::fromBytes(bytes.substr(0, 170));
+    EXPECT_EQ(cut.initials(2), "DEF");
+    EXPECT_EQ(cut.scoreText(1), "900");
+    EXPECT_EQ(cut.scoreText(2), "0");
+    EXPECT_EQ(ScoreTable::fromBytes("").toBytes(), ScoreTable::Fresh().toBytes());
+    EXPECT_EQ(ScoreTable::fromBytes(bytes + "trailing junk").toBytes(), bytes);
+    std::string zeros(510, '\0');
+    EXPECT_EQ(ScoreTable::fromBytes(zeros).score(1), 0);
+}
+
+TEST(ScoreTable, RankSearchHighestFirst) {
+    ScoreTable t = tableOf({{"A", "900"}, {"B", "500"}, {"C", "100"}});
+    EXPECT_EQ(FindRank(t, 1000), 1);
+    EXPECT_EQ(FindRank(t, 600), 2);
+    EXPECT_EQ(FindRank(t, 500), 3);  // a tie does not pass
+    EXPECT_EQ(FindRank(t, 50), 4);   // first free rank
+    EXPECT_EQ(FindRank(ScoreTable::Fresh(), 0), 1);  // a score of 0 still takes a free rank
+    ScoreTable full = ScoreTable::Fresh();
+    for (int r = 1; r <= kRanks; ++r) full.Scores[r] = "5000   ";
+    EXPECT_EQ(FindRank(full, 10), 0);
+}
+
+TEST(ScoreTable, RankSearchSmallestFirst) {
+    ScoreTable t = tableOf({{"A", "0.12"}, {"B", "0.5"}});
+    EXPECT_EQ(FindRankSmallestFirst(t, 0.1), 1);
+    EXPECT_EQ(FindRankSmallestFirst(t, 0.3), 2);
+    EXPECT_EQ(FindRankSmallestFirst(t, 0.9), 3);
+}
+
+TEST(ScoreTable, InsertDisplacesOneAndLosesTheNext) {
+    ScoreTable t = tableOf({{"A", "900"}, {"B", "800"}, {"C", "700"}, {"D", "600"}});
+    InsertScore(t, 2, "NEWX", "850");
+    EXPECT_EQ(t.initials(1), "A");
+    EXPECT_EQ(t.initials(2), "NEW");  // cut to three
+    EXPECT_EQ(t.initials(3), "B");    // the old rank 2 moves down
+    EXPECT_EQ(t.initials(4), "D");    // the old rank 3 is lost; the rest stay
+    EXPECT_EQ(t.scoreText(3), "800");
+    EXPECT_EQ(t.scoreText(4), "600");
+}
+
+TEST(ScoreTable, InsertAtTheEndsAndScoreCuts) {
+    ScoreTable t = ScoreTable::Fresh();
+    t.Initials[50] = "ZZZ";
+    t.Scores[50] = "12     ";
+    InsertScore(t, 50, "ABC", "123456789");
+    EXPECT_EQ(t.scoreText(50), "1234567");
+    EXPECT_EQ(t.initials(0), "ZZZ");  // the old last entry goes to index 0
+    ScoreTable u = tableOf({{"A", "0.1234"}, {"B", "2.5"}});
+    InsertScore(u, 1, "N", "0.05");
+    EXPECT_EQ(u.scoreText(1), "0.05");
+    EXPECT_EQ(u.scoreText(2), "0");  // moved scores pass through a whole number
+    EXPECT_EQ(u.initials(2), "A");
+}
+
+TEST(ScoreTable, FileRoundTripAndCreation) {
+    TempFolder dir;
+    EnsureScoreFile(dir.path(), " Scramble ");
+    ASSERT_TRUE(dir.exists("scores/Scramble.dat"));
+    std::string path = ScoreFilePath(dir.path(), "Scramble");
+    ScoreTable t = ReadScoreTable(path);
+    InsertScore(t, 1, "ABC", "4321");
+    WriteScoreTable(path, t);
+    EXPECT_EQ(dir.read("scores/Scramble.dat").size(), 510u);
+    EXPECT_EQ(ReadScoreTable(path).scoreText(1), "4321");
+    // An existing table is never replaced by a fresh one.
+    EnsureScoreFile(dir.path(), "Scramble");
+    EXPECT_EQ(ReadScoreTable(path).initials(1), "ABC");
+}
+
+TEST(ScoreTable, ThreeWinsInARow) {
+    ScoreTable t = ScoreTable::Fresh();
+    for (auto [ini, score] : {std::pair{"AAA", 300.0}, {"BBB", 500.0}, {"CCC", 400.0}}) {
+        int r = FindRank(t, score);
+        InsertScore(t, r, ini, NumText(score));
+    }
+    // 300 at 1; 500 at 1 pushes 300 to 2; 400 lands on 2, pushes 300 to 3 and loses the fresh 3.
+    EXPECT_EQ(t.initials(1), "BBB");
+    EXPECT_EQ(t.initials(2), "CCC");
+    EXPECT_EQ(t.initials(3), "AAA");
+    EXPECT_EQ(t.initials(4), "---");
+}

@@ -1,0 +1,79 @@
+#include <gtest/gtest.h>
+
+#include "core/line_file.h"
+#include "core/settings_file.h"
+#include "core/shared_state.h"
+#include "temp_folder.h"
+
+using namespace wm;
+using wm::test::TempFolder;
+
+namespace {
+const std::vector<std::string> kFactory = {"r0", "r1", "Sound On", "mapleton", "listpath",
+                                           "folderpath"};
+}
+
+TEST(Settings, FirstRunRenamesOnlyWhenTheLiveFileIsMissing) {
+    TempFolder dir;
+    dir.writeLines("wmdata.new", kFactory);
+    dir.writeLines("thelists.new", {"Animals", "cat", "a pet"});
+    FirstRunRenames(dir.path());
+    EXPECT_TRUE(dir.exists("wmdata.dat"));
+    EXPECT_FALSE(dir.exists("wmdata.new"));
+    EXPECT_TRUE(dir.exists("thelists.dat"));
+    EXPECT_FALSE(dir.exists("thelists.new"));
+
+    // A reinstallation delivers new factory files; the teacher's data stays.
+    dir.writeLines("wmdata.new", {"x"});
+    dir.writeLines("thelists.new", {"Other"});
+    FirstRunRenames(dir.path());
+    EXPECT_EQ(dir.read("wmdata.new"), "x\r\n");
+    EXPECT_EQ(ReadLines(dir.file("thelists.dat")).at(0), "Animals");
+}
+
+TEST(Settings, NeitherFileMeansAClearErrorNamingTheFolder) {
+    TempFolder dir;
+    try {
+        FirstRunRenames(dir.path());
+        FAIL();
+    } catch (const FileError& e) {
+        std::string what = e.what();
+        EXPECT_NE(what.find("wmdata.dat"), std::string::npos);
+        EXPECT_NE(what.find(dir.path()), std::string::npos);
+    }
+}
+
+TEST(Settings, ReadsSoundAndResolvesPathLiterals) {
+    TempFolder dir;
+    dir.writeLines("wmdata.dat", {"r0", "r1", "Sound On", "pw", "  LISTPATH ", "/net/f.dat"});
+    SharedState s;
+    ApplySettings(ReadSettings(dir.path()), dir.path(), s);
+    EXPECT_EQ(s.SoundDefault, kTrue);
+    EXPECT_EQ(s.ListFilePath, dir.file("thelists.dat"));
+    EXPECT_EQ(s.FolderFilePath, "/net/f.dat");
+
+    // The sound line is compared exactly.
+    dir.writeLines("wmdata.dat", {"r0", "r1", "sound on", "pw", "listpath", "folderpath"});
+    ApplySettings(ReadSettings(dir.path()), dir.path(), s);
+    EXPECT_EQ(s.SoundDefault, kFalse);
+    EXPECT_EQ(s.FolderFilePath, dir.file("folders.dat"));
+}
+
+TEST(Settings, ShortFileIsAClearError) {
+    TempFolder dir;
+    dir.writeLines("wmdata.dat", {"r0", "r1", "Sound On"});
+    EXPECT_THROW(ReadSettings(dir.path()), FileError);
+}
+
+TEST(Settings, RewriteKeepsLinesPastFive) {
+    TempFolder dir;
+    auto lines = kFactory;
+    lines.push_back("seventh");
+    dir.writeLines("wmdata.dat", lines);
+    RewriteSettingsLine(dir.path(), kPasswordLine, "newpass");
+    auto back = ReadLines(dir.file("wmdata.dat"));
+    ASSERT_EQ(back.size(), 7u);
+    EXPECT_EQ(back[3], "newpass");
+    EXPECT_EQ(back[6], "seventh");
+    EXPECT_EQ(back[0], "r0");
+}

@@ -1,0 +1,94 @@
+#include <gtest/gtest.h>
+
+#include "core/rng.h"
+#include "core/strings.h"
+
+using namespace wm;
+
+TEST(Strings, IntFloorsTowardsMinusInfinity) {
+    EXPECT_EQ(Int(2.999), 2);
+    EXPECT_EQ(Int(-0.5), -1);
+    EXPECT_EQ(Int(0.0), 0);
+    // The draw formula always lands in 1..N for Rnd in [0, 1).
+    EXPECT_EQ(Int(0.0 * 7 + 1), 1);
+    EXPECT_EQ(Int(0.9999999 * 7 + 1), 7);
+}
+
+TEST(Strings, MidLeftRightAreOneBasedAndSafe) {
+    EXPECT_EQ(Mid("[S]Animals", 4), "Animals");
+    EXPECT_EQ(Mid("abc", 2, 1), "b");
+    EXPECT_EQ(Mid("abc", 9), "");
+    EXPECT_EQ(Mid("abc", 0, 2), "ab");
+    EXPECT_EQ(Left("abc", 10), "abc");
+    EXPECT_EQ(Right("abc", 2), "bc");
+    EXPECT_EQ(Left("abc", -1), "");
+}
+
+TEST(Strings, CaseCoversWindows1252Letters) {
+    EXPECT_EQ(UCase("ma\xF1" "ana"), "MA\xD1" "ANA");  // mañana
+    EXPECT_EQ(LCase("\xC9T\xC9"), "\xE9t\xE9");           // ÉTÉ
+    EXPECT_EQ(UCase("\xF7\xDF"), "\xF7\xDF");             // division sign and sharp s stay
+    EXPECT_EQ(LCase("\xD7"), "\xD7");                     // multiplication sign stays
+    EXPECT_EQ(UCase("\x9A\x9C\x9E\xFF"), "\x8A\x8C\x8E\x9F");
+    for (int c = 192; c <= 255; ++c) {
+        std::string s = Chr(c);
+        EXPECT_EQ(UCase(LCase(UCase(s))), UCase(s)) << c;
+    }
+}
+
+TEST(Strings, TrimTakesBlanksOnly) {
+    EXPECT_EQ(Trim("  listpath "), "listpath");
+    EXPECT_EQ(Trim("\tx\t"), "\tx\t");
+    EXPECT_EQ(Trim("   "), "");
+}
+
+TEST(Strings, InStrFindsFromStart) {
+    EXPECT_EQ(InStr("Unit (2) (30 words)", "("), 6);
+    EXPECT_EQ(InStrRev("Unit (2) (30 words)", "("), 10);
+    EXPECT_EQ(InStr("abc", "z"), 0);
+    EXPECT_EQ(InStr("abcabc", "a", 2), 4);
+}
+
+TEST(Strings, ValReadsTheLeadingNumber) {
+    EXPECT_DOUBLE_EQ(Val("1234   "), 1234);
+    EXPECT_DOUBLE_EQ(Val(" -3.5x"), -3.5);
+    EXPECT_DOUBLE_EQ(Val("---"), 0);
+    EXPECT_DOUBLE_EQ(Val(""), 0);
+    EXPECT_DOUBLE_EQ(Val(".25"), 0.25);
+}
+
+TEST(Strings, NumberTexts) {
+    EXPECT_EQ(NumText(12), "12");
+    EXPECT_EQ(NumText(-3.5), "-3.5");
+    EXPECT_EQ(NumText(0.75), "0.75");
+    EXPECT_EQ(NumText(1.01), "1.01");
+    EXPECT_EQ(StrText(120), " 120");
+    EXPECT_EQ(StrText(-0.5), "-0.5");
+    EXPECT_EQ(StrText(2.5), " 2.5");
+}
+
+TEST(Strings, CLngRoundsHalfToEven) {
+    EXPECT_EQ(CLng(2.5), 2);
+    EXPECT_EQ(CLng(3.5), 4);
+    EXPECT_EQ(CLng(0.1234), 0);
+    EXPECT_EQ(CLng(1e12), 2147483647);
+}
+
+TEST(Rng, ScriptedRngPicksAndFallsBack) {
+    ScriptedRng rng(0.25);
+    rng.pick(3, 10).then(0.9);
+    EXPECT_EQ(Int(rng.Rnd() * 10 + 1), 3);
+    EXPECT_DOUBLE_EQ(rng.Rnd(), 0.9);
+    EXPECT_DOUBLE_EQ(rng.Rnd(), 0.25);
+    EXPECT_EQ(rng.draws, 3);
+}
+
+TEST(Rng, SystemRngStaysInRange) {
+    SystemRng rng;
+    rng.seed(42);
+    for (int i = 0; i < 10000; ++i) {
+        double v = rng.Rnd();
+        ASSERT_GE(v, 0.0);
+        ASSERT_LT(v, 1.0);
+    }
+}
