@@ -4,8 +4,6 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -44,12 +42,22 @@ std::string FolderOf(const std::string& path) {
 }
 
 std::string ReadBytes(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) throw FileError(path, "The file " + path + " cannot be opened.");
-    std::ostringstream buf;
-    buf << in.rdbuf();
-    if (in.bad()) throw FileError(path, "The file " + path + " cannot be read.");
-    return buf.str();
+    std::FILE* f = std::fopen(path.c_str(), "rb");
+    if (!f || DirExists(path)) {
+        if (f) std::fclose(f);
+        throw FileError(path, "The file " + path + " cannot be opened.");
+    }
+    std::string bytes;
+    std::error_code ec;
+    auto size = fs::file_size(path, ec);
+    if (!ec) bytes.reserve(static_cast<std::size_t>(size));
+    char chunk[65536];
+    std::size_t n;
+    while ((n = std::fread(chunk, 1, sizeof chunk, f)) > 0) bytes.append(chunk, n);
+    bool failed = std::ferror(f) != 0;
+    std::fclose(f);
+    if (failed) throw FileError(path, "The file " + path + " cannot be read.");
+    return bytes;
 }
 
 std::vector<std::string> ReadLines(const std::string& path) {
@@ -143,7 +151,14 @@ namespace wm {
 std::string_view LineReader::next() {
     if (pos_ >= bytes_.size()) return {};
     std::size_t start = pos_;
-    std::size_t end = bytes_.find_first_of("\r\n", start);
+    // Lines normally end in CR LF: look for the CR, then for a lone LF before it.
+    const char* base = bytes_.data();
+    const std::size_t size = bytes_.size();
+    const void* cr = std::memchr(base + start, '\r', size - start);
+    std::size_t limit = cr ? static_cast<std::size_t>(static_cast<const char*>(cr) - base) : size;
+    const void* lf = std::memchr(base + start, '\n', limit - start);
+    std::size_t end = lf ? static_cast<std::size_t>(static_cast<const char*>(lf) - base)
+                         : (cr ? limit : std::string::npos);
     if (end == std::string::npos) {
         pos_ = bytes_.size();
         return std::string_view(bytes_).substr(start);

@@ -119,8 +119,13 @@ void LoadList(const std::string& path, SharedState& state, const std::vector<For
     // Every line takes part in the search, words and definitions too: the first line with
     // the name's text counts, wherever it stands. Deliberately so.
     const std::string wanted = Trim(key);
+    auto trimmed = [](std::string_view v) {
+        while (!v.empty() && v.front() == ' ') v.remove_prefix(1);
+        while (!v.empty() && v.back() == ' ') v.remove_suffix(1);
+        return v;
+    };
     bool found = false;
-    while (!in.atEnd() && !found) found = Trim(in.next()) == wanted;
+    while (!in.atEnd() && !found) found = trimmed(in.next()) == wanted;
 
     int counter = 0;
     std::string_view lastWord, lastDef;
