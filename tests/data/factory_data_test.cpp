@@ -1,0 +1,265 @@
+// The factory files delivered with the program, read back through the core readers: a fresh
+// installation must start, list, load and lay out exactly as designed.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "../core/temp_folder.h"
+#include "core/display_file.h"
+#include "core/language_codes.h"
+#include "core/line_file.h"
+#include "core/list_file.h"
+#include "core/settings_file.h"
+#include "core/shared_state.h"
+#include "core/strings.h"
+
+namespace wm {
+namespace {
+
+std::string DataFile(const std::string& name) {
+    return JoinPath(WM_DATA_DIR, name);
+}
+
+bool HasHighByte(const std::string& s) {
+    for (unsigned char c : s) {
+        if (c >= 191) return true;
+    }
+    return false;
+}
+
+// The chooser's table of foreign lists: prefixed names longer than four characters.
+std::vector<ForeignList> ForeignTable(const std::vector<std::string>& names) {
+    std::vector<ForeignList> foreign;
+    for (const auto& n : names) {
+        if (Len(n) > 4 && HasPrefix(n)) foreign.push_back({Mid(n, 2, 1), PlainName(n)});
+    }
+    return foreign;
+}
+
+struct Loaded {
+    std::string stored;
+    std::vector<std::string> words, meanings;
+    bool wordsOnly = false;
+};
+
+// Loads one list as a pupil would; `direction` answers the which-way question of a foreign list
+// ("E" plays the English side as the word; empty keeps the language, which swaps the columns).
+Loaded Load(const std::string& stored, const std::vector<std::string>& names,
+            const std::string& direction = "E") {
+    SharedState state;
+    state.CurrentListName = PlainName(stored);
+    LoadHooks hooks;
+    if (!direction.empty()) hooks.chooseDirection = [&](const std::string&) { return direction; };
+    std::vector<std::string> messages;
+    hooks.message = [&](const std::string& m) { messages.push_back(m); };
+    LoadList(DataFile("thelists.new"), state, ForeignTable(names), hooks);
+    EXPECT_TRUE(messages.empty()) << stored;
+    Loaded out{stored, {}, {}, state.WordsOnly == kTrue};
+    for (int i = 1; i <= state.WordCount; ++i) {
+        out.words.push_back(state.Words[i]);
+        out.meanings.push_back(state.Meanings[i]);
+    }
+    return out;
+}
+
+TEST(FactoryFiles, EveryLineEndsInCrLf) {
+    for (const char* name : {"wmdata.new", "thelists.new", "flcodelist.dat", "wmgdisplay.dat"}) {
+        SCOPED_TRACE(name);
+        const std::string bytes = ReadBytes(DataFile(name));
+        ASSERT_GE(bytes.size(), 2u);
+        EXPECT_EQ(bytes.substr(bytes.size() - 2), "\r\n");
+        for (std::size_t i = 0; i < bytes.size(); ++i) {
+            if (bytes[i] == '\n') {
+                EXPECT_TRUE(i > 0 && bytes[i - 1] == '\r') << "lone LF at " << i;
+            }
+            if (bytes[i] == '\r') {
+                EXPECT_TRUE(i + 1 < bytes.size() && bytes[i + 1] == '\n') << "lone CR at " << i;
+            }
+        }
+    }
+}
+
+// The first start of a fresh folder: the .new files take the live names and are read as
+// sound on, the factory password and the default list and category paths.
+TEST(FactoryFiles, FirstStartFromTheDeliveredFiles) {
+    test::TempFolder app;
+    app.write(kSettingsFactoryName, ReadBytes(DataFile("wmdata.new")));
+    app.write(kListFactoryName, ReadBytes(DataFile("thelists.new")));
+
+    FirstRunRenames(app.path());
+    EXPECT_TRUE(app.exists(kSettingsName));
+    EXPECT_TRUE(app.exists(kListFileName));
+    EXPECT_FALSE(app.exists(kSettingsFactoryName));
+
+    const Settings settings = ReadSettings(app.path());
+    ASSERT_EQ(settings.lines.size(), 6u);
+    EXPECT_TRUE(settings.soundOn());
+    EXPECT_EQ(settings.password(), "mapleton");
+    SharedState state;
+    ApplySettings(settings, app.path(), state);
+    EXPECT_EQ(state.SoundDefault, kTrue);
+    EXPECT_EQ(state.ListFilePath, app.file(kListFileName));
+    EXPECT_EQ(state.FolderFilePath, app.file(kFolderFileName));
+    EXPECT_FALSE(IsEmptyStore(ReadAllLines(state.ListFilePath)));
+}
+
+// Record layout: no blank lines, no separator at either end, name + pairs in each record.
+TEST(FactoryLists, RecordLayout) {
+    const auto lines = ReadAllLines(DataFile("thelists.new"));
+    ASSERT_FALSE(lines.empty());
+    EXPECT_NE(lines.front(), kSeparator);
+    EXPECT_NE(lines.back(), kSeparator);
+    std::size_t recordLines = 0;
+    for (const auto& l : lines) {
+        EXPECT_FALSE(Trim(l).empty());
+        EXPECT_EQ(l, Trim(l)) << "blanks around '" << l << "'";
+        if (l == kSeparator) {
+            EXPECT_EQ(recordLines % 2, 1u) << "a record with an odd pair before line " << l;
+            recordLines = 0;
+        } else {
+            ++recordLines;
+        }
+    }
+    EXPECT_EQ(recordLines % 2, 1u);
+}
+
+// A list name standing anywhere else in the file would make the load start in the wrong place,
+// since the load scans every line; names with "(" or "^" confuse the chooser and categories.
+TEST(FactoryLists, NamesAreUniqueAndFoundOnlyAtTheirRecord) {
+    const auto names = ListNames(DataFile("thelists.new"));
+    const auto lines = ReadAllLines(DataFile("thelists.new"));
+    EXPECT_GE(names.size(), 8u);
+    std::set<std::string> seen;
+    for (const auto& stored : names) {
+        SCOPED_TRACE(stored);
+        const std::string plain = PlainName(stored);
+        EXPECT_EQ(plain.find_first_of("(^["), std::string::npos);
+        EXPECT_TRUE(seen.insert(LCase(plain)).second) << "duplicate name";
+        EXPECT_TRUE(NameExists(DataFile("thelists.new"), plain));
+        int hits = 0;
+        for (const auto& l : lines) {
+            const std::string t = LCase(Trim(l));
+            if (t == LCase(stored) || t == LCase(plain)) ++hits;
+        }
+        EXPECT_EQ(hits, 1);
+    }
+}
+
+TEST(FactoryLists, EachListLoadsWholeAndClean) {
+    const auto names = ListNames(DataFile("thelists.new"));
+    int wordsOnlyLists = 0;
+    for (const auto& stored : names) {
+        SCOPED_TRACE(stored);
+        const Loaded list = Load(stored, names);
+        EXPECT_GE(list.words.size(), 20u);
+        EXPECT_LE(list.words.size(), 40u);
+        if (list.wordsOnly) {
+            ++wordsOnlyLists;
+            // The chooser tests the last definition line, the loader the first: all must agree.
+            for (const auto& m : list.meanings) EXPECT_EQ(m, kWordsOnlyMarker);
+        }
+        std::set<std::string> words, meanings;
+        for (std::size_t i = 0; i < list.words.size(); ++i) {
+            const std::string& w = list.words[i];
+            const std::string& m = list.meanings[i];
+            EXPECT_LE(Len(w), 20) << w;
+            EXPECT_TRUE(words.insert(LCase(w)).second) << "duplicate word " << w;
+            EXPECT_NE(w, kWordsOnlyMarker);
+            if (list.wordsOnly) continue;
+            EXPECT_TRUE(meanings.insert(LCase(m)).second) << "duplicate definition " << m;
+            EXPECT_EQ(InStr(LCase(m), LCase(w)), 0) << "'" << w << "' gives itself away: " << m;
+        }
+    }
+    EXPECT_EQ(wordsOnlyLists, 1);
+}
+
+// The Spanish list: English on the word line, Spanish with single-byte accents on the
+// definition line, so each way of play puts the intended side in Words.
+TEST(FactoryLists, SpanishListPlaysBothWays) {
+    const auto names = ListNames(DataFile("thelists.new"));
+    const auto foreign = ForeignTable(names);
+    ASSERT_EQ(foreign.size(), 1u);
+    EXPECT_EQ(foreign[0].code, "S");
+    const std::string stored = "[S]" + foreign[0].plain;
+
+    const Loaded english = Load(stored, names, "E");
+    const Loaded spanish = Load(stored, names, "");
+    ASSERT_EQ(english.words.size(), spanish.words.size());
+    EXPECT_EQ(english.words, spanish.meanings);
+    EXPECT_EQ(english.meanings, spanish.words);
+
+    int accented = 0;
+    for (std::size_t i = 0; i < english.words.size(); ++i) {
+        EXPECT_FALSE(HasHighByte(english.words[i])) << english.words[i];
+        if (HasHighByte(english.meanings[i])) ++accented;
+        EXPECT_LE(Len(spanish.words[i]), 20);
+    }
+    EXPECT_GE(accented, 5);
+    // UTF-8 would show up as the two-byte lead 0xC3 followed by a continuation byte.
+    EXPECT_EQ(ReadBytes(DataFile("thelists.new")).find("\xC3\xA1"), std::string::npos);
+}
+
+TEST(FactoryDisplay, IsLargeIconsWithNothingHidden) {
+    // The reader falls back to Large Icons for a missing file, so look at the lines as well.
+    const auto lines = ReadLines(DataFile(kDisplayFileName));
+    EXPECT_EQ(lines, (std::vector<std::string>{"*****", "1", "4", "3", "1.01", "1.01", "*****"}));
+    const DisplaySettings s = ReadDisplaySettings(DataFile(kDisplayFileName));
+    const DisplaySettings large = DisplaySettings::LargeIcons();
+    EXPECT_EQ(s.scale, large.scale);
+    EXPECT_EQ(s.columns, large.columns);
+    EXPECT_EQ(s.rows, large.rows);
+    EXPECT_EQ(s.hspace, large.hspace);
+    EXPECT_EQ(s.vspace, large.vspace);
+    EXPECT_TRUE(s.hidden.empty());
+}
+
+TEST(FactoryLanguages, FourLanguagesInThreeLineRecords) {
+    const auto lines = ReadLines(DataFile(kLanguageFileName));
+    EXPECT_EQ(lines.size() % 3, 0u);
+    const auto codes = ReadLanguageCodes(DataFile(kLanguageFileName));
+    EXPECT_EQ(codes.size() * 3, lines.size());
+    for (const char* code : {"S", "F", "G", "I"}) {
+        const LanguageCode* lang = FindLanguage(codes, code);
+        ASSERT_NE(lang, nullptr) << code;
+        EXPECT_FALSE(lang->first.empty());
+        EXPECT_NE(lang->first, lang->second);
+    }
+    std::set<std::string> seen;
+    for (const auto& c : codes) {
+        EXPECT_EQ(c.code.size(), 1u) << c.code;
+        EXPECT_TRUE(seen.insert(c.code).second) << c.code;
+    }
+}
+
+TEST(FactoryHelp, IndexPageAndStyleSheet) {
+    const std::string page = ReadBytes(DataFile("wm-help/wmindex.htm"));
+    EXPECT_NE(page.find("<meta charset=\"utf-8\">"), std::string::npos);
+    EXPECT_NE(page.find("href=\"wmhelp.css\""), std::string::npos);
+    EXPECT_TRUE(FileExists(DataFile("wm-help/wmhelp.css")));
+    EXPECT_NE(page.find("mapleton"), std::string::npos);
+    EXPECT_NE(page.find("Teacher Management"), std::string::npos);
+}
+
+// The build's copy step for the display file: a teacher's live file is never replaced.
+TEST(FactoryInstall, DisplayFileIsCopiedOnlyWhenMissing) {
+    test::TempFolder app;
+    const std::string run = std::string("\"") + WM_CMAKE_COMMAND + "\" -DSRC=\"" +
+                            DataFile(kDisplayFileName) + "\" -DDST=\"" +
+                            app.file(kDisplayFileName) + "\" -P \"" +
+                            DataFile("copy_if_missing.cmake") + "\"";
+    ASSERT_EQ(std::system(run.c_str()), 0);
+    EXPECT_EQ(app.read(kDisplayFileName), ReadBytes(DataFile(kDisplayFileName)));
+
+    const std::string teachers = "*****\r\n0.5\r\n6\r\n5\r\n1.1\r\n1.2\r\n*****\r\nQuiz\r\n";
+    app.write(kDisplayFileName, teachers);
+    ASSERT_EQ(std::system(run.c_str()), 0);
+    EXPECT_EQ(app.read(kDisplayFileName), teachers);
+}
+
+}  // namespace
+}  // namespace wm
