@@ -1,0 +1,36 @@
+// Wordmere: the splash, then the title; everything else is reached from there.
+#include <QApplication>
+#include <QDir>
+
+#include "core/shared_state.h"
+#include "games/games.h"
+#include "platform/dialogs.h"
+#include "platform/movie.h"
+#include "platform/music.h"
+#include "platform/services.h"
+#include "platform/sound.h"
+#include "shell/screens.h"
+#include "shell/style.h"
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    QApplication::setApplicationName("Wordmere");
+    QApplication::setApplicationVersion("1.01");
+
+    // Every file is found beside the program, never in the current folder.
+    wm::Shared().AppPath = QDir(QCoreApplication::applicationDirPath()).absolutePath().toStdString();
+
+    wm::QtDialogs dialogs;
+    wm::QtSound sound(QCoreApplication::applicationDirPath() + "/sounds");
+    wm::FluidMusic music;
+    wm::services() = {&dialogs, &sound, &music};
+
+    wm::ApplyAppStyle();
+    wm::RegisterBuiltInScenes();
+    wm::RegisterShellScreens();
+    wm::RegisterGameScreens();
+    wm::OpenScreen("BlackBack");
+    const int rc = app.exec();
+    music.close();
+    return rc;
+}

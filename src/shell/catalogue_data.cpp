@@ -1,0 +1,467 @@
+// The 42 data cards: eligibility, options and how-to text of every game, in catalogue order.
+#include "shell/catalogue.h"
+
+#include <utility>
+
+namespace wm {
+
+const char* const kMsgM1 =
+    "The list you have selected contains words only, with no definitions, and cannot be used for "
+    "this game. Please choose another game or another list.";
+const char* const kMsgM2 =
+    "The list you have selected contains words only, with no definitions, and cannot be played "
+    "with this game. Please choose another game or another list.";
+const char* const kMsgW1 =
+    "The list you have selected contains words only, with no definitions. The word meaning will "
+    "not be displayed during the game.";
+const char* const kMsgW2 =
+    "The list you have selected contains words only, with no definitions. The <hint> button will "
+    "not be available during the game.";
+const char* const kMsgE1 =
+    "There are not enough words in this vocabulary list to play this game! Please choose another "
+    "list or another game.";
+const char* const kMsgE2 =
+    "There are not enough words in this vocabulary list to play this game at the level you have "
+    "chosen! Please choose another list or go back and lower the difficulty level.";
+
+std::string MsgN(int k) {
+    return "You need a list with at least " + std::to_string(k) +
+           " words to play this game. Please choose another game or another list.";
+}
+
+namespace {
+
+using WO = WordsOnlyRule;
+
+// The words-only texts that belong to one game only.
+const char* const kFlashCardsRefusal =
+    "The list you have selected contains words only, with no definitions, and cannot be used for "
+    "flash cards. Please choose another game or another list.";
+const char* const kQuizRefusal =
+    "The list you have selected contains words only, with no definitions, and cannot be used for "
+    "a quiz. Please choose another game or another list.";
+const char* const kCannonShotWarning =
+    "The list you have selected contains words only, with no definitions. During the game, the "
+    "word meaning will not be displayed (making this game a bit harder than it would be "
+    "otherwise...)";
+const char* const kWordSearchWarning =
+    "The list you have selected contains words only, with no definitions. The word clue will be "
+    "the word and not the definition...";
+
+// Eligibility rows, named after the shape of their count test.
+EligibilityRow Elig(WO rule, std::string text, std::string opens, bool keepOption = false) {
+    EligibilityRow row;
+    row.wordsOnly = rule;
+    row.wordsOnlyText = std::move(text);
+    row.keepOption = keepOption;
+    row.opens = std::move(opens);
+    return row;
+}
+
+EligibilityRow AtLeast(EligibilityRow row, int minWords, std::string countText) {
+    row.count = CountRule::Below;
+    row.minWords = minWords;
+    row.countText = std::move(countText);
+    return row;
+}
+
+EligibilityRow AtLeastDifficulty(EligibilityRow row, std::string countText) {
+    row.count = CountRule::BelowDifficulty;
+    row.countText = std::move(countText);
+    return row;
+}
+
+// Options rows.
+OptionsRow Slider(int min, int max, int start, OptionFrame frame = OptionFrame::Hidden) {
+    OptionsRow row;
+    row.min = min;
+    row.max = max;
+    row.start = start;
+    row.frame = frame;
+    return row;
+}
+
+OptionsRow Clamped(int min, int max, int start, OptionFrame frame = OptionFrame::Hidden) {
+    OptionsRow row = Slider(min, max, start, frame);
+    row.clamped = true;
+    return row;
+}
+
+// The slider keeps its design range; only the difficulty frame is hidden.
+OptionsRow NoDifficulty(OptionFrame frame = OptionFrame::Hidden) {
+    OptionsRow row;
+    row.hasDifficulty = false;
+    row.frame = frame;
+    return row;
+}
+
+OptionsRow WordSearchOptions() {
+    OptionsRow row = Slider(5, 20, 12, OptionFrame::Shown);
+    row.frameCaption = "How do you want the clue?";
+    row.option1 = "Clue is Word (Easy)";
+    row.option2 = "Clue is Definition";
+    return row;
+}
+
+OptionsRow ScrambleOptions() {
+    OptionsRow row = Slider(1, 3, 1, OptionFrame::Shown);
+    row.frameCaption = "Scatter Letters?";
+    row.option1 = "Scatter (Harder)";
+    row.option2 = "Don't Scatter (Easier)";
+    row.easyLabel = "Normal";
+    return row;
+}
+
+std::string FirstScreen(const std::string& name) {
+    if (name == "Quiz") return "QuizOptions";
+    if (name == "Flash Cards") return "FlashCardOptions";
+    // Their sliders are clamped to the list's size, so the list is picked first.
+    if (name == "Blind Tiles" || name == "Crossword" || name == "Word Maze" ||
+        name == "Jailbreak" || name == "BreakThru")
+        return "ChooseList";
+    return "GameOptions";
+}
+
+GameCard Card(std::string name, EligibilityRow eligibility, OptionsRow options, std::string howTo) {
+    GameCard card;
+    card.button = "buttons/" + name + ".jpg";
+    card.firstScreen = FirstScreen(name);
+    card.name = std::move(name);
+    card.eligibility = std::move(eligibility);
+    card.options = std::move(options);
+    card.howTo = std::move(howTo);
+    return card;
+}
+
+std::vector<GameCard> BuildCatalogue() {
+    const auto Shown = OptionFrame::Shown;
+    std::vector<GameCard> cards;
+    cards.reserve(42);
+
+    cards.push_back(Card(
+        "Flying Cow", Elig(WO::Allowed, "", "CowForm"), Slider(1, 9, 4),
+        "A twist on the classic HANGMAN game. Guess the hidden vocabulary word by typing one "
+        "letter "
+        "at a time. Every wrong letter lets the cow float a little higher into the sky! Fill in "
+        "every blank before the cow flies away to win. The higher the level, the fewer wrong "
+        "letters you are allowed."));
+
+    cards.push_back(Card(
+        "Quiz", AtLeastDifficulty(Elig(WO::Refuse, kQuizRefusal, "Quiz"), kMsgE1), Slider(2, 8, 4),
+        "You will see a question at the top of the screen and several answers below it. Click "
+        "the answer that BEST matches: the meaning of the word, or the word for the meaning. "
+        "Then click \"Click Here to go to the Next Question\" to go on. At the end you will see "
+        "how many you got right. The level sets how many answers you choose from."));
+
+    cards.push_back(Card(
+        "Word Zap", AtLeastDifficulty(Elig(WO::RefuseIfOption, kMsgM1, "Zap"), kMsgE2),
+        Slider(2, 8, 5),
+        "It's a vocabulary shooting gallery! Words stand on the shelves as targets, and a "
+        "definition appears at the bottom of the screen. Click the word that matches the "
+        "definition to zap it. The faster you shoot, the more points you get, but a wrong target "
+        "costs 500 points and a miss costs 100. You have 60 seconds, so be quick!"));
+
+    cards.push_back(Card(
+        "Scramble", Elig(WO::Warn, kMsgW2, "Scramble", true), ScrambleOptions(),
+        "A scrambled vocabulary word will appear on the screen. Work out the word, type it in the "
+        "box and click \"Submit Guess\" or press ENTER. Click \"Hint\" to see what the word means, "
+        "or \"Give Up\" to see the answer. On the harder levels some letters blink out, and "
+        "scattered letters are even trickier to read!"));
+
+    cards.push_back(Card(
+        "Wheel of Money", AtLeast(Elig(WO::Refuse, kMsgM2, "GameShowForm"), 4, kMsgE1),
+        Slider(2, 10, 6),
+        "Welcome to the Wheel of Money game show! Compete for fabulous prizes and loads of money "
+        "in the game show that tests your vocabulary knowledge!"));
+
+    cards.push_back(Card(
+        "Concentration", AtLeastDifficulty(Elig(WO::Refuse, kMsgM1, "Concentration"), kMsgE2),
+        Slider(2, 10, 6),
+        "The classic card game of concentration! All the cards lie face down: half hold "
+        "vocabulary words and half hold their definitions. Click two cards to turn them over. If "
+        "the word matches the definition, the pair stays open; if not, remember where they were! "
+        "Find every pair in as few tries as you can."));
+
+    cards.push_back(Card(
+        "BreakThru", Elig(WO::Allowed, "", "GameOptions"), Clamped(2, 20, 10),
+        "On the right side of the screen will be a wall of letter bricks. Use the up and down "
+        "arrow keys to move your paddle and bounce the ball into the wall. Knock out the letters "
+        "in order to spell the word shown at the top. A wrong brick costs points, and a ball "
+        "that gets past your paddle is lost. Spell every word to break through!"));
+
+    cards.push_back(Card(
+        "Letter Drop", Elig(WO::WarnIfOption, kMsgW1, "LetterFall"), Slider(30, 240, 90, Shown),
+        "Using the left and right arrow keys on the keyboard, steer each falling letter onto its "
+        "place in the row of tiles at the bottom. Press the down arrow to make it fall faster. A "
+        "letter that lands in the wrong place costs points and comes back later. Fill in the "
+        "whole word to win! The higher the level, the faster the letters fall."));
+
+    cards.push_back(Card(
+        "Tower Assault", AtLeast(Elig(WO::Refuse, kMsgM2, "TowerGame"), 5, kMsgE1), NoDifficulty(),
+        "Using only the right and left arrow keys, move your knight along the foot of the castle "
+        "wall. The guards on the tower throw words down at you while a definition is shown at "
+        "the top of the screen. Catch the word that matches the definition and dodge the others! "
+        "Each right catch takes you higher. Reach the top to win the castle!"));
+
+    cards.push_back(Card(
+        "Flash Cards", Elig(WO::Refuse, kFlashCardsRefusal, "FlashCardForm"), NoDifficulty(),
+        "Flash cards are a great way to learn your vocabulary words! Each card shows you one "
+        "side while the other side stays covered. Think of the answer, then click the button to "
+        "uncover it and check yourself. Use \"Next Card\" and \"Previous Card\" to move through "
+        "the set, or the scroll bar to jump to a card. There is no score!"));
+
+    cards.push_back(
+        Card("Crossword", Elig(WO::Refuse, kMsgM1, "GameOptions"), Clamped(2, 20, 10),
+             "When you click on a box in the puzzle, the clue for the word that goes through it "
+             "appears in the clue box. Type the word to fill it in, or click the same box again to "
+             "switch between across and down. Every word you solve earns points. If you are stuck, "
+             "click \"Give Answer\", but it costs points. Solve the whole puzzle to win!"));
+
+    cards.push_back(Card(
+        "Blind Tiles", Elig(WO::Allowed, "", "GameOptions"), Clamped(3, 7, 5),
+        "Blind Tiles is similar to building a crossword puzzle. The words to use are listed at "
+        "the side, but the puzzle shows only empty tiles and no clues. Click a tile, then type "
+        "the word you think fits in that place. Every word placed right scores points; \"Give "
+        "Answer\" fills one in for you but costs 1000 points."));
+
+    cards.push_back(Card(
+        "Basketball", AtLeast(Elig(WO::Refuse, kMsgM2, "BasketBallForm"), 10, kMsgE1),
+        Slider(2, 10, 6),
+        "Use the mouse to pick up the ball and drag it onto the net. A definition is shown under "
+        "the basket, and words unscramble one letter at a time over the net. When the word that "
+        "matches the definition appears, shoot! The sooner you shoot the right word, the more "
+        "points you score. You have ten shots, so make them count."));
+
+    cards.push_back(Card(
+        "Speed Type", Elig(WO::Allowed, "", "SpeedType"), NoDifficulty(),
+        "The rules for Speed Type are simple: wait for Ready... and Set..., and when you see "
+        "Type!!! type the word on the screen as fast as you can, then press ENTER. Use BACKSPACE "
+        "to fix a mistake, but a wrong word loses. Your score is your time per letter, so the "
+        "smaller your score, the better!"));
+
+    cards.push_back(Card(
+        "Bug Spray", Elig(WO::Allowed, "", "BugSprayForm"), Slider(1, 3, 2),
+        "A twist on the classic HANGMAN game. Guess the hidden vocabulary word by typing one "
+        "letter "
+        "at a time. Every wrong letter moves the spray can closer to the poor bug! Click \"Solve\" "
+        "if you know the whole word, or \"Hint\" to see its definition, but a hint costs points. "
+        "Find the word before the bug gets sprayed!"));
+
+    cards.push_back(
+        Card("Freeze-It", Elig(WO::Allowed, "", "FreezeIt"), Slider(1, 5, 3),
+             "The word will be revealed to you one letter at a time. As soon as you think you know "
+             "it, press the space bar to freeze the letters, then type the whole word and press "
+             "ENTER. The fewer letters you needed, the more points you win. A wrong guess costs "
+             "points and the letters keep coming. The higher the level, the faster they come!"));
+
+    cards.push_back(Card(
+        "Jailbreak", Elig(WO::Refuse, kMsgM1, "GameOptions"), Clamped(2, 6, 4),
+        "Break out of jail! Your cell door is held shut by several locks, and each lock has a "
+        "definition on it. Type the vocabulary word that matches it and press ENTER to open that "
+        "lock. A wrong word sets off the alarm and costs you points. Open every lock before the "
+        "guard comes back to escape! The level sets how many locks there are."));
+
+    cards.push_back(Card(
+        "Cannon Shot", Elig(WO::Warn, kCannonShotWarning, "CannonShotForm"), Slider(2, 20, 10),
+        "You will be given control of a cannon at the bottom of the screen. The letters of a "
+        "hidden word float across the sky, and its meaning is shown at the top as your clue. Aim "
+        "with the left and right arrow keys and fire with the space bar. Shoot down the letters "
+        "in the order that spells the word; a wrong letter costs points!"));
+
+    cards.push_back(Card(
+        "Word Search", Elig(WO::WarnIfOption, kWordSearchWarning, "WordSearchForm"),
+        WordSearchOptions(),
+        "Use the mouse to highlight the words hidden in the puzzle. The word to look for, or its "
+        "meaning if you chose that clue, is shown beside the puzzle. Click each letter of the "
+        "word in order, starting with the first. Words run across and down, and on harder levels "
+        "diagonally too. Click \"Clear\" if you make a mistake."));
+
+    cards.push_back(Card(
+        "Word Maze", Elig(WO::Allowed, "", "GameOptions"),
+        Clamped(2, 15, 8, OptionFrame::ShownUnlessWordsOnly),
+        "Try to make your way from the beginning of the maze, the pink square at the top left, "
+        "to the green square at the end. Click letters one at a time to spell each word whose "
+        "clue is shown at the top; the pink squares show where you may go next. A wrong letter "
+        "costs points, but \"Undo Move\" is free. Finish fast for a high score!"));
+
+    cards.push_back(Card(
+        "Asteroid Zap", Elig(WO::WarnIfOption, kMsgW1, "AsteroidBlast"), Slider(1, 15, 3, Shown),
+        "Your ship has flown into an asteroid field! The letters of a vocabulary word are "
+        "hidden, in order, in a wall of lettered asteroids sinking toward you. Move with the "
+        "left and right arrow keys and fire with the space bar. Shoot away every extra letter so "
+        "only the word is left. Never hit a letter of the word, and be quick!"));
+
+    cards.push_back(Card(
+        "Code Breaker", Elig(WO::Allowed, "", "CodeBreaker"), Slider(1, 50, 10),
+        "You will be given one of your vocabulary words written in a secret code, where every "
+        "letter has been swapped for another. Click a code letter, then type the real letter you "
+        "think it stands for. Use the letters you have already cracked to work out the rest! "
+        "Crack the whole word to win. The higher the level, the less time you have."));
+
+    cards.push_back(Card(
+        "Slot Machine", Elig(WO::Refuse, kMsgM1, "SlotMachine"), Slider(1, 20, 9),
+        "A definition will appear at the bottom of the screen. Pull the handle to spin the "
+        "reels, then click STOP under each reel when it shows the word that matches the "
+        "definition. Line up the right word on all three reels to hit the jackpot! A wrong word "
+        "costs you coins. The higher the level, the faster the reels spin."));
+
+    cards.push_back(Card(
+        "Bridge Out", Elig(WO::Allowed, "", "BridgeOutGame"), Slider(2, 10, 6),
+        "The bridge is out! A truck needs to cross the river, but planks are missing, and each "
+        "missing plank is a letter of a vocabulary word. Type the missing letters to put the "
+        "planks back before the truck gets there. A wrong letter costs points. Fix the whole "
+        "bridge to get the truck across! The higher the level, the faster it drives."));
+
+    cards.push_back(Card(
+        "Crunch Man", Elig(WO::Allowed, "", "CrunchManGame"), Slider(2, 14, 7),
+        "You will see a definition at the top of the screen. The letters of the matching word "
+        "are scattered around the field. Steer Crunch Man with the arrow keys and eat the "
+        "letters in the order that spells the word. A wrong letter or a mine ends the game! The "
+        "higher the level, the faster you move and the more mines there are."));
+
+    cards.push_back(Card(
+        "Letter Toss", AtLeastDifficulty(Elig(WO::Refuse, kMsgM2, "LetterTossGame"), kMsgE1),
+        Slider(2, 4, 4),
+        "You will see 2 to 4 definitions, each on its own basket. A word appears at the bottom "
+        "of the screen. Use the mouse to toss the word into the basket whose definition matches "
+        "it. A good toss scores points, and a miss costs some. Toss as many words as you can "
+        "before time runs out! The level sets how many baskets you see."));
+
+    cards.push_back(Card(
+        "Spell Crush", AtLeast(Elig(WO::Allowed, "", "SpellCrushGame"), 4, kMsgE1), NoDifficulty(),
+        "You will see four words. ONE of the words is spelled wrong. Use your mouse to click on "
+        "the misspelled word and the safe will drop to crush it."));
+
+    cards.push_back(Card(
+        "Spiderwebs", AtLeastDifficulty(Elig(WO::Refuse, kMsgM2, "SpiderGame"), kMsgE1),
+        Slider(3, 12, 8),
+        "A definition will appear at the top of the screen. Below it, words are caught in spider "
+        "webs, and a hungry spider is crawling toward them. Click the word that matches the "
+        "definition to free it before the spider gets there! A wrong click lets the spider come "
+        "closer. The higher the level, the more webs you watch."));
+
+    cards.push_back(Card(
+        "Safe Cracker", Elig(WO::WarnIfOption, kMsgW1, "SafeCracker"), NoDifficulty(Shown),
+        "Try to crack the safe! The combination is a hidden vocabulary word, shown as a row of "
+        "blanks. Turn the dial to a letter and press ENTER to try it. A right letter fills in "
+        "its blanks; a wrong one costs points. If you chose to show the word meaning, it appears "
+        "above the safe as your clue. Fill in the word to open the safe!"));
+
+    cards.push_back(Card(
+        "Word Bricks", AtLeastDifficulty(Elig(WO::Allowed, "", "WordBricks"), kMsgE1),
+        Slider(2, 10, 6),
+        "Pick up the pieces of broken words and put them back together! Each vocabulary word has "
+        "been broken into bricks of a few letters. Drag the bricks with the mouse onto the "
+        "building line in the right order to rebuild each word. The quicker you finish a word, "
+        "the more points it scores. The level sets how many words are broken."));
+
+    cards.push_back(Card(
+        "Toad Race", Elig(WO::Allowed, "", "ToadRace"), Slider(1, 10, 5),
+        "It's a race! Your toad is lined up against the computer's toads. A vocabulary word "
+        "appears on the screen: type it correctly and press ENTER to make your toad hop forward. "
+        "A spelling mistake leaves your toad sitting still. Get your toad across the finish line "
+        "first to win! The higher the level, the faster the other toads hop."));
+
+    cards.push_back(Card(
+        "Princess", Elig(WO::WarnIfOption, kMsgW1, "frmPrincess"), Slider(1, 15, 5, Shown),
+        "Help the princess cross the drawbridge before the dragon wakes up! Each plank of the "
+        "bridge hides a letter of a vocabulary word. Type the letters to lower the planks; if "
+        "you chose to show the word meaning, it is your clue. A wrong letter wakes the dragon a "
+        "little more. The higher the level, the more words you spell."));
+
+    cards.push_back(Card(
+        "Mini Golf", AtLeast(Elig(WO::Refuse, kMsgM1, "MiniGolf"), 5, MsgN(5)), Slider(1, 10, 5),
+        "Use the mouse to hit the ball into the hole under the word that matches the definition "
+        "at the top. Click near the ball, drag the mouse away from it and let go to swing: the "
+        "farther you pull, the harder you hit. Fewer strokes earn more points, and a wrong hole "
+        "costs 1000 points. Sink as many as you can before time runs out!"));
+
+    cards.push_back(Card(
+        "HangMan", Elig(WO::Warn, kMsgW2, "HangMan", true), Slider(1, 3, 2),
+        "Try to guess the vocabulary word! Each blank stands for one letter. Type a letter: if "
+        "it is in the word, it fills in its blanks. Every wrong letter builds more of the "
+        "gallows! Click \"Solve\" when you know the whole word, or \"Hint\" to see its "
+        "definition, but a hint costs points. Guess the word before your guy is hanged!"));
+
+    cards.push_back(Card(
+        "Short Circuit", Elig(WO::WarnIfOption, kMsgW1, "ShortCircuit"), Slider(2, 10, 5, Shown),
+        "Connect the light bulb to the battery by completing the circuit. Click on the letters to "
+        "spell out your vocabulry word to wire them together. If you wired them correctly, the "
+        "bulb will light!"));
+
+    cards.push_back(Card(
+        "Tic-Tac-Toe", AtLeast(Elig(WO::Refuse, kMsgM1, "TicTacToe"), 6, MsgN(6)), Slider(2, 6, 4),
+        "Play a game of Tic-Tac-Toe against the computer. To choose a square, pick the definition "
+        "that matches the word in the square that you want. Get three in a row in any direction "
+        "to win!"));
+
+    cards.push_back(Card(
+        "Bomb Squad", AtLeast(Elig(WO::Refuse, kMsgM1, "BombSquad"), 6, MsgN(6)), Slider(2, 10, 5),
+        "You are part of a special unit that has been called in to diffuse a bomb! Use the mouse "
+        "to cut the wires that connect the words and definitions that DON'T MATCH. Cut them all "
+        "before the timer runs out to diffuse the bomb..."));
+
+    cards.push_back(Card(
+        "Bomb Squad 2", AtLeast(Elig(WO::Refuse, kMsgM1, "BombSquad2"), 6, MsgN(6)),
+        Slider(2, 10, 5),
+        "You are part of a special unit that has been called in to diffuse a bomb! Use the mouse "
+        "to wire the words to their matching definitions. Click on a word to connect a wire, then "
+        "click on the matching definition to secure the wire. Connect all the wires before the "
+        "timer runs out to diffuse the bomb..."));
+
+    cards.push_back(Card(
+        "Hang Glider", Elig(WO::Allowed, "", "HangGlider"), Slider(1, 10, 4),
+        "Use the up and down arrow keys to steer your hang glider through the sky. Letters float "
+        "toward you from the right. Fly through the letters of the word shown at the top in the "
+        "right order, and steer around the others. A wrong letter costs points. Spell the word "
+        "before you reach the ground! The higher the level, the faster you fly."));
+
+    cards.push_back(Card(
+        "Slingshot", AtLeast(Elig(WO::Refuse, kMsgM1, "SlingShot"), 4, MsgN(4)), Slider(1, 9, 5),
+        "Use the mouse to click on the slingshot, pull it back and let go to fire a stone. A "
+        "definition appears at the top of the screen and four words hang on targets. Hit the "
+        "target with the matching word! The farther you pull, the farther the stone flies. A "
+        "wrong target costs points. The higher the level, the faster the targets swing."));
+
+    cards.push_back(Card(
+        "Froggy", AtLeast(Elig(WO::Refuse, kMsgM1, "FroggyForm"), 4, MsgN(4)), Slider(1, 9, 5),
+        "Use the arrow keys on your keyboard to safely guide froggy to the word that answers the "
+        "question at the top of the screen. Each key press is one hop. Dodge the cars on the roads "
+        "and ride the logs across the river: a car or the water ends the game, and so does the "
+        "wrong word! The faster you get there, the bigger your bonus."));
+
+    cards.push_back(Card(
+        "Pachinko", AtLeast(Elig(WO::Refuse, kMsgM1, "Plachinko"), 5, MsgN(5)), NoDifficulty(),
+        "Answer questions to earn up to five disks, then drop the disks into the top of the "
+        "pachinko game board and watch them zig-zag to the bottom to see how many points you can "
+        "win!"));
+
+    for (std::size_t i = 0; i < cards.size(); ++i) cards[i].index = static_cast<int>(i) + 1;
+    return cards;
+}
+
+char AsciiLower(char c) {
+    return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool SameIgnoringCase(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) return false;
+    for (std::size_t i = 0; i < a.size(); ++i)
+        if (AsciiLower(a[i]) != AsciiLower(b[i])) return false;
+    return true;
+}
+
+}  // namespace
+
+const std::vector<GameCard>& Catalogue() {
+    static const std::vector<GameCard> cards = BuildCatalogue();
+    return cards;
+}
+
+const GameCard* FindCard(std::string_view name) {
+    for (const GameCard& card : Catalogue())
+        if (SameIgnoringCase(card.name, name)) return &card;
+    return nullptr;
+}
+
+}  // namespace wm

@@ -1,0 +1,24 @@
+// The navigator: screens are made by name when shown and closed when left, one at a time.
+#pragma once
+
+#include <QString>
+#include <QWidget>
+#include <functional>
+
+namespace wm {
+
+using ScreenFactory = std::function<QWidget*()>;
+
+void RegisterScreen(const QString& name, ScreenFactory factory);
+bool HasScreen(const QString& name);
+// Makes the named screen, shows it filling the screen, and closes `from`. nullptr when there
+// is no such screen (nothing is closed then).
+QWidget* OpenScreen(const QString& name, QWidget* from = nullptr);
+// Shows a screen filling the display (a window of the display's size with WM_WINDOWED=1).
+void PresentScreen(QWidget* screen);
+// The screen shown last, for tests.
+QWidget* CurrentScreen();
+// Registers Title, BlackBack, ChooseList and GameOptions.
+void RegisterShellScreens();
+
+}  // namespace wm

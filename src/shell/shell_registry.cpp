@@ -1,0 +1,16 @@
+#include "shell/black_back.h"
+#include "shell/choose_list.h"
+#include "shell/game_options.h"
+#include "shell/screens.h"
+#include "shell/title.h"
+
+namespace wm {
+
+void RegisterShellScreens() {
+    RegisterScreen("BlackBack", [] { return new BlackBack; });
+    RegisterScreen("Title", [] { return new Title; });
+    RegisterScreen("ChooseList", [] { return new ChooseList; });
+    RegisterScreen("GameOptions", [] { return new GameOptions; });
+}
+
+}  // namespace wm

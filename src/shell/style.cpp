@@ -1,0 +1,167 @@
+#include "shell/style.h"
+
+#include <QApplication>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPushButton>
+
+#include "platform/screen_metrics.h"
+#include "platform/services.h"
+
+namespace wm {
+
+void ApplyAppStyle() {
+    QFont base("DejaVu Sans");
+    base.setPointSize(ScreenMetrics::scaledPoint(11));
+    QApplication::setFont(base);
+    qApp->setStyleSheet(R"(
+        QGroupBox { font-weight: bold; color: #234; border: 2px solid #9bb7d4;
+                    border-radius: 10px; margin-top: 1.1em; padding: 0.6em; background: #f6f9ff; }
+        QGroupBox::title { subcontrol-origin: margin; left: 12px; padding: 0 6px; }
+        QListWidget { border: 2px solid #9bb7d4; border-radius: 8px; background: white;
+                      selection-background-color: #3d7fd6; selection-color: white; }
+        QListWidget::item { padding: 4px 8px; }
+        QComboBox { border: 2px solid #9bb7d4; border-radius: 8px; padding: 4px 10px;
+                    background: white; }
+        QLineEdit { border: 2px solid #9bb7d4; border-radius: 8px; padding: 4px 8px;
+                    background: white; }
+        QMenuBar { background: #26466d; color: white; }
+        QMenuBar::item { padding: 6px 14px; background: transparent; }
+        QMenuBar::item:selected { background: #3d7fd6; }
+        QMenu { background: white; border: 1px solid #9bb7d4; }
+        QMenu::item { padding: 6px 24px; }
+        QMenu::item:selected { background: #3d7fd6; color: white; }
+        QToolBar { background: rgba(20, 40, 70, 200); border: none; spacing: 6px; padding: 4px; }
+        QToolButton { color: white; padding: 6px 12px; border-radius: 6px; }
+        QToolButton:hover { background: rgba(255, 255, 255, 60); }
+        QToolButton:disabled { color: rgba(255, 255, 255, 110); }
+        QSlider::groove:horizontal { height: 10px; border-radius: 5px; background: #cfdcec; }
+        QSlider::handle:horizontal { width: 26px; margin: -9px 0; border-radius: 13px;
+                                     background: #3d7fd6; border: 2px solid white; }
+        QSlider::sub-page:horizontal { border-radius: 5px; background: #7fb2ee; }
+    )");
+}
+
+QFont ScreenFont(int points, bool bold) {
+    QFont f("DejaVu Sans");
+    f.setPointSize(ScreenMetrics::scaledPoint(points));
+    f.setBold(bold);
+    return f;
+}
+
+QPixmap LoadPicture(const QString& relative) {
+    const QString path = findAsset(relative);
+    return path.isEmpty() ? QPixmap() : QPixmap(path);
+}
+
+Backdrop::Backdrop(const QString& picture, QWidget* parent) : QWidget(parent) {
+    setPicture(picture);
+}
+
+void Backdrop::setPicture(const QString& picture) {
+    picture_ = LoadPicture(picture);
+    update();
+}
+
+void Backdrop::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    if (picture_.isNull()) {
+        QLinearGradient g(0, 0, 0, height());
+        g.setColorAt(0, QColor(0x2b, 0x5d, 0x9c));
+        g.setColorAt(1, QColor(0x9f, 0xd0, 0xf0));
+        p.fillRect(rect(), g);
+        return;
+    }
+    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    p.drawPixmap(rect(), picture_);
+}
+
+Panel::Panel(QWidget* parent) : QWidget(parent) {}
+
+void Panel::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    QRectF r = QRectF(rect()).adjusted(6, 6, -6, -6);
+    QPainterPath shadow;
+    shadow.addRoundedRect(r.translated(0, 5), 22, 22);
+    p.fillPath(shadow, QColor(0, 0, 0, 50));
+    QPainterPath card;
+    card.addRoundedRect(r, 22, 22);
+    p.fillPath(card, QColor(255, 255, 255, 238));
+    p.setPen(QPen(QColor(0x9b, 0xb7, 0xd4), 2));
+    p.drawPath(card);
+}
+
+PictureButton::PictureButton(QWidget* parent) : QAbstractButton(parent) {
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+void PictureButton::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    const qreal lift = hover_ ? 0 : 3;
+    QRectF r = QRectF(rect()).adjusted(4, 4 + lift, -4, -6 + lift);
+    QPainterPath shadow;
+    shadow.addRoundedRect(r.translated(0, hover_ ? 7 : 4), 14, 14);
+    p.fillPath(shadow, QColor(0, 0, 0, hover_ ? 90 : 60));
+    QPainterPath clip;
+    clip.addRoundedRect(r, 14, 14);
+    p.save();
+    p.setClipPath(clip);
+    if (picture_.isNull()) {
+        p.fillRect(r, QColor(0x3d, 0x7f, 0xd6));
+        p.setPen(Qt::white);
+        p.setFont(ScreenFont(12, true));
+        p.drawText(r, Qt::AlignCenter | Qt::TextWordWrap, text());
+    } else {
+        p.drawPixmap(r.toRect(), picture_);
+    }
+    if (isDown()) p.fillRect(r, QColor(0, 0, 0, 40));
+    p.restore();
+    if (hover_) {
+        p.setPen(QPen(QColor(255, 230, 90), 4));
+        p.drawPath(clip);
+    }
+}
+
+void PictureButton::enterEvent(QEnterEvent*) {
+    hover_ = true;
+    update();
+}
+
+void PictureButton::leaveEvent(QEvent*) {
+    hover_ = false;
+    update();
+}
+
+QPushButton* MakeButton(const QString& text, QWidget* parent, bool primary) {
+    auto* b = new QPushButton(text, parent);
+    b->setFont(ScreenFont(13, true));
+    b->setCursor(Qt::PointingHandCursor);
+    b->setMinimumHeight(ScreenMetrics::scaledPoint(13) * 3);
+    const char* top = primary ? "#5cc46a" : "#5d9de8";
+    const char* bottom = primary ? "#2f9a3f" : "#2f6fc4";
+    b->setStyleSheet(QString(R"(
+        QPushButton { color: white; border: none; border-radius: 14px; padding: 6px 26px;
+                      background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 %1, stop:1 %2); }
+        QPushButton:hover { background: qlineargradient(x1:0, y1:0, x2:0, y2:1,
+                            stop:0 %1, stop:1 %1); }
+        QPushButton:pressed { background: %2; }
+        QPushButton:disabled { background: #b8c2cc; color: #eef2f6; }
+    )").arg(top, bottom));
+    return b;
+}
+
+QLabel* MakeHeading(const QString& text, QWidget* parent, int points) {
+    auto* l = new QLabel(text, parent);
+    l->setFont(ScreenFont(points, true));
+    l->setStyleSheet("color: #1f3f6a;");
+    l->setWordWrap(true);
+    return l;
+}
+
+}  // namespace wm

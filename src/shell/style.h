@@ -1,0 +1,68 @@
+// The program's look: fonts, colours and the pieces every screen is built from.
+#pragma once
+
+#include <QAbstractButton>
+#include <QFont>
+#include <QPixmap>
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+class QGroupBox;
+
+namespace wm {
+
+// Application-wide palette and style sheet.
+void ApplyAppStyle();
+
+// A font sized for the screen: `points` as designed for a 1024 x 768 display.
+QFont ScreenFont(int points, bool bold = false);
+QPixmap LoadPicture(const QString& relative);  // empty when missing
+
+// A screen that paints a picture from the application folder over its whole area.
+class Backdrop : public QWidget {
+public:
+    explicit Backdrop(const QString& picture, QWidget* parent = nullptr);
+    void setPicture(const QString& picture);
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+
+private:
+    QPixmap picture_;
+};
+
+// A white rounded card on a backdrop, holding a screen's controls.
+class Panel : public QWidget {
+public:
+    explicit Panel(QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+};
+
+// A picture that acts as a button: it lifts and glows under the mouse.
+class PictureButton : public QAbstractButton {
+public:
+    explicit PictureButton(QWidget* parent = nullptr);
+    void setPicture(const QPixmap& picture) {
+        picture_ = picture;
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void enterEvent(QEnterEvent*) override;
+    void leaveEvent(QEvent*) override;
+
+private:
+    QPixmap picture_;
+    bool hover_ = false;
+};
+
+// Big rounded action buttons: "primary" ones are green, others blue.
+QPushButton* MakeButton(const QString& text, QWidget* parent, bool primary = false);
+// A heading label in the program's title colour.
+QLabel* MakeHeading(const QString& text, QWidget* parent, int points = 22);
+
+}  // namespace wm

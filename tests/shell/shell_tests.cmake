@@ -1,0 +1,10 @@
+foreach(t title_test road_test)
+  wm_qt_test(${t} SOURCES ${t}.cpp shell_fixture.h LIBS wm_games)
+  target_compile_definitions(${t} PRIVATE
+    WM_SOURCE_DATA_DIR="${CMAKE_SOURCE_DIR}/data" WM_ASSET_DIR="${WM_APP_DIR}")
+  foreach(dep wm_assets wm_factory_data)
+    if(TARGET ${dep})
+      add_dependencies(${t} ${dep})
+    endif()
+  endforeach()
+endforeach()

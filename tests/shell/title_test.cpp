@@ -1,0 +1,238 @@
+// The title screen: first start, pages, hidden games, the empty store and failures.
+#include <QtTest>
+
+#include "platform/movie.h"
+#include "shell/black_back.h"
+#include "core/display_file.h"
+#include "core/game_names.h"
+#include "core/line_file.h"
+#include "shell/high_score_form.h"
+#include "shell/title.h"
+#include "shell_fixture.h"
+
+using namespace wm;
+using namespace wm::test;
+
+class TitleTest : public QObject {
+    Q_OBJECT
+private slots:
+    void firstStartRenamesAndMakesFiles();
+    void pagesOfTwelve();
+    void hiddenGamesAreNotShownAndGetNoScoreFile();
+    void emptyStoreSaysNoLists();
+    void missingSettingsIsAClearFailure();
+    void gridFitsEveryPresetAndScreen_data();
+    void gridFitsEveryPresetAndScreen();
+    void splashSkipsToTitle();
+    void pickRoutesByGame();
+    void highScoresBrowseTheShownGames();
+};
+
+void TitleTest::firstStartRenamesAndMakesFiles() {
+    ShellFixture fx;
+    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
+    QVERIFY(title && title->startedOk());
+    QVERIFY(fx.exists("wmdata.dat") && !fx.exists("wmdata.new"));
+    QVERIFY(fx.exists("thelists.dat") && !fx.exists("thelists.new"));
+    QVERIFY(fx.exists("folders.dat"));
+    for (auto name : kGameNames) {
+        const QString file = "scores/" + QString::fromLatin1(name.data(), int(name.size())) + ".dat";
+        QVERIFY2(fx.exists(file), qPrintable(file));
+        QCOMPARE(fx.read(file).size(), 510);
+    }
+    QCOMPARE(Shared().VisibleGameCount, 42);
+    QCOMPARE(Shared().SoundDefault, kTrue);
+    QVERIFY(fx.dialogs.shown.empty());
+    Pump();
+    QCOMPARE(fx.sound.played, QStringList{"ufofly.wav"});
+}
+
+void TitleTest::pagesOfTwelve() {
+    ShellFixture fx;
+    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
+    QVERIFY(title);
+    auto visibleNames = [&] {
+        QStringList names;
+        for (auto* b : title->buttons())
+            if (b->isVisible()) names << b->text();
+        return names;
+    };
+    QCOMPARE(visibleNames().size(), 12);
+    QCOMPARE(visibleNames().first(), "Flying Cow");
+    QVERIFY(title->moreButton()->isVisible());
+    QVERIFY(!title->backButton()->isVisible());
+    int pages = 1;
+    while (title->moreButton()->isVisible()) {
+        QTest::mouseClick(title->moreButton(), Qt::LeftButton);
+        ++pages;
+    }
+    QCOMPARE(pages, 4);
+    QCOMPARE(visibleNames(), (QStringList{"Bomb Squad", "Bomb Squad 2", "Hang Glider",
+                                          "Slingshot", "Froggy", "Pachinko"}));
+    QVERIFY(title->backButton()->isVisible());
+    // A click where a hidden button lies does nothing.
+    const std::string before = Shared().CurrentGame;
+    title->pick(11);
+    QCOMPARE(Shared().CurrentGame, before);
+    QCOMPARE(CurrentScreen(), title);
+    for (int i = 0; i < 3; ++i) QTest::mouseClick(title->backButton(), Qt::LeftButton);
+    QCOMPARE(title->firstIndex(), 1);
+    QVERIFY(!title->backButton()->isVisible());
+}
+
+void TitleTest::hiddenGamesAreNotShownAndGetNoScoreFile() {
+    ShellFixture fx;
+    DisplaySettings d = DisplaySettings::MediumIcons();
+    d.hidden = {"Quiz", "Froggy"};
+    WriteDisplaySettings(fx.path("wmgdisplay.dat").toStdString(), d);
+    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
+    QVERIFY(title);
+    QCOMPARE(Shared().VisibleGameCount, 40);
+    QCOMPARE(QString::fromStdString(Shared().VisibleGames[2]), "Word Zap");
+    QVERIFY(!fx.exists("scores/Quiz.dat"));
+    QVERIFY(!fx.exists("scores/Froggy.dat"));
+    QVERIFY(fx.exists("scores/Pachinko.dat"));
+    QCOMPARE(title->pageSize(), 15);
+    for (auto* b : title->buttons()) QVERIFY(b->text() != "Quiz" && b->text() != "Froggy");
+
+    // Every game hidden: no buttons, no error.
+    d.hidden.assign(kGameNames.begin(), kGameNames.end());
+    WriteDisplaySettings(fx.path("wmgdisplay.dat").toStdString(), d);
+    auto* empty = qobject_cast<Title*>(OpenScreen("Title", title));
+    QVERIFY(empty && empty->startedOk());
+    for (auto* b : empty->buttons()) QVERIFY(!b->isVisible());
+    QVERIFY(!empty->moreButton()->isVisible());
+}
+
+void TitleTest::emptyStoreSaysNoLists() {
+    ShellFixture fx;
+    fx.writeLines("thelists.new", {"No Lists"});
+    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
+    QVERIFY(title && title->startedOk());
+    QCOMPARE(fx.dialogs.texts(),
+             QStringList{"There are no vocabulary lists available to play with!"});
+    QVERIFY(title->noListsLabel()->isVisible());
+    QCOMPARE(title->noListsLabel()->text(), "No Lists Available!");
+    // The buttons stay.
+    QVERIFY(title->buttons().first()->isVisible());
+    Shot(title, "title-no-lists");
+}
+
+void TitleTest::missingSettingsIsAClearFailure() {
+    ShellFixture fx(false);
+    auto* title = new Title;
+    QVERIFY(!title->startedOk());
+    QCOMPARE(fx.dialogs.shown.size(), size_t(1));
+    const QString text = fx.dialogs.last();
+    QVERIFY2(text.contains("wmdata.dat") && text.contains(fx.dir.path()), qPrintable(text));
+    delete title;
+
+    // A settings file too short to read is named as well.
+    fx.writeLines("wmdata.dat", {"a", "b"});
+    auto* shortOne = new Title;
+    QVERIFY(!shortOne->startedOk());
+    QVERIFY(fx.dialogs.last().contains("wmdata.dat"));
+    delete shortOne;
+}
+
+void TitleTest::gridFitsEveryPresetAndScreen_data() {
+    QTest::addColumn<int>("preset");
+    QTest::addColumn<QSize>("screen");
+    for (int p = 0; p < 3; ++p)
+        for (QSize s : {QSize(1280, 800), QSize(1920, 1080)})
+            QTest::addRow("preset%d-%dx%d", p, s.width(), s.height()) << p << s;
+}
+
+void TitleTest::gridFitsEveryPresetAndScreen() {
+    QFETCH(int, preset);
+    QFETCH(QSize, screen);
+    ShellFixture fx;
+    ScreenMetrics::overrideScreenSize(screen);
+    const DisplaySettings presets[] = {DisplaySettings::LargeIcons(),
+                                       DisplaySettings::MediumIcons(),
+                                       DisplaySettings::SmallIcons()};
+    WriteDisplaySettings(fx.path("wmgdisplay.dat").toStdString(), presets[preset]);
+    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
+    QVERIFY(title);
+    QCOMPARE(title->size(), screen);
+    // Look at a middle page, where both More and Back show.
+    title->showMore();
+    QVector<QRect> rects;
+    for (auto* b : title->buttons())
+        if (b->isVisible()) rects << b->geometry();
+    rects << title->moreButton()->geometry() << title->backButton()->geometry();
+    const QRect below(0, title->toolbar()->height(), screen.width(),
+                      screen.height() - title->toolbar()->height());
+    for (int i = 0; i < rects.size(); ++i) {
+        QVERIFY2(below.contains(rects[i]), qPrintable(QString("clipped %1").arg(i)));
+        for (int j = i + 1; j < rects.size(); ++j) QVERIFY(!rects[i].intersects(rects[j]));
+    }
+    title->showBack();
+    Shot(title, QString("title-preset%1-%2x%3").arg(preset).arg(screen.width()).arg(screen.height()));
+}
+
+void TitleTest::splashSkipsToTitle() {
+    ShellFixture fx;
+    auto* splash = OpenScreen("BlackBack");
+    QVERIFY(splash);
+    Pump(50);
+    QCOMPARE(fx.sound.played.value(0), "tolvane.wav");
+    Shot(splash, "splash-start");
+    static_cast<BlackBack*>(splash)->movie()->advance(2.5);
+    Pump(60);
+    Shot(splash, "splash-middle");
+    QTest::keyClick(splash, Qt::Key_Space);
+    QTRY_VERIFY(Showing<Title>() != nullptr);
+    QVERIFY(fx.sound.stops >= 1);
+}
+
+void TitleTest::pickRoutesByGame() {
+    QCOMPARE(TitleRoute("Quiz"), "QuizOptions");
+    QCOMPARE(TitleRoute("Flash Cards"), "FlashCardOptions");
+    for (auto g : {"Blind Tiles", "Crossword", "Word Maze", "Jailbreak", "BreakThru"})
+        QCOMPARE(TitleRoute(g), "ChooseList");
+    QCOMPARE(TitleRoute("Scramble"), "GameOptions");
+    QCOMPARE(TitleRoute("HangMan"), "GameOptions");
+
+    ShellFixture fx;
+    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
+    // The quiz's options are not part of this build: the pupil is told, nothing else happens.
+    title->pick(1);
+    QCOMPARE(fx.dialogs.last(), "Quiz is not available yet. Please choose another game.");
+    QCOMPARE(CurrentScreen(), title);
+    title->pick(0);  // Flying Cow goes on to its options
+    QVERIFY(CurrentScreen() != title);
+    QCOMPARE(CurrentScreen()->objectName(), "GameOptions");
+}
+
+void TitleTest::highScoresBrowseTheShownGames() {
+    ShellFixture fx;
+    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
+    QVERIFY(title);
+    QStringList seen;
+    SetModalHook([&](QDialog& d) {
+        auto* form = qobject_cast<HighScoreForm*>(&d);
+        QVERIFY(form);
+        seen << form->game();
+        form->previousGame();  // clamped at the first
+        seen << form->game();
+        form->nextGame();
+        form->nextGame();
+        seen << form->game();
+        for (int i = 0; i < 60; ++i) form->nextGame();  // clamped at the last
+        seen << form->game();
+        QVERIFY(form->tableText().contains("#50"));
+        // The close box is refused; OK closes.
+        form->close();
+        QVERIFY(form->isVisible());
+        form->findChild<QPushButton*>("Command1")->click();
+        QVERIFY(!form->isVisible());
+    });
+    for (QAction* a : title->toolbar()->actions())
+        if (a->text() == "High Scores") a->trigger();
+    QCOMPARE(seen, (QStringList{"Flying Cow", "Flying Cow", "Word Zap", "Pachinko"}));
+    QCOMPARE(QString::fromStdString(Shared().CurrentGame), "Title");
+}
+
+QTEST_MAIN(TitleTest)
+#include "title_test.moc"
