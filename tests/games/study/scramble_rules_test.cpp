@@ -1,0 +1,281 @@
+#include "games/study/scramble/scramble_rules.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/rng.h"
+#include "core/shared_state.h"
+
+using namespace wm;
+using namespace wm::scramble;
+
+namespace {
+
+// 1280 x 960 pixels at 15 twips a pixel; "Your Guess:" two thirds of the way down.
+const ScreenGeometry kScreen{19200, 14400, 9000};
+
+SharedState listOf(const std::vector<std::string>& words, int difficulty = 1) {
+    SharedState s;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        s.Words[i + 1] = words[i];
+        s.Meanings[i + 1] = "meaning of " + words[i];
+    }
+    s.WordCount = static_cast<short>(words.size());
+    s.Difficulty = difficulty;
+    return s;
+}
+
+// The value that makes a scattered top come out as `top` for the given letter height.
+double topRoll(int top, int height, int label3Top) {
+    return (top - height - 1 + 0.5) / (label3Top - 2 * height);
+}
+
+}  // namespace
+
+TEST(ScrambleWord, TakesEachPlaceOnceInDrawOrder) {
+    ScriptedRng rng;
+    rng.pick(3, 4).pick(3, 4).pick(1, 4).pick(1, 4).pick(4, 4).pick(2, 4);
+    EXPECT_EQ(scrambleWord("abcd", rng), "cadb");
+    EXPECT_EQ(rng.draws, 6);
+    EXPECT_EQ(rng.pending(), 0u);
+
+    // Repeated letters are told apart by place, not by value; the result may be the word itself.
+    ScriptedRng same;
+    same.pick(1, 3).pick(2, 3).pick(3, 3);
+    EXPECT_EQ(scrambleWord("aab", same), "aab");
+
+    // A "*" is never taken: it keeps its place, and the draws stop once the rest are taken.
+    ScriptedRng star;
+    star.pick(2, 3).pick(3, 3).pick(2, 3).pick(1, 3);
+    EXPECT_EQ(scrambleWord("a*b", star), "b*a");
+    EXPECT_EQ(star.draws, 4);
+
+    ScriptedRng none;
+    EXPECT_EQ(scrambleWord("***", none), "***");
+    EXPECT_EQ(none.draws, 0);
+    EXPECT_EQ(scrambleWord("", none), "");
+}
+
+TEST(ScrambleWord, StuckGeneratorIsBoundedAndKeepsEveryLetter) {
+    ScriptedRng stuck(0.0);  // always letter 1
+    EXPECT_EQ(scrambleWord("word", stuck), "word");
+    EXPECT_EQ(stuck.draws, 4 * kScrambleDrawsPerLetter);
+
+    ScriptedRng onStar(0.0);  // always the "*"
+    EXPECT_EQ(scrambleWord("*ab", onStar), "*ab");
+    EXPECT_EQ(onStar.draws, 3 * kScrambleDrawsPerLetter);
+}
+
+TEST(Layout, RowIsCentredAndLevelWithoutScatter) {
+    auto size = [](int length) {
+        LetterSize s = letterSize(length);
+        return std::vector<int>{s.font, s.height, s.width, s.gap};
+    };
+    EXPECT_EQ(size(10), (std::vector<int>{36, 825, 705, 200}));
+    EXPECT_EQ(size(11), (std::vector<int>{20, 500, 400, 100}));
+
+    ScriptedRng rng;
+    RowLayout row = layOutLetters(4, kScreen, false, rng);
+    ASSERT_EQ(row.boxes.size(), 4u);
+    // 4 x 705 + 3 x 200 = 3420 wide.
+    EXPECT_EQ(row.boxes[0].left, (19200 - 3420) / 2);
+    EXPECT_EQ(row.boxes[3].left + 705, 19200 - (19200 - 3420) / 2);
+    for (const LetterBox& b : row.boxes) EXPECT_EQ(b.top, 4987);  // (10800 - 825) / 2
+    EXPECT_EQ(rng.draws, 0);
+
+    RowLayout twenty = layOutLetters(20, kScreen, false, rng);
+    EXPECT_EQ(twenty.boxes[0].left, (19200 - (20 * 400 + 19 * 100)) / 2);
+    EXPECT_EQ(twenty.boxes[19].left - twenty.boxes[18].left, 500);
+}
+
+TEST(Layout, ScatterRerollsOnlyWithinOneHeight) {
+    const int h = 825, floor = kScreen.label3Top;
+    ScriptedRng rng;
+    rng.then(0.0)                       // first letter: 826, never rolled again
+        .then(topRoll(1650, h, floor))  // 824 away: rolled again
+        .then(topRoll(1651, h, floor))  // one height away exactly: stands
+        .then(topRoll(floor - h, h, floor));
+    RowLayout row = layOutLetters(3, kScreen, true, rng);
+    EXPECT_EQ(row.boxes[0].top, 826);
+    EXPECT_EQ(row.boxes[1].top, 1651);
+    EXPECT_EQ(row.boxes[2].top, floor - h);
+    EXPECT_EQ(rng.draws, 4);
+    EXPECT_EQ(row.boxes[1].left - row.boxes[0].left, 905);  // lefts do not scatter
+}
+
+TEST(Layout, ScreenTooShortForScatterStillFinishes) {
+    // Every roll lands within 100 twips, so no letter can clear the one before.
+    ScreenGeometry tiny{19200, 14400, 2 * 825 + 100};
+    ScriptedRng counted(0.3);
+    EXPECT_EQ(layOutLetters(5, tiny, true, counted).boxes.size(), 5u);
+    EXPECT_EQ(counted.draws, 1 + 4 * kMaxTopRolls);
+
+    // "Your Guess:" above twice a letter's height: the roll range turns negative.
+    ScriptedRng negative(0.9);
+    EXPECT_EQ(layOutLetters(3, {19200, 14400, 300}, true, negative).boxes.size(), 3u);
+}
+
+TEST(NewGame, RoundDrawsInDesignedOrder) {
+    SharedState s = listOf({"cat", "horse", "dog"}, 2);
+    s.Score = 999;
+    s.ElapsedSeconds = 42;
+    ScrambleState round;
+    round.scatter = true;
+    round.lastBlack = 3;
+    ScriptedRng rng;
+    rng.pick(2, 3);                                              // the word: "horse"
+    rng.pick(5, 5).pick(1, 5).pick(4, 5).pick(2, 5).pick(3, 5);  // "ehsor"
+    rng.then(0.0).then(0.5).then(0.0).then(0.5).then(0.0);       // tops, none rolled again
+
+    NewGame game = newGame(s, round, kScreen, rng);
+    ASSERT_TRUE(game.ready);
+    EXPECT_TRUE(game.startFlicker);
+    EXPECT_EQ(s.Score, 0);
+    EXPECT_EQ(s.ElapsedSeconds, 0);
+    EXPECT_EQ(s.TheWord, "horse");
+    EXPECT_EQ(round.scrambled, "ehsor");
+    EXPECT_EQ(round.lastBlack, -1);
+    EXPECT_EQ(round.black, std::vector<bool>(5, false));
+    ASSERT_EQ(round.layout.boxes.size(), 5u);
+    EXPECT_EQ(round.layout.boxes[0].top, 826);
+    EXPECT_EQ(round.layout.boxes[1].top, 826 + 3675);
+    EXPECT_EQ(rng.randomizeCount, 1);
+    EXPECT_EQ(rng.pending(), 0u);
+    EXPECT_EQ(rng.draws, 11);
+
+    s.Difficulty = 1;
+    EXPECT_FALSE(newGame(s, round, kScreen, rng).startFlicker);
+}
+
+TEST(NewGame, LongWordsArePickedAgain) {
+    const std::string longWord(21, 'x');
+    SharedState s = listOf({longWord, std::string(20, 'y')});
+    ScrambleState round;
+    ScriptedRng rng;
+    rng.pick(1, 2).pick(1, 2).pick(2, 2);
+    NewGame game = newGame(s, round, kScreen, rng);
+    ASSERT_TRUE(game.ready);
+    EXPECT_EQ(s.TheWord, std::string(20, 'y'));  // 20 letters is still allowed
+    EXPECT_EQ(round.attempts, 2);
+    EXPECT_EQ(rng.randomizeCount, 3);
+    EXPECT_EQ(round.layout.size.font, 20);
+}
+
+TEST(NewGame, OnlyLongWordsEndOnTheMessage) {
+    SharedState s = listOf({std::string(25, 'a'), std::string(30, 'b')});
+    ScrambleState round;
+    ScriptedRng rng(0.7);
+    NewGame game = newGame(s, round, kScreen, rng);
+    EXPECT_FALSE(game.ready);
+    EXPECT_EQ(game.message, "The words on this list are too long to use for this activity.");
+    // First pick, then past WordCount x 2 = 4 attempts.
+    EXPECT_EQ(round.attempts, 5);
+    EXPECT_EQ(rng.draws, 6);
+    EXPECT_TRUE(round.scrambled.empty());
+
+    SharedState empty = listOf({});
+    EXPECT_FALSE(newGame(empty, round, kScreen, rng).ready);
+}
+
+TEST(Flicker, OnlyTheLetterBlackedLastComesBack) {
+    ScrambleState round;
+    round.scrambled = "abcde";
+    ScriptedRng rng;
+    rng.pick(2, 5).pick(4, 5);
+    FlickerStep first = flicker(round, 2, rng);
+    EXPECT_EQ(first.yellow, -1);
+    EXPECT_EQ(first.black1, 1);
+    EXPECT_EQ(first.black2, -1);
+    FlickerStep second = flicker(round, 2, rng);
+    EXPECT_EQ(second.yellow, 1);
+    EXPECT_EQ(second.black1, 3);
+    EXPECT_EQ(round.black, (std::vector<bool>{false, false, false, true, false}));
+
+    // At Difficulty 3 only the second of each pair comes back; the first stays dark.
+    ScrambleState hard;
+    hard.scrambled = "abcde";
+    rng.pick(1, 5).pick(2, 5).pick(3, 5).pick(4, 5);
+    FlickerStep pair = flicker(hard, 3, rng);
+    EXPECT_EQ(pair.black1, 0);
+    EXPECT_EQ(pair.black2, 1);
+    EXPECT_EQ(flicker(hard, 3, rng).yellow, 1);
+    EXPECT_EQ(hard.black, (std::vector<bool>{true, false, true, true, false}));
+
+    ScrambleState blank;
+    EXPECT_EQ(flicker(blank, 3, rng).black1, -1);
+}
+
+TEST(Score, FactorsAtEachDifficulty) {
+    struct Case {
+        bool scatter;
+        int difficulty;
+        double expected;
+    };
+    // Base Int(0.5 x 500 + 100) = 350 a letter, 5 letters; scatter Int(0.55 x 10 + 10) = 15.
+    const Case cases[] = {
+        {false, 1, 1750}, {false, 2, 2625},  {false, 3, 2975},
+        {true, 1, 2625},  {true, 2, 3937.5}, {true, 3, 4462.5},
+    };
+    for (const Case& c : cases) {
+        ScriptedRng rng;
+        rng.then(0.5).then(0.55);
+        double score = rightAnswerScore(5, c.scatter, c.difficulty, 0.25, rng);
+        EXPECT_DOUBLE_EQ(score, c.expected - 2.5) << c.scatter << " " << c.difficulty;
+        EXPECT_EQ(rng.draws, c.scatter ? 2 : 1);
+    }
+
+    ScriptedRng top(0.999999);
+    EXPECT_DOUBLE_EQ(rightAnswerScore(1, true, 1, 0.0, top), 599 * 19 / 10.0);
+}
+
+TEST(Score, FloorOnlyBelowZero) {
+    ScriptedRng rng;
+    rng.then(0.3).then(0.25);  // an empty word scores 0 less the time of day
+    EXPECT_DOUBLE_EQ(rightAnswerScore(0, false, 1, 0.5, rng), 750);
+    ScriptedRng midnight;
+    EXPECT_DOUBLE_EQ(rightAnswerScore(0, false, 1, 0.0, midnight), 0);
+    EXPECT_EQ(midnight.draws, 1);
+}
+
+TEST(Guess, ComparedLowerCasedAndEmptyIsNoGuess) {
+    EXPECT_EQ(judgeGuess("", "cat"), GuessResult::NotAGuess);
+    EXPECT_EQ(judgeGuess("CaT", "cAt"), GuessResult::Right);
+    EXPECT_EQ(judgeGuess("\xC9t\xC9", "\xE9t\xE9"), GuessResult::Right);  // Windows-1252 É é
+    EXPECT_EQ(judgeGuess(" cat", "cat"), GuessResult::Wrong);
+    EXPECT_EQ(judgeGuess("a*b", "a*b"), GuessResult::Right);
+}
+
+TEST(Guess, HintCostsNothingOnceRight) {
+    SharedState s = listOf({"Cat"}, 1);
+    s.TheWord = "Cat";
+    s.TheMeaning = "-----";  // a words-only list
+    ScrambleState round;
+    EXPECT_EQ(takeHint(s), "This word means \"-----\"");
+    EXPECT_EQ(s.Score, -1000);
+
+    ScriptedRng rng;
+    rng.then(0.0);
+    EXPECT_EQ(submitGuess(s, round, "dog", 0.5, rng), GuessResult::Wrong);
+    EXPECT_EQ(rng.draws, 0);
+    EXPECT_EQ(submitGuess(s, round, "cat", 0.5, rng), GuessResult::Right);
+    EXPECT_DOUBLE_EQ(s.Score, 300 - 5);
+
+    EXPECT_EQ(giveUpText("Cat"),
+              "Oops! The scrambled word was \"Cat\". Would you like to try again?");
+}
+
+TEST(Frame, OptionInvertedAndClockHeld) {
+    SharedState s;
+    s.GameOptionOn = kTrue;  // "Don't Scatter"
+    EXPECT_FALSE(invertGameOption(s));
+    EXPECT_EQ(s.GameOptionOn, kFalse);
+    EXPECT_TRUE(invertGameOption(s));
+    EXPECT_EQ(s.GameOptionOn, kTrue);
+
+    s.ElapsedSeconds = 32766;
+    countSecond(s);
+    countSecond(s);
+    EXPECT_EQ(s.ElapsedSeconds, 32767);
+}
