@@ -131,7 +131,14 @@ std::string NumText(double x) {
     return buf;
 }
 
-std::string StrText(double x) { return x >= 0 ? " " + NumText(x) : NumText(x); }
+std::string CountText(double x) {
+    std::string s = NumText(x);
+    if (s.rfind("0.", 0) == 0) return s.substr(1);
+    if (s.rfind("-0.", 0) == 0) return "-" + s.substr(2);
+    return s;
+}
+
+std::string StrText(double x) { return x >= 0 ? " " + CountText(x) : CountText(x); }
 
 long CLng(double x) {
     double r = std::nearbyint(x);  // the default rounding mode rounds half to even

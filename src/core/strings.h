@@ -29,7 +29,9 @@ int InStrRev(std::string_view haystack, std::string_view needle);
 double Val(std::string_view s);
 // Plain text form of a number: "12", "-3.5", "0.25"; whole numbers print without decimals.
 std::string NumText(double x);
-// Positive numbers carry a leading blank, as in "Choose a list: 120 words".
+// The list chooser's number form: no zero before the point, ".5" and "-.5".
+std::string CountText(double x);
+// CountText with the leading blank of a positive number, as in "Choose a list: 120 words".
 std::string StrText(double x);
 // Rounds half to even into 32 bits, as scores do when moved down a table.
 long CLng(double x);

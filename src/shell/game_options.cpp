@@ -71,13 +71,16 @@ GameOptions::GameOptions(QWidget* parent) : Backdrop("images/wm-back.jpg", paren
     Label7->setObjectName("Label7");
     Label7->setWordWrap(true);
     Label7->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    Label7->setFont(ScreenFont(HowToPointSize(Len(card.howTo)) * 7 / 10));
-    Label7->setStyleSheet("color: #1d2a3a;");
+    // Sized through the style sheet: a style sheet above it would otherwise reset the font.
+    Label7->setStyleSheet(QString("color: #1d2a3a; font-size: %1pt; font-weight: normal;")
+                              .arg(ScreenFont(HowToPointSize(Len(card.howTo))).pointSize()));
     auto* scroll = new QScrollArea(Frame4);
     scroll->setWidget(Label7);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setStyleSheet("background: transparent;");
+    scroll->setStyleSheet("QScrollArea { background: transparent; }");
+    scroll->viewport()->setAutoFillBackground(false);
+    Label7->setAutoFillBackground(false);
     f4->addWidget(scroll);
     left->addWidget(Frame4, 1);
     columns->addLayout(left, 3);

@@ -37,7 +37,8 @@ HighScoreForm::HighScoreForm(QWidget* parent) : QDialog(parent) {
 
     auto* columns = new QHBoxLayout;
     QFont mono("DejaVu Sans Mono");
-    mono.setPointSize(ScreenFont(10).pointSize());
+    mono.setPointSize(ScreenFont(11).pointSize());
+    mono.setBold(true);
     for (QLabel** l : {&left_, &right_}) {
         *l = new QLabel(this);
         (*l)->setFont(mono);

@@ -63,8 +63,11 @@ TEST(Strings, NumberTexts) {
     EXPECT_EQ(NumText(0.75), "0.75");
     EXPECT_EQ(NumText(1.01), "1.01");
     EXPECT_EQ(StrText(120), " 120");
-    EXPECT_EQ(StrText(-0.5), "-0.5");
+    EXPECT_EQ(StrText(-0.5), "-.5");
     EXPECT_EQ(StrText(2.5), " 2.5");
+    EXPECT_EQ(StrText(0.5), " .5");
+    EXPECT_EQ(CountText(-0.5), "-.5");
+    EXPECT_EQ(CountText(0), "0");
 }
 
 TEST(Strings, CLngRoundsHalfToEven) {
