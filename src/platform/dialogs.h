@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <deque>
 #include <optional>
+#include <vector>
 
 class QWidget;
 
@@ -60,7 +61,7 @@ public:
     }
     QStringList texts() const;     // every text shown, in order
     QString last() const;          // the last text shown, or ""
-    bool saw(const QString& text) const;
+    bool saw(const QString& text) const;  // shown with exactly this text
 
     std::deque<bool> yesNoAnswers;
     std::deque<std::optional<QString>> inputAnswers;

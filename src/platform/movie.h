@@ -23,6 +23,9 @@ public:
 using SceneFactory = std::function<std::unique_ptr<MovieScene>()>;
 void RegisterScene(const QString& name, SceneFactory factory);
 std::unique_ptr<MovieScene> MakeScene(const QString& name);  // nullptr when unknown
+// Registers the program's own scenes ("wmsplash"...). Called once at start: a static library
+// drops unreferenced static initialisers, so registration is explicit. Safe to call again.
+void RegisterBuiltInScenes();
 
 class Movie : public QWidget {
     Q_OBJECT
@@ -30,7 +33,8 @@ public:
     explicit Movie(QWidget* parent = nullptr);
     ~Movie() override;
 
-    // Loads a scene by name ("wmsplash" or "wmsplash.swf"); false when there is none.
+    // Loads a scene by name ("wmsplash" or "wmsplash.swf"); false when there is none. A pass in
+    // progress ends without its continuation.
     bool load(const QString& name);
     // Plays once (or in a loop); `onFinished` runs when a single pass ends or stop() is called.
     void play(bool loop = false, std::function<void()> onFinished = {});

@@ -32,6 +32,10 @@ private:
     Impl* d;
 };
 
+// True when `path` is a RIFF WAVE file whose chunk sizes fit the file. A truncated file would
+// keep a QSoundEffect loading for ever, so such files are never handed to it.
+bool IsCompleteWav(const QString& path);
+
 // Records what was asked for.
 class RecordingSound : public Sound {
 public:

@@ -1,0 +1,138 @@
+#include "platform/movie.h"
+
+#include <QPainter>
+#include <QPointer>
+#include <algorithm>
+#include <cmath>
+
+namespace wm {
+
+namespace {
+
+std::map<QString, SceneFactory>& registry() {
+    static std::map<QString, SceneFactory> scenes;
+    return scenes;
+}
+
+// Screens ask for the design's file names: "wmsplash.swf", "\movies\WMSPLASH.SWF".
+QString sceneKey(const QString& name) {
+    QString key = name.trimmed();
+    key.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    key = key.mid(key.lastIndexOf(QLatin1Char('/')) + 1).toLower();
+    if (key.endsWith(QLatin1String(".swf"))) key.chop(4);
+    return key;
+}
+
+constexpr int kFrameMs = 33;  // about 30 frames a second
+
+}  // namespace
+
+void RegisterScene(const QString& name, SceneFactory factory) {
+    // Built-ins first, so that a scene registered by the caller replaces them and not the reverse.
+    RegisterBuiltInScenes();
+    registry()[sceneKey(name)] = std::move(factory);
+}
+
+std::unique_ptr<MovieScene> MakeScene(const QString& name) {
+    RegisterBuiltInScenes();
+    const auto it = registry().find(sceneKey(name));
+    if (it == registry().end() || !it->second) return nullptr;
+    return it->second();
+}
+
+Movie::Movie(QWidget* parent) : QWidget(parent) {
+    timer_.setInterval(kFrameMs);
+    connect(&timer_, &QTimer::timeout, this, &Movie::tick);
+}
+
+Movie::~Movie() = default;
+
+bool Movie::load(const QString& name) {
+    // A new film ends the old one without its continuation: the screen moved on.
+    timer_.stop();
+    playing_ = false;
+    onFinished_ = {};
+    offset_ = 0;
+    scene_ = MakeScene(name);
+    update();
+    return scene_ != nullptr;
+}
+
+void Movie::play(bool loop, std::function<void()> onFinished) {
+    loop_ = loop;
+    onFinished_ = std::move(onFinished);
+    offset_ = 0;
+    playing_ = true;
+    clock_.start();
+    timer_.start();
+    update();
+    // Nothing loaded: the pass ends on the first tick, so a screen waiting for it goes on.
+}
+
+void Movie::stop() {
+    if (!playing_) return;
+    offset_ = position();
+    playing_ = false;
+    timer_.stop();
+    auto done = std::move(onFinished_);
+    onFinished_ = {};
+    QPointer<Movie> self(this);
+    emit finished();
+    if (done) done();
+    if (self) self->update();
+}
+
+bool Movie::isPlaying() const {
+    return playing_;
+}
+
+double Movie::position() const {
+    if (!playing_ || !clock_.isValid()) return offset_;
+    return offset_ + clock_.elapsed() / 1000.0;
+}
+
+void Movie::advance(double seconds) {
+    if (playing_) {
+        offset_ += seconds;
+        tick();
+    } else {
+        const double length = scene_ ? scene_->duration() : 0.0;
+        offset_ = std::clamp(offset_ + seconds, 0.0, length);
+        update();
+    }
+}
+
+void Movie::tick() {
+    if (!playing_) return;
+    const double length = scene_ ? scene_->duration() : 0.0;
+    const double now = position();
+    if (now >= length) {
+        if (loop_ && length > 0) {
+            offset_ = std::fmod(now, length);
+            clock_.restart();
+        } else {
+            offset_ = length;  // rest on the last frame
+            playing_ = false;
+            timer_.stop();
+            auto done = std::move(onFinished_);
+            onFinished_ = {};
+            QPointer<Movie> self(this);
+            emit finished();
+            // The continuation may close the screen that owns this widget.
+            if (done) done();
+            if (!self) return;
+        }
+    }
+    update();
+}
+
+void Movie::paintEvent(QPaintEvent*) {
+    if (!scene_) return;
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform |
+                           QPainter::TextAntialiasing);
+    const double t = std::clamp(position(), 0.0, scene_->duration());
+    scene_->paint(painter, QRectF(rect()), t);
+}
+
+}  // namespace wm

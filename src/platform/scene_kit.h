@@ -1,0 +1,55 @@
+// Small drawing helpers shared by the animation scenes: easing curves, fitting a fixed stage
+// into any rectangle, letter tiles and sparkles.
+#pragma once
+
+#include <QColor>
+#include <QPainterPath>
+#include <QPointF>
+#include <QRectF>
+#include <algorithm>
+#include <cmath>
+
+class QPainter;
+
+namespace wm::scene {
+
+inline double clamp01(double x) {
+    return std::clamp(x, 0.0, 1.0);
+}
+inline double lerp(double a, double b, double u) {
+    return a + (b - a) * u;
+}
+inline double smooth(double u) {
+    u = clamp01(u);
+    return u * u * (3 - 2 * u);
+}
+inline double easeIn(double u) {
+    u = clamp01(u);
+    return u * u * u;
+}
+inline double easeOut(double u) {
+    u = clamp01(u);
+    return 1 - std::pow(1 - u, 3);
+}
+inline double easeInOut(double u) {
+    u = clamp01(u);
+    return u < 0.5 ? 4 * u * u * u : 1 - std::pow(-2 * u + 2, 3) / 2;
+}
+inline QPointF bezier(QPointF a, QPointF b, QPointF c, QPointF d, double u) {
+    const double v = 1 - u;
+    return v * v * v * a + 3 * v * v * u * b + 3 * v * u * u * c + u * u * u * d;
+}
+inline QColor withAlpha(QColor c, double alpha) {
+    c.setAlphaF(float(clamp01(alpha)));
+    return c;
+}
+
+// The largest rectangle of the stage's shape centred in `rect`.
+QRectF fitStage(const QRectF& rect, const QSizeF& stage);
+QPainterPath letterTilePath(const QRectF& r);
+// A glossy rounded tile in `colour` with a white letter.
+void paintLetterTile(QPainter& p, const QRectF& r, const QColor& colour, const QString& letter);
+// A four-pointed twinkle with a soft glow, `size` from centre to tip.
+void paintSparkle(QPainter& p, QPointF at, double size, double angle, double alpha);
+
+}  // namespace wm::scene
