@@ -10,6 +10,7 @@
 #include "platform/services.h"
 #include "platform/text.h"
 #include "shell/enter_initials_form.h"
+#include "shell/fl_form.h"
 #include "shell/high_score_form.h"
 #include "shell/screens.h"
 
@@ -47,11 +48,16 @@ QMenuBar* MakeGameMenu(QWidget* game, const GameMenuNames& names, std::function<
         return a;
     };
     add("Restart", names.restart, std::move(restart));
-    if (!names.foreign.isEmpty()) {
-        QAction* fl = add(names.foreignText, names.foreign, {});
-        // The character palette comes with the foreign-language lists.
-        fl->setEnabled(false);
-        (void)foreign;
+    if (!names.foreign.isEmpty() && foreign) {
+        const QString key = names.foreignKey;
+        add(names.foreignText, names.foreign, [game, key, foreign] {
+            SharedState& s = Shared();
+            if (!key.isEmpty() && LCase(s.CurrentGame) != LCase(fromQ(key)))
+                s.CurrentGame = fromQ(key);
+            FLForm palette(game);
+            if (RunModal(palette) == QDialog::Accepted && !s.ForeignChar.empty())
+                foreign(toQ(s.ForeignChar));
+        });
     }
     add("High Scores", names.scores, [game] { ShowHighScores(game); });
     add("How To Play", names.howTo, [] { ShowHowToPlay(); });

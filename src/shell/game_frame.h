@@ -21,10 +21,13 @@ struct GameMenuNames {
     QString howTo = "mnuHowTo";
     QString quit = "Return";
     QString foreignText = "Foreign Language Characters";
+    // The game's key for the palette; CurrentGame takes it when it differs from the name other
+    // than by case, and keeps it afterwards (the score file follows CurrentGame).
+    QString foreignKey;
 };
 
 // The menu bar of a game screen. `restart` starts a new game by the same routine as on load;
-// `foreign` receives a character picked on the palette (may be empty when there is none).
+// `foreign` receives a character picked on the palette; without it the entry is left out.
 QMenuBar* MakeGameMenu(QWidget* game, const GameMenuNames& names, std::function<void()> restart,
                        std::function<void(const QString&)> foreign = {});
 

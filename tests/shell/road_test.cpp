@@ -8,6 +8,7 @@
 #include "games/study/scramble/scramble_screen.h"
 #include "shell/choose_list.h"
 #include "shell/enter_initials_form.h"
+#include "shell/fl_form.h"
 #include "shell/game_options.h"
 #include "shell/high_score_form.h"
 #include "shell/title.h"
@@ -62,6 +63,7 @@ private slots:
     void chooserRemembersAndCutsNames();
     void optionsRowsAndClamping();
     void scrambleGivesUpOnTooLongWords();
+    void gameMenuEntries();
 };
 
 void RoadTest::summaryCountsHalfWordsAndLabels() {
@@ -370,6 +372,80 @@ void RoadTest::scrambleGivesUpOnTooLongWords() {
     chooser->continueOn();
     QTRY_VERIFY(Showing<Title>() != nullptr);
     QCOMPARE(fx.dialogs.last(), "The words on this list are too long to use for this activity.");
+}
+
+void RoadTest::gameMenuEntries() {
+    ShellFixture fx;
+    OpenScreen("Title");
+    SharedState& s = Shared();
+    s.CurrentGame = "Scramble";
+    s.HowToText = "Unscramble it.";
+    s.GameOptionOn = kTrue;
+    s.Difficulty = 3;
+    auto* chooser = qobject_cast<ChooseList*>(OpenScreen("ChooseList", CurrentScreen()));
+    QTRY_VERIFY(chooser->lists()->isVisible());
+    QVERIFY(selectList(chooser, "Human Body (") >= 0);
+    chooser->continueOn();
+    auto* game = Showing<Scramble>();
+    QVERIFY(game);
+    Pump();
+    auto menu = [&](const char* name) {
+        auto* a = game->findChild<QAction*>(name);
+        QVERIFY2(a, name);
+        a->trigger();
+    };
+    menu("mnuHowTo");
+    QCOMPARE(fx.dialogs.last(), "Unscramble it.");
+
+    // The palette puts the picked character at the caret; an empty cell gives nothing.
+    game->guessBox()->setText("ma");
+    game->guessBox()->setCursorPosition(1);
+    int boxes = 0;
+    SetModalHook([&](QDialog& d) {
+        auto* fl = qobject_cast<FLForm*>(&d);
+        QVERIFY(fl);
+        ++boxes;
+        if (boxes == 1) {
+            QCOMPARE(fl->cells()[0]->text(), QString(QChar(0xBF)));  // the inverted question mark
+            QVERIFY(fl->cells()[65]->text().isEmpty());
+            fl->insert(0);  // nothing picked: stays open
+            QVERIFY(fl->isVisible());
+            fl->pickCell(0xF1 - 191);  // the n with a tilde
+            Shot(fl, "palette");
+            fl->insert(0);
+        } else {
+            fl->pickCell(70);
+            fl->insert(0);
+        }
+    });
+    menu("FLang");
+    QCOMPARE(game->guessBox()->text(), QString("m") + QChar(0xF1) + "a");
+    QCOMPARE(game->guessBox()->cursorPosition(), 3);
+    menu("FLang");
+    QCOMPARE(game->guessBox()->text().size(), 3);
+    QCOMPARE(QString::fromStdString(s.CurrentGame), "Scramble");  // the key differs by case only
+
+    // The table opens without leaving the game.
+    QString seen;
+    SetModalHook([&](QDialog& d) {
+        if (auto* h = qobject_cast<HighScoreForm*>(&d)) {
+            seen = h->game();
+            h->findChild<QPushButton*>("Command1")->click();
+        }
+    });
+    menu("HS");
+    QCOMPARE(seen, "Scramble");
+    QCOMPARE(CurrentScreen(), game);
+    // At the hardest level two letters blink out at each tick.
+    QTest::qWait(1100);
+    int black = 0;
+    for (auto* l : game->letters())
+        if (l->isVisible() && l->styleSheet().contains("background: black")) ++black;
+    QVERIFY(black >= 1);
+    QTest::keyClick(game, Qt::Key_Escape);
+    QVERIFY(Showing<Title>() != nullptr);
+    QVERIFY(fx.music.closes >= 1);  // background music is closed on the way out
+    QCOMPARE(Shared().BgmOpen, kFalse);
 }
 
 QTEST_MAIN(RoadTest)

@@ -14,6 +14,7 @@
 #include "platform/sound.h"
 #include "platform/screen_metrics.h"
 #include "platform/text.h"
+#include "shell/fl_form.h"
 #include "shell/game_frame.h"
 #include "shell/screens.h"
 
@@ -36,7 +37,10 @@ Scramble::Scramble(QWidget* parent) : Backdrop("images/scramble-back.jpg", paren
     setFocusPolicy(Qt::StrongFocus);
     SharedState& s = Shared();
 
-    MakeGameMenu(this, {"RS", "FLang", "HS", "mnuHowTo", "Return"}, [this] { NewGame(); });
+    GameMenuNames menu;
+    menu.foreignKey = "scramble";
+    MakeGameMenu(this, menu, [this] { NewGame(); },
+                 [this](const QString& c) { FLForm::InsertAt(Guess, c); });
 
     heading_ = new QLabel("Unscramble the word!", this);
     heading_->setFont(ScreenFont(24, true));
