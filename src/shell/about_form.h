@@ -6,6 +6,7 @@
 namespace wm {
 
 class AboutForm : public QDialog {
+    Q_OBJECT
 public:
     explicit AboutForm(QWidget* parent = nullptr);
 };

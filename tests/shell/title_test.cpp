@@ -6,6 +6,7 @@
 #include "core/display_file.h"
 #include "core/game_names.h"
 #include "core/line_file.h"
+#include "shell/about_form.h"
 #include "shell/high_score_form.h"
 #include "shell/title.h"
 #include "shell_fixture.h"
@@ -26,6 +27,7 @@ private slots:
     void splashSkipsToTitle();
     void pickRoutesByGame();
     void highScoresBrowseTheShownGames();
+    void programInfoShowsNameAndVersion();
 };
 
 void TitleTest::firstStartRenamesAndMakesFiles() {
@@ -232,6 +234,26 @@ void TitleTest::highScoresBrowseTheShownGames() {
         if (a->text() == "High Scores") a->trigger();
     QCOMPARE(seen, (QStringList{"Flying Cow", "Flying Cow", "Word Zap", "Pachinko"}));
     QCOMPARE(QString::fromStdString(Shared().CurrentGame), "Title");
+}
+
+void TitleTest::programInfoShowsNameAndVersion() {
+    ShellFixture fx;
+    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
+    bool seen = false;
+    SetModalHook([&](QDialog& d) {
+        auto* about = qobject_cast<AboutForm*>(&d);
+        QVERIFY(about);
+        QCOMPARE(about->windowTitle(), "Wordmere");
+        QCOMPARE(about->findChild<QLabel*>("Version")->text(), "Version 1.01");
+        Shot(about, "about");
+        about->findChild<QPushButton*>("OK")->click();
+        seen = true;
+    });
+    for (QAction* a : title->toolbar()->actions()) {
+        if (a->text() == "Program Info") a->trigger();
+        if (a->text() == "Teacher Management") QVERIFY(!a->isEnabled());
+    }
+    QVERIFY(seen);
 }
 
 QTEST_MAIN(TitleTest)
