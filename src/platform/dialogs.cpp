@@ -6,7 +6,10 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
+#include <QDialog>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -31,39 +34,74 @@ void styleBox(QWidget* box) {
     box->setFont(font);
 }
 
-// QMessageBox wraps its text at a narrow width of its own; with a large font that makes a
-// tall thin box. Let the text run to about forty characters a line.
-void widenText(QMessageBox& box, const QString& text) {
+// Our own message box: QMessageBox caps its width and clips a long line set in a large font.
+// The text wraps at a width that suits its length, and the buttons match the program's look.
+int boxRun(const QString& title, const QString& text, bool question) {
+    QDialog box(QApplication::activeWindow());
+    box.setObjectName(QStringLiteral("MessageBox"));
+    box.setWindowTitle(titleOr(title));
+    box.setModal(true);
+    styleBox(&box);
+    box.setStyleSheet(QStringLiteral(
+        "QDialog#MessageBox { background: #fbfcff; border: 3px solid #5d9de8; }"
+        "QLabel#BoxTitle { color: #1f3f6a; font-weight: bold; }"
+        "QLabel#BoxText { color: #1d2a3a; }"
+        "QPushButton { color: white; border: none; border-radius: 12px; padding: 8px 30px;"
+        "  font-weight: bold; background: #3d7fd6; min-width: 5em; }"
+        "QPushButton:default { background: #2f9a3f; }"
+        "QPushButton:hover { background: #5d9de8; }"));
     const QFontMetrics metrics(box.font());
-    int longest = 0;
-    for (const QString& line : text.split(QLatin1Char('\n'))) {
-        longest = std::max(longest, metrics.horizontalAdvance(line));
+    const int avg = metrics.averageCharWidth();
+    const int natural = metrics.horizontalAdvance(text) + avg;
+    const int width = std::clamp(natural, avg * 24, avg * 46);
+
+    auto* layout = new QVBoxLayout(&box);
+    layout->setContentsMargins(28, 22, 28, 20);
+    layout->setSpacing(16);
+    if (!title.isEmpty()) {
+        auto* heading = new QLabel(title, &box);
+        heading->setObjectName(QStringLiteral("BoxTitle"));
+        layout->addWidget(heading);
     }
-    const int width = std::clamp(longest + metrics.averageCharWidth(),
-                                 metrics.averageCharWidth() * 12, metrics.averageCharWidth() * 40);
-    if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
-        label->setMinimumWidth(width);
+    auto* label = new QLabel(text, &box);
+    label->setObjectName(QStringLiteral("BoxText"));
+    label->setWordWrap(true);
+    label->setTextFormat(Qt::PlainText);
+    label->setFixedWidth(width);
+    layout->addWidget(label);
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    auto* yes = new QPushButton(question ? QStringLiteral("Yes") : QStringLiteral("OK"), &box);
+    yes->setDefault(true);
+    yes->setAutoDefault(true);
+    QObject::connect(yes, &QPushButton::clicked, &box, &QDialog::accept);
+    row->addWidget(yes);
+    if (question) {
+        auto* no = new QPushButton(QStringLiteral("No"), &box);
+        no->setAutoDefault(false);
+        QObject::connect(no, &QPushButton::clicked, &box, &QDialog::reject);
+        row->addWidget(no);
     }
+    row->addStretch();
+    layout->addLayout(row);
+    box.adjustSize();
+    if (QWidget* parent = box.parentWidget()) {
+        const QRect frame = parent->window()->geometry();
+        box.move(frame.center() - QPoint(box.width() / 2, box.height() / 2));
+    }
+    yes->setFocus();
+    return box.exec();
 }
 
 }  // namespace
 
 void QtDialogs::message(const QString& text, const QString& title) {
-    QMessageBox box(QMessageBox::Information, titleOr(title), text, QMessageBox::Ok,
-                    QApplication::activeWindow());
-    styleBox(&box);
-    widenText(box, text);
-    box.exec();
+    boxRun(title, text, false);
 }
 
 bool QtDialogs::yesNo(const QString& text, const QString& title) {
-    QMessageBox box(QMessageBox::Question, titleOr(title), text, QMessageBox::Yes | QMessageBox::No,
-                    QApplication::activeWindow());
-    box.setDefaultButton(QMessageBox::Yes);
-    box.setEscapeButton(QMessageBox::No);
-    styleBox(&box);
-    widenText(box, text);
-    return box.exec() == QMessageBox::Yes;
+    // Escape closes the box as No.
+    return boxRun(title, text, true) == QDialog::Accepted;
 }
 
 std::optional<QString> QtDialogs::input(const QString& prompt, const QString& title,

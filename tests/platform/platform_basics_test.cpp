@@ -4,7 +4,8 @@
 #include <QElapsedTimer>
 #include <QInputDialog>
 #include <QLineEdit>
-#include <QMessageBox>
+#include <QLabel>
+#include <QPushButton>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -136,19 +137,30 @@ private slots:
     void realBoxesAnswerAndDefaultTitle() {
         QtDialogs d;
         QString seenTitle;
+        auto press = [](QWidget* box, const QString& text) {
+            for (auto* b : box->findChildren<QPushButton*>())
+                if (b->text() == text) b->click();
+        };
         answerNextModal([&](QWidget* box) {
             seenTitle = box->windowTitle();
-            auto* mb = qobject_cast<QMessageBox*>(box);
-            QVERIFY(mb);
-            mb->button(QMessageBox::Yes)->click();
+            press(box, QStringLiteral("Yes"));
         });
         QVERIFY(d.yesNo(QStringLiteral("Play again?")));
         QCOMPARE(seenTitle, QStringLiteral("Wordmere"));
 
-        answerNextModal([](QWidget* box) {
-            qobject_cast<QMessageBox*>(box)->button(QMessageBox::No)->click();
+        // A long question wraps inside the box rather than running off its edge.
+        const QString longText = QStringLiteral(
+            "You got a high score of 2900! Would you like to try again? This line goes on well "
+            "past the width of any box, so it has to wrap onto further lines.");
+        answerNextModal([&](QWidget* box) {
+            auto* label = box->findChild<QLabel*>(QStringLiteral("BoxText"));
+            QVERIFY(label);
+            QVERIFY(label->wordWrap());
+            QVERIFY(box->geometry().width() >= label->width());
+            QVERIFY(label->height() >= label->heightForWidth(label->width()));
+            press(box, QStringLiteral("No"));
         });
-        QVERIFY(!d.yesNo(QStringLiteral("Again?"), QStringLiteral("Great job!")));
+        QVERIFY(!d.yesNo(longText, QStringLiteral("Great job!")));
 
         answerNextModal([&](QWidget* box) {
             seenTitle = box->windowTitle();
