@@ -18,7 +18,8 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion("1.01");
 
     // Every file is found beside the program, never in the current folder.
-    wm::Shared().AppPath = QDir(QCoreApplication::applicationDirPath()).absolutePath().toStdString();
+    wm::Shared().AppPath =
+        QDir(QCoreApplication::applicationDirPath()).absolutePath().toStdString();
 
     wm::QtDialogs dialogs;
     wm::QtSound sound(QCoreApplication::applicationDirPath() + "/sounds");

@@ -29,6 +29,8 @@ Clock& TheClock() {
     return installed ? *installed : system;
 }
 
-void SetClock(Clock* clock) { installed = clock; }
+void SetClock(Clock* clock) {
+    installed = clock;
+}
 
 }  // namespace wm

@@ -8,9 +8,15 @@
 
 namespace wm {
 
-DisplaySettings DisplaySettings::LargeIcons() { return {1.0, 4, 3, 1.01, 1.01, {}}; }
-DisplaySettings DisplaySettings::MediumIcons() { return {0.75, 5, 3, 1.01, 1.01, {}}; }
-DisplaySettings DisplaySettings::SmallIcons() { return {0.5, 6, 5, 1.1, 1.2, {}}; }
+DisplaySettings DisplaySettings::LargeIcons() {
+    return {1.0, 4, 3, 1.01, 1.01, {}};
+}
+DisplaySettings DisplaySettings::MediumIcons() {
+    return {0.75, 5, 3, 1.01, 1.01, {}};
+}
+DisplaySettings DisplaySettings::SmallIcons() {
+    return {0.5, 6, 5, 1.1, 1.2, {}};
+}
 
 bool DisplaySettings::isHidden(const std::string& game) const {
     return std::find(hidden.begin(), hidden.end(), game) != hidden.end();
@@ -54,8 +60,8 @@ DisplaySettings ReadDisplaySettings(const std::string& path) {
 }
 
 void WriteDisplaySettings(const std::string& path, const DisplaySettings& s) {
-    std::vector<std::string> lines = {"*****",          NumText(s.scale),  NumText(s.columns),
-                                      NumText(s.rows),  NumText(s.hspace), NumText(s.vspace),
+    std::vector<std::string> lines = {"*****",         NumText(s.scale),  NumText(s.columns),
+                                      NumText(s.rows), NumText(s.hspace), NumText(s.vspace),
                                       "*****"};
     lines.insert(lines.end(), s.hidden.begin(), s.hidden.end());
     WriteLinesAtomic(path, lines);

@@ -134,8 +134,8 @@ void AppendLinesAtomic(const std::string& path, const std::vector<std::string>& 
 
 void RenameFile(const std::string& from, const std::string& to) {
     if (::rename(from.c_str(), to.c_str()) != 0) {
-        throw FileError(from, "The file " + from + " cannot be renamed to " + to + ": " +
-                                  std::strerror(errno));
+        throw FileError(
+            from, "The file " + from + " cannot be renamed to " + to + ": " + std::strerror(errno));
     }
 }
 

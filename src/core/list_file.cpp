@@ -15,7 +15,9 @@ std::string PlainName(const std::string& line) {
     return line;
 }
 
-std::vector<std::string> ReadAllLines(const std::string& path) { return ReadLines(path); }
+std::vector<std::string> ReadAllLines(const std::string& path) {
+    return ReadLines(path);
+}
 
 void WriteAllLines(const std::string& path, const std::vector<std::string>& lines) {
     WriteLinesAtomic(path, lines);

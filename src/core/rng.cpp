@@ -4,7 +4,9 @@
 
 namespace wm {
 
-SystemRng::SystemRng() { Randomize(); }
+SystemRng::SystemRng() {
+    Randomize();
+}
 
 double SystemRng::Rnd() {
     // 53 random bits give a double in [0, 1) that never reaches 1.
@@ -33,6 +35,8 @@ Rng& TheRng() {
     return installed ? *installed : system;
 }
 
-void SetRng(Rng* rng) { installed = rng; }
+void SetRng(Rng* rng) {
+    installed = rng;
+}
 
 }  // namespace wm

@@ -31,9 +31,15 @@ ScoreTable ScoreTable::Fresh() {
     return t;
 }
 
-std::string ScoreTable::initials(int rank) const { return Trim(Initials.at(rank)); }
-double ScoreTable::score(int rank) const { return Val(Scores.at(rank)); }
-std::string ScoreTable::scoreText(int rank) const { return Trim(Scores.at(rank)); }
+std::string ScoreTable::initials(int rank) const {
+    return Trim(Initials.at(rank));
+}
+double ScoreTable::score(int rank) const {
+    return Val(Scores.at(rank));
+}
+std::string ScoreTable::scoreText(int rank) const {
+    return Trim(Scores.at(rank));
+}
 
 std::string ScoreTable::toBytes() const {
     std::string out;

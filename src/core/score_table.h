@@ -14,10 +14,10 @@ struct ScoreTable {
     std::array<std::string, kRanks + 1> Initials;
     std::array<std::string, kRanks + 1> Scores;
 
-    static ScoreTable Fresh();  // "---" and "0" in ranks 1 to 50
-    std::string initials(int rank) const;  // trimmed
-    double score(int rank) const;          // the number the text holds
-    std::string scoreText(int rank) const; // trimmed
+    static ScoreTable Fresh();              // "---" and "0" in ranks 1 to 50
+    std::string initials(int rank) const;   // trimmed
+    double score(int rank) const;           // the number the text holds
+    std::string scoreText(int rank) const;  // trimmed
 
     std::string toBytes() const;
     // A record of the wrong size is read as far as it goes; the rest stays fresh.

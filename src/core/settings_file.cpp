@@ -22,7 +22,9 @@ void FirstRunRenames(const std::string& appPath) {
     if (!FileExists(lists) && FileExists(listsFactory)) RenameFile(listsFactory, lists);
 }
 
-bool Settings::soundOn() const { return lines.size() > kSoundLine && lines[kSoundLine] == "Sound On"; }
+bool Settings::soundOn() const {
+    return lines.size() > kSoundLine && lines[kSoundLine] == "Sound On";
+}
 
 std::string Settings::password() const {
     return lines.size() > kPasswordLine ? lines[kPasswordLine] : std::string();

@@ -15,8 +15,14 @@ inline constexpr const char* kListFactoryName = "thelists.new";
 inline constexpr const char* kListBackupName = "thelists.bak";
 inline constexpr const char* kFolderFileName = "folders.dat";
 
-enum SettingsLine { kReserved0 = 0, kReserved1 = 1, kSoundLine = 2, kPasswordLine = 3,
-                    kListPathLine = 4, kFolderPathLine = 5 };
+enum SettingsLine {
+    kReserved0 = 0,
+    kReserved1 = 1,
+    kSoundLine = 2,
+    kPasswordLine = 3,
+    kListPathLine = 4,
+    kFolderPathLine = 5
+};
 
 // First run: the delivered .new files take the live names when those are missing.
 // A live file is never overwritten. Throws FileError naming the folder when neither

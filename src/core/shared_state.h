@@ -19,7 +19,7 @@ struct SharedState {
     // Our own: the folder that holds the program and its files.
     std::string AppPath;
 
-    std::vector<std::string> GameNames;     // 1-based, room for 200
+    std::vector<std::string> GameNames;  // 1-based, room for 200
     int GameCount = 0;
     std::vector<std::string> VisibleGames;  // 1-based, room for 200
     int VisibleGameCount = 0;

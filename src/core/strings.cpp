@@ -13,11 +13,16 @@ unsigned char upper(unsigned char c) {
     if (c >= 'a' && c <= 'z') return c - 32;
     if (c >= 0xE0 && c <= 0xFE && c != 0xF7) return c - 32;
     switch (c) {
-        case 0x9A: return 0x8A;  // š
-        case 0x9C: return 0x8C;  // œ
-        case 0x9E: return 0x8E;  // ž
-        case 0xFF: return 0x9F;  // ÿ
-        default: return c;
+        case 0x9A:
+            return 0x8A;  // š
+        case 0x9C:
+            return 0x8C;  // œ
+        case 0x9E:
+            return 0x8E;  // ž
+        case 0xFF:
+            return 0x9F;  // ÿ
+        default:
+            return c;
     }
 }
 
@@ -25,19 +30,28 @@ unsigned char lower(unsigned char c) {
     if (c >= 'A' && c <= 'Z') return c + 32;
     if (c >= 0xC0 && c <= 0xDE && c != 0xD7) return c + 32;
     switch (c) {
-        case 0x8A: return 0x9A;
-        case 0x8C: return 0x9C;
-        case 0x8E: return 0x9E;
-        case 0x9F: return 0xFF;
-        default: return c;
+        case 0x8A:
+            return 0x9A;
+        case 0x8C:
+            return 0x9C;
+        case 0x8E:
+            return 0x9E;
+        case 0x9F:
+            return 0xFF;
+        default:
+            return c;
     }
 }
 
 }  // namespace
 
-long long Int(double x) { return static_cast<long long>(std::floor(x)); }
+long long Int(double x) {
+    return static_cast<long long>(std::floor(x));
+}
 
-int Len(std::string_view s) { return static_cast<int>(s.size()); }
+int Len(std::string_view s) {
+    return static_cast<int>(s.size());
+}
 
 std::string Mid(std::string_view s, int start, int length) {
     if (start < 1) start = 1;
@@ -82,9 +96,13 @@ std::string RTrim(std::string_view s) {
     return std::string(s.substr(0, n));
 }
 
-std::string Trim(std::string_view s) { return LTrim(RTrim(s)); }
+std::string Trim(std::string_view s) {
+    return LTrim(RTrim(s));
+}
 
-std::string Chr(int code) { return std::string(1, static_cast<char>(code & 0xFF)); }
+std::string Chr(int code) {
+    return std::string(1, static_cast<char>(code & 0xFF));
+}
 
 int InStr(std::string_view haystack, std::string_view needle, int start) {
     if (start < 1) start = 1;
@@ -138,7 +156,9 @@ std::string CountText(double x) {
     return s;
 }
 
-std::string StrText(double x) { return x >= 0 ? " " + CountText(x) : CountText(x); }
+std::string StrText(double x) {
+    return x >= 0 ? " " + CountText(x) : CountText(x);
+}
 
 long CLng(double x) {
     double r = std::nearbyint(x);  // the default rounding mode rounds half to even

@@ -4,6 +4,8 @@
 
 namespace wm {
 
-void RegisterGameScreens() { RegisterScrambleScreen(); }
+void RegisterGameScreens() {
+    RegisterScrambleScreen();
+}
 
 }  // namespace wm

@@ -1,13 +1,13 @@
 #include "platform/dialogs.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QFileDialog>
 #include <QFontMetrics>
+#include <QHBoxLayout>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QDialog>
-#include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
 

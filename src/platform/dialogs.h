@@ -59,8 +59,8 @@ public:
         inputAnswers.push_back(std::move(text));
         return *this;
     }
-    QStringList texts() const;     // every text shown, in order
-    QString last() const;          // the last text shown, or ""
+    QStringList texts() const;            // every text shown, in order
+    QString last() const;                 // the last text shown, or ""
     bool saw(const QString& text) const;  // shown with exactly this text
 
     std::deque<bool> yesNoAnswers;

@@ -2,8 +2,8 @@
 // closed by the game screens. Rendered by FluidSynth and played through Qt's audio output.
 #pragma once
 
-#include <QString>
 #include <QByteArray>
+#include <QString>
 
 namespace wm {
 
@@ -60,7 +60,8 @@ QString DefaultSoundFont();
 
 // The shared background-music helper of the game screens: opens and plays the tune when the
 // game's sound is on and the alias is not open yet, and keeps BgmOpen in step.
-void StartBackgroundMusic(const QString& tuneName);  // tuneName: a file in sounds/, e.g. "scramble.mid"
+void StartBackgroundMusic(
+    const QString& tuneName);  // tuneName: a file in sounds/, e.g. "scramble.mid"
 void StopBackgroundMusic();
 
 }  // namespace wm

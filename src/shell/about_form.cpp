@@ -20,7 +20,8 @@ AboutForm::AboutForm(QWidget* parent) : QDialog(parent) {
     if (!title.isNull()) {
         // The title art sits in the top third of the picture.
         QPixmap art = title.copy(0, 0, title.width(), title.height() / 3);
-        logo->setPixmap(art.scaledToWidth(ScreenFont(10).pointSize() * 36, Qt::SmoothTransformation));
+        logo->setPixmap(
+            art.scaledToWidth(ScreenFont(10).pointSize() * 36, Qt::SmoothTransformation));
         logo->setAlignment(Qt::AlignCenter);
         layout->addWidget(logo);
     }

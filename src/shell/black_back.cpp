@@ -3,8 +3,8 @@
 #include <QPainter>
 
 #include "platform/movie.h"
-#include "platform/sound.h"
 #include "platform/services.h"
+#include "platform/sound.h"
 #include "shell/screens.h"
 
 namespace wm {
@@ -35,15 +35,19 @@ void BlackBack::skip() {
     sound().stopAll();
 }
 
-void BlackBack::keyPressEvent(QKeyEvent*) { skip(); }
-void BlackBack::mousePressEvent(QMouseEvent*) { skip(); }
+void BlackBack::keyPressEvent(QKeyEvent*) {
+    skip();
+}
+void BlackBack::mousePressEvent(QMouseEvent*) {
+    skip();
+}
 
 void BlackBack::resizeEvent(QResizeEvent*) {
     // The scene keeps its shape, as large as the screen allows, centred.
     QSize natural(640, 480);
     QSize size = natural.scaled(width() * 9 / 10, height() * 9 / 10, Qt::KeepAspectRatio);
-    movie_->setGeometry((width() - size.width()) / 2, (height() - size.height()) / 2,
-                        size.width(), size.height());
+    movie_->setGeometry((width() - size.width()) / 2, (height() - size.height()) / 2, size.width(),
+                        size.height());
 }
 
 void BlackBack::paintEvent(QPaintEvent*) {

@@ -177,7 +177,8 @@ void ChooseList::opening() {
     SharedState& s = Shared();
     s.CurrentListName.clear();
     filling_ = true;
-    for (const auto& c : CategoryNames(ReadCategoryLines(s.FolderFilePath))) Combo1->addItem(toQ(c));
+    for (const auto& c : CategoryNames(ReadCategoryLines(s.FolderFilePath)))
+        Combo1->addItem(toQ(c));
     filling_ = false;
     fillLists();
     Label3->hide();
@@ -204,7 +205,9 @@ void ChooseList::fillLists() {
     TheLists->clear();
     const bool all = Combo1->currentIndex() <= 0;
     std::vector<std::string> folderList;
-    if (!all) folderList = CollectLists(ReadCategoryLines(s.FolderFilePath), fromQ(Combo1->currentText()));
+    if (!all)
+        folderList =
+            CollectLists(ReadCategoryLines(s.FolderFilePath), fromQ(Combo1->currentText()));
     std::vector<std::string> lines;
     try {
         lines = ReadAllLines(s.ListFilePath);
@@ -220,7 +223,9 @@ void ChooseList::fillLists() {
     Command1->setEnabled(TheLists->currentRow() >= 0);
 }
 
-void ChooseList::goBack() { OpenScreen("Title", this); }
+void ChooseList::goBack() {
+    OpenScreen("Title", this);
+}
 
 void ChooseList::keyPressEvent(QKeyEvent* e) {
     if (e->key() == Qt::Key_Escape) {
@@ -286,7 +291,8 @@ bool ChooseList::applyEligibility(const GameCard& card) {
             if (!row.keepOption) s.GameOptionOn = kFalse;
         };
         switch (row.wordsOnly) {
-            case WordsOnlyRule::Allowed: break;
+            case WordsOnlyRule::Allowed:
+                break;
             case WordsOnlyRule::Refuse:
                 dialogs().message(toQ(row.wordsOnlyText));
                 return false;
@@ -296,7 +302,9 @@ bool ChooseList::applyEligibility(const GameCard& card) {
                     return false;
                 }
                 break;
-            case WordsOnlyRule::Warn: warn(); break;
+            case WordsOnlyRule::Warn:
+                warn();
+                break;
             case WordsOnlyRule::WarnIfOption:
                 if (optionOn) warn();
                 break;

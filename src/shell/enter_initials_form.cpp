@@ -19,8 +19,9 @@ constexpr int kRangeTwips = 200;
 }  // namespace
 
 QString EnterInitialsForm::Congratulations(int rank, const QString& score) {
-    return QString("Congratulations! You have placed number %1 in the high score records with a "
-                   "score of %2! Type your initials to save your record...")
+    return QString(
+               "Congratulations! You have placed number %1 in the high score records with a "
+               "score of %2! Type your initials to save your record...")
         .arg(rank)
         .arg(score);
 }
@@ -29,8 +30,9 @@ EnterInitialsForm::EnterInitialsForm(QWidget* parent) : QDialog(parent) {
     setObjectName("EnterInitialsForm");
     setWindowTitle("New High Score!");
     setModal(true);
-    setStyleSheet("QDialog { background: qlineargradient(x1:0, y1:0, x2:0, y2:1,"
-                  " stop:0 #fff7d6, stop:1 #ffe08a); }");
+    setStyleSheet(
+        "QDialog { background: qlineargradient(x1:0, y1:0, x2:0, y2:1,"
+        " stop:0 #fff7d6, stop:1 #ffe08a); }");
     SharedState& s = Shared();
 
     auto* layout = new QVBoxLayout(this);
@@ -57,8 +59,9 @@ EnterInitialsForm::EnterInitialsForm(QWidget* parent) : QDialog(parent) {
         e->setAlignment(Qt::AlignCenter);
         e->setFont(ScreenFont(34, true));
         e->setFixedSize(box, box);
-        e->setStyleSheet("QLineEdit { background: #ffd94a; color: #1d1d1d; border: 3px solid "
-                         "#b88a00; border-radius: 12px; }");
+        e->setStyleSheet(
+            "QLineEdit { background: #ffd94a; color: #1d1d1d; border: 3px solid "
+            "#b88a00; border-radius: 12px; }");
         const std::string preset = Mid(s.LastInitials, i + 1, 1);
         e->setText(preset.empty() ? QString("-") : toQ(UCase(preset)));
         e->installEventFilter(this);

@@ -19,7 +19,8 @@ constexpr int kCells = 90;
 constexpr int kFirstCode = 191;
 constexpr int kLastCode = 255;
 constexpr int kColumns = 15;
-const char* kCellStyle = "QLabel { background: white; border: 2px solid #c9d6e6; border-radius: 6px; }";
+const char* kCellStyle =
+    "QLabel { background: white; border: 2px solid #c9d6e6; border-radius: 6px; }";
 const char* kPickedStyle =
     "QLabel { background: #fff3b0; border: 3px solid #e0a800; border-radius: 6px; }";
 }  // namespace

@@ -32,7 +32,9 @@ int RunModal(QDialog& dialog) {
     return dialog.exec();
 }
 
-void SetModalHook(std::function<void(QDialog&)> hook) { modalHook() = std::move(hook); }
+void SetModalHook(std::function<void(QDialog&)> hook) {
+    modalHook() = std::move(hook);
+}
 
 QMenuBar* MakeGameMenu(QWidget* game, const GameMenuNames& names, std::function<void()> restart,
                        std::function<void(const QString&)> foreign) {
@@ -65,7 +67,9 @@ QMenuBar* MakeGameMenu(QWidget* game, const GameMenuNames& names, std::function<
     return bar;
 }
 
-void ShowHowToPlay() { dialogs().message(toQ(Shared().HowToText), "How To Play"); }
+void ShowHowToPlay() {
+    dialogs().message(toQ(Shared().HowToText), "How To Play");
+}
 
 void ShowHighScores(QWidget* parent) {
     HighScoreForm form(parent);
@@ -111,18 +115,18 @@ AfterWin HighScoreHandoff(QWidget* game, bool smallestFirst) {
     const std::string text = NumText(s.Score);
     const int rank = PlaceHighScore(game, text, smallestFirst);
     if (rank > 0) {
-        if (!dialogs().yesNo("You got a high score of " + toQ(text) +
-                                 "! Would you like to try again?",
-                             "Great job!"))
+        if (!dialogs().yesNo(
+                "You got a high score of " + toQ(text) + "! Would you like to try again?",
+                "Great job!"))
             return AfterWin::Title;
         if (s.Difficulty < s.MaxDifficulty &&
             dialogs().yesNo("Would you like to raise the difficulty level a bit?", "Great job!"))
             s.Difficulty += 1;
         return AfterWin::NewGame;
     }
-    if (!dialogs().yesNo("Congratulations! You scored " + toQ(text) +
-                             "! Would you like to try again?",
-                         "Great job!"))
+    if (!dialogs().yesNo(
+            "Congratulations! You scored " + toQ(text) + "! Would you like to try again?",
+            "Great job!"))
         return AfterWin::Title;
     return AfterWin::NewGame;
 }

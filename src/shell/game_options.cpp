@@ -180,9 +180,9 @@ GameOptions::GameOptions(QWidget* parent) : Backdrop("images/wm-back.jpg", paren
 
 void GameOptions::leaveFor(const QString& screen) {
     if (!OpenScreen(screen, this)) {
-        dialogs().message(toQ(Shared().CurrentGame) +
-                              " is not available yet. Please choose another game.",
-                          "Wordmere");
+        dialogs().message(
+            toQ(Shared().CurrentGame) + " is not available yet. Please choose another game.",
+            "Wordmere");
     }
 }
 
@@ -193,8 +193,8 @@ void GameOptions::continueOn() {
     s.GameOptionOn = Option2->isChecked() ? kTrue : kFalse;
     s.SoundOn = SoundONOp->isChecked() ? kTrue : kFalse;
     const std::string g = LCase(s.CurrentGame);
-    if (card_ && (g == "crossword" || g == "blind tiles" || g == "word maze" ||
-                  g == "breakthru" || g == "jailbreak")) {
+    if (card_ && (g == "crossword" || g == "blind tiles" || g == "word maze" || g == "breakthru" ||
+                  g == "jailbreak")) {
         leaveFor(GameScreenOf(*card_));
         return;
     }

@@ -107,9 +107,8 @@ void HighScoreForm::showGame(const QString& game) {
 }
 
 QString HighScoreForm::tableText() const {
-    return right_->isVisible() || !right_->text().isEmpty()
-               ? left_->text() + "\n" + right_->text()
-               : left_->text();
+    return right_->isVisible() || !right_->text().isEmpty() ? left_->text() + "\n" + right_->text()
+                                                            : left_->text();
 }
 
 void HighScoreForm::nextGame() {

@@ -25,8 +25,10 @@ LangChoose::LangChoose(const std::string& code, QWidget* parent) : QDialog(paren
     auto* label = MakeHeading("How do you want to play this word list?", this, 16);
     label->setObjectName("Label1");
     layout->addWidget(label);
-    Option1 = new QRadioButton(lang ? toQ(lang->first) : QString("English words, foreign meanings"), this);
-    Option2 = new QRadioButton(lang ? toQ(lang->second) : QString("Foreign words, English meanings"), this);
+    Option1 = new QRadioButton(lang ? toQ(lang->first) : QString("English words, foreign meanings"),
+                               this);
+    Option2 = new QRadioButton(
+        lang ? toQ(lang->second) : QString("Foreign words, English meanings"), this);
     Option1->setObjectName("Option1");
     Option2->setObjectName("Option2");
     for (auto* o : {Option1, Option2}) {
@@ -41,7 +43,9 @@ LangChoose::LangChoose(const std::string& code, QWidget* parent) : QDialog(paren
     layout->addWidget(ok, 0, Qt::AlignCenter);
 }
 
-std::string LangChoose::choice() const { return Option1->isChecked() ? "E" : code_; }
+std::string LangChoose::choice() const {
+    return Option1->isChecked() ? "E" : code_;
+}
 
 std::string LangChoose::Ask(const std::string& code, QWidget* parent) {
     LangChoose box(code, parent);

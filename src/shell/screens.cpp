@@ -20,14 +20,15 @@ void RegisterScreen(const QString& name, ScreenFactory factory) {
     registry().insert(name.toLower(), std::move(factory));
 }
 
-bool HasScreen(const QString& name) { return registry().contains(name.toLower()); }
+bool HasScreen(const QString& name) {
+    return registry().contains(name.toLower());
+}
 
 void PresentScreen(QWidget* screen) {
     screen->setAttribute(Qt::WA_DeleteOnClose);
     const QSize size = ScreenMetrics::screenSize();
     screen->resize(size);
-    if (qEnvironmentVariableIntValue("WM_WINDOWED") == 1 ||
-        QGuiApplication::platformName() == QLatin1String("offscreen")) {
+    if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
         screen->show();
     } else {
         screen->showFullScreen();
@@ -48,6 +49,8 @@ QWidget* OpenScreen(const QString& name, QWidget* from) {
     return next;
 }
 
-QWidget* CurrentScreen() { return current.data(); }
+QWidget* CurrentScreen() {
+    return current.data();
+}
 
 }  // namespace wm

@@ -14,7 +14,7 @@ bool HasScreen(const QString& name);
 // Makes the named screen, shows it filling the screen, and closes `from`. nullptr when there
 // is no such screen (nothing is closed then).
 QWidget* OpenScreen(const QString& name, QWidget* from = nullptr);
-// Shows a screen filling the display (a window of the display's size with WM_WINDOWED=1).
+// Shows a screen filling the display.
 void PresentScreen(QWidget* screen);
 // The screen shown last, for tests.
 QWidget* CurrentScreen();

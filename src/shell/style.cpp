@@ -152,7 +152,8 @@ QPushButton* MakeButton(const QString& text, QWidget* parent, bool primary) {
                             stop:0 %1, stop:1 %1); }
         QPushButton:pressed { background: %2; }
         QPushButton:disabled { background: #b8c2cc; color: #eef2f6; }
-    )").arg(top, bottom));
+    )")
+                         .arg(top, bottom));
     return b;
 }
 

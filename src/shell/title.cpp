@@ -77,8 +77,8 @@ Title::Title(QWidget* parent) : Backdrop("images/wm-title.jpg", parent) {
     Toolbar1->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     Toolbar1->setFont(ScreenFont(11, true));
     auto* st = style();
-    auto* teacher = Toolbar1->addAction(st->standardIcon(QStyle::SP_DialogSaveButton),
-                                        "Teacher Management");
+    auto* teacher =
+        Toolbar1->addAction(st->standardIcon(QStyle::SP_DialogSaveButton), "Teacher Management");
     teacher->setEnabled(false);  // the teacher's screens are not part of this build yet
     Toolbar1->addAction(st->standardIcon(QStyle::SP_FileDialogDetailedView), "High Scores", this,
                         &Title::openHighScores);
@@ -209,15 +209,16 @@ void Title::pick(int slot) {
     Shared().CurrentGame = fromQ(game);
     const QString next = TitleRoute(game);
     if (!HasScreen(next)) {
-        dialogs().message(game + " is not available yet. Please choose another game.",
-                          "Wordmere");
+        dialogs().message(game + " is not available yet. Please choose another game.", "Wordmere");
         return;
     }
     leavingForGame_ = true;
     OpenScreen(next, this);
 }
 
-void Title::resizeEvent(QResizeEvent*) { layoutGrid(); }
+void Title::resizeEvent(QResizeEvent*) {
+    layoutGrid();
+}
 
 void Title::closeEvent(QCloseEvent* e) {
     e->accept();

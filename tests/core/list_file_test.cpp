@@ -24,8 +24,17 @@ struct ListFileTest : ::testing::Test {
     }
 };
 
-const Lines kTwoLists = {"Animals", "cat", "a pet that purrs", "dog", "a pet that barks",
-                         "<New List>", "[S]Colours", "red", "rojo", "green", "verde"};
+const Lines kTwoLists = {"Animals",
+                         "cat",
+                         "a pet that purrs",
+                         "dog",
+                         "a pet that barks",
+                         "<New List>",
+                         "[S]Colours",
+                         "red",
+                         "rojo",
+                         "green",
+                         "verde"};
 
 }  // namespace
 
@@ -67,7 +76,11 @@ TEST_F(ListFileTest, ForeignListPlayedTheOtherWaySwapsColumns) {
     dir.writeLines("thelists.dat", kTwoLists);
     std::string askedFor;
     load("Colours", {{"S", "Colours"}},
-         {[&](const std::string& code) { askedFor = code; return code; }, {}});
+         {[&](const std::string& code) {
+              askedFor = code;
+              return code;
+          },
+          {}});
     EXPECT_EQ(askedFor, "S");
     EXPECT_EQ(state.Words[1], "rojo");
     EXPECT_EQ(state.Meanings[2], "green");
@@ -81,8 +94,8 @@ TEST_F(ListFileTest, WordsOnlyIsDecidedByTheFirstDefinition) {
 }
 
 TEST_F(ListFileTest, BlankPairsAreOverwrittenByTheNext) {
-    dir.writeLines("thelists.dat", {"L", "a", "alpha", "b", "  ", "c", "gamma", "<New List>",
-                                    "M", "x", "y"});
+    dir.writeLines("thelists.dat",
+                   {"L", "a", "alpha", "b", "  ", "c", "gamma", "<New List>", "M", "x", "y"});
     load("L");
     EXPECT_EQ(state.WordCount, 2);
     EXPECT_EQ(state.Words[2], "c");

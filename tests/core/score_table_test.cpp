@@ -49,8 +49,8 @@ TEST(ScoreTable, RankSearchHighestFirst) {
     ScoreTable t = tableOf({{"A", "900"}, {"B", "500"}, {"C", "100"}});
     EXPECT_EQ(FindRank(t, 1000), 1);
     EXPECT_EQ(FindRank(t, 600), 2);
-    EXPECT_EQ(FindRank(t, 500), 3);  // a tie does not pass
-    EXPECT_EQ(FindRank(t, 50), 4);   // first free rank
+    EXPECT_EQ(FindRank(t, 500), 3);                  // a tie does not pass
+    EXPECT_EQ(FindRank(t, 50), 4);                   // first free rank
     EXPECT_EQ(FindRank(ScoreTable::Fresh(), 0), 1);  // a score of 0 still takes a free rank
     ScoreTable full = ScoreTable::Fresh();
     for (int r = 1; r <= kRanks; ++r) full.Scores[r] = "5000   ";

@@ -9,8 +9,8 @@ using namespace wm;
 using wm::test::TempFolder;
 
 namespace {
-const std::vector<std::string> kFactory = {"r0", "r1", "Sound On", "mapleton", "listpath",
-                                           "folderpath"};
+const std::vector<std::string> kFactory = {"r0",       "r1",       "Sound On",
+                                           "mapleton", "listpath", "folderpath"};
 }
 
 TEST(Settings, FirstRunRenamesOnlyWhenTheLiveFileIsMissing) {

@@ -25,10 +25,13 @@ TEST(Strings, MidLeftRightAreOneBasedAndSafe) {
 }
 
 TEST(Strings, CaseCoversWindows1252Letters) {
-    EXPECT_EQ(UCase("ma\xF1" "ana"), "MA\xD1" "ANA");  // mañana
-    EXPECT_EQ(LCase("\xC9T\xC9"), "\xE9t\xE9");           // ÉTÉ
-    EXPECT_EQ(UCase("\xF7\xDF"), "\xF7\xDF");             // division sign and sharp s stay
-    EXPECT_EQ(LCase("\xD7"), "\xD7");                     // multiplication sign stays
+    EXPECT_EQ(UCase("ma\xF1"
+                    "ana"),
+              "MA\xD1"
+              "ANA");                            // mañana
+    EXPECT_EQ(LCase("\xC9T\xC9"), "\xE9t\xE9");  // ÉTÉ
+    EXPECT_EQ(UCase("\xF7\xDF"), "\xF7\xDF");    // division sign and sharp s stay
+    EXPECT_EQ(LCase("\xD7"), "\xD7");            // multiplication sign stays
     EXPECT_EQ(UCase("\x9A\x9C\x9E\xFF"), "\x8A\x8C\x8E\x9F");
     for (int c = 192; c <= 255; ++c) {
         std::string s = Chr(c);

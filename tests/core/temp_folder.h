@@ -39,9 +39,7 @@ public:
         s << in.rdbuf();
         return s.str();
     }
-    bool exists(const std::string& name) const {
-        return std::filesystem::exists(path_ / name);
-    }
+    bool exists(const std::string& name) const { return std::filesystem::exists(path_ / name); }
 
 private:
     std::filesystem::path path_;

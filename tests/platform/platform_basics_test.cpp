@@ -3,9 +3,8 @@
 #include <QDialogButtonBox>
 #include <QElapsedTimer>
 #include <QInputDialog>
-#include <QLineEdit>
 #include <QLabel>
-#include <QPushButton>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>

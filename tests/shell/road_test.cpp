@@ -68,8 +68,8 @@ private slots:
 
 void RoadTest::summaryCountsHalfWordsAndLabels() {
     const std::vector<std::string> lines = {
-        "Animals", "cat", "a pet", "dog", "", "<New List>", "[S]Colours", "red", "rojo",
-        "<New List>", "Spelling", "rhythm", "-----"};
+        "Animals", "cat",  "a pet",      "dog",      "",       "<New List>", "[S]Colours",
+        "red",     "rojo", "<New List>", "Spelling", "rhythm", "-----"};
     ListSummary all = SummariseLists(lines, true, {});
     // A blank definition leaves its word as half a word.
     QCOMPARE(all.lines, (QStringList{"Animals (1.5 words)", "Colours (1 words)",
@@ -92,8 +92,8 @@ void RoadTest::wholeRoadThroughScramble() {
     ShellFixture fx;
     FixedClock clock(0.5);
     SetClock(&clock);
-    fx.writeLines("folders.dat", {"^Science", "Earth and Space", "Weather and Climate",
-                                  "^Words", "Tricky Spelling Words"});
+    fx.writeLines("folders.dat", {"^Science", "Earth and Space", "Weather and Climate", "^Words",
+                                  "Tricky Spelling Words"});
     auto* title = qobject_cast<Title*>(OpenScreen("Title"));
     QVERIFY(title);
     Shot(title, "title");
@@ -138,7 +138,10 @@ void RoadTest::wholeRoadThroughScramble() {
     QString tiles;
     for (auto* l : game->letters())
         if (l->isVisible()) tiles += l->text();
-    auto sorted = [](QString t) { std::sort(t.begin(), t.end()); return t; };
+    auto sorted = [](QString t) {
+        std::sort(t.begin(), t.end());
+        return t;
+    };
     QCOMPARE(sorted(tiles.toLower()), sorted(word.toLower()));
     Shot(game, "scramble-scatter");
 
@@ -194,7 +197,7 @@ void RoadTest::threeWinsDisplaceInTheFile() {
         fx.rng.pick(1, 1).pick(1, 3).pick(2, 3).pick(3, 3).then((base - 100 + 0.5) / 500.0);
     };
     script(200);  // 200 x 3 - 5 = 595
-    WinDriver driver{{"AAA", "BBB", "CCC"}};
+    WinDriver driver{{"AAA", "BBB", "ass"}};
     SetModalHook(std::ref(driver));
     fx.dialogs.answerYes(true).answerYes(false).answerYes(true).answerYes(false);
     QTest::mouseClick(chooser->findChild<QPushButton*>("Command1"), Qt::LeftButton);
@@ -213,15 +216,16 @@ void RoadTest::threeWinsDisplaceInTheFile() {
     QCOMPARE(Shared().Difficulty, 1);  // the raise was declined twice
 
     const ScoreTable t = ReadScoreTable(fx.path("scores/Scramble.dat").toStdString());
-    const QStringList got = {
-        QString::fromStdString(t.initials(1) + " " + t.scoreText(1)),
-        QString::fromStdString(t.initials(2) + " " + t.scoreText(2)),
-        QString::fromStdString(t.initials(3) + " " + t.scoreText(3)),
-        QString::fromStdString(t.initials(4) + " " + t.scoreText(4)),
-        QString::fromStdString(t.initials(5) + " " + t.scoreText(5))};
+    const QStringList got = {QString::fromStdString(t.initials(1) + " " + t.scoreText(1)),
+                             QString::fromStdString(t.initials(2) + " " + t.scoreText(2)),
+                             QString::fromStdString(t.initials(3) + " " + t.scoreText(3)),
+                             QString::fromStdString(t.initials(4) + " " + t.scoreText(4)),
+                             QString::fromStdString(t.initials(5) + " " + t.scoreText(5))};
     // 595 takes rank 2 and loses TWO; 895 takes rank 2 and loses ONE; 745 takes rank 3 and
     // loses THR, while rank 5 is still untouched.
-    QCOMPARE(got, (QStringList{"PRE 1000", "BBB 895", "CCC 745", "AAA 595", "--- 0"}));
+    // Rude initials are stored as "WIN", while LastInitials keeps what was typed.
+    QCOMPARE(got, (QStringList{"PRE 1000", "BBB 895", "WIN 745", "AAA 595", "--- 0"}));
+    QCOMPARE(QString::fromStdString(Shared().LastInitials), "ass");
     SetClock(nullptr);
 }
 
@@ -235,32 +239,50 @@ void RoadTest::wordsOnlyAndShortListsAreRefusedOrWarned_data() {
     QTest::addColumn<QString>("opens");
     const QString spelling = "Tricky Spelling Words";
     const QString notYet = " is not available yet. Please choose another game.";
-    QTest::newRow("pachinko words-only") << "Pachinko" << spelling << 5 << true
-        << "The list you have selected contains words only, with no definitions, and cannot be used for this game. Please choose another game or another list."
+    QTest::newRow("pachinko words-only")
+        << "Pachinko" << spelling << 5 << true
+        << "The list you have selected contains words only, with no definitions, and cannot be "
+           "used for this game. Please choose another game or another list."
         << true << "";
-    QTest::newRow("basketball words-only") << "Basketball" << spelling << 6 << true
-        << "The list you have selected contains words only, with no definitions, and cannot be played with this game. Please choose another game or another list."
+    QTest::newRow("basketball words-only")
+        << "Basketball" << spelling << 6 << true
+        << "The list you have selected contains words only, with no definitions, and cannot be "
+           "played with this game. Please choose another game or another list."
         << true << "";
-    QTest::newRow("word zap with option") << "Word Zap" << spelling << 2 << true
-        << "The list you have selected contains words only, with no definitions, and cannot be used for this game. Please choose another game or another list."
+    QTest::newRow("word zap with option")
+        << "Word Zap" << spelling << 2 << true
+        << "The list you have selected contains words only, with no definitions, and cannot be "
+           "used for this game. Please choose another game or another list."
         << true << "";
-    QTest::newRow("word search warns") << "Word Search" << spelling << 5 << true
-        << "The list you have selected contains words only, with no definitions. The word clue will be the word and not the definition..."
+    QTest::newRow("word search warns")
+        << "Word Search" << spelling << 5 << true
+        << "The list you have selected contains words only, with no definitions. The word clue "
+           "will be the word and not the definition..."
         << false << "";
-    QTest::newRow("scramble warns and keeps") << "Scramble" << spelling << 1 << true
-        << "The list you have selected contains words only, with no definitions. The <hint> button will not be available during the game."
+    QTest::newRow("scramble warns and keeps")
+        << "Scramble" << spelling << 1 << true
+        << "The list you have selected contains words only, with no definitions. The <hint> button "
+           "will not be available during the game."
         << false << "Scramble";  // kept by the chooser, then inverted by the game as it loads
-    QTest::newRow("froggy too short") << "Froggy" << "Tiny" << 5 << true
-        << "You need a list with at least 4 words to play this game. Please choose another game or another list."
+    QTest::newRow("froggy too short") << "Froggy"
+                                      << "Tiny" << 5 << true
+                                      << "You need a list with at least 4 words to play this game. "
+                                         "Please choose another game or another list."
+                                      << true << "";
+    QTest::newRow("basketball too short")
+        << "Basketball"
+        << "Tiny" << 5 << true
+        << "There are not enough words in this vocabulary list to play this game! Please choose "
+           "another list or another game."
         << true << "";
-    QTest::newRow("basketball too short") << "Basketball" << "Tiny" << 5 << true
-        << "There are not enough words in this vocabulary list to play this game! Please choose another list or another game."
+    QTest::newRow("concentration below level")
+        << "Concentration"
+        << "Tiny" << 6 << true
+        << "There are not enough words in this vocabulary list to play this game at the level you "
+           "have chosen! Please choose another list or go back and lower the difficulty level."
         << true << "";
-    QTest::newRow("concentration below level") << "Concentration" << "Tiny" << 6 << true
-        << "There are not enough words in this vocabulary list to play this game at the level you have chosen! Please choose another list or go back and lower the difficulty level."
-        << true << "";
-    QTest::newRow("hang glider plays anything") << "Hang Glider" << spelling << 4 << true
-        << "Hang Glider" + notYet << true << "";
+    QTest::newRow("hang glider plays anything")
+        << "Hang Glider" << spelling << 4 << true << "Hang Glider" + notYet << true << "";
 }
 
 void RoadTest::wordsOnlyAndShortListsAreRefusedOrWarned() {

@@ -80,7 +80,9 @@ struct ShellFixture {
 };
 
 // Lets timers and posted events run for a while.
-inline void Pump(int ms = 30) { QTest::qWait(ms); }
+inline void Pump(int ms = 30) {
+    QTest::qWait(ms);
+}
 
 // The screen shown now, cast to what the test expects.
 template <class T>

@@ -1,12 +1,12 @@
 // The title screen: first start, pages, hidden games, the empty store and failures.
 #include <QtTest>
 
-#include "platform/movie.h"
-#include "shell/black_back.h"
 #include "core/display_file.h"
 #include "core/game_names.h"
 #include "core/line_file.h"
+#include "platform/movie.h"
 #include "shell/about_form.h"
+#include "shell/black_back.h"
 #include "shell/high_score_form.h"
 #include "shell/title.h"
 #include "shell_fixture.h"
@@ -38,7 +38,8 @@ void TitleTest::firstStartRenamesAndMakesFiles() {
     QVERIFY(fx.exists("thelists.dat") && !fx.exists("thelists.new"));
     QVERIFY(fx.exists("folders.dat"));
     for (auto name : kGameNames) {
-        const QString file = "scores/" + QString::fromLatin1(name.data(), int(name.size())) + ".dat";
+        const QString file =
+            "scores/" + QString::fromLatin1(name.data(), int(name.size())) + ".dat";
         QVERIFY2(fx.exists(file), qPrintable(file));
         QCOMPARE(fx.read(file).size(), 510);
     }
@@ -69,8 +70,8 @@ void TitleTest::pagesOfTwelve() {
         ++pages;
     }
     QCOMPARE(pages, 4);
-    QCOMPARE(visibleNames(), (QStringList{"Bomb Squad", "Bomb Squad 2", "Hang Glider",
-                                          "Slingshot", "Froggy", "Pachinko"}));
+    QCOMPARE(visibleNames(), (QStringList{"Bomb Squad", "Bomb Squad 2", "Hang Glider", "Slingshot",
+                                          "Froggy", "Pachinko"}));
     QVERIFY(title->backButton()->isVisible());
     // A click where a hidden button lies does nothing.
     const std::string before = Shared().CurrentGame;
@@ -170,7 +171,8 @@ void TitleTest::gridFitsEveryPresetAndScreen() {
         for (int j = i + 1; j < rects.size(); ++j) QVERIFY(!rects[i].intersects(rects[j]));
     }
     title->showBack();
-    Shot(title, QString("title-preset%1-%2x%3").arg(preset).arg(screen.width()).arg(screen.height()));
+    Shot(title,
+         QString("title-preset%1-%2x%3").arg(preset).arg(screen.width()).arg(screen.height()));
 }
 
 void TitleTest::splashSkipsToTitle() {

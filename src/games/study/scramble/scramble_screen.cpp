@@ -10,9 +10,9 @@
 #include "core/shared_state.h"
 #include "platform/dialogs.h"
 #include "platform/music.h"
+#include "platform/screen_metrics.h"
 #include "platform/services.h"
 #include "platform/sound.h"
-#include "platform/screen_metrics.h"
 #include "platform/text.h"
 #include "shell/fl_form.h"
 #include "shell/game_frame.h"
@@ -39,13 +39,15 @@ Scramble::Scramble(QWidget* parent) : Backdrop("images/scramble-back.jpg", paren
 
     GameMenuNames menu;
     menu.foreignKey = "scramble";
-    MakeGameMenu(this, menu, [this] { NewGame(); },
-                 [this](const QString& c) { FLForm::InsertAt(Guess, c); });
+    MakeGameMenu(
+        this, menu, [this] { NewGame(); },
+        [this](const QString& c) { FLForm::InsertAt(Guess, c); });
 
     heading_ = new QLabel("Unscramble the word!", this);
     heading_->setFont(ScreenFont(24, true));
-    heading_->setStyleSheet("color: white; background: rgba(20, 50, 90, 170); border-radius: 14px;"
-                            " padding: 6px 18px;");
+    heading_->setStyleSheet(
+        "color: white; background: rgba(20, 50, 90, 170); border-radius: 14px;"
+        " padding: 6px 18px;");
     heading_->setAlignment(Qt::AlignCenter);
 
     for (int i = 0; i < scramble::kMaxLetters; ++i) {
@@ -68,14 +70,16 @@ Scramble::Scramble(QWidget* parent) : Backdrop("images/scramble-back.jpg", paren
     Label4->setObjectName("Label4");
     for (auto* l : {Label5, Label4}) {
         l->setFont(ScreenFont(18, true));
-        l->setStyleSheet("color: white; background: rgba(20, 50, 90, 170); border-radius: 10px;"
-                         " padding: 4px 12px;");
+        l->setStyleSheet(
+            "color: white; background: rgba(20, 50, 90, 170); border-radius: 10px;"
+            " padding: 4px 12px;");
     }
     Label3 = new QLabel("Your Guess:", this);
     Label3->setObjectName("Label3");
     Label3->setFont(ScreenFont(18, true));
-    Label3->setStyleSheet("color: white; background: rgba(20, 50, 90, 170); border-radius: 10px;"
-                          " padding: 4px 12px;");
+    Label3->setStyleSheet(
+        "color: white; background: rgba(20, 50, 90, 170); border-radius: 10px;"
+        " padding: 4px 12px;");
     Guess = new QLineEdit(this);
     Guess->setObjectName("Guess");
     Guess->setFont(ScreenFont(22, true));
@@ -115,9 +119,13 @@ Scramble::Scramble(QWidget* parent) : Backdrop("images/scramble-back.jpg", paren
     QTimer::singleShot(0, this, &Scramble::NewGame);
 }
 
-Scramble::~Scramble() { StopBackgroundMusic(); }
+Scramble::~Scramble() {
+    StopBackgroundMusic();
+}
 
-double Scramble::unit() const { return kTileBoost * height() / 768.0 / 15.0; }
+double Scramble::unit() const {
+    return kTileBoost * height() / 768.0 / 15.0;
+}
 
 scramble::ScreenGeometry Scramble::geometry() const {
     const double u = unit();
