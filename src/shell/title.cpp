@@ -147,8 +147,12 @@ void Title::GetData() {
     try {
         LineReader in = LineReader::open(s.ListFilePath);
         first = std::string(in.next());
-    } catch (const FileError&) {
-        // A missing list file is an empty store here; the chooser names the file if asked.
+    } catch (const FileError& e) {
+        // A list file on a drive that is gone: say which file, then carry on without lists.
+        dialogs().message(toQ(e.what()) + "\nAsk your teacher to check the vocabulary list file.",
+                          "Vocabulary lists");
+        noLists_->show();
+        return;
     }
     if (first == kNoLists || first.empty()) {
         dialogs().message("There are no vocabulary lists available to play with!");

@@ -119,6 +119,14 @@ void TitleTest::emptyStoreSaysNoLists() {
     // The buttons stay.
     QVERIFY(title->buttons().first()->isVisible());
     Shot(title, "title-no-lists");
+
+    // A list file that has gone missing is named.
+    QFile::remove(fx.path("thelists.dat"));
+    fx.dialogs.shown.clear();
+    auto* again = qobject_cast<Title*>(OpenScreen("Title", title));
+    QVERIFY(again && again->startedOk());
+    QVERIFY(fx.dialogs.last().contains(fx.path("thelists.dat")));
+    QVERIFY(again->noListsLabel()->isVisible());
 }
 
 void TitleTest::missingSettingsIsAClearFailure() {

@@ -248,8 +248,8 @@ void Scramble::resizeEvent(QResizeEvent*) {
     heading_->adjustSize();
     heading_->move((w - heading_->width()) / 2, top);
     Label5->adjustSize();
-    Label4->setMinimumWidth(Label5->width());
-    Label4->adjustSize();
+    Label4->setAlignment(Qt::AlignCenter);
+    Label4->setFixedWidth(Label4->fontMetrics().horizontalAdvance("00000") + 24);
     Label5->move(w - Label5->width() - Label4->width() - w / 30, top);
     Label4->move(w - Label4->width() - w / 40, top);
 
