@@ -2,7 +2,6 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "core/shared_state.h"
@@ -58,9 +57,8 @@ GameOptions::GameOptions(QWidget* parent) : Backdrop("images/wm-back.jpg", paren
     auto* left = new QVBoxLayout;
     auto* Image2 = new QLabel(panel);
     Image2->setObjectName("Image2");
-    QPixmap pic = LoadPicture(toQ(card.button));
     const int picHeight = ScreenFont(10).pointSize() * 13;
-    if (!pic.isNull()) Image2->setPixmap(pic.scaledToHeight(picHeight, Qt::SmoothTransformation));
+    Image2->setPixmap(RoundedPicture(LoadPicture(toQ(card.button)), picHeight));
     Image2->setAlignment(Qt::AlignCenter);
     left->addWidget(Image2);
     auto* Frame4 = new QGroupBox("How to Play:", panel);
@@ -74,14 +72,8 @@ GameOptions::GameOptions(QWidget* parent) : Backdrop("images/wm-back.jpg", paren
     // Sized through the style sheet: a style sheet above it would otherwise reset the font.
     Label7->setStyleSheet(QString("color: #1d2a3a; font-size: %1pt; font-weight: normal;")
                               .arg(ScreenFont(HowToPointSize(Len(card.howTo))).pointSize()));
-    auto* scroll = new QScrollArea(Frame4);
-    scroll->setWidget(Label7);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setStyleSheet("QScrollArea { background: transparent; }");
-    scroll->viewport()->setAutoFillBackground(false);
-    Label7->setAutoFillBackground(false);
-    f4->addWidget(scroll);
+    // Every how-to text fits the frame at the size chosen for its length.
+    f4->addWidget(Label7, 1);
     left->addWidget(Frame4, 1);
     columns->addLayout(left, 3);
 

@@ -16,7 +16,12 @@ void ApplyAppStyle() {
     QFont base("DejaVu Sans");
     base.setPointSize(ScreenMetrics::scaledPoint(11));
     QApplication::setFont(base);
-    qApp->setStyleSheet(R"(
+    // Check marks sized with the text, so they stay easy to hit on a large screen.
+    const int mark = ScreenMetrics::scaledPoint(11) * 3 / 2;
+    qApp->setStyleSheet(QString("QRadioButton::indicator, QCheckBox::indicator { width: %1px; "
+                                "height: %1px; }\n")
+                            .arg(mark) +
+                        R"(
         QGroupBox { font-weight: bold; color: #234; border: 2px solid #9bb7d4;
                     border-radius: 10px; margin-top: 1.1em; padding: 0.6em; background: #f6f9ff; }
         QGroupBox::title { subcontrol-origin: margin; left: 12px; padding: 0 6px; }
@@ -54,6 +59,23 @@ QFont ScreenFont(int points, bool bold) {
 QPixmap LoadPicture(const QString& relative) {
     const QString path = findAsset(relative);
     return path.isEmpty() ? QPixmap() : QPixmap(path);
+}
+
+QPixmap RoundedPicture(const QPixmap& picture, int height) {
+    if (picture.isNull()) return {};
+    const QPixmap scaled = picture.scaledToHeight(height, Qt::SmoothTransformation);
+    QPixmap out(scaled.size());
+    out.fill(Qt::transparent);
+    QPainter p(&out);
+    p.setRenderHint(QPainter::Antialiasing);
+    QPainterPath clip;
+    // The button art has rounded panels inset a little from the picture's edge.
+    const qreal inset = scaled.height() * 0.025;
+    clip.addRoundedRect(QRectF(out.rect()).adjusted(inset, inset, -inset, -inset),
+                        scaled.height() * 0.08, scaled.height() * 0.08);
+    p.setClipPath(clip);
+    p.drawPixmap(0, 0, scaled);
+    return out;
 }
 
 Backdrop::Backdrop(const QString& picture, QWidget* parent) : QWidget(parent) {

@@ -18,6 +18,8 @@ void ApplyAppStyle();
 // A font sized for the screen: `points` as designed for a 1024 x 768 display.
 QFont ScreenFont(int points, bool bold = false);
 QPixmap LoadPicture(const QString& relative);  // empty when missing
+// The picture scaled to `height` with rounded corners, for a game button shown off the title.
+QPixmap RoundedPicture(const QPixmap& picture, int height);
 
 // A screen that paints a picture from the application folder over its whole area.
 class Backdrop : public QWidget {

@@ -5,6 +5,7 @@
 #include "core/clock.h"
 #include "core/line_file.h"
 #include "core/score_table.h"
+#include "shell/catalogue.h"
 #include "games/study/scramble/scramble_screen.h"
 #include "shell/choose_list.h"
 #include "shell/enter_initials_form.h"
@@ -21,6 +22,7 @@ namespace {
 
 // Types the initials and presses OK on the initials box; looks at the table and presses OK.
 struct WinDriver {
+    explicit WinDriver(QStringList typed) : initials(std::move(typed)) {}
     QStringList initials;
     QStringList congratulations;
     QStringList tables;
@@ -64,6 +66,7 @@ private slots:
     void optionsRowsAndClamping();
     void scrambleGivesUpOnTooLongWords();
     void gameMenuEntries();
+    void everyOptionsScreenFitsItsText();
 };
 
 void RoadTest::summaryCountsHalfWordsAndLabels() {
@@ -145,7 +148,7 @@ void RoadTest::wholeRoadThroughScramble() {
     QCOMPARE(sorted(tiles.toLower()), sorted(word.toLower()));
     Shot(game, "scramble-scatter");
 
-    WinDriver driver{{"ABC"}};
+    WinDriver driver({"ABC"});
     SetModalHook(std::ref(driver));
     fx.rng.setFallback(0.3);
     QTest::keyClicks(game->guessBox(), word.toUpper());
@@ -197,7 +200,7 @@ void RoadTest::threeWinsDisplaceInTheFile() {
         fx.rng.pick(1, 1).pick(1, 3).pick(2, 3).pick(3, 3).then((base - 100 + 0.5) / 500.0);
     };
     script(200);  // 200 x 3 - 5 = 595
-    WinDriver driver{{"AAA", "BBB", "ass"}};
+    WinDriver driver({"AAA", "BBB", "ass"});
     SetModalHook(std::ref(driver));
     fx.dialogs.answerYes(true).answerYes(false).answerYes(true).answerYes(false);
     QTest::mouseClick(chooser->findChild<QPushButton*>("Command1"), Qt::LeftButton);
@@ -468,6 +471,26 @@ void RoadTest::gameMenuEntries() {
     QVERIFY(Showing<Title>() != nullptr);
     QVERIFY(fx.music.closes >= 1);  // background music is closed on the way out
     QCOMPARE(Shared().BgmOpen, kFalse);
+}
+
+void RoadTest::everyOptionsScreenFitsItsText() {
+    for (QSize screen : {QSize(1280, 800), QSize(1920, 1080)}) {
+        ShellFixture fx;
+        ScreenMetrics::overrideScreenSize(screen);
+        OpenScreen("Title");
+        Shared().WordCount = 30;
+        for (const GameCard& card : Catalogue()) {
+            Shared().CurrentGame = card.name;
+            auto* opts = qobject_cast<GameOptions*>(OpenScreen("GameOptions", CurrentScreen()));
+            QVERIFY(opts);
+            QApplication::processEvents();
+            QLabel* text = opts->Label7;
+            QVERIFY2(text->heightForWidth(text->width()) <= text->height(),
+                     card.name.c_str());
+            QVERIFY(opts->rect().contains(opts->Command1->geometry().translated(
+                opts->Command1->parentWidget()->mapTo(opts, QPoint(0, 0)))));
+        }
+    }
 }
 
 QTEST_MAIN(RoadTest)
