@@ -72,14 +72,19 @@ void Movie::play(bool loop, std::function<void()> onFinished) {
 void Movie::stop() {
     if (!playing_) return;
     offset_ = position();
+    if (endPass()) update();
+}
+
+bool Movie::endPass() {
     playing_ = false;
     timer_.stop();
     auto done = std::move(onFinished_);
     onFinished_ = {};
     QPointer<Movie> self(this);
     emit finished();
+    // The continuation may close the screen that owns this widget.
     if (done) done();
-    if (self) self->update();
+    return !self.isNull();
 }
 
 bool Movie::isPlaying() const {
@@ -112,15 +117,7 @@ void Movie::tick() {
             clock_.restart();
         } else {
             offset_ = length;  // rest on the last frame
-            playing_ = false;
-            timer_.stop();
-            auto done = std::move(onFinished_);
-            onFinished_ = {};
-            QPointer<Movie> self(this);
-            emit finished();
-            // The continuation may close the screen that owns this widget.
-            if (done) done();
-            if (!self) return;
+            if (!endPass()) return;
         }
     }
     update();

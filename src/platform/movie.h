@@ -52,6 +52,8 @@ protected:
 
 private:
     void tick();
+    // Ends the pass: the signal, then the continuation. False when that closed this widget.
+    bool endPass();
     std::unique_ptr<MovieScene> scene_;
     QTimer timer_;
     QElapsedTimer clock_;
