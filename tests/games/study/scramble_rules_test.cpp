@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include <string>
 #include <vector>
 
@@ -123,7 +125,7 @@ TEST(NewGame, RoundDrawsInDesignedOrder) {
     s.ElapsedSeconds = 42;
     ScrambleState round;
     round.scatter = true;
-    round.lastBlack = 3;
+    round.lastBlack = {3, -1};
     ScriptedRng rng;
     rng.pick(2, 3);                                              // the word: "horse"
     rng.pick(5, 5).pick(1, 5).pick(4, 5).pick(2, 5).pick(3, 5);  // "ehsor"
@@ -136,7 +138,7 @@ TEST(NewGame, RoundDrawsInDesignedOrder) {
     EXPECT_EQ(s.ElapsedSeconds, 0);
     EXPECT_EQ(s.TheWord, "horse");
     EXPECT_EQ(round.scrambled, "ehsor");
-    EXPECT_EQ(round.lastBlack, -1);
+    EXPECT_EQ(round.lastBlack, (std::array<int, 2>{-1, -1}));
     EXPECT_EQ(round.black, std::vector<bool>(5, false));
     ASSERT_EQ(round.layout.boxes.size(), 5u);
     EXPECT_EQ(round.layout.boxes[0].top, 826);
@@ -179,7 +181,7 @@ TEST(NewGame, OnlyLongWordsEndOnTheMessage) {
     EXPECT_FALSE(newGame(empty, round, kScreen, rng).ready);
 }
 
-TEST(Flicker, OnlyTheLetterBlackedLastComesBack) {
+TEST(Flicker, TheLettersBlackedLastComeBack) {
     ScrambleState round;
     round.scrambled = "abcde";
     ScriptedRng rng;
@@ -193,15 +195,21 @@ TEST(Flicker, OnlyTheLetterBlackedLastComesBack) {
     EXPECT_EQ(second.black1, 3);
     EXPECT_EQ(round.black, (std::vector<bool>{false, false, false, true, false}));
 
-    // At Difficulty 3 only the second of each pair comes back; the first stays dark.
+    // At Difficulty 3 both of the pair come back, so no more than two are ever dark.
     ScrambleState hard;
     hard.scrambled = "abcde";
     rng.pick(1, 5).pick(2, 5).pick(3, 5).pick(4, 5);
     FlickerStep pair = flicker(hard, 3, rng);
     EXPECT_EQ(pair.black1, 0);
     EXPECT_EQ(pair.black2, 1);
-    EXPECT_EQ(flicker(hard, 3, rng).yellow, 1);
-    EXPECT_EQ(hard.black, (std::vector<bool>{true, false, true, true, false}));
+    FlickerStep next = flicker(hard, 3, rng);
+    EXPECT_EQ(next.yellow, 0);
+    EXPECT_EQ(next.yellow2, 1);
+    EXPECT_EQ(hard.black, (std::vector<bool>{false, false, true, true, false}));
+    // The same letter drawn twice in a tick is dark once and comes back once.
+    rng.pick(5, 5).pick(5, 5);
+    flicker(hard, 3, rng);
+    EXPECT_EQ(hard.black, (std::vector<bool>{false, false, false, false, true}));
 
     ScrambleState blank;
     EXPECT_EQ(flicker(blank, 3, rng).black1, -1);

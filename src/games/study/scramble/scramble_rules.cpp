@@ -130,22 +130,27 @@ FlickerStep flicker(ScrambleState& round, int difficulty, Rng& rng) {
     if (length == 0) return step;
     round.black.resize(length, false);
 
-    if (round.lastBlack >= 0 && round.lastBlack < length) {
-        step.yellow = round.lastBlack;
-        round.black[round.lastBlack] = false;
+    // The letters blacked out at the last tick turn yellow again. At Difficulty 3 both of the
+    // pair come back, so two letters blink at a time rather than the word going dark.
+    int* restored[2] = {&step.yellow, &step.yellow2};
+    for (int i = 0; i < 2; ++i) {
+        const int k = round.lastBlack[i];
+        if (k >= 0 && k < length) {
+            *restored[i] = k;
+            round.black[k] = false;
+        }
+        round.lastBlack[i] = -1;
     }
-    auto blackOne = [&] {
+    auto blackOne = [&](int slot) {
         int k = static_cast<int>(Int(rng.Rnd() * length + 1)) - 1;
         if (k < 0) k = 0;
         if (k >= length) k = length - 1;
         round.black[k] = true;
-        round.lastBlack = k;
+        round.lastBlack[slot] = k;
         return k;
     };
-    step.black1 = blackOne();
-    // Only the letter blacked out last comes back next turn, so at Difficulty 3 the first of the
-    // pair stays dark until it is drawn again: deliberate, it is what makes that level harder.
-    if (difficulty == 3) step.black2 = blackOne();
+    step.black1 = blackOne(0);
+    if (difficulty == 3) step.black2 = blackOne(1);
     return step;
 }
 

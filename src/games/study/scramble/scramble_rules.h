@@ -4,6 +4,7 @@
 // Rng reproduces a round exactly.
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -62,7 +63,7 @@ struct ScrambleState {
     std::string scrambled;
     RowLayout layout;
     std::vector<bool> black;  // letters blacked out by the flicker, by LetterLabel index
-    int lastBlack = -1;       // the letter blacked out last, -1 for none
+    std::array<int, 2> lastBlack{-1, -1};  // the letters blacked out at the last tick, -1 none
 };
 
 // The options screen asks "Scatter?" the other way round, so the game inverts GameOptionOn as it
@@ -94,9 +95,10 @@ NewGame newGame(SharedState& state, ScrambleState& round, const ScreenGeometry& 
 // Timer1: one more second on the clock (held at the top of its 16-bit range).
 void countSecond(SharedState& state);
 
-// Timer3's step: which letter turns yellow again and which turn black (-1 for none).
+// Timer3's step: which letters turn yellow again and which turn black (-1 for none).
 struct FlickerStep {
     int yellow = -1;
+    int yellow2 = -1;  // Difficulty 3 only
     int black1 = -1;
     int black2 = -1;  // Difficulty 3 only
 };

@@ -109,6 +109,7 @@ Scramble::Scramble(QWidget* parent) : Backdrop("images/scramble-back.jpg", paren
     connect(&Timer3, &QTimer::timeout, this, [this] {
         auto step = scramble::flicker(round_, Shared().Difficulty, TheRng());
         if (step.yellow >= 0) setLetterBlack(step.yellow, false);
+        if (step.yellow2 >= 0) setLetterBlack(step.yellow2, false);
         if (step.black1 >= 0) setLetterBlack(step.black1, true);
         if (step.black2 >= 0) setLetterBlack(step.black2, true);
     });
@@ -240,11 +241,13 @@ void Scramble::keyPressEvent(QKeyEvent* e) {
 
 void Scramble::resizeEvent(QResizeEvent*) {
     const int w = width(), h = height();
-    const int menuH = 0;
+    int menuH = 0;
     for (auto* bar : findChildren<QMenuBar*>()) {
-        bar->setGeometry(0, 0, w, bar->sizeHint().height());
+        menuH = bar->sizeHint().height();
+        bar->setGeometry(0, 0, w, menuH);
     }
-    const int top = menuH + h / 14;
+    // Just under the menu: a scattered letter may stand as high as one letter height.
+    const int top = menuH + h / 100;
     heading_->adjustSize();
     heading_->move((w - heading_->width()) / 2, top);
     Label5->adjustSize();
