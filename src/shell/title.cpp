@@ -4,7 +4,7 @@
 #include <QCloseEvent>
 #include <QDesktopServices>
 #include <QFileInfo>
-#include <QStyle>
+#include <QIcon>
 #include <QTimer>
 #include <QUrl>
 
@@ -76,18 +76,16 @@ Title::Title(QWidget* parent) : Backdrop("images/wm-title.jpg", parent) {
     Toolbar1->setObjectName("Toolbar1");
     Toolbar1->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     Toolbar1->setFont(ScreenFont(11, true));
-    auto* st = style();
-    auto* teacher =
-        Toolbar1->addAction(st->standardIcon(QStyle::SP_DialogSaveButton), "Teacher Management");
+    auto icon = [](const char* name) {
+        return QIcon(LoadPicture(QString("images/tb-%1.png").arg(name)));
+    };
+    Toolbar1->setIconSize(QSize(ScreenFont(14).pointSize() * 2, ScreenFont(14).pointSize() * 2));
+    auto* teacher = Toolbar1->addAction(icon("teacher"), "Teacher Management");
     teacher->setEnabled(false);  // the teacher's screens are not part of this build yet
-    Toolbar1->addAction(st->standardIcon(QStyle::SP_FileDialogDetailedView), "High Scores", this,
-                        &Title::openHighScores);
-    Toolbar1->addAction(st->standardIcon(QStyle::SP_MessageBoxInformation), "Program Info", this,
-                        &Title::openAbout);
-    Toolbar1->addAction(st->standardIcon(QStyle::SP_DialogHelpButton), "Help", this,
-                        &Title::openHelp);
-    Toolbar1->addAction(st->standardIcon(QStyle::SP_DialogCloseButton), "Quit", qApp,
-                        &QApplication::quit);
+    Toolbar1->addAction(icon("scores"), "High Scores", this, &Title::openHighScores);
+    Toolbar1->addAction(icon("info"), "Program Info", this, &Title::openAbout);
+    Toolbar1->addAction(icon("help"), "Help", this, &Title::openHelp);
+    Toolbar1->addAction(icon("quit"), "Quit", qApp, &QApplication::quit);
 
     ok_ = startUp();
     if (!ok_) return;

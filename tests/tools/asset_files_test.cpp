@@ -64,6 +64,14 @@ private slots:
             QVERIFY2(!img.isNull(), name);
             QCOMPARE(img.size(), QSize(180, 135));
         }
+        // Toolbar icons keep a transparent ground around a drawn middle.
+        for (const QString& icon : toolbarIconNames()) {
+            const QImage img(dir_.filePath("images/tb-" + icon + ".png"));
+            QVERIFY2(!img.isNull(), qPrintable(icon));
+            QCOMPARE(img.size(), QSize(96, 96));
+            QCOMPARE(img.pixelColor(0, 0).alpha(), 0);
+            QVERIFY2(img.pixelColor(48, 48).alpha() > 200, qPrintable(icon));
+        }
         QVERIFY(QDir(dir_.filePath("movies")).exists());
     }
 

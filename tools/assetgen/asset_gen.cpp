@@ -65,9 +65,19 @@ bool generateAll(const QString& appDir, QString* error) {
     for (size_t i = 0; i < pictures.size(); ++i) {
         pool.start([&, i] { files[i] = {pictures[i].first, jpegBytes(pictures[i].second())}; });
     }
+    // Icons keep their transparency, so they are PNG rather than JPEG.
+    std::vector<AssetFile> icons;
+    for (const QString& name : toolbarIconNames()) {
+        QByteArray png;
+        QBuffer buffer(&png);
+        buffer.open(QIODevice::WriteOnly);
+        renderToolbarIcon(name).save(&buffer, "png");
+        icons.push_back({QStringLiteral("images/tb-%1.png").arg(name), png});
+    }
     std::vector<AssetFile> sounds = renderSounds();
     std::vector<AssetFile> tunes = renderTunes();
     pool.waitForDone();
+    files.insert(files.end(), icons.begin(), icons.end());
     files.insert(files.end(), sounds.begin(), sounds.end());
     files.insert(files.end(), tunes.begin(), tunes.end());
 

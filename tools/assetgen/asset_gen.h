@@ -33,6 +33,10 @@ QImage renderGameButton(int index);
 QImage renderMoreButton();
 QImage renderBackButton();
 
+// The title toolbar's icons, "images/tb-{name}.png", 96x96 with a transparent ground.
+const std::vector<QString>& toolbarIconNames();
+QImage renderToolbarIcon(const QString& name);
+
 // "sounds/{name}.wav" files, WAV PCM 16-bit mono 22050 Hz.
 std::vector<AssetFile> renderSounds();
 // "sounds/{name}.mid" files, Standard MIDI format 1.
