@@ -39,15 +39,23 @@ HighScoreForm::HighScoreForm(QWidget* parent) : QDialog(parent) {
     QFont mono("DejaVu Sans Mono");
     mono.setPointSize(ScreenFont(11).pointSize());
     mono.setBold(true);
-    for (QLabel** l : {&left_, &right_}) {
-        *l = new QLabel(this);
-        (*l)->setFont(mono);
-        (*l)->setTextFormat(Qt::PlainText);
-        (*l)->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-        (*l)->setStyleSheet(
-            "background: white; border: 2px solid #d8c98f; border-radius: 10px; padding: 10px;"
-            "color: #2a2a2a;");
-        columns->addWidget(*l);
+    for (QWidget** column : {&left_, &right_}) {
+        *column = new QWidget(this);
+        (*column)->setObjectName("Column");
+        (*column)->setAttribute(Qt::WA_StyledBackground);
+        (*column)->setStyleSheet(
+            "#Column { background: white; border: 2px solid #d8c98f; border-radius: 10px; }");
+        auto* rows = new QVBoxLayout(*column);
+        rows->setContentsMargins(14, 10, 14, 10);
+        rows->setSpacing(0);
+        for (int i = 0; i < kRanks / 2; ++i) {
+            auto* line = new QLabel(*column);
+            line->setFont(mono);
+            line->setTextFormat(Qt::PlainText);
+            rows->addWidget(line);
+            rankLabels_ << line;
+        }
+        columns->addWidget(*column, 1);
     }
     layout->addLayout(columns);
 
@@ -88,27 +96,30 @@ void HighScoreForm::showGame(const QString& game) {
     game_ = game;
     heading_->setText("High Scores for " + game);
     const QString g = game.toLower();
-    if (g == "quiz" || g == "flash cards" || game.isEmpty()) {
-        left_->setText("No Scores Collected for this Activity");
-        right_->clear();
-        right_->hide();
-        return;
-    }
-    right_->show();
-    SharedState& s = Shared();
-    ScoreTable t = ReadScoreTable(ScoreFilePath(s.AppPath, fromQ(game)));
-    QStringList a, b;
+    const bool none = g == "quiz" || g == "flash cards" || game.isEmpty();
+    right_->setVisible(!none);
+    lines_.clear();
+    ScoreTable t;
+    if (!none) t = ReadScoreTable(ScoreFilePath(Shared().AppPath, fromQ(game)));
+    // The first three places stand out in gold, silver and bronze.
+    static const char* const kMedals[] = {"#b8860b", "#6e7b8b", "#a0522d"};
     for (int r = 1; r <= kRanks; ++r) {
-        QString line = RankLine(r, toQ(t.initials(r)), toQ(t.scoreText(r)));
-        (r <= 25 ? a : b) << line;
+        QLabel* label = rankLabels_[r - 1];
+        QString line;
+        if (!none) {
+            line = RankLine(r, toQ(t.initials(r)), toQ(t.scoreText(r)));
+        } else if (r == 1) {
+            line = "No Scores Collected for this Activity";
+        }
+        if (!line.isEmpty()) lines_ << line;
+        label->setText(line);
+        label->setStyleSheet(
+            QString("color: %1;").arg(r <= 3 && !none ? kMedals[r - 1] : "#2a2a2a"));
     }
-    left_->setText(a.join('\n'));
-    right_->setText(b.join('\n'));
 }
 
 QString HighScoreForm::tableText() const {
-    return right_->isVisible() || !right_->text().isEmpty() ? left_->text() + "\n" + right_->text()
-                                                            : left_->text();
+    return lines_.join('\n');
 }
 
 void HighScoreForm::nextGame() {

@@ -4,6 +4,8 @@
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <QStringList>
+#include <QVector>
 
 namespace wm {
 
@@ -26,8 +28,10 @@ protected:
 private:
     void showGame(const QString& game);
     QLabel* heading_;
-    QLabel* left_;
-    QLabel* right_;
+    QWidget* left_;   // ranks 1 to 25
+    QWidget* right_;  // ranks 26 to 50
+    QVector<QLabel*> rankLabels_;
+    QStringList lines_;     // the table as shown, as plain text
     QPushButton* Command1;  // OK
     QPushButton* Command2;  // Next Game>
     QPushButton* Command3;  // <Previous Game
