@@ -184,19 +184,15 @@ void GameOptions::continueOn() {
     s.Difficulty = SpeedBar->value();
     s.GameOptionOn = Option2->isChecked() ? kTrue : kFalse;
     s.SoundOn = SoundONOp->isChecked() ? kTrue : kFalse;
-    const std::string g = LCase(s.CurrentGame);
-    if (card_ && (g == "crossword" || g == "blind tiles" || g == "word maze" || g == "breakthru" ||
-                  g == "jailbreak")) {
-        leaveFor(GameScreenOf(*card_));
-        return;
-    }
-    leaveFor("ChooseList");
+    // The list-first games have their list already: on to the game itself.
+    leaveFor(listFirst() ? GameScreenOf(*card_) : QString("ChooseList"));
 }
+
+bool GameOptions::listFirst() const { return card_ && card_->firstScreen == "ChooseList"; }
 
 void GameOptions::goBack() {
     const std::string g = LCase(Shared().CurrentGame);
-    if (g == "crossword" || g == "blind tiles" || g == "word maze" || g == "breakthru" ||
-        g == "jailbreak") {
+    if (listFirst()) {
         leaveFor("ChooseList");
     } else if (g == "flash cards") {
         leaveFor("FlashCardOptions");

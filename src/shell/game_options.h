@@ -37,6 +37,7 @@ protected:
 
 private:
     void leaveFor(const QString& screen);
+    bool listFirst() const;  // the game picks its list before its options
     const GameCard* card_ = nullptr;
 };
 

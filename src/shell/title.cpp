@@ -20,6 +20,7 @@
 #include "platform/sound.h"
 #include "platform/text.h"
 #include "shell/about_form.h"
+#include "shell/catalogue.h"
 #include "shell/game_frame.h"
 #include "shell/high_score_form.h"
 #include "shell/screens.h"
@@ -34,13 +35,8 @@ constexpr double kButtonHeightShare = 0.17;
 }  // namespace
 
 QString TitleRoute(const QString& game) {
-    const QString g = game.toLower();
-    if (g == "quiz") return "QuizOptions";
-    if (g == "flash cards") return "FlashCardOptions";
-    if (g == "blind tiles" || g == "crossword" || g == "word maze" || g == "jailbreak" ||
-        g == "breakthru")
-        return "ChooseList";
-    return "GameOptions";
+    const GameCard* card = FindCard(fromQ(game));
+    return card ? toQ(card->firstScreen) : QString("GameOptions");
 }
 
 Title::Title(QWidget* parent) : Backdrop("images/wm-title.jpg", parent) {
