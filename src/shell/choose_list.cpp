@@ -147,16 +147,11 @@ ChooseList::ChooseList(QWidget* parent) : Backdrop("images/wm-back.jpg", parent)
     TheLists->hide();
     layout->addWidget(TheLists, 1);
 
-    auto* buttons = new QHBoxLayout;
-    Command2 = MakeButton("<<Go Back", panel);
-    Command2->setObjectName("Command2");
-    Command1 = MakeButton("Continue>>", panel, true);
-    Command1->setObjectName("Command1");
+    NavigationRow nav = MakeNavigationRow(panel, "<<Go Back", "Continue>>");
+    Command1 = nav.onward;
+    Command2 = nav.back;
     Command1->setEnabled(false);
-    buttons->addWidget(Command2);
-    buttons->addStretch();
-    buttons->addWidget(Command1);
-    layout->addLayout(buttons);
+    layout->addLayout(nav.layout);
 
     connect(Command1, &QPushButton::clicked, this, &ChooseList::continueOn);
     connect(Command2, &QPushButton::clicked, this, &ChooseList::goBack);

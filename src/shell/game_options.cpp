@@ -152,16 +152,11 @@ GameOptions::GameOptions(QWidget* parent) : Backdrop("images/wm-back.jpg", paren
     for (auto* l : {Label3, Label5}) l->setFont(ScreenFont(12, true));
     columns->addLayout(right, 2);
 
-    auto* buttons = new QHBoxLayout;
-    Command2 = MakeButton("<Back", panel);
-    Command2->setObjectName("Command2");
-    Command1 = MakeButton("Continue>", panel, true);
-    Command1->setObjectName("Command1");
+    NavigationRow nav = MakeNavigationRow(panel, "<Back", "Continue>");
+    Command1 = nav.onward;
+    Command2 = nav.back;
     Command1->setDefault(true);
-    buttons->addWidget(Command2);
-    buttons->addStretch();
-    buttons->addWidget(Command1);
-    layout->addLayout(buttons);
+    layout->addLayout(nav.layout);
     connect(Command1, &QPushButton::clicked, this, &GameOptions::continueOn);
     connect(Command2, &QPushButton::clicked, this, &GameOptions::goBack);
 
@@ -188,7 +183,9 @@ void GameOptions::continueOn() {
     leaveFor(listFirst() ? GameScreenOf(*card_) : QString("ChooseList"));
 }
 
-bool GameOptions::listFirst() const { return card_ && card_->firstScreen == "ChooseList"; }
+bool GameOptions::listFirst() const {
+    return card_ && card_->firstScreen == "ChooseList";
+}
 
 void GameOptions::goBack() {
     const std::string g = LCase(Shared().CurrentGame);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
@@ -177,6 +178,19 @@ QPushButton* MakeButton(const QString& text, QWidget* parent, bool primary) {
     )")
                          .arg(top, bottom));
     return b;
+}
+
+NavigationRow MakeNavigationRow(QWidget* parent, const QString& backText,
+                                const QString& onwardText) {
+    auto* row = new QHBoxLayout;
+    QPushButton* back = MakeButton(backText, parent);
+    back->setObjectName("Command2");
+    QPushButton* onward = MakeButton(onwardText, parent, true);
+    onward->setObjectName("Command1");
+    row->addWidget(back);
+    row->addStretch();
+    row->addWidget(onward);
+    return {row, back, onward};
 }
 
 QLabel* MakeHeading(const QString& text, QWidget* parent, int points) {

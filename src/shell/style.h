@@ -9,6 +9,7 @@
 class QLabel;
 class QPushButton;
 class QGroupBox;
+class QLayout;
 
 namespace wm {
 
@@ -64,6 +65,15 @@ private:
 
 // Big rounded action buttons: "primary" ones are green, others blue.
 QPushButton* MakeButton(const QString& text, QWidget* parent, bool primary = false);
+// The row at the foot of a screen: a back button on the left, the green way on at the right.
+// The buttons are named Command2 and Command1, as the screens' designs name them.
+struct NavigationRow {
+    QLayout* layout;
+    QPushButton* back;
+    QPushButton* onward;
+};
+NavigationRow MakeNavigationRow(QWidget* parent, const QString& backText,
+                                const QString& onwardText);
 // A heading label in the program's title colour.
 QLabel* MakeHeading(const QString& text, QWidget* parent, int points = 22);
 
