@@ -30,3 +30,20 @@ macro(wm_add_optional dir)
     add_subdirectory(${dir})
   endif()
 endmacro()
+
+# A game's screen library: on the shell, sharing its precompiled header, and listed for
+# wm_games, which links every game screen whole.
+function(wm_game_screen target)
+  cmake_parse_arguments(G "" "" "SOURCES;LIBS" ${ARGN})
+  add_library(${target} STATIC ${G_SOURCES})
+  target_link_libraries(${target} PUBLIC wm_shell ${G_LIBS})
+  target_precompile_headers(${target} REUSE_FROM wm_shell)
+  set_property(GLOBAL APPEND PROPERTY WM_GAME_LIBS ${target})
+endfunction()
+
+# Links game screen libraries whole into a test, so their registrations are kept.
+function(wm_link_games target)
+  foreach(lib ${ARGN})
+    target_link_libraries(${target} PRIVATE "$<LINK_LIBRARY:WHOLE_ARCHIVE,${lib}>")
+  endforeach()
+endfunction()

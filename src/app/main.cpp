@@ -3,7 +3,6 @@
 #include <QDir>
 
 #include "core/shared_state.h"
-#include "games/games.h"
 #include "platform/dialogs.h"
 #include "platform/movie.h"
 #include "platform/music.h"
@@ -29,7 +28,6 @@ int main(int argc, char** argv) {
     wm::ApplyAppStyle();
     wm::RegisterBuiltInScenes();
     wm::RegisterShellScreens();
-    wm::RegisterGameScreens();
     wm::OpenScreen("BlackBack");
     const int rc = app.exec();
     music.close();

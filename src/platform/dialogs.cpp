@@ -133,7 +133,7 @@ void ScriptedDialogs::message(const QString& text, const QString& title) {
 
 bool ScriptedDialogs::yesNo(const QString& text, const QString& title) {
     shown.push_back({QStringLiteral("yesNo"), text, title});
-    if (yesNoAnswers.empty()) return false;
+    if (yesNoAnswers.empty()) return otherwiseYes ? otherwiseYes(text) : false;
     const bool answer = yesNoAnswers.front();
     yesNoAnswers.pop_front();
     return answer;

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 #include <deque>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -64,6 +65,8 @@ public:
     bool saw(const QString& text) const;  // shown with exactly this text
 
     std::deque<bool> yesNoAnswers;
+    // Answers a yes/no box once the queue is empty; absent, the answer is No.
+    std::function<bool(const QString& text)> otherwiseYes;
     std::deque<std::optional<QString>> inputAnswers;
     std::deque<QString> fileAnswers;
     std::vector<Shown> shown;

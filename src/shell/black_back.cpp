@@ -15,19 +15,22 @@ BlackBack::BlackBack(QWidget* parent) : QWidget(parent), movie_(new Movie(this))
     setCursor(Qt::BlankCursor);
     movie_->load("wmsplash.swf");
     movie_->setAttribute(Qt::WA_TransparentForMouseEvents);
-    QTimer::singleShot(1, this, [this] {
+    startTimer_.setSingleShot(true);
+    startTimer_.setInterval(1);
+    connect(&startTimer_, &GameTimer::timeout, this, [this] {
         sound().play("tolvane.wav");
         movie_->play();
+        waitTimer_.start();
     });
+    startTimer_.start();
     // Waits for the animation to stop, then moves on to the title.
     waitTimer_.setInterval(10);
-    connect(&waitTimer_, &QTimer::timeout, this, [this] {
+    connect(&waitTimer_, &GameTimer::timeout, this, [this] {
         if (leaving_ || movie_->isPlaying()) return;
         leaving_ = true;
         waitTimer_.stop();
         OpenScreen("Title", this);
     });
-    QTimer::singleShot(20, this, [this] { waitTimer_.start(); });
 }
 
 void BlackBack::skip() {

@@ -1,8 +1,8 @@
 // The splash: the opening animation on black with its sound; any key or click skips it.
 #pragma once
 
-#include <QTimer>
 #include <QWidget>
+#include "platform/ticker.h"
 
 namespace wm {
 
@@ -23,7 +23,8 @@ protected:
 private:
     void skip();
     Movie* movie_;
-    QTimer waitTimer_;
+    GameTimer startTimer_;
+    GameTimer waitTimer_;
     bool leaving_ = false;
 };
 

@@ -2,9 +2,12 @@
 // Pure data, no Qt, so the rows can be checked without a display.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+class QWidget;
 
 namespace wm {
 
@@ -53,13 +56,23 @@ struct GameCard {
     std::string firstScreen;  // "GameOptions", "QuizOptions", "FlashCardOptions" or "ChooseList"
     EligibilityRow eligibility;
     OptionsRow options;
-    std::string howTo;  // the full how-to-play text
+    std::string howTo;   // the full how-to-play text
+    std::string screen;  // the game's own screen ("Scramble", "CrosswordForm"...)
+
+    // Attached by the game's registration when its screen is built: how to make the screen and
+    // every asset it loads (paths in the application folder). Empty while it is not built.
+    std::function<QWidget*()> make;
+    std::vector<std::string> assets;
+    bool built() const { return static_cast<bool>(make); }
 };
 
 // The 42 cards in catalogue order.
 const std::vector<GameCard>& Catalogue();
 // By name, compared without regard to case; nullptr when unknown.
 const GameCard* FindCard(std::string_view name);
+// Gives the card of `name` its screen and assets; false when no card has that name.
+bool AttachGame(std::string_view name, std::function<QWidget*()> make,
+                std::vector<std::string> assets);
 
 // The chooser's messages.
 extern const char* const kMsgM1;

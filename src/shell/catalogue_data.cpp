@@ -122,8 +122,19 @@ std::string FirstScreen(const std::string& name) {
     return "GameOptions";
 }
 
+// The list-first games open their options from the chooser, and the options open the game.
+std::string ScreenOf(const std::string& name, const std::string& opens) {
+    if (name == "Crossword") return "CrosswordForm";
+    if (name == "Blind Tiles") return "BlindTilesForm";
+    if (name == "Word Maze") return "WordMazeForm";
+    if (name == "BreakThru") return "BreakThruForm";
+    if (name == "Jailbreak") return "JailBreakForm";
+    return opens;
+}
+
 GameCard Card(std::string name, EligibilityRow eligibility, OptionsRow options, std::string howTo) {
     GameCard card;
+    card.screen = ScreenOf(name, eligibility.opens);
     card.button = "buttons/" + name + ".jpg";
     card.firstScreen = FirstScreen(name);
     card.name = std::move(name);
@@ -451,17 +462,32 @@ bool SameIgnoringCase(std::string_view a, std::string_view b) {
     return true;
 }
 
+std::vector<GameCard>& Cards() {
+    static std::vector<GameCard> cards = BuildCatalogue();
+    return cards;
+}
+
 }  // namespace
 
 const std::vector<GameCard>& Catalogue() {
-    static const std::vector<GameCard> cards = BuildCatalogue();
-    return cards;
+    return Cards();
 }
 
 const GameCard* FindCard(std::string_view name) {
     for (const GameCard& card : Catalogue())
         if (SameIgnoringCase(card.name, name)) return &card;
     return nullptr;
+}
+
+bool AttachGame(std::string_view name, std::function<QWidget*()> make,
+                std::vector<std::string> assets) {
+    for (GameCard& card : Cards()) {
+        if (card.name != name) continue;
+        card.make = std::move(make);
+        card.assets = std::move(assets);
+        return true;
+    }
+    return false;
 }
 
 }  // namespace wm

@@ -81,16 +81,6 @@ ListSummary SummariseLists(const std::vector<std::string>& lines, bool all,
     return out;
 }
 
-QString GameScreenOf(const GameCard& card) {
-    const QString g = toQ(LCase(card.name));
-    if (g == "crossword") return "CrosswordForm";
-    if (g == "blind tiles") return "BlindTilesForm";
-    if (g == "word maze") return "WordMazeForm";
-    if (g == "breakthru") return "BreakThruForm";
-    if (g == "jailbreak") return "JailBreakForm";
-    return toQ(card.eligibility.opens);
-}
-
 ChooseList::ChooseList(QWidget* parent) : Backdrop("images/wm-back.jpg", parent) {
     setObjectName("ChooseList");
     setWindowTitle("Choose a list");
@@ -164,7 +154,7 @@ ChooseList::ChooseList(QWidget* parent) : Backdrop("images/wm-back.jpg", parent)
 
     Timer1.setSingleShot(true);
     Timer1.setInterval(1);
-    connect(&Timer1, &QTimer::timeout, this, &ChooseList::opening);
+    connect(&Timer1, &GameTimer::timeout, this, &ChooseList::opening);
     Timer1.start();
 }
 
@@ -267,13 +257,13 @@ void ChooseList::continueOn() {
         return;
     }
     if (!applyEligibility(*card)) return;
-    const QString target = toQ(card->eligibility.opens);
-    if (!HasScreen(GameScreenOf(*card)) || !HasScreen(target)) {
+    if (!card->built()) {
         dialogs().message(toQ(card->name) + " is not available yet. Please choose another game.",
                           "Wordmere");
         return;
     }
-    OpenScreen(target, this);
+    // The list-first games go on to their options; the others straight into the game.
+    OpenScreen(toQ(card->eligibility.opens), this);
 }
 
 bool ChooseList::applyEligibility(const GameCard& card) {

@@ -7,7 +7,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QStringList>
-#include <QTimer>
+#include "platform/ticker.h"
 
 #include "core/list_file.h"
 #include "shell/style.h"
@@ -52,12 +52,9 @@ private:
     QLabel* Label1;
     QLabel* Label3;
     QLabel* captionLabel_;
-    QTimer Timer1;
+    GameTimer Timer1;
     std::vector<ForeignList> foreign_;
     bool filling_ = false;
 };
-
-// The screen a game finally plays on, for the list-first games that pass through the options.
-QString GameScreenOf(const GameCard& card);
 
 }  // namespace wm

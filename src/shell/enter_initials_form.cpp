@@ -84,7 +84,7 @@ EnterInitialsForm::EnterInitialsForm(QWidget* parent) : QDialog(parent) {
     layout->addWidget(ok, 0, Qt::AlignCenter);
 
     Timer1.setInterval(120);
-    connect(&Timer1, &QTimer::timeout, this, &EnterInitialsForm::bob);
+    connect(&Timer1, &GameTimer::timeout, this, &EnterInitialsForm::bob);
     Timer1.start();
     ScoreLetter[0]->setFocus();
     ScoreLetter[0]->selectAll();

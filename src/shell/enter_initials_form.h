@@ -4,8 +4,8 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTimer>
 #include <QVector>
+#include "platform/ticker.h"
 
 namespace wm {
 
@@ -30,7 +30,7 @@ private:
     QWidget* stage_;
     QVector<QLineEdit*> ScoreLetter;
     QVector<int> offsets_;  // twips from home, within 200
-    QTimer Timer1;
+    GameTimer Timer1;
 };
 
 }  // namespace wm

@@ -1,6 +1,9 @@
 #include "shell/game_frame.h"
 
+#include <QEvent>
+#include <QKeyEvent>
 #include <QMenu>
+#include <QTimer>
 
 #include "core/score_table.h"
 #include "core/shared_state.h"
@@ -21,6 +24,10 @@ std::function<void(QDialog&)>& modalHook() {
     static std::function<void(QDialog&)> hook;
     return hook;
 }
+
+QString withScore(QString text, const QString& score) {
+    return text.replace("{score}", score);
+}
 }  // namespace
 
 int RunModal(QDialog& dialog) {
@@ -36,37 +43,6 @@ void SetModalHook(std::function<void(QDialog&)> hook) {
     modalHook() = std::move(hook);
 }
 
-QMenuBar* MakeGameMenu(QWidget* game, const GameMenuNames& names, std::function<void()> restart,
-                       std::function<void(const QString&)> foreign) {
-    auto* bar = new QMenuBar(game);
-    bar->setObjectName("GameMenu");
-    bar->setNativeMenuBar(false);
-    auto add = [&](const QString& text, const QString& name, std::function<void()> action) {
-        QAction* a = bar->addAction(text);
-        a->setObjectName(name);
-        QObject::connect(a, &QAction::triggered, game, [action] {
-            if (action) action();
-        });
-        return a;
-    };
-    add("Restart", names.restart, std::move(restart));
-    if (!names.foreign.isEmpty() && foreign) {
-        const QString key = names.foreignKey;
-        add(names.foreignText, names.foreign, [game, key, foreign] {
-            SharedState& s = Shared();
-            if (!key.isEmpty() && LCase(s.CurrentGame) != LCase(fromQ(key)))
-                s.CurrentGame = fromQ(key);
-            FLForm palette(game);
-            if (RunModal(palette) == QDialog::Accepted && !s.ForeignChar.empty())
-                foreign(toQ(s.ForeignChar));
-        });
-    }
-    add("High Scores", names.scores, [game] { ShowHighScores(game); });
-    add("How To Play", names.howTo, [] { ShowHowToPlay(); });
-    add("Quit", names.quit, [game] { QuitToTitle(game); });
-    return bar;
-}
-
 void ShowHowToPlay() {
     dialogs().message(toQ(Shared().HowToText), "How To Play");
 }
@@ -74,11 +50,6 @@ void ShowHowToPlay() {
 void ShowHighScores(QWidget* parent) {
     HighScoreForm form(parent);
     RunModal(form);
-}
-
-void QuitToTitle(QWidget* game) {
-    StopBackgroundMusic();
-    OpenScreen("Title", game);
 }
 
 std::string FilterInitials(const std::string& typed) {
@@ -109,26 +80,206 @@ int PlaceHighScore(QWidget* game, const std::string& scoreText, bool smallestFir
     return rank;
 }
 
-AfterWin HighScoreHandoff(QWidget* game, bool smallestFirst) {
-    SharedState& s = Shared();
-    s.Score = static_cast<double>(Int(s.Score));
-    const std::string text = NumText(s.Score);
-    const int rank = PlaceHighScore(game, text, smallestFirst);
-    if (rank > 0) {
-        if (!dialogs().yesNo(
-                "You got a high score of " + toQ(text) + "! Would you like to try again?",
-                "Great job!"))
-            return AfterWin::Title;
-        if (s.Difficulty < s.MaxDifficulty &&
-            dialogs().yesNo("Would you like to raise the difficulty level a bit?", "Great job!"))
-            s.Difficulty += 1;
-        return AfterWin::NewGame;
+GameFrame::GameFrame(QWidget* screen, GameMenuNames names, std::function<void()> newGame)
+    : QObject(screen), screen_(screen), names_(std::move(names)), newGame_(std::move(newGame)) {
+    scoreText = [](double score) { return toQ(NumText(score)); };
+    menu_ = new QMenuBar(screen);
+    menu_->setObjectName("GameMenu");
+    menu_->setNativeMenuBar(false);
+    addEntry(Entry::Restart, "Restart", names_.restart, [this] { this->newGame(); });
+    addEntry(Entry::Scores, "High Scores", names_.scores, [this] { ShowHighScores(screen_); });
+    addEntry(Entry::HowTo, "How To Play", names_.howTo, [] { ShowHowToPlay(); });
+    addEntry(Entry::Quit, "Quit", names_.quit, [this] { quit(); });
+    screen->installEventFilter(this);
+}
+
+GameFrame::~GameFrame() {
+    // The screen is going: nothing of this game may run any more.
+    leaving_ = true;
+    for (auto& [name, t] : timers_) t->stop();
+    stopMusic();
+}
+
+void GameFrame::addEntry(Entry which, const QString& text, const QString& name,
+                         std::function<void()> action) {
+    QAction* a = new QAction(text, menu_);
+    a->setObjectName(name);
+    connect(a, &QAction::triggered, this, [this, action] {
+        if (!leaving_) action();
+    });
+    // The entries keep their order whatever is added later.
+    QAction* before = nullptr;
+    for (auto& [w, existing] : entries_) {
+        if (w > which) {
+            before = existing;
+            break;
+        }
     }
-    if (!dialogs().yesNo(
-            "Congratulations! You scored " + toQ(text) + "! Would you like to try again?",
-            "Great job!"))
-        return AfterWin::Title;
-    return AfterWin::NewGame;
+    menu_->insertAction(before, a);
+    entries_[which] = a;
+}
+
+QAction* GameFrame::entry(Entry which) const {
+    auto it = entries_.find(which);
+    return it == entries_.end() ? nullptr : it->second;
+}
+
+int GameFrame::menuHeight() const {
+    return menu_->sizeHint().height();
+}
+
+void GameFrame::setForeign(std::function<void(const QString&)> insert) {
+    if (names_.foreign.isEmpty() || entry(Entry::Foreign)) return;
+    addEntry(Entry::Foreign, names_.foreignText, names_.foreign, [this, insert] {
+        SharedState& s = Shared();
+        // Kept side effect: the score file follows CurrentGame from here on.
+        const QString key = names_.foreignKey;
+        if (!key.isEmpty() && LCase(s.CurrentGame) != LCase(fromQ(key))) s.CurrentGame = fromQ(key);
+        FLForm palette(screen_);
+        if (RunModal(palette) == QDialog::Accepted && !s.ForeignChar.empty())
+            insert(toQ(s.ForeignChar));
+    });
+}
+
+GameTimer& GameFrame::timer(const QString& name, int intervalMs, std::function<void()> tick,
+                            bool singleShot) {
+    auto it = timers_.find(name);
+    if (it != timers_.end()) delete it->second;
+    auto* t = new GameTimer(this);
+    t->setObjectName(name);
+    t->setInterval(intervalMs);
+    t->setSingleShot(singleShot);
+    connect(t, &GameTimer::timeout, this, [this, tick = std::move(tick)] {
+        if (!leaving_ && tick) tick();
+    });
+    timers_[name] = t;
+    return *t;
+}
+
+GameTimer* GameFrame::findTimer(const QString& name) const {
+    auto it = timers_.find(name);
+    return it == timers_.end() ? nullptr : it->second;
+}
+
+void GameFrame::stopTimers() {
+    for (auto& [name, t] : timers_) t->stop();
+}
+
+void GameFrame::newGame() {
+    if (leaving_) return;
+    stopTimers();
+    ++round_;
+    if (newGame_) newGame_();
+}
+
+std::function<void()> GameFrame::later(std::function<void()> then) {
+    QPointer<GameFrame> self(this);
+    const int round = round_;
+    return [self, round, then = std::move(then)] {
+        if (self && !self->leaving_ && self->round_ == round && then) then();
+    };
+}
+
+void GameFrame::setMusic(MusicKind kind, QString tune) {
+    musicKind_ = kind;
+    tune_ = std::move(tune);
+}
+
+void GameFrame::startMusic() {
+    SharedState& s = Shared();
+    switch (musicKind_) {
+        case MusicKind::None:
+            return;
+        case MusicKind::Shared:
+            StartBackgroundMusic(tune_);
+            return;
+        case MusicKind::Own:
+            if (s.SoundOn == kTrue && !ownMusicOpen_) {
+                music().open(appFile("sounds/" + tune_));
+                music().playFromStart();
+                ownMusicOpen_ = true;
+            }
+            return;
+    }
+}
+
+void GameFrame::stopMusic() {
+    switch (musicKind_) {
+        case MusicKind::None:
+        case MusicKind::Shared:
+            // Quit and unload close the alias whether or not this game opened it.
+            StopBackgroundMusic();
+            return;
+        case MusicKind::Own:
+            if (ownMusicOpen_) music().close();
+            ownMusicOpen_ = false;
+            return;
+    }
+}
+
+bool GameFrame::musicOpen() const {
+    if (musicKind_ == MusicKind::Own) return ownMusicOpen_;
+    return musicKind_ == MusicKind::Shared && Shared().BgmOpen != kFalse;
+}
+
+void GameFrame::quit() {
+    if (leaving_) return;
+    leaving_ = true;
+    stopTimers();
+    stopMusic();
+    OpenScreen("Title", screen_);
+}
+
+void GameFrame::refuse(const QString& text, const QString& title) {
+    if (leaving_) return;
+    stopTimers();
+    dialogs().message(text, title.isEmpty() ? screen_->windowTitle() : title);
+    // Left from the event loop, so that a game refusing while it loads is not closed inside
+    // its own constructor.
+    QTimer::singleShot(0, this, [this] { quit(); });
+}
+
+bool GameFrame::askTryAgain(const QString& text, const QString& title) {
+    if (leaving_) return false;
+    stopTimers();
+    const bool again = dialogs().yesNo(text, title);
+    if (again) {
+        newGame();
+    } else {
+        quit();
+    }
+    return again;
+}
+
+void GameFrame::wonGame(const EndTexts& texts) {
+    if (leaving_) return;
+    stopTimers();
+    SharedState& s = Shared();
+    if (texts.wholeScore) s.Score = static_cast<double>(Int(s.Score));
+    const int rank = PlaceHighScore(screen_, NumText(s.Score), texts.smallestFirst);
+    const QString shown = scoreText(s.Score);
+    const bool placed = rank > 0;
+    if (!dialogs().yesNo(withScore(placed ? texts.placed : texts.notPlaced, shown), texts.title)) {
+        quit();
+        return;
+    }
+    const bool offer = placed ? texts.raiseWhenPlaced : texts.raiseWhenNotPlaced;
+    if (offer && s.Difficulty < s.MaxDifficulty && dialogs().yesNo(texts.raise, texts.title))
+        s.Difficulty += 1;
+    newGame();
+}
+
+bool GameFrame::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == screen_) {
+        if (event->type() == QEvent::Resize) {
+            menu_->setGeometry(0, 0, screen_->width(), menuHeight());
+        } else if (event->type() == QEvent::KeyPress && escapeQuits_ &&
+                   static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+            quit();
+            return true;
+        }
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 }  // namespace wm

@@ -1,11 +1,18 @@
-// What every game screen shares: the five-entry menu, Escape, How To Play, the high scores,
-// leaving for the title, and the hand-off of a won game to the high-score table.
+// What every game screen shares, as one component the screen owns: the five-entry menu,
+// Escape, the leave guard, the game's named timers that stop as one, the round counter that
+// drops continuations of an earlier round, background music, and the hand-off of a won game
+// to the high-score table with the game's own end texts.
 #pragma once
 
 #include <QDialog>
 #include <QMenuBar>
+#include <QObject>
+#include <QPointer>
 #include <QString>
 #include <functional>
+#include <map>
+
+#include "platform/ticker.h"
 
 namespace wm {
 
@@ -26,27 +33,101 @@ struct GameMenuNames {
     QString foreignKey;
 };
 
-// The menu bar of a game screen. `restart` starts a new game by the same routine as on load;
-// `foreign` receives a character picked on the palette; without it the entry is left out.
-QMenuBar* MakeGameMenu(QWidget* game, const GameMenuNames& names, std::function<void()> restart,
-                       std::function<void(const QString&)> foreign = {});
+// The texts and rules of the end of a won game. "{score}" stands for the score as text.
+struct EndTexts {
+    QString placed = "You got a high score of {score}! Would you like to try again?";
+    QString notPlaced = "Congratulations! You scored {score}! Would you like to try again?";
+    QString title = "Great job!";
+    QString raise = "Would you like to raise the difficulty level a bit?";
+    bool raiseWhenPlaced = true;
+    bool raiseWhenNotPlaced = false;
+    bool smallestFirst = false;  // the table ranks small scores first (times)
+    bool wholeScore = true;      // Score := Int(Score) before the table is searched
+};
+
+// Where music comes from: none, the shared BGM alias (BgmOpen), or a flag of the game's own.
+enum class MusicKind { None, Shared, Own };
 
 void ShowHowToPlay();
 // The table of the game in hand, without leaving the game.
 void ShowHighScores(QWidget* parent);
-// Background music closed, the title shown, the game screen closed.
-void QuitToTitle(QWidget* game);
 
-enum class AfterWin { NewGame, Title };
-
-// The end of a won game: the rank search, initials, the table written with its displacement,
-// the table shown, and the try-again question (with the offer to raise the level after a
-// high score). With `smallestFirst` the table ranks small scores first.
-// Does not leave by itself: on Title the caller calls QuitToTitle.
-AfterWin HighScoreHandoff(QWidget* game, bool smallestFirst = false);
-// Steps up to the table only: returns the rank placed, 0 when none.
+// Steps up to the table only: the rank search, initials, the table written with its
+// displacement and shown. Returns the rank placed, 0 when none.
 int PlaceHighScore(QWidget* game, const std::string& scoreText, bool smallestFirst);
 // The filter of rude initials.
 std::string FilterInitials(const std::string& typed);
+
+class GameFrame : public QObject {
+    Q_OBJECT
+public:
+    enum class Entry { Restart, Foreign, Scores, HowTo, Quit };
+
+    // Builds the menu on `screen` and watches it for Escape and resizes. `newGame` is the
+    // game's routine that starts a game, used by Restart and by "try again".
+    GameFrame(QWidget* screen, GameMenuNames names, std::function<void()> newGame);
+    ~GameFrame() override;
+
+    QWidget* screen() const { return screen_; }
+    QMenuBar* menuBar() const { return menu_; }
+    QAction* entry(Entry which) const;
+    int menuHeight() const;
+
+    // Adds the palette entry; a picked character goes to `insert`.
+    void setForeign(std::function<void(const QString&)> insert);
+    // Escape acts as Quit unless the game reads it itself.
+    void setEscapeQuits(bool on) { escapeQuits_ = on; }
+
+    // A named interval timer (the design's Timer1...). Every timer of the frame stops at once
+    // with stopTimers(), at Restart, and when the screen is left.
+    GameTimer& timer(const QString& name, int intervalMs, std::function<void()> tick,
+                     bool singleShot = false);
+    GameTimer* findTimer(const QString& name) const;
+    void stopTimers();
+
+    // The round in hand. newGame() starts the next one; a continuation made by later() in an
+    // earlier round is dropped, so a Restart never receives the last round's animation end.
+    int round() const { return round_; }
+    void newGame();
+    std::function<void()> later(std::function<void()> then);
+
+    void setMusic(MusicKind kind, QString tune = {});
+    void startMusic();
+    void stopMusic();
+    bool musicOpen() const;
+
+    // The leave guard: the first call stops the timers and the music, shows the title and
+    // closes the screen; later calls do nothing.
+    void quit();
+    bool leaving() const { return leaving_; }
+    // A clear message, then back to the title (the list cannot be used for this game).
+    void refuse(const QString& text, const QString& title = {});
+    // "Would you like to try again?" boxes: Yes starts a new game, No leaves. Returns the answer.
+    bool askTryAgain(const QString& text, const QString& title = {});
+    // The end of a won game: the table, the end question, and a new game or the title.
+    void wonGame(const EndTexts& texts = {});
+    // The score as the end texts show it.
+    std::function<QString(double)> scoreText;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void addEntry(Entry which, const QString& text, const QString& name,
+                  std::function<void()> action);
+
+    QPointer<QWidget> screen_;
+    GameMenuNames names_;
+    std::function<void()> newGame_;
+    QMenuBar* menu_ = nullptr;
+    std::map<Entry, QAction*> entries_;
+    std::map<QString, GameTimer*> timers_;
+    int round_ = 0;
+    bool leaving_ = false;
+    bool escapeQuits_ = true;
+    MusicKind musicKind_ = MusicKind::None;
+    QString tune_;
+    bool ownMusicOpen_ = false;  // the game's own MusicOpen flag
+};
 
 }  // namespace wm

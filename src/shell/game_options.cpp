@@ -180,7 +180,7 @@ void GameOptions::continueOn() {
     s.GameOptionOn = Option2->isChecked() ? kTrue : kFalse;
     s.SoundOn = SoundONOp->isChecked() ? kTrue : kFalse;
     // The list-first games have their list already: on to the game itself.
-    leaveFor(listFirst() ? GameScreenOf(*card_) : QString("ChooseList"));
+    leaveFor(listFirst() ? toQ(card_->screen) : QString("ChooseList"));
 }
 
 bool GameOptions::listFirst() const {

@@ -85,9 +85,12 @@ Title::Title(QWidget* parent) : Backdrop("images/wm-title.jpg", parent) {
 
     ok_ = startUp();
     if (!ok_) return;
-    QTimer::singleShot(10, this, [] {
+    soundTimer_.setSingleShot(true);
+    soundTimer_.setInterval(10);
+    connect(&soundTimer_, &GameTimer::timeout, this, [] {
         if (Shared().SoundDefault == kTrue) sound().play("ufofly.wav");
     });
+    soundTimer_.start();
 }
 
 bool Title::startUp() {

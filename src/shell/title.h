@@ -7,6 +7,7 @@
 #include <QVector>
 
 #include "core/display_file.h"
+#include "platform/ticker.h"
 #include "shell/style.h"
 
 namespace wm {
@@ -34,6 +35,7 @@ protected:
     void closeEvent(QCloseEvent*) override;
 
 private:
+    GameTimer soundTimer_;
     bool startUp();
     void GetData();
     void layoutGrid();

@@ -1,22 +1,18 @@
 #include "games/study/scramble/scramble_screen.h"
 
 #include <QGraphicsDropShadowEffect>
-#include <QHBoxLayout>
-#include <QKeyEvent>
-#include <QMenuBar>
+#include <QTimer>
 
 #include "core/clock.h"
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "platform/dialogs.h"
-#include "platform/music.h"
 #include "platform/screen_metrics.h"
 #include "platform/services.h"
 #include "platform/sound.h"
 #include "platform/text.h"
 #include "shell/fl_form.h"
-#include "shell/game_frame.h"
-#include "shell/screens.h"
+#include "shell/game_registry.h"
 
 namespace wm {
 
@@ -31,17 +27,34 @@ const char* kBlackTile =
 constexpr double kTileBoost = 1.6;
 }  // namespace
 
-Scramble::Scramble(QWidget* parent) : Backdrop("images/scramble-back.jpg", parent) {
+namespace {
+GameMenuNames menuNames() {
+    GameMenuNames menu;
+    menu.foreignKey = "scramble";
+    return menu;
+}
+}  // namespace
+
+Scramble::Scramble(QWidget* parent)
+    : Backdrop("images/scramble-back.jpg", parent),
+      frame_(this, menuNames(), [this] { NewGame(); }),
+      Timer1(frame_.timer("Timer1", 1000,
+                          [this] {
+                              scramble::countSecond(Shared());
+                              Label4->setText(QString::number(Shared().ElapsedSeconds));
+                          })),
+      Timer3(frame_.timer("Timer3", 1000, [this] {
+          auto step = scramble::flicker(round_, Shared().Difficulty, TheRng());
+          if (step.yellow >= 0) setLetterBlack(step.yellow, false);
+          if (step.yellow2 >= 0) setLetterBlack(step.yellow2, false);
+          if (step.black1 >= 0) setLetterBlack(step.black1, true);
+          if (step.black2 >= 0) setLetterBlack(step.black2, true);
+      })) {
     setObjectName("Scramble");
     setWindowTitle("Scramble");
     setFocusPolicy(Qt::StrongFocus);
     SharedState& s = Shared();
-
-    GameMenuNames menu;
-    menu.foreignKey = "scramble";
-    MakeGameMenu(
-        this, menu, [this] { NewGame(); },
-        [this](const QString& c) { FLForm::InsertAt(Guess, c); });
+    frame_.setForeign([this](const QString& c) { FLForm::InsertAt(Guess, c); });
 
     heading_ = new QLabel("Unscramble the word!", this);
     heading_->setFont(ScreenFont(24, true));
@@ -97,31 +110,10 @@ Scramble::Scramble(QWidget* parent) : Backdrop("images/scramble-back.jpg", paren
     connect(Command2, &QPushButton::clicked, this, &Scramble::giveUp);
     connect(Command3, &QPushButton::clicked, this, &Scramble::hint);
 
-    Timer1.setInterval(1000);
-    connect(&Timer1, &QTimer::timeout, this, [this] {
-        scramble::countSecond(Shared());
-        Label4->setText(QString::number(Shared().ElapsedSeconds));
-    });
-    Timer2.setInterval(1);
-    Timer2.setSingleShot(true);
-    connect(&Timer2, &QTimer::timeout, this, &Scramble::quit);
-    Timer3.setInterval(1000);
-    connect(&Timer3, &QTimer::timeout, this, [this] {
-        auto step = scramble::flicker(round_, Shared().Difficulty, TheRng());
-        if (step.yellow >= 0) setLetterBlack(step.yellow, false);
-        if (step.yellow2 >= 0) setLetterBlack(step.yellow2, false);
-        if (step.black1 >= 0) setLetterBlack(step.black1, true);
-        if (step.black2 >= 0) setLetterBlack(step.black2, true);
-    });
-
     // The options ask "Scatter?" the other way round: true now means scatter.
     round_.scatter = scramble::invertGameOption(s);
     resize(ScreenMetrics::screenSize());
-    QTimer::singleShot(0, this, &Scramble::NewGame);
-}
-
-Scramble::~Scramble() {
-    StopBackgroundMusic();
+    QTimer::singleShot(0, &frame_, [this] { frame_.newGame(); });
 }
 
 double Scramble::unit() const {
@@ -134,15 +126,12 @@ scramble::ScreenGeometry Scramble::geometry() const {
 }
 
 void Scramble::NewGame() {
-    if (leaving_) return;
-    stopTimers();
     Guess->clear();
     for (auto* l : LetterLabel) l->hide();
     Label4->setText("0");
     auto result = scramble::newGame(Shared(), round_, geometry(), TheRng());
     if (!result.ready) {
-        dialogs().message(toQ(result.message), "Scramble");
-        Timer2.start();
+        frame_.refuse(toQ(result.message), "Scramble");
         return;
     }
     placeLetters();
@@ -179,14 +168,8 @@ void Scramble::setLetterBlack(int i, bool black) {
     LetterLabel[i]->setStyleSheet(black ? kBlackTile : kYellowTile);
 }
 
-void Scramble::stopTimers() {
-    Timer1.stop();
-    Timer2.stop();
-    Timer3.stop();
-}
-
 void Scramble::submit() {
-    stopTimers();
+    frame_.stopTimers();
     SharedState& s = Shared();
     auto result =
         scramble::submitGuess(s, round_, fromQ(Guess->text()), TheClock().Now(), TheRng());
@@ -197,11 +180,7 @@ void Scramble::submit() {
             return;
         case scramble::GuessResult::Right:
             sound().effect("applause.wav");
-            if (HighScoreHandoff(this) == AfterWin::NewGame) {
-                NewGame();
-            } else {
-                quit();
-            }
+            frame_.wonGame();
             return;
         case scramble::GuessResult::Wrong:
             sound().effect("fall.wav");
@@ -211,12 +190,7 @@ void Scramble::submit() {
 }
 
 void Scramble::giveUp() {
-    stopTimers();
-    if (dialogs().yesNo(toQ(scramble::giveUpText(Shared().TheWord)), "Scramble")) {
-        NewGame();
-    } else {
-        quit();
-    }
+    frame_.askTryAgain(toQ(scramble::giveUpText(Shared().TheWord)), "Scramble");
 }
 
 void Scramble::hint() {
@@ -224,28 +198,9 @@ void Scramble::hint() {
     Guess->setFocus();
 }
 
-void Scramble::quit() {
-    if (leaving_) return;
-    leaving_ = true;
-    stopTimers();
-    QuitToTitle(this);
-}
-
-void Scramble::keyPressEvent(QKeyEvent* e) {
-    if (e->key() == Qt::Key_Escape) {
-        quit();
-        return;
-    }
-    Backdrop::keyPressEvent(e);
-}
-
 void Scramble::resizeEvent(QResizeEvent*) {
     const int w = width(), h = height();
-    int menuH = 0;
-    for (auto* bar : findChildren<QMenuBar*>()) {
-        menuH = bar->sizeHint().height();
-        bar->setGeometry(0, 0, w, menuH);
-    }
+    const int menuH = frame_.menuHeight();
     // Just under the menu: a scattered letter may stand as high as one letter height.
     const int top = menuH + h / 100;
     heading_->adjustSize();
@@ -275,8 +230,7 @@ void Scramble::resizeEvent(QResizeEvent*) {
     if (!round_.scrambled.empty() && !round_.layout.boxes.empty()) placeLetters();
 }
 
-void RegisterScrambleScreen() {
-    RegisterScreen("Scramble", [] { return new Scramble; });
-}
+WM_REGISTER_GAME("Scramble", Scramble, "images/scramble-back.jpg", "sounds/applause.wav",
+                 "sounds/fall.wav");
 
 }  // namespace wm

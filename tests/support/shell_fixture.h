@@ -11,13 +11,13 @@
 
 #include "core/rng.h"
 #include "core/shared_state.h"
-#include "games/games.h"
 #include "platform/dialogs.h"
 #include "platform/movie.h"
 #include "platform/music.h"
 #include "platform/screen_metrics.h"
 #include "platform/services.h"
 #include "platform/sound.h"
+#include "platform/ticker.h"
 #include "shell/game_frame.h"
 #include "shell/screens.h"
 #include "shell/style.h"
@@ -37,7 +37,7 @@ struct ShellFixture {
             ApplyAppStyle();
             RegisterBuiltInScenes();
             RegisterShellScreens();
-            RegisterGameScreens();
+            // Game screens register themselves as they are linked in.
             return true;
         }();
         (void)once;
@@ -46,6 +46,8 @@ struct ShellFixture {
         services() = {&dialogs, &sound, &music};
         SetRng(&rng);
         SetModalHook({});
+        // Timers and animations move only when a test moves the clock.
+        Ticker::get().setManual(true);
         ScreenMetrics::overrideScreenSize(QSize(1280, 800));
         const QString data = WM_SOURCE_DATA_DIR;
         if (withFactory) {
@@ -79,9 +81,12 @@ struct ShellFixture {
     }
 };
 
-// Lets timers and posted events run for a while.
+// Moves the test clock on by `ms`, letting the timers due meanwhile fire, and serves the
+// events posted meanwhile. Never waits in real time.
 inline void Pump(int ms = 30) {
-    QTest::qWait(ms);
+    QApplication::processEvents();
+    Ticker::get().advance(ms);
+    QApplication::processEvents();
 }
 
 // The screen shown now, cast to what the test expects.
