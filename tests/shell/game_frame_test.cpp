@@ -1,0 +1,298 @@
+// The game frame on a small test game: the menu and its order, Escape and the leave guard,
+// timers that stop as one, continuations of an earlier round dropped, music by kind, and the
+// end of a won game with the game's own texts and table order.
+#include <QtTest>
+
+#include "core/score_table.h"
+#include "game_road.h"
+#include "shell/game_frame.h"
+
+using namespace wm;
+using namespace wm::test;
+
+namespace {
+
+// A game with nothing of its own: it counts the rounds it was asked to start.
+class TinyGame : public QWidget {
+public:
+    TinyGame() : frame(this, names(), [this] { ++starts; }) { setWindowTitle("Tiny"); }
+    static GameMenuNames names() {
+        GameMenuNames n;
+        n.foreignKey = "tinykey";
+        return n;
+    }
+    GameFrame frame;
+    int starts = 0;
+};
+
+TinyGame* OpenTiny() {
+    OpenScreen("Title");
+    auto* game = new TinyGame;
+    game->setObjectName("TinyGame");
+    PresentScreen(game);
+    return game;
+}
+
+QStringList MenuTexts(const GameFrame& frame) {
+    QStringList texts;
+    for (auto* a : frame.menuBar()->actions()) texts << a->text() + "=" + a->objectName();
+    return texts;
+}
+
+}  // namespace
+
+class GameFrameTest : public QObject {
+    Q_OBJECT
+private slots:
+    void menuKeepsItsOrderAndNames();
+    void paletteMovesCurrentGameToTheKey();
+    void escapeLeavesOnceAndStopsEverything();
+    void timersStopAsOneAndRunOnTheTestClock();
+    void restartDropsTheLastRoundsContinuations();
+    void refusalTellsThenLeaves();
+    void musicByKind();
+    void wonGameTextsAndOffers_data();
+    void wonGameTextsAndOffers();
+    void smallestFirstTableTakesTheTie();
+};
+
+void GameFrameTest::menuKeepsItsOrderAndNames() {
+    ShellFixture fx;
+    TinyGame* game = OpenTiny();
+    QCOMPARE(MenuTexts(game->frame),
+             (QStringList{"Restart=RS", "High Scores=HS", "How To Play=mnuHowTo", "Quit=Return"}));
+    game->frame.setForeign([](const QString&) {});
+    // The palette entry takes its place after Restart, whenever it is added.
+    QCOMPARE(MenuTexts(game->frame),
+             (QStringList{"Restart=RS", "Foreign Language Characters=FLang", "High Scores=HS",
+                          "How To Play=mnuHowTo", "Quit=Return"}));
+    Shared().HowToText = "Play nicely.";
+    QVERIFY(TriggerMenu(game, "mnuHowTo"));
+    QCOMPARE(fx.dialogs.last(), "Play nicely.");
+    QCOMPARE(fx.dialogs.shown.back().title, "How To Play");
+    QVERIFY(TriggerMenu(game, "RS"));
+    QCOMPARE(game->starts, 1);
+    QCOMPARE(game->frame.round(), 1);
+}
+
+void GameFrameTest::paletteMovesCurrentGameToTheKey() {
+    ShellFixture fx;
+    TinyGame* game = OpenTiny();
+    QString got;
+    game->frame.setForeign([&](const QString& c) { got = c; });
+    Shared().CurrentGame = "Tiny";
+    SetModalHook([](QDialog& d) {
+        auto* fl = qobject_cast<FLForm*>(&d);
+        QVERIFY(fl);
+        fl->pickCell(0);
+        fl->insert(0);
+    });
+    QVERIFY(TriggerMenu(game, "FLang"));
+    QCOMPARE(got, QString(QChar(0xBF)));
+    // Kept: the score file follows the key from now on.
+    QCOMPARE(QString::fromStdString(Shared().CurrentGame), "tinykey");
+}
+
+void GameFrameTest::escapeLeavesOnceAndStopsEverything() {
+    ShellFixture fx;
+    TinyGame* game = OpenTiny();
+    int ticks = 0;
+    game->frame.timer("Timer1", 100, [&] { ++ticks; }).start();
+    QTest::keyClick(game, Qt::Key_Escape);
+    QVERIFY(game->frame.leaving());
+    QVERIFY(!game->frame.findTimer("Timer1")->isActive());
+    QVERIFY(Showing<Title>() != nullptr);
+    QVERIFY(fx.music.closes >= 1);
+    // A second Quit (a box answered late, a key still queued) does nothing.
+    const int closes = fx.music.closes;
+    game->frame.quit();
+    QCOMPARE(fx.music.closes, closes);
+    Pump(1000);
+    QCOMPARE(ticks, 0);
+}
+
+void GameFrameTest::timersStopAsOneAndRunOnTheTestClock() {
+    ShellFixture fx;
+    TinyGame* game = OpenTiny();
+    int fast = 0, slow = 0, once = 0;
+    game->frame.timer("Timer1", 1, [&] { ++fast; }).start();  // runs at one frame, 16 ms
+    game->frame.timer("Timer2", 1000, [&] { ++slow; }).start();
+    game->frame
+        .timer(
+            "Timer3", 50, [&] { ++once; }, true)
+        .start();
+    Pump(160);
+    QCOMPARE(fast, 10);
+    QCOMPARE(slow, 0);
+    QCOMPARE(once, 1);
+    Pump(840);
+    QCOMPARE(slow, 1);
+    game->frame.stopTimers();
+    Pump(5000);
+    QCOMPARE(slow, 1);
+    QCOMPARE(fast, 62);
+    // Restart stops them too.
+    game->frame.findTimer("Timer2")->start();
+    game->frame.newGame();
+    QVERIFY(!game->frame.findTimer("Timer2")->isActive());
+}
+
+void GameFrameTest::restartDropsTheLastRoundsContinuations() {
+    ShellFixture fx;
+    TinyGame* game = OpenTiny();
+    game->frame.newGame();
+    int ended = 0;
+    auto animationEnd = game->frame.later([&] { ++ended; });
+    auto current = game->frame.later([&] { ended += 10; });
+    animationEnd();
+    QCOMPARE(ended, 1);
+    game->frame.newGame();  // Restart while an animation of round 1 still plays
+    current();
+    QCOMPARE(ended, 1);
+    auto fresh = game->frame.later([&] { ended += 100; });
+    fresh();
+    QCOMPARE(ended, 101);
+    game->frame.quit();
+    game->frame.later([&] { ended = -1; })();
+    QCOMPARE(ended, 101);
+}
+
+void GameFrameTest::refusalTellsThenLeaves() {
+    ShellFixture fx;
+    TinyGame* game = OpenTiny();
+    game->frame.refuse("This list cannot be used for this game.");
+    QCOMPARE(fx.dialogs.last(), "This list cannot be used for this game.");
+    QCOMPARE(fx.dialogs.shown.back().title, "Tiny");
+    QCOMPARE(CurrentScreen(), game);  // it leaves from the event loop, not inside the caller
+    Pump();
+    QVERIFY(Showing<Title>() != nullptr);
+}
+
+void GameFrameTest::musicByKind() {
+    ShellFixture fx;
+    Shared().SoundOn = kTrue;
+    TinyGame* game = OpenTiny();
+    game->frame.setMusic(MusicKind::Own, "crossword.mid");
+    game->frame.startMusic();
+    QVERIFY(game->frame.musicOpen());
+    QVERIFY(fx.music.opened.endsWith("sounds/crossword.mid"));
+    QCOMPARE(Shared().BgmOpen, kFalse);  // a flag of its own, not the shared one
+    game->frame.startMusic();
+    QCOMPARE(fx.music.plays, 1);
+    game->frame.stopMusic();
+    QVERIFY(!game->frame.musicOpen());
+
+    game->frame.setMusic(MusicKind::Shared, "hangman.mid");
+    Shared().SoundOn = kFalse;
+    game->frame.startMusic();
+    QCOMPARE(fx.music.plays, 1);  // sound off: no music
+    Shared().SoundOn = kTrue;
+    game->frame.startMusic();
+    QCOMPARE(Shared().BgmOpen, kTrue);
+    game->frame.quit();
+    QCOMPARE(Shared().BgmOpen, kFalse);
+}
+
+void GameFrameTest::wonGameTextsAndOffers_data() {
+    QTest::addColumn<bool>("placed");
+    QTest::addColumn<bool>("money");
+    QTest::addColumn<QList<bool>>("answers");
+    QTest::addColumn<QStringList>("texts");
+    QTest::addColumn<int>("difficulty");
+    QTest::addColumn<bool>("onTitle");
+    const QString raise = "Would you like to raise the difficulty level a bit?";
+    QTest::newRow("placed, again, raised")
+        << true << false << QList<bool>{true, true}
+        << QStringList{"You got a high score of 1234! Would you like to try again?", raise} << 3
+        << false;
+    QTest::newRow("placed, again, not raised")
+        << true << false << QList<bool>{true, false}
+        << QStringList{"You got a high score of 1234! Would you like to try again?", raise} << 2
+        << false;
+    QTest::newRow("placed, no") << true << false << QList<bool>{false}
+                                << QStringList{"You got a high score of 1234! Would you like to "
+                                               "try again?"}
+                                << 2 << true;
+    QTest::newRow("not placed, again: no offer")
+        << false << false << QList<bool>{true}
+        << QStringList{"Congratulations! You scored 1234! Would you like to try again?"} << 2
+        << false;
+    QTest::newRow("cash total, placed")
+        << true << true << QList<bool>{true, true}
+        << QStringList{"You won a cash and prize total of $1234! Would you like to try again?",
+                       raise}
+        << 3 << false;
+}
+
+void GameFrameTest::wonGameTextsAndOffers() {
+    QFETCH(bool, placed);
+    QFETCH(bool, money);
+    QFETCH(QList<bool>, answers);
+    QFETCH(QStringList, texts);
+    QFETCH(int, difficulty);
+    QFETCH(bool, onTitle);
+    ShellFixture fx;
+    TinyGame* game = OpenTiny();
+    SharedState& s = Shared();
+    s.CurrentGame = "Scramble";
+    s.Difficulty = 2;
+    s.MaxDifficulty = 3;
+    if (!placed) {
+        ScoreTable full = ScoreTable::Fresh();
+        for (int r = 1; r <= 50; ++r) InsertScore(full, r, "TOP", "99999");
+        WriteScoreTable(fx.path("scores/Scramble.dat").toStdString(), full);
+    }
+    WinDriver driver({"ass"});
+    SetModalHook(std::ref(driver));
+    for (bool a : answers) fx.dialogs.answerYes(a);
+    s.Score = 1234.75;  // made whole before the table is searched
+    EndTexts end;
+    if (money) {
+        end.placed = "You won a cash and prize total of ${score}! Would you like to try again?";
+        end.notPlaced =
+            "Congratulations! Your cash and prize total for this game was ${score}! Would you "
+            "like to try again?";
+    }
+    game->frame.wonGame(end);
+    QStringList asked;
+    for (const auto& shown : fx.dialogs.shown) {
+        asked << shown.text;
+        QCOMPARE(shown.title, "Great job!");
+    }
+    QCOMPARE(asked, texts);
+    QCOMPARE(int(s.Difficulty), difficulty);
+    QCOMPARE(s.Score, 1234.0);
+    QCOMPARE(driver.congratulations.size(), placed ? 1 : 0);
+    Pump();
+    QCOMPARE(Showing<Title>() != nullptr, onTitle);
+    QCOMPARE(game->starts, onTitle ? 0 : 1);
+    if (placed) {
+        const ScoreTable t = ReadScoreTable(fx.path("scores/Scramble.dat").toStdString());
+        QCOMPARE(QString::fromStdString(t.initials(1)), "WIN");
+        QCOMPARE(t.score(1), 1234.0);
+    }
+}
+
+void GameFrameTest::smallestFirstTableTakesTheTie() {
+    ShellFixture fx;
+    TinyGame* game = OpenTiny();
+    SharedState& s = Shared();
+    s.CurrentGame = "Speed Type";
+    ScoreTable t = ScoreTable::Fresh();
+    InsertScore(t, 1, "ONE", "10");
+    InsertScore(t, 2, "TWO", "20");
+    WriteScoreTable(fx.path("scores/Speed Type.dat").toStdString(), t);
+    WinDriver driver({"NEW"});
+    SetModalHook(std::ref(driver));
+    s.Score = 20;  // a tie goes below the time it equals
+    EndTexts end;
+    end.smallestFirst = true;
+    game->frame.wonGame(end);
+    const ScoreTable after = ReadScoreTable(fx.path("scores/Speed Type.dat").toStdString());
+    QCOMPARE(QString::fromStdString(after.initials(1)), "ONE");
+    QCOMPARE(QString::fromStdString(after.initials(2)), "TWO");
+    QCOMPARE(QString::fromStdString(after.initials(3)), "NEW");
+}
+
+QTEST_MAIN(GameFrameTest)
+#include "game_frame_test.moc"
