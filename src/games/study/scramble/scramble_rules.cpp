@@ -7,6 +7,7 @@
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "core/strings.h"
+#include "games/common/word_scramble.h"
 
 namespace wm::scramble {
 
@@ -18,41 +19,6 @@ LetterSize letterSize(int length) {
 bool invertGameOption(SharedState& state) {
     state.GameOptionOn = ~state.GameOptionOn;  // Not: -1 <-> 0
     return state.GameOptionOn != kFalse;
-}
-
-std::string scrambleWord(std::string_view word, Rng& rng) {
-    const int length = Len(word);
-    std::string letters(word);
-    int toTake = 0;
-    for (char c : letters) {
-        if (c != kTakenMark) ++toTake;
-    }
-
-    std::string taken;
-    const long long maxDraws = static_cast<long long>(kScrambleDrawsPerLetter) * length;
-    for (long long draws = 0; Len(taken) < toTake && draws < maxDraws; ++draws) {
-        int k = static_cast<int>(Int(rng.Rnd() * length + 1));
-        if (k < 1 || k > length) continue;  // a generator outside [0, 1)
-        char& letter = letters[k - 1];
-        if (letter != kTakenMark) {
-            taken += letter;
-            letter = kTakenMark;
-        }
-    }
-    // Only a generator stuck on taken places gets here: the letters left follow in word order.
-    for (char& letter : letters) {
-        if (letter != kTakenMark) {
-            taken += letter;
-            letter = kTakenMark;
-        }
-    }
-
-    // Each "*" of the word stands where it stood; the taken letters fill the other places.
-    std::string row;
-    row.reserve(word.size());
-    std::size_t next = 0;
-    for (char c : word) row += (c == kTakenMark) ? kTakenMark : taken[next++];
-    return row;
 }
 
 RowLayout layOutLetters(int length, const ScreenGeometry& screen, bool scatter, Rng& rng) {
@@ -111,7 +77,7 @@ NewGame newGame(SharedState& state, ScrambleState& round, const ScreenGeometry& 
         }
     }
 
-    round.scrambled = scrambleWord(state.TheWord, rng);
+    round.scrambled = ScrambleWord(state.TheWord, rng);
     const int length = Len(round.scrambled);
     round.layout = layOutLetters(length, screen, round.scatter, rng);
     round.black.assign(length, false);

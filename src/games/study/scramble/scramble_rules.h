@@ -22,12 +22,8 @@ inline constexpr int kMaxLetters = 20;
 inline constexpr char kTooLongMessage[] =
     "The words on this list are too long to use for this activity.";
 
-// A letter already taken is marked with this; a word holding one never has it taken.
-inline constexpr char kTakenMark = '*';
-
-// Bounds on draws the design leaves open-ended. A working generator never reaches them; they
-// keep a broken or scripted one (or an impossible screen) from hanging the game.
-inline constexpr int kScrambleDrawsPerLetter = 200;
+// A bound on a draw the design leaves open-ended: a working generator never reaches it; it
+// keeps a broken or scripted one (or an impossible screen) from hanging the game.
 inline constexpr int kMaxTopRolls = 100;
 
 // Letter size and spacing by word length, in twips (font in points).
@@ -69,13 +65,6 @@ struct ScrambleState {
 // The options screen asks "Scatter?" the other way round, so the game inverts GameOptionOn as it
 // loads (the shared flag keeps the inverted value). Returns whether letters scatter.
 bool invertGameOption(SharedState& state);
-
-// Takes the letters in random order: k = Int(Rnd * length + 1), appended when not yet taken.
-// A "*" in the word counts as taken already, so it is never drawn; rather than draw for ever,
-// the draws stop once every other letter is taken and each "*" keeps its own place in the row
-// (a word of "*" alone comes back as it is, with no draw). Past kScrambleDrawsPerLetter draws a
-// letter, the letters still left follow in word order.
-std::string scrambleWord(std::string_view word, Rng& rng);
 
 // The row centred across the screen. Without scatter every top is (0.75 x screen height -
 // height) / 2; with scatter each top is rolled, and rolled again (at most kMaxTopRolls times,
