@@ -1,0 +1,115 @@
+// Spell Crush's deal, judging and clock over a scripted generator.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "core/rng.h"
+#include "core/shared_state.h"
+#include "games/show/spell_crush/spell_crush_rules.h"
+
+using namespace wm;
+using namespace wm::spellcrush;
+
+namespace {
+
+SharedState ListOf(std::initializer_list<const char*> words) {
+    SharedState s;
+    s.Words.assign(kMaxWords + 2, "");
+    s.Meanings.assign(kMaxWords + 2, "");
+    int i = 0;
+    for (const char* w : words) s.Words[++i] = w;
+    s.WordCount = static_cast<short>(i);
+    return s;
+}
+
+}  // namespace
+
+TEST(Deal, DrawsInTheDesignedOrderAndMisspellsOneWord) {
+    SharedState s = ListOf({"cat", "fish", "dog", "bird", "frog", "lion"});
+    SpellCrushState g;
+    g.SecondsLeft = 42;
+    ScriptedRng rng;
+    // The wrong place, then four numbers: 5, 2, 2 again (drawn again), 6, 1.
+    rng.pick(2, 4).pick(5, 6).pick(2, 6).pick(2, 6).pick(6, 6).pick(1, 6);
+    deal(s, g, rng);
+    EXPECT_EQ(rng.randomizeCount, 1);
+    EXPECT_EQ(g.WrongWordPos, 2);
+    EXPECT_EQ((std::array<int, 4>{g.DealWords[1], g.DealWords[2], g.DealWords[3], g.DealWords[4]}),
+              (std::array<int, 4>{5, 2, 6, 1}));
+    // "fish" went through Spell Crush's rules: the "f" of rule 1.
+    EXPECT_EQ(g.shown, (std::array<std::string, 4>{"frog", "phish", "lion", "cat"}));
+    EXPECT_EQ(g.DealTime, 42);
+    EXPECT_EQ(rng.pending(), 0u);
+}
+
+TEST(Deal, FourWordsAlwaysDealTheSameFour) {
+    SharedState s = ListOf({"ant", "bee", "cow", "dog"});
+    SpellCrushState g;
+    SystemRng rng;
+    rng.seed(7);
+    for (int round = 0; round < 20; ++round) {
+        deal(s, g, rng);
+        std::array<int, 4> n{g.DealWords[1], g.DealWords[2], g.DealWords[3], g.DealWords[4]};
+        std::sort(n.begin(), n.end());
+        EXPECT_EQ(n, (std::array<int, 4>{1, 2, 3, 4}));
+        EXPECT_GE(g.WrongWordPos, 1);
+        EXPECT_LE(g.WrongWordPos, 4);
+    }
+}
+
+TEST(Deal, NeverDealsTheEmptyEntryPastTheLimitAndNeverHangs) {
+    SharedState s = ListOf({});
+    for (int i = 1; i <= kMaxWords; ++i) s.Words[i] = "w" + std::to_string(i);
+    s.WordCount = kMaxWords + 1;  // after the over-limit message
+    SpellCrushState g;
+    ScriptedRng rng(0.9999);  // always the last number: 1001, then 1001...
+    rng.pick(1, 4);
+    deal(s, g, rng);
+    for (int i = 1; i <= 4; ++i) {
+        EXPECT_GE(g.DealWords[i], 1);
+        EXPECT_LE(g.DealWords[i], kMaxWords);
+    }
+    for (const auto& w : g.shown) EXPECT_FALSE(w.empty());
+
+    SharedState tiny = ListOf({"one", "two"});  // fewer than four: repeats, but an end
+    SpellCrushState t;
+    ScriptedRng stuck(0.0);
+    deal(tiny, t, stuck);
+    EXPECT_EQ(t.DealWords[1], 1);
+    EXPECT_EQ(t.DealWords[2], 2);
+}
+
+TEST(Judge, RightPaysByLengthAndSpeedWrongCostsNothing) {
+    SharedState s = ListOf({"cat", "fish", "dog", "bird"});
+    SpellCrushState g;
+    ScriptedRng rng;
+    rng.pick(2, 4).pick(1, 4).pick(2, 4).pick(3, 4).pick(4, 4);
+    newGame(s, g, rng);
+    EXPECT_EQ(g.SecondsLeft, 60);
+    EXPECT_EQ(s.Score, 0);
+    ASSERT_EQ(g.shown[1], "phish");
+    // Within the first second "used" counts as 1: 500 a letter of the crushed word.
+    Verdict right = judge(s, g, 1);
+    EXPECT_TRUE(right.right);
+    EXPECT_EQ(right.points, 2500);
+    EXPECT_EQ(s.Score, 2500);
+    EXPECT_EQ(g.ClickedWord, 1);
+
+    g.SecondsLeft = g.DealTime - 3;  // three seconds later
+    EXPECT_EQ(judge(s, g, 1).points, 833);
+    EXPECT_EQ(s.Score, 3333);
+    Verdict wrong = judge(s, g, 0);
+    EXPECT_FALSE(wrong.right);
+    EXPECT_EQ(wrong.points, 0);
+    EXPECT_EQ(s.Score, 3333);
+}
+
+TEST(Clock, SixtySecondsThenTheEnd) {
+    SpellCrushState g;
+    int ticks = 0;
+    while (!countSecond(g)) ++ticks;
+    EXPECT_EQ(ticks, 59);
+    EXPECT_EQ(g.SecondsLeft, 0);
+    EXPECT_TRUE(countSecond(g));
+    EXPECT_EQ(g.SecondsLeft, 0);
+}
