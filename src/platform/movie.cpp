@@ -41,8 +41,8 @@ std::unique_ptr<MovieScene> MakeScene(const QString& name) {
 }
 
 Movie::Movie(QWidget* parent) : QWidget(parent) {
-    timer_.setInterval(kFrameMs);
-    connect(&timer_, &QTimer::timeout, this, &Movie::tick);
+    timer_.setSingleShot(true);
+    connect(&timer_, &GameTimer::timeout, this, &Movie::tick);
 }
 
 Movie::~Movie() = default;
@@ -63,8 +63,8 @@ void Movie::play(bool loop, std::function<void()> onFinished) {
     onFinished_ = std::move(onFinished);
     offset_ = 0;
     playing_ = true;
-    clock_.start();
-    timer_.start();
+    startMs_ = Ticker::get().now();
+    scheduleTick();
     update();
     // Nothing loaded: the pass ends on the first tick, so a screen waiting for it goes on.
 }
@@ -92,8 +92,8 @@ bool Movie::isPlaying() const {
 }
 
 double Movie::position() const {
-    if (!playing_ || !clock_.isValid()) return offset_;
-    return offset_ + clock_.elapsed() / 1000.0;
+    if (!playing_) return offset_;
+    return offset_ + double(Ticker::get().now() - startMs_) / 1000.0;
 }
 
 void Movie::advance(double seconds) {
@@ -111,16 +111,27 @@ void Movie::tick() {
     if (!playing_) return;
     const double length = scene_ ? scene_->duration() : 0.0;
     const double now = position();
-    if (now >= length) {
+    if (now >= length - 1e-9) {  // the exact last frame counts as the end
         if (loop_ && length > 0) {
             offset_ = std::fmod(now, length);
-            clock_.restart();
+            startMs_ = Ticker::get().now();
         } else {
             offset_ = length;  // rest on the last frame
             if (!endPass()) return;
+            update();
+            return;
         }
     }
+    scheduleTick();
     update();
+}
+
+void Movie::scheduleTick() {
+    const double length = scene_ ? scene_->duration() : 0.0;
+    const double left = std::max(0.0, length - position());
+    // Exact, not paced: the last frame lands on the end of the pass, so a continuation waiting
+    // for a film of d seconds runs after exactly d seconds of the clock.
+    timer_.startExact(int(std::min<double>(kFrameMs, std::ceil(left * 1000.0 - 1e-6))));
 }
 
 void Movie::paintEvent(QPaintEvent*) {

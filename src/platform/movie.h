@@ -1,13 +1,14 @@
 // The animation player. Scenes are our own, drawn with QPainter, found by name in a registry
-// (the name a screen asks for, such as "wmsplash").
+// (the name a screen asks for, such as "wmsplash"). Its time is the Ticker's, so a test moving the
+// manual clock moves every playing film too.
 #pragma once
 
-#include <QElapsedTimer>
-#include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <map>
 #include <memory>
+
+#include "platform/ticker.h"
 
 namespace wm {
 
@@ -52,11 +53,12 @@ protected:
 
 private:
     void tick();
+    void scheduleTick();  // the next frame, or the end of the pass if that comes first
     // Ends the pass: the signal, then the continuation. False when that closed this widget.
     bool endPass();
     std::unique_ptr<MovieScene> scene_;
-    QTimer timer_;
-    QElapsedTimer clock_;
+    GameTimer timer_;
+    qint64 startMs_ = 0;  // Ticker time at which `offset_` was the position
     double offset_ = 0;
     bool playing_ = false;
     bool loop_ = false;

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMap>
 #include <QMediaDevices>
 #include <QSoundEffect>
 #include <QUrl>
@@ -14,8 +15,28 @@
 
 namespace wm {
 
-void Sound::effect(const QString& name) {
-    if (Shared().SoundOn == kTrue) play(name);
+void Sound::effect(const QString& name, SoundMode mode) {
+    if (Shared().SoundOn == kTrue) play(name, mode);
+}
+
+VoicePlan PlanVoice(SoundMode mode, const std::vector<bool>& voicesPlaying, bool otherPlaying) {
+    const int count = int(voicesPlaying.size());
+    bool anyMine = false;
+    for (bool playing : voicesPlaying) anyMine = anyMine || playing;
+    switch (mode) {
+        case SoundMode::Replace:
+            return {0, true};
+        case SoundMode::NoInterrupt:
+            if (anyMine || otherPlaying) return {};
+            return {0, false};
+        case SoundMode::Overlap:
+            for (int i = 0; i < count; ++i) {
+                if (!voicesPlaying[size_t(i)]) return {i, false};
+            }
+            // All voices busy: another one, or cut the first (the oldest started) beyond the cap.
+            return {count < kMaxVoices ? count : 0, false};
+    }
+    return {};
 }
 
 namespace {
@@ -50,7 +71,15 @@ bool IsCompleteWav(const QString& path) {
 struct QtSound::Impl {
     QString folder;
     bool hasDevice = false;
-    std::map<QString, std::unique_ptr<QSoundEffect>> effects;  // by lower-cased file name
+    // Voices of each effect, by lower-cased file name; Overlap adds voices up to kMaxVoices.
+    std::map<QString, std::vector<std::unique_ptr<QSoundEffect>>> effects;
+    QMap<QString, QString> paths;  // checked file of each effect
+
+    std::unique_ptr<QSoundEffect> voice(const QString& path) const {
+        auto effect = std::make_unique<QSoundEffect>();
+        effect->setSource(QUrl::fromLocalFile(path));
+        return effect;
+    }
 
     QString resolve(const QString& fileName) const {
         const QString exact = QDir(folder).filePath(fileName);
@@ -77,7 +106,7 @@ QtSound::~QtSound() {
     delete d;
 }
 
-void QtSound::play(const QString& name) {
+void QtSound::play(const QString& name, SoundMode mode) {
     if (!d->hasDevice || name.trimmed().isEmpty()) return;
     QString fileName =
         QFileInfo(QString(name).replace(QLatin1Char('\\'), QLatin1Char('/'))).fileName();
@@ -90,19 +119,30 @@ void QtSound::play(const QString& name) {
     if (it == d->effects.end()) {
         const QString path = d->resolve(fileName);
         if (path.isEmpty() || !IsCompleteWav(path)) return;
-        auto effect = std::make_unique<QSoundEffect>();
-        effect->setSource(QUrl::fromLocalFile(path));
-        it = d->effects.emplace(key, std::move(effect)).first;
+        d->paths[key] = path;
+        it = d->effects.emplace(key, std::vector<std::unique_ptr<QSoundEffect>>{}).first;
+        it->second.push_back(d->voice(path));
     }
-    // One wave at a time, as the program was designed around: a new effect cuts the last.
-    for (auto& [otherKey, other] : d->effects) {
-        if (other->isPlaying()) other->stop();
+    std::vector<bool> mine;
+    for (const auto& v : it->second) mine.push_back(v->isPlaying());
+    bool others = false;
+    for (const auto& [otherKey, voices] : d->effects) {
+        if (otherKey == key) continue;
+        for (const auto& v : voices) others = others || v->isPlaying();
     }
-    it->second->play();
+    const VoicePlan plan = PlanVoice(mode, mine, others);
+    if (plan.voice < 0) return;
+    if (plan.stopOthers) stopAll();
+    if (plan.voice == int(it->second.size())) it->second.push_back(d->voice(d->paths[key]));
+    QSoundEffect& chosen = *it->second[size_t(plan.voice)];
+    if (chosen.isPlaying()) chosen.stop();
+    chosen.play();
 }
 
 void QtSound::stopAll() {
-    for (auto& [key, effect] : d->effects) effect->stop();
+    for (auto& [key, voices] : d->effects) {
+        for (auto& v : voices) v->stop();
+    }
 }
 
 }  // namespace wm

@@ -20,6 +20,8 @@
 
 using namespace wm;
 
+Q_DECLARE_METATYPE(std::vector<bool>)
+
 namespace {
 
 void writeFile(const QString& path, const QByteArray& bytes) {
@@ -230,6 +232,43 @@ private slots:
         QCOMPARE(s.played, QStringList{QStringLiteral("ding")});
         s.play(QStringLiteral("always"));  // play ignores the flag
         QCOMPARE(s.played.size(), 2);
+
+        // The mode travels with the effect, and the flag gates every mode alike.
+        s.effect(QStringLiteral("blast"), SoundMode::Overlap);
+        s.effect(QStringLiteral("bleep"), SoundMode::NoInterrupt);
+        Shared().SoundOn = kFalse;
+        s.effect(QStringLiteral("muted"), SoundMode::Overlap);
+        QCOMPARE(s.played, (QStringList{"ding", "always", "blast", "bleep"}));
+        QCOMPARE(s.modes, (QList<SoundMode>{SoundMode::Replace, SoundMode::Replace,
+                                            SoundMode::Overlap, SoundMode::NoInterrupt}));
+    }
+
+    void voicePlans_data() {
+        QTest::addColumn<SoundMode>("mode");
+        QTest::addColumn<std::vector<bool>>("mine");
+        QTest::addColumn<bool>("other");
+        QTest::addColumn<int>("voice");
+        QTest::addColumn<bool>("stopOthers");
+        using V = std::vector<bool>;
+        const auto R = SoundMode::Replace, N = SoundMode::NoInterrupt, O = SoundMode::Overlap;
+        QTest::newRow("replace cuts whatever sounds") << R << V{true, true} << true << 0 << true;
+        QTest::newRow("bleep into silence") << N << V{false} << false << 0 << false;
+        QTest::newRow("bleep over itself") << N << V{true} << false << -1 << false;
+        QTest::newRow("bleep over another") << N << V{false} << true << -1 << false;
+        QTest::newRow("bleep over a second voice") << N << V{false, true} << false << -1 << false;
+        QTest::newRow("overlap reuses a free voice") << O << V{true, false} << true << 1 << false;
+        QTest::newRow("overlap adds a voice") << O << V{true, true} << false << 2 << false;
+        QTest::newRow("overlap cuts the oldest at the cap")
+            << O << V(kMaxVoices, true) << false << 0 << false;
+    }
+
+    void voicePlans() {
+        QFETCH(SoundMode, mode);
+        QFETCH(std::vector<bool>, mine);
+        QFETCH(bool, other);
+        const VoicePlan plan = PlanVoice(mode, mine, other);
+        QTEST(plan.voice, "voice");
+        QTEST(plan.stopOthers, "stopOthers");
     }
 
     void wavCheckAndHarmlessQtSound() {
@@ -258,6 +297,9 @@ private slots:
                  {"missing", "short", "lying.wav", "text", "good", "GOOD.WAV", ""}) {
                 sound.effect(QString::fromLatin1(name));
             }
+            for (int i = 0; i < kMaxVoices + 2; ++i) sound.effect("good", SoundMode::Overlap);
+            sound.effect("good", SoundMode::NoInterrupt);
+            sound.effect("short", SoundMode::Overlap);
             sound.stopAll();
         }
         QtSound nowhere(QStringLiteral("/no/such/folder"));

@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "platform/movie.h"
+#include "platform/ticker.h"
 
 using namespace wm;
 
@@ -45,7 +46,10 @@ double colourfulShare(const QImage& image, double top, double bottom) {
 class PlatformMovieTest : public QObject {
     Q_OBJECT
 private slots:
-    void initTestCase() { RegisterBuiltInScenes(); }
+    void initTestCase() {
+        Ticker::get().setManual(true);
+        RegisterBuiltInScenes();
+    }
 
     void namesAreFoundLoosely() {
         Movie movie;
@@ -114,20 +118,52 @@ private slots:
         QCOMPARE(calls, 1);
     }
 
-    void timerDrivesThePass() {
+    void clockDrivesThePass() {
+        // The game clock moves the film: its continuation runs when exactly its length has gone.
         RegisterScene(QStringLiteral("flash"), [] { return std::make_unique<FlashScene>(); });
         Movie movie;
         QVERIFY(movie.load(QStringLiteral("flash")));
+        QSignalSpy finished(&movie, &Movie::finished);
         bool done = false;
         movie.play(false, [&] { done = true; });
-        QTRY_VERIFY_WITH_TIMEOUT(done, 3000);
+        Ticker::get().advance(50);
+        QCOMPARE(movie.position(), 0.05);
+        Ticker::get().advance(49);
+        QVERIFY(!done);
+        QVERIFY(movie.isPlaying());
+        Ticker::get().advance(1);
+        QVERIFY(done);
+        QCOMPARE(finished.count(), 1);
+        Ticker::get().advance(1000);
+        QCOMPARE(finished.count(), 1);
+        QCOMPARE(movie.position(), 0.1);
 
-        // With nothing loaded a waiting screen still goes on.
+        // Jumping by hand and then letting the clock run mix: 30 ms by hand, 70 by the clock.
+        done = false;
+        movie.play(false, [&] { done = true; });
+        movie.advance(0.03);
+        Ticker::get().advance(69);
+        QVERIFY(!done);
+        Ticker::get().advance(1);
+        QVERIFY(done);
+
+        // A loop never ends by itself, and wraps inside its length.
+        int loops = 0;
+        movie.play(true, [&] { ++loops; });
+        Ticker::get().advance(1234);
+        QVERIFY(movie.isPlaying());
+        QCOMPARE(loops, 0);
+        QVERIFY(movie.position() < 0.1);
+        movie.stop();
+        QCOMPARE(loops, 1);
+
+        // With nothing loaded a waiting screen still goes on, on the next tick of the clock.
         Movie empty;
         QVERIFY(!empty.load(QStringLiteral("missing")));
         bool emptyDone = false;
         empty.play(true, [&] { emptyDone = true; });
-        QTRY_VERIFY_WITH_TIMEOUT(emptyDone, 3000);
+        Ticker::get().advance(0);
+        QVERIFY(emptyDone);
         QVERIFY(!empty.isPlaying());
     }
 

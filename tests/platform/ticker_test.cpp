@@ -1,0 +1,192 @@
+// The game clock under manual time: pace, firing order, timers changed from inside a timeout.
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/ticker.h"
+
+using namespace wm;
+
+namespace {
+
+// Records "name@ms" (ms since the test began) for each timeout.
+struct Log {
+    qint64 start = Ticker::get().now();
+    std::vector<std::string> lines;
+    void hook(GameTimer& timer, const std::string& name) {
+        QObject::connect(&timer, &GameTimer::timeout, [this, name] {
+            lines.push_back(name + "@" + std::to_string(Ticker::get().now() - start));
+        });
+    }
+};
+
+class TickerTest : public ::testing::Test {
+protected:
+    void SetUp() override { Ticker::get().setManual(true); }
+};
+
+TEST(TickerPace, EffectiveInterval) {
+    const std::vector<std::pair<int, int>> cases = {
+        {-5, 0}, {0, 0}, {1, 16}, {10, 16}, {15, 16}, {16, 16}, {17, 17}, {55, 55}, {1000, 1000}};
+    for (auto [asked, runs] : cases) {
+        EXPECT_EQ(Ticker::effectiveInterval(asked), runs) << "asked " << asked;
+    }
+}
+
+TEST_F(TickerTest, DueTimersFireInTimeOrderAndAsOftenAsDue) {
+    Log log;
+    GameTimer slow, fast, once, tiny;
+    log.hook(slow, "slow");
+    log.hook(fast, "fast");
+    log.hook(once, "once");
+    log.hook(tiny, "tiny");
+    slow.start(50);
+    fast.start(30);
+    once.setSingleShot(true);
+    once.start(40);
+    tiny.start(1);  // the pace rule: a 1 ms timer runs every 16 ms
+    EXPECT_EQ(tiny.interval(), 1);
+    Ticker::get().advance(65);
+    const std::vector<std::string> expected = {"tiny@16", "fast@30", "tiny@32", "once@40",
+                                               "tiny@48", "slow@50", "fast@60", "tiny@64"};
+    EXPECT_EQ(log.lines, expected);
+    EXPECT_FALSE(once.isActive());
+    EXPECT_TRUE(slow.isActive());
+    EXPECT_EQ(Ticker::get().now() - log.start, 65);
+    // The remainder of a part-way interval carries into the next advance.
+    log.lines.clear();
+    tiny.stop();
+    Ticker::get().advance(35);
+    EXPECT_EQ(log.lines, (std::vector<std::string>{"fast@90", "slow@100"}));
+}
+
+TEST_F(TickerTest, TiesFireInStartOrder) {
+    Log log;
+    GameTimer a, b, c;
+    log.hook(a, "a");
+    log.hook(b, "b");
+    log.hook(c, "c");
+    b.start(20);
+    c.start(20);
+    a.start(20);
+    Ticker::get().advance(20);
+    EXPECT_EQ(log.lines, (std::vector<std::string>{"b@20", "c@20", "a@20"}));
+}
+
+TEST_F(TickerTest, StoppedOrDeletedInsideATimeoutNeverFiresAgain) {
+    Log log;
+    GameTimer first;
+    GameTimer stopped;
+    auto deleted = std::make_unique<GameTimer>();
+    auto selfDeleting = new GameTimer;
+    log.hook(first, "first");
+    log.hook(stopped, "stopped");
+    log.hook(*deleted, "deleted");
+    QObject::connect(&first, &GameTimer::timeout, [&] {
+        stopped.stop();
+        deleted.reset();
+    });
+    QObject::connect(selfDeleting, &GameTimer::timeout, [&] {
+        log.lines.push_back("self");
+        delete selfDeleting;
+        selfDeleting = nullptr;
+    });
+    first.start(20);
+    stopped.start(20);  // due at the same moment, but after `first`
+    deleted->start(20);
+    selfDeleting->start(20);
+    Ticker::get().advance(100);
+    EXPECT_EQ(log.lines, (std::vector<std::string>{"first@20", "self", "first@40", "first@60",
+                                                   "first@80", "first@100"}));
+    EXPECT_EQ(selfDeleting, nullptr);
+    EXPECT_FALSE(stopped.isActive());
+}
+
+TEST_F(TickerTest, StartedInsideATimeoutCountsFromThatMoment) {
+    Log log;
+    GameTimer trigger, later;
+    log.hook(trigger, "trigger");
+    log.hook(later, "later");
+    trigger.setSingleShot(true);
+    QObject::connect(&trigger, &GameTimer::timeout, [&] { later.start(50); });
+    trigger.start(20);
+    Ticker::get().advance(130);
+    EXPECT_EQ(log.lines, (std::vector<std::string>{"trigger@20", "later@70", "later@120"}));
+    // Restarting a running timer moves its next firing; changing its interval does too.
+    log.lines.clear();
+    later.start();  // at 130: next at 180
+    Ticker::get().advance(40);
+    later.setInterval(30);  // at 170: next at 200
+    Ticker::get().advance(30);
+    EXPECT_EQ(log.lines, (std::vector<std::string>{"later@200"}));
+}
+
+TEST_F(TickerTest, ZeroIntervalFiresOnTheNextAdvanceEvenOfNothing) {
+    Log log;
+    GameTimer once, repeating, restarting;
+    log.hook(once, "once");
+    log.hook(repeating, "rep");
+    log.hook(restarting, "restart");
+    once.setSingleShot(true);
+    once.start(0);
+    repeating.start(0);
+    restarting.setSingleShot(true);
+    // A handler that sets its own zero timer going again must not spin the clock.
+    QObject::connect(&restarting, &GameTimer::timeout, [&] { restarting.start(0); });
+    restarting.start(0);
+    Ticker::get().advance(0);
+    EXPECT_EQ(log.lines, (std::vector<std::string>{"once@0", "rep@0", "restart@0"}));
+    log.lines.clear();
+    Ticker::get().advance(50);
+    EXPECT_EQ(log.lines, (std::vector<std::string>{"rep@0", "restart@0"}));
+    EXPECT_FALSE(once.isActive());
+}
+
+TEST_F(TickerTest, ExactStartSkipsThePaceRule) {
+    Log log;
+    GameTimer frame;
+    log.hook(frame, "frame");
+    frame.setSingleShot(true);
+    frame.startExact(5);
+    Ticker::get().advance(5);
+    EXPECT_EQ(log.lines, (std::vector<std::string>{"frame@5"}));
+}
+
+TEST(TickerRealTime, FollowsRealTimeAndHandsOverToManual) {
+    int argc = 1;
+    char name[] = "ticker_test";
+    char* argv[] = {name, nullptr};
+    QCoreApplication app(argc, argv);
+    Ticker& ticker = Ticker::get();
+    ticker.setManual(false);
+    EXPECT_FALSE(ticker.isManual());
+
+    // Real mode: advance() moves nothing, and a zero timer fires from the event loop.
+    int fired = 0;
+    GameTimer soon, pending;
+    soon.setSingleShot(true);
+    QObject::connect(&soon, &GameTimer::timeout, [&] { ++fired; });
+    QObject::connect(&pending, &GameTimer::timeout, [&] { ++fired; });
+    soon.start(0);
+    pending.start(10000);
+    const qint64 before = ticker.now();
+    ticker.advance(100000);
+    EXPECT_LT(ticker.now() - before, 10000);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(fired, 1);
+    EXPECT_FALSE(soon.isActive());
+
+    // The switch keeps the clock running forwards, and a running timer goes on under it.
+    ticker.setManual(true);
+    const qint64 switched = ticker.now();
+    EXPECT_GE(switched, before);
+    ticker.advance(10000);
+    EXPECT_EQ(fired, 2);
+    EXPECT_EQ(ticker.now(), switched + 10000);
+}
+
+}  // namespace
