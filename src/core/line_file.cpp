@@ -150,16 +150,11 @@ namespace wm {
 
 std::string_view LineReader::next() {
     if (pos_ >= bytes_.size()) return {};
-    std::size_t start = pos_;
-    // Lines normally end in CR LF: look for the CR, then for a lone LF before it.
-    const char* base = bytes_.data();
-    const std::size_t size = bytes_.size();
-    const void* cr = std::memchr(base + start, '\r', size - start);
-    std::size_t limit = cr ? static_cast<std::size_t>(static_cast<const char*>(cr) - base) : size;
-    const void* lf = std::memchr(base + start, '\n', limit - start);
-    std::size_t end = lf ? static_cast<std::size_t>(static_cast<const char*>(lf) - base)
-                         : (cr ? limit : std::string::npos);
-    if (end == std::string::npos) {
+    const std::size_t start = pos_;
+    // One pass up to the first CR or LF: each byte is looked at once over the whole file,
+    // whatever the line ends, so reading stays linear in the file's size.
+    const std::size_t end = std::string_view(bytes_).find_first_of("\r\n", start);
+    if (end == std::string_view::npos) {
         pos_ = bytes_.size();
         return std::string_view(bytes_).substr(start);
     }
