@@ -33,16 +33,17 @@ DisplaySettings ReadDisplaySettings(const std::string& path) {
     }
     if (lines.size() >= 6) {
         double scale = Val(lines[1]);
-        int columns = static_cast<int>(Val(lines[2]));
-        int rows = static_cast<int>(Val(lines[3]));
+        double columns = Val(lines[2]);
+        double rows = Val(lines[3]);
         double h = Val(lines[4]);
         double v = Val(lines[5]);
-        // Nonsense numbers would lay out an unusable grid: keep the preset then.
-        if (scale > 0.05 && scale <= 4 && columns >= 1 && columns <= 20 && rows >= 1 &&
-            rows <= 20 && h >= 1 && h <= 4 && v >= 1 && v <= 4) {
+        // Nonsense numbers would lay out an unusable grid: keep the preset then. The counts are
+        // checked as read, before they become whole numbers, so a huge one cannot overflow.
+        if (scale > 0.05 && scale <= 4 && columns >= 1 && columns < 21 && rows >= 1 && rows < 21 &&
+            h >= 1 && h <= 4 && v >= 1 && v <= 4) {
             s.scale = scale;
-            s.columns = columns;
-            s.rows = rows;
+            s.columns = static_cast<int>(columns);
+            s.rows = static_cast<int>(rows);
             s.hspace = h;
             s.vspace = v;
         }

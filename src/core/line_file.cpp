@@ -1,5 +1,6 @@
 #include "core/line_file.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -61,20 +62,12 @@ std::string ReadBytes(const std::string& path) {
 }
 
 std::vector<std::string> ReadLines(const std::string& path) {
-    const std::string bytes = ReadBytes(path);
+    std::string bytes = ReadBytes(path);
     std::vector<std::string> lines;
-    std::string line;
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        char c = bytes[i];
-        if (c == '\r' || c == '\n') {
-            lines.push_back(std::move(line));
-            line.clear();
-            if (c == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n') ++i;
-        } else {
-            line.push_back(c);
-        }
-    }
-    if (!line.empty()) lines.push_back(std::move(line));
+    lines.reserve(static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n') +
+                                           std::count(bytes.begin(), bytes.end(), '\r') + 1));
+    LineReader in(std::move(bytes));
+    while (!in.atEnd()) lines.emplace_back(in.next());
     return lines;
 }
 
@@ -148,17 +141,24 @@ void RemoveFile(const std::string& path) {
 
 namespace wm {
 
+LineReader::LineReader(std::string bytes) : bytes_(std::move(bytes)) {
+    cr_ = find('\r', 0);
+    lf_ = find('\n', 0);
+}
+
+std::size_t LineReader::find(char c, std::size_t from) const {
+    if (from >= bytes_.size()) return std::string::npos;
+    const void* hit = std::memchr(bytes_.data() + from, c, bytes_.size() - from);
+    return hit ? static_cast<std::size_t>(static_cast<const char*>(hit) - bytes_.data())
+               : std::string::npos;
+}
+
 std::string_view LineReader::next() {
     if (pos_ >= bytes_.size()) return {};
-    std::size_t start = pos_;
-    // Lines normally end in CR LF: look for the CR, then for a lone LF before it.
-    const char* base = bytes_.data();
-    const std::size_t size = bytes_.size();
-    const void* cr = std::memchr(base + start, '\r', size - start);
-    std::size_t limit = cr ? static_cast<std::size_t>(static_cast<const char*>(cr) - base) : size;
-    const void* lf = std::memchr(base + start, '\n', limit - start);
-    std::size_t end = lf ? static_cast<std::size_t>(static_cast<const char*>(lf) - base)
-                         : (cr ? limit : std::string::npos);
+    const std::size_t start = pos_;
+    if (cr_ < start) cr_ = find('\r', start);
+    if (lf_ < start) lf_ = find('\n', start);
+    const std::size_t end = std::min(cr_, lf_);
     if (end == std::string::npos) {
         pos_ = bytes_.size();
         return std::string_view(bytes_).substr(start);

@@ -50,15 +50,21 @@ namespace wm {
 // Walks the lines of a file's bytes without copying them, with the same line ends as ReadLines.
 class LineReader {
 public:
-    explicit LineReader(std::string bytes) : bytes_(std::move(bytes)) {}
+    explicit LineReader(std::string bytes);
     static LineReader open(const std::string& path) { return LineReader(ReadBytes(path)); }
     bool atEnd() const { return pos_ >= bytes_.size(); }
     // The next line; an empty view at the end.
     std::string_view next();
 
 private:
+    std::size_t find(char c, std::size_t from) const;
+
     std::string bytes_;
     std::size_t pos_ = 0;
+    // The next CR and LF at or after pos_ (npos: none left). Each is searched for again only
+    // once passed, so every byte is looked at a bounded number of times over the whole file.
+    std::size_t cr_ = 0;
+    std::size_t lf_ = 0;
 };
 
 }  // namespace wm

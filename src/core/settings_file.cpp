@@ -1,5 +1,7 @@
 #include "core/settings_file.h"
 
+#include <filesystem>
+
 #include "core/line_file.h"
 #include "core/shared_state.h"
 #include "core/strings.h"
@@ -19,7 +21,16 @@ void FirstRunRenames(const std::string& appPath) {
     }
     const std::string lists = JoinPath(appPath, kListFileName);
     const std::string listsFactory = JoinPath(appPath, kListFactoryName);
-    if (!FileExists(lists) && FileExists(listsFactory)) RenameFile(listsFactory, lists);
+    // The program starts without the list file: the title names the file when it cannot read
+    // it. So a rename that cannot be done (a folder standing at the name, a read-only folder)
+    // leaves both names as they are and is not fatal.
+    if (FileExists(lists) || !FileExists(listsFactory)) return;
+    std::error_code ec;
+    if (std::filesystem::exists(lists, ec) || ec) return;
+    try {
+        RenameFile(listsFactory, lists);
+    } catch (const FileError&) {
+    }
 }
 
 bool Settings::soundOn() const {

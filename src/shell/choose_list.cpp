@@ -1,5 +1,7 @@
 #include "shell/choose_list.h"
 
+#include <algorithm>
+
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QVBoxLayout>
@@ -133,7 +135,9 @@ ChooseList::ChooseList(QWidget* parent) : Backdrop("images/wm-back.jpg", parent)
     TheLists = new QListWidget(panel);
     TheLists->setObjectName("TheLists");
     TheLists->setFont(ScreenFont(14));
-    TheLists->setSortingEnabled(true);
+    // Sorted without regard to case, as the platform's sorted list box does: fillLists orders
+    // the lines itself, since QListWidget's own sort goes by code point ("Zoo" before "apple").
+    TheLists->setSortingEnabled(false);
     TheLists->hide();
     layout->addWidget(TheLists, 1);
 
@@ -202,6 +206,9 @@ void ChooseList::fillLists() {
     }
     ListSummary summary = SummariseLists(lines, all, folderList);
     foreign_ = summary.foreign;
+    std::stable_sort(
+        summary.lines.begin(), summary.lines.end(),
+        [](const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) < 0; });
     TheLists->addItems(summary.lines);
     captionLabel_->setText(summary.caption());
     setWindowTitle(summary.caption());

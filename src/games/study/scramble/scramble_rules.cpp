@@ -54,6 +54,10 @@ RowLayout layOutLetters(int length, const ScreenGeometry& screen, bool scatter, 
     return layout;
 }
 
+bool playable(std::string_view word) {
+    return Len(word) <= kMaxLetters && word.find(kTakenMark) == std::string_view::npos;
+}
+
 NewGame newGame(SharedState& state, ScrambleState& round, const ScreenGeometry& screen, Rng& rng) {
     state.Score = 0;
     state.ElapsedSeconds = 0;
@@ -68,11 +72,13 @@ NewGame newGame(SharedState& state, ScrambleState& round, const ScreenGeometry& 
         result.message = kTooLongMessage;
         return result;
     }
-    while (Len(state.TheWord) > kMaxLetters) {
+    // Words holding "*" are passed over like the long ones, by the same bounded redraw; the
+    // message names what was wrong with the last word drawn.
+    while (!playable(state.TheWord)) {
         PickRandomWord(state, rng);
         ++round.attempts;
         if (round.attempts > state.WordCount * 2) {
-            result.message = kTooLongMessage;
+            result.message = Len(state.TheWord) > kMaxLetters ? kTooLongMessage : kStarMessage;
             return result;
         }
     }
@@ -96,27 +102,23 @@ FlickerStep flicker(ScrambleState& round, int difficulty, Rng& rng) {
     if (length == 0) return step;
     round.black.resize(length, false);
 
-    // The letters blacked out at the last tick turn yellow again. At Difficulty 3 both of the
-    // pair come back, so two letters blink at a time rather than the word going dark.
-    int* restored[2] = {&step.yellow, &step.yellow2};
-    for (int i = 0; i < 2; ++i) {
-        const int k = round.lastBlack[i];
-        if (k >= 0 && k < length) {
-            *restored[i] = k;
-            round.black[k] = false;
-        }
-        round.lastBlack[i] = -1;
+    // Only the letter blacked out last turns yellow again. At Difficulty 3 the first of the
+    // pair stays dark, so the word darkens tick by tick: deliberately, as the hardest level.
+    if (round.lastBlack >= 0 && round.lastBlack < length) {
+        step.yellow = round.lastBlack;
+        round.black[round.lastBlack] = false;
     }
-    auto blackOne = [&](int slot) {
+    round.lastBlack = -1;
+    auto blackOne = [&] {
         int k = static_cast<int>(Int(rng.Rnd() * length + 1)) - 1;
         if (k < 0) k = 0;
         if (k >= length) k = length - 1;
         round.black[k] = true;
-        round.lastBlack[slot] = k;
+        round.lastBlack = k;
         return k;
     };
-    step.black1 = blackOne(0);
-    if (difficulty == 3) step.black2 = blackOne(1);
+    step.black1 = blackOne();
+    if (difficulty == 3) step.black2 = blackOne();
     return step;
 }
 

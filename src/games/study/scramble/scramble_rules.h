@@ -4,7 +4,6 @@
 // Rng reproduces a round exactly.
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +20,9 @@ inline constexpr int kMaxLetters = 20;
 
 inline constexpr char kTooLongMessage[] =
     "The words on this list are too long to use for this activity.";
+// A "*" could not be told from a letter already taken, so such a word cannot be scrambled.
+inline constexpr char kStarMessage[] =
+    "The words on this list contain \"*\" and cannot be used for this activity.";
 
 // A bound on a draw the design leaves open-ended: a working generator never reaches it; it
 // keeps a broken or scripted one (or an impossible screen) from hanging the game.
@@ -59,7 +61,7 @@ struct ScrambleState {
     std::string scrambled;
     RowLayout layout;
     std::vector<bool> black;  // letters blacked out by the flicker, by LetterLabel index
-    std::array<int, 2> lastBlack{-1, -1};  // the letters blacked out at the last tick, -1 none
+    int lastBlack = -1;       // the letter blacked out last, -1 none
 };
 
 // The options screen asks "Scatter?" the other way round, so the game inverts GameOptionOn as it
@@ -77,17 +79,23 @@ struct NewGame {
     std::string message;
 };
 
-// Starts a round: Score and ElapsedSeconds to 0, the random word (picked again while longer
-// than kMaxLetters), the scrambled row and its layout. Keeps `round.scatter`.
+// Whether a word can be played: at most kMaxLetters letters and no "*".
+bool playable(std::string_view word);
+
+// Starts a round: Score and ElapsedSeconds to 0, the random word (picked again while it is not
+// playable, at most WordCount x 2 times, then a message naming why), the scrambled row and its
+// layout. Keeps `round.scatter`.
 NewGame newGame(SharedState& state, ScrambleState& round, const ScreenGeometry& screen, Rng& rng);
 
 // Timer1: one more second on the clock (held at the top of its 16-bit range).
 void countSecond(SharedState& state);
 
 // Timer3's step: which letters turn yellow again and which turn black (-1 for none).
+// Only the letter blacked out last comes back; at Difficulty 3 two are blacked a tick, so the
+// word darkens as the seconds pass. Deliberate: it is what makes the hardest level hard.
 struct FlickerStep {
     int yellow = -1;
-    int yellow2 = -1;  // Difficulty 3 only
+    int yellow2 = -1;  // always -1: one letter comes back a tick, at every level
     int black1 = -1;
     int black2 = -1;  // Difficulty 3 only
 };

@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -91,7 +90,7 @@ TEST(NewGame, RoundDrawsInDesignedOrder) {
     s.ElapsedSeconds = 42;
     ScrambleState round;
     round.scatter = true;
-    round.lastBlack = {3, -1};
+    round.lastBlack = 3;
     ScriptedRng rng;
     rng.pick(2, 3);                                              // the word: "horse"
     rng.pick(5, 5).pick(1, 5).pick(4, 5).pick(2, 5).pick(3, 5);  // "ehsor"
@@ -104,7 +103,7 @@ TEST(NewGame, RoundDrawsInDesignedOrder) {
     EXPECT_EQ(s.ElapsedSeconds, 0);
     EXPECT_EQ(s.TheWord, "horse");
     EXPECT_EQ(round.scrambled, "ehsor");
-    EXPECT_EQ(round.lastBlack, (std::array<int, 2>{-1, -1}));
+    EXPECT_EQ(round.lastBlack, -1);
     EXPECT_EQ(round.black, std::vector<bool>(5, false));
     ASSERT_EQ(round.layout.boxes.size(), 5u);
     EXPECT_EQ(round.layout.boxes[0].top, 826);
@@ -147,7 +146,46 @@ TEST(NewGame, OnlyLongWordsEndOnTheMessage) {
     EXPECT_FALSE(newGame(empty, round, kScreen, rng).ready);
 }
 
-TEST(Flicker, TheLettersBlackedLastComeBack) {
+TEST(NewGame, WordsWithAStarArePickedAgainOrEndOnTheirMessage) {
+    struct Case {
+        std::vector<std::string> words;
+        std::vector<int> picks;  // 1-based; a first pick and at most WordCount x 2 more
+        bool ready;
+        std::string word;  // the word played, or the message
+    };
+    const std::string tooLong(21, 'x');
+    const Case cases[] = {
+        {{"a*b", "cat"}, {1, 2}, true, "cat"},
+        {{"*", "dog"}, {1, 1, 2}, true, "dog"},
+        {{"a*b", "*"}, {1, 2, 1, 2, 1, 2}, false, kStarMessage},
+        // The message names what is wrong with the last word drawn.
+        {{"a*b", tooLong}, {1, 1, 1, 1, 1, 2}, false, kTooLongMessage},
+        {{tooLong, "a*b"}, {1, 1, 1, 1, 1, 2}, false, kStarMessage},
+    };
+    for (const Case& c : cases) {
+        SharedState s = listOf(c.words);
+        ScrambleState round;
+        ScriptedRng rng;
+        for (int k : c.picks) rng.pick(k, static_cast<int>(c.words.size()));
+        rng.setFallback(0.0);
+        NewGame game = newGame(s, round, kScreen, rng);
+        EXPECT_EQ(game.ready, c.ready) << c.words[0];
+        if (c.ready) {
+            EXPECT_EQ(s.TheWord, c.word);
+            EXPECT_EQ(round.scrambled.find('*'), std::string::npos);
+        } else {
+            EXPECT_EQ(game.message, c.word) << c.words[0];
+            EXPECT_TRUE(round.scrambled.empty());
+        }
+    }
+    EXPECT_TRUE(playable(std::string(20, 'z')));
+    EXPECT_FALSE(playable(std::string(21, 'z')));
+    EXPECT_FALSE(playable("*"));
+    EXPECT_EQ(std::string(kStarMessage),
+              "The words on this list contain \"*\" and cannot be used for this activity.");
+}
+
+TEST(Flicker, OnlyTheLetterBlackedLastComesBack) {
     ScrambleState round;
     round.scrambled = "abcde";
     ScriptedRng rng;
@@ -161,7 +199,7 @@ TEST(Flicker, TheLettersBlackedLastComeBack) {
     EXPECT_EQ(second.black1, 3);
     EXPECT_EQ(round.black, (std::vector<bool>{false, false, false, true, false}));
 
-    // At Difficulty 3 both of the pair come back, so no more than two are ever dark.
+    // At Difficulty 3 only the second of the pair comes back: the word darkens tick by tick.
     ScrambleState hard;
     hard.scrambled = "abcde";
     rng.pick(1, 5).pick(2, 5).pick(3, 5).pick(4, 5);
@@ -169,13 +207,19 @@ TEST(Flicker, TheLettersBlackedLastComeBack) {
     EXPECT_EQ(pair.black1, 0);
     EXPECT_EQ(pair.black2, 1);
     FlickerStep next = flicker(hard, 3, rng);
-    EXPECT_EQ(next.yellow, 0);
-    EXPECT_EQ(next.yellow2, 1);
-    EXPECT_EQ(hard.black, (std::vector<bool>{false, false, true, true, false}));
-    // The same letter drawn twice in a tick is dark once and comes back once.
-    rng.pick(5, 5).pick(5, 5);
-    flicker(hard, 3, rng);
-    EXPECT_EQ(hard.black, (std::vector<bool>{false, false, false, false, true}));
+    EXPECT_EQ(next.yellow, 1);
+    EXPECT_EQ(next.yellow2, -1);
+    EXPECT_EQ(hard.black, (std::vector<bool>{true, false, true, true, false}));
+    // A letter drawn again while dark stays dark; the one drawn last comes back next tick.
+    rng.pick(5, 5).pick(1, 5);
+    FlickerStep third = flicker(hard, 3, rng);
+    EXPECT_EQ(third.yellow, 3);
+    EXPECT_EQ(hard.black, (std::vector<bool>{true, false, true, false, true}));
+    // The letter drawn last comes back even when an earlier tick had blacked it too.
+    rng.pick(2, 5).pick(2, 5);
+    EXPECT_EQ(flicker(hard, 3, rng).yellow, 0);
+    EXPECT_EQ(hard.black, (std::vector<bool>{false, true, true, false, true}));
+    EXPECT_EQ(std::count(hard.black.begin(), hard.black.end(), true), 3);
 
     ScrambleState blank;
     EXPECT_EQ(flicker(blank, 3, rng).black1, -1);
