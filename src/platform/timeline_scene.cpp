@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QPainter>
+#include <QRadialGradient>
 #include <QRegularExpression>
 #include <QSvgRenderer>
 #include <QtDebug>
@@ -18,16 +19,54 @@ namespace wm {
 
 namespace {
 
+void paintBurst(QPainter& p, double size, const QColor& colour, double phase, double) {
+    const double u = std::clamp(phase, 0.0, 1.0);
+    if (u <= 0 || u >= 1) return;
+    const double reach = size / 2 * scene::easeOut(u);
+    const double droop = size * 0.18 * u * u;
+    const double fade = 1 - scene::smooth((u - 0.45) / 0.55);
+    p.setPen(Qt::NoPen);
+    // A flash at the centre as it goes off.
+    if (u < 0.25) {
+        QRadialGradient flash(QPointF(0, 0), size * 0.25);
+        flash.setColorAt(0, QColor(255, 255, 240, int(220 * (1 - u / 0.25))));
+        flash.setColorAt(1, QColor(255, 255, 240, 0));
+        p.setBrush(flash);
+        p.drawEllipse(QPointF(0, 0), size * 0.25, size * 0.25);
+    }
+    constexpr int kSparks = 28;
+    for (int ring = 0; ring < 2; ++ring) {
+        for (int i = 0; i < kSparks; ++i) {
+            // Fixed, slightly uneven angles and speeds so the burst looks natural yet the same
+            // every time.
+            const double wobble = std::sin(i * 12.9898 + ring * 78.233) * 0.5;
+            const double angle = (i + wobble * 0.4) * 2 * M_PI / kSparks + ring * 0.11;
+            const double speed = ring == 0 ? 1.0 + 0.08 * wobble : 0.62 + 0.06 * wobble;
+            const QPointF at(std::cos(angle) * reach * speed,
+                             std::sin(angle) * reach * speed + droop);
+            const QPointF back = at * (1 - 0.3 * (1 - 0.5 * u));
+            QColor c = ring == 0 ? colour : colour.lighter(140);
+            c.setAlphaF(float(fade * 0.55));
+            p.setPen(QPen(c, size * 0.012, Qt::SolidLine, Qt::RoundCap));
+            p.drawLine(back, at);
+            p.setPen(Qt::NoPen);
+            c.setAlphaF(float(fade));
+            p.setBrush(c);
+            p.drawEllipse(at, size * 0.012, size * 0.012);
+        }
+    }
+}
+
 std::map<QString, TimelineHelper>& helpers() {
     static std::map<QString, TimelineHelper> all = {
-        // A four-pointed twinkle; the frame value turns it.
+        // A four-pointed twinkle.
         {QStringLiteral("sparkle"),
-         [](QPainter& p, double size, double frame, double) {
-             scene::paintSparkle(p, QPointF(0, 0), size / 2, frame * 15, 1.0);
+         [](QPainter& p, double size, const QColor&, double, double) {
+             scene::paintSparkle(p, QPointF(0, 0), size / 2, 0, 1.0);
          }},
         // A soft cone of light pointing down, as from a lamp or a flying saucer.
         {QStringLiteral("beam"),
-         [](QPainter& p, double size, double, double time) {
+         [](QPainter& p, double size, const QColor&, double, double time) {
              QLinearGradient g(0, -size / 2, 0, size / 2);
              g.setColorAt(0, QColor(255, 250, 200, 200));
              g.setColorAt(1, QColor(255, 240, 160, 30));
@@ -41,6 +80,8 @@ std::map<QString, TimelineHelper>& helpers() {
              p.setOpacity(p.opacity() * (0.85 + 0.15 * std::sin(time * 40)));
              p.fillPath(cone, g);
          }},
+        // A firework bursting: sparks fly out, droop and fade as the phase goes from 0 to 1.
+        {QStringLiteral("burst"), paintBurst},
     };
     return all;
 }
@@ -166,7 +207,8 @@ std::unique_ptr<TimelineScene> TimelineScene::load(const QString& file, QString*
             return fail(QStringLiteral("a timeline starts with \"timeline duration=<seconds>\""));
         } else if (word == QLatin1String("sprite")) {
             if (bare.size() != 1) return fail(QStringLiteral("write \"sprite <name> ...\""));
-            if (const QString e = onlyKeys({"svg", "id", "frames", "helper", "size"}); !e.isEmpty())
+            if (const QString e = onlyKeys({"svg", "id", "frames", "helper", "size", "colour"});
+                !e.isEmpty())
                 return fail(e);
             Sprite s;
             s.name = bare[0];
@@ -175,6 +217,10 @@ std::unique_ptr<TimelineScene> TimelineScene::load(const QString& file, QString*
             s.frames = static_cast<int>(number(QStringLiteral("frames"), 0, 0, 1000));
             s.helper = keys[QStringLiteral("helper")];
             s.size = number(QStringLiteral("size"), 64, 1, 100000);
+            if (keys.count(QStringLiteral("colour"))) {
+                s.colour = QColor::fromString(keys[QStringLiteral("colour")]);
+                if (!s.colour.isValid()) return fail(QStringLiteral("colour is like #ff8800"));
+            }
             if (s.svg.isEmpty() == s.helper.isEmpty())
                 return fail(QStringLiteral("a sprite has either svg=<file> or helper=<name>"));
             if (!s.helper.isEmpty() && !helpers().count(s.helper))
@@ -193,7 +239,7 @@ std::unique_ptr<TimelineScene> TimelineScene::load(const QString& file, QString*
             if (sprite == scene->sprites_.end())
                 return fail(QStringLiteral("no sprite called %1 above this line").arg(bare[0]));
             if (const QString e =
-                    onlyKeys({"t", "x", "y", "scale", "rot", "opacity", "frame", "ease"});
+                    onlyKeys({"t", "x", "y", "scale", "rot", "opacity", "frame", "phase", "ease"});
                 !e.isEmpty())
                 return fail(e);
             if (!keys.count(QStringLiteral("t"))) return fail(QStringLiteral("a key needs t="));
@@ -210,8 +256,8 @@ std::unique_ptr<TimelineScene> TimelineScene::load(const QString& file, QString*
                     return fail(QStringLiteral("ease is linear, in, out, inout or step"));
                 ease = e->second;
             }
-            static const char* kNames[PropertyCount] = {"x",   "y",       "scale",
-                                                        "rot", "opacity", "frame"};
+            static const char* kNames[PropertyCount] = {"x",       "y",     "scale", "rot",
+                                                        "opacity", "frame", "phase"};
             for (int p = 0; p < PropertyCount; ++p) {
                 if (!keys.count(QLatin1String(kNames[p]))) continue;
                 const double v = number(QLatin1String(kNames[p]), 0, -100000, 100000);
@@ -270,8 +316,24 @@ SpriteState TimelineScene::stateAt(const QString& name, double t) const {
         s.rotation = valueAt(sprite.tracks[Rotation], t, 0);
         s.opacity = std::clamp(valueAt(sprite.tracks[Opacity], t, 1), 0.0, 1.0);
         s.frame = static_cast<int>(std::floor(valueAt(sprite.tracks[Frame], t, 0)));
+        s.phase = valueAt(sprite.tracks[Phase], t, 0);
     }
     return s;
+}
+
+QStringList TimelineScene::missingDrawings() {
+    QStringList out;
+    for (const Sprite& sprite : sprites_) {
+        if (sprite.svg.isEmpty()) continue;
+        QSvgRenderer* svg = renderer(sprite.svg);
+        for (int f = 0; f < std::max(1, sprite.frames); ++f) {
+            const QString id =
+                sprite.frames > 0 ? QStringLiteral("%1_%2").arg(sprite.id).arg(f) : sprite.id;
+            if (!svg || !svg->elementExists(id))
+                out.push_back(QStringLiteral("%1: %2#%3").arg(sprite.name, sprite.svg, id));
+        }
+    }
+    return out;
 }
 
 QSvgRenderer* TimelineScene::renderer(const QString& svg) {
@@ -300,7 +362,7 @@ void TimelineScene::paint(QPainter& painter, const QRectF& rect, double t) {
         painter.scale(s.scale, s.scale);
         painter.setOpacity(painter.opacity() * s.opacity);
         if (!sprite.helper.isEmpty()) {
-            helpers()[sprite.helper](painter, sprite.size, s.frame, t);
+            helpers()[sprite.helper](painter, sprite.size, sprite.colour, s.phase, t);
         } else if (QSvgRenderer* svg = renderer(sprite.svg)) {
             const QString id = sprite.frames > 0 ? QStringLiteral("%1_%2").arg(sprite.id).arg(
                                                        std::clamp(s.frame, 0, sprite.frames - 1))

@@ -7,6 +7,7 @@
 
 #include <QColor>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <map>
@@ -25,12 +26,14 @@ struct SpriteState {
     double rotation = 0;  // degrees clockwise
     double opacity = 1;
     int frame = 0;
+    double phase = 0;  // free-running value for procedural helpers, interpolated like the others
 };
 
 // Procedural drawing a timeline can use as a sprite (sparkles, beams, particles): paints centred
-// on the origin, `size` stage units across, at the sprite's frame value and the scene's time.
-using TimelineHelper =
-    std::function<void(QPainter& painter, double size, double frame, double time)>;
+// on the origin, `size` stage units across, in the sprite's colour, at the sprite's phase and
+// the scene's time.
+using TimelineHelper = std::function<void(QPainter& painter, double size, const QColor& colour,
+                                          double phase, double time)>;
 void RegisterTimelineHelper(const QString& name, TimelineHelper helper);
 
 class TimelineScene : public MovieScene {
@@ -47,6 +50,9 @@ public:
     bool loops() const { return loop_; }
     // The sprite's state at time `t`; a default state for an unknown sprite.
     SpriteState stateAt(const QString& sprite, double t) const;
+    // "<sprite>: <svg>#<id>" for each sprite whose drawing or element id cannot be found: such
+    // sprites draw nothing, which a shipped film should not rely on.
+    QStringList missingDrawings();
 
 private:
     enum class Ease { Linear, In, Out, InOut, Step };
@@ -55,7 +61,7 @@ private:
         double value;
         Ease ease;  // how the value travels from the previous point to this one
     };
-    enum Property { X, Y, Scale, Rotation, Opacity, Frame, PropertyCount };
+    enum Property { X, Y, Scale, Rotation, Opacity, Frame, Phase, PropertyCount };
     struct Sprite {
         QString name;
         QString svg;     // file name beside the timeline; empty for a helper
@@ -63,6 +69,7 @@ private:
         int frames = 0;  // 0: a single element `id`
         QString helper;
         double size = 64;
+        QColor colour = Qt::white;
         std::vector<Point> tracks[PropertyCount];
     };
 

@@ -1,11 +1,13 @@
 // The timeline scene: values at and between keyframes, frames switching at their keys, sprites
 // drawn from SVG element ids (an unknown id draws nothing), mistakes reported with file and line,
 // and MakeScene finding timeline files by name.
+#include "manifest.h"
 #include "platform/movie.h"
 #include "platform/timeline_scene.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QPainter>
 #include <QTemporaryDir>
@@ -163,6 +165,56 @@ private slots:
         QVERIFY(scene);
         const QColor centre = draw(*scene, 0.5).pixelColor(100, 50);
         QVERIFY2(centre.lightness() > 150, qPrintable(centre.name()));
+        // A burst is nothing before its phase starts, sparks around its middle half way.
+        auto burst = load(
+            "timeline duration=2 size=200x100 background=#000000\n"
+            "sprite b helper=burst size=100 colour=#ff0000\n"
+            "key b t=0 x=100 y=50 phase=0\nkey b t=1 phase=0\nkey b t=2 phase=1\n");
+        QVERIFY(burst);
+        QCOMPARE(burst->stateAt("b", 1.5).phase, 0.5);
+        auto redPixels = [&](double t) {
+            const QImage img = draw(*burst, t);
+            int red = 0;
+            for (int y = 0; y < img.height(); ++y)
+                for (int x = 0; x < img.width(); ++x)
+                    if (img.pixelColor(x, y).red() > 120) ++red;
+            return red;
+        };
+        QCOMPARE(redPixels(0.5), 0);
+        QVERIFY(redPixels(1.5) > 50);
+    }
+
+    // Every film we ship loads, finds every drawing it names and paints at any moment.
+    void shippedTimelinesAreWhole() {
+        std::vector<wm::assetgen::ManifestEntry> entries;
+        QString error;
+        QVERIFY2(wm::assetgen::readManifest(wm::assetgen::sourceAssetsDir() + "/manifest.txt",
+                                            &entries, &error),
+                 qPrintable(error));
+        int films = 0;
+        for (const auto& e : entries) {
+            if (e.kind != "movie") continue;
+            ++films;
+            auto scene =
+                TimelineScene::load(wm::assetgen::sourceAssetsDir() + "/" + e.source, &error);
+            QVERIFY2(scene, qPrintable(error));
+            QVERIFY2(scene->missingDrawings().isEmpty(),
+                     qPrintable(scene->missingDrawings().join(", ")));
+            const QString shots = qEnvironmentVariable("WM_SHOTS");
+            for (double u : {0.0, 0.3, 0.6, 0.9}) {
+                QImage img(scene->naturalSize(), QImage::Format_ARGB32);
+                img.fill(QColor(20, 24, 60));
+                QPainter p(&img);
+                p.setRenderHint(QPainter::Antialiasing);
+                scene->paint(p, QRectF(img.rect()), u * scene->duration());
+                p.end();
+                if (!shots.isEmpty())
+                    img.save(QStringLiteral("%1/%2-%3.png")
+                                 .arg(shots, QFileInfo(e.name).baseName())
+                                 .arg(u));
+            }
+        }
+        QVERIFY(films >= 1);
     }
 
     void makeSceneFindsTimelineFilesByName() {
