@@ -23,9 +23,18 @@ QString sceneKey(const QString& name) {
     return key;
 }
 
+SceneFinder& finder() {
+    static SceneFinder find;
+    return find;
+}
+
 constexpr int kFrameMs = 33;  // about 30 frames a second
 
 }  // namespace
+
+void SetSceneFinder(SceneFinder find) {
+    finder() = std::move(find);
+}
 
 void RegisterScene(const QString& name, SceneFactory factory) {
     // Built-ins first, so that a scene registered by the caller replaces them and not the reverse.
@@ -35,8 +44,10 @@ void RegisterScene(const QString& name, SceneFactory factory) {
 
 std::unique_ptr<MovieScene> MakeScene(const QString& name) {
     RegisterBuiltInScenes();
-    const auto it = registry().find(sceneKey(name));
-    if (it == registry().end() || !it->second) return nullptr;
+    const QString key = sceneKey(name);
+    const auto it = registry().find(key);
+    if (it == registry().end() || !it->second)
+        return finder() && !key.isEmpty() ? finder()(key) : nullptr;
     return it->second();
 }
 

@@ -12,6 +12,7 @@
 
 #include "platform/movie.h"
 #include "platform/scene_kit.h"
+#include "platform/timeline_scene.h"
 
 namespace wm {
 
@@ -565,6 +566,8 @@ void RegisterBuiltInScenes() {
     if (done) return;
     done = true;  // set first: RegisterScene calls back here
     RegisterScene(QStringLiteral("wmsplash"), [] { return std::make_unique<SplashScene>(); });
+    // Every other film is a timeline file in the program folder's movies/.
+    UseTimelineFiles();
 }
 
 }  // namespace wm

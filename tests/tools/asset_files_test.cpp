@@ -1,16 +1,20 @@
-// A whole generator run into a scratch application folder: every file the program loads is
-// there with the right size, the buttons are all different, a second run changes nothing and
-// never touches the score tables.
+// A whole generator run into a scratch application folder: every file the manifest lists is
+// there with sane content, the buttons are all different, a second run changes nothing and never
+// touches the score tables, and one group can be made without touching the others.
 #include "asset_gen.h"
 #include "core/game_names.h"
+#include "manifest.h"
 
 #include <QCryptographicHash>
+#include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QImage>
 #include <QMap>
+#include <QSet>
 #include <QTemporaryDir>
+#include <QtEndian>
 #include <QtTest>
 
 using namespace wm::assetgen;
@@ -92,18 +96,108 @@ private slots:
         QCOMPARE(seen.size(), wm::kGameCount);
     }
 
-    void writesEverySoundAndTune() {
-        for (const char* name :
-             {"tolvane", "ufofly", "applause", "fall", "click", "beep", "cheer", "ooh", "ricochet",
-              "ding", "buzz", "pop", "tick", "whoosh", "tada"}) {
-            const QByteArray b = first_.value(QStringLiteral("sounds/%1.wav").arg(name));
-            QVERIFY2(b.size() > 44, name);
-            QCOMPARE(b.left(4), QByteArray("RIFF"));
+    // Every manifest line is in the folder with content the program can use.
+    void everyManifestEntryIsThereAndSane() {
+        std::vector<ManifestEntry> entries;
+        QString error;
+        QVERIFY2(readManifest(QDir(sourceAssetsDir()).filePath("manifest.txt"), &entries, &error),
+                 qPrintable(error));
+        int sounds = 0, tunes = 0;
+        for (const ManifestEntry& e : entries) {
+            if (e.kind == "scene") continue;  // drawn by the program itself
+            QVERIFY2(assetPresent(dir_.path(), e.name), qPrintable(e.name));
+            const QByteArray b = first_.value(e.name);
+            if (!e.size.isEmpty()) {
+                const QImage img = QImage::fromData(b);
+                QVERIFY2(!img.isNull(), qPrintable(e.name));
+                QCOMPARE(img.size(), e.size);
+            } else if (e.kind == "sound") {
+                ++sounds;
+                // PCM, mono, 22050 Hz, 16-bit, and chunk sizes that match the file.
+                QVERIFY2(b.startsWith("RIFF") && b.mid(8, 8) == "WAVEfmt ", qPrintable(e.name));
+                auto u32 = [&](int at) { return qFromLittleEndian<quint32>(b.constData() + at); };
+                auto u16 = [&](int at) { return qFromLittleEndian<quint16>(b.constData() + at); };
+                QCOMPARE(u32(4), quint32(b.size() - 8));
+                QCOMPARE(u16(20), quint16(1));
+                QCOMPARE(u16(22), quint16(1));
+                QCOMPARE(u32(24), quint32(22050));
+                QCOMPARE(u16(34), quint16(16));
+                QCOMPARE(b.mid(36, 4), QByteArray("data"));
+                QCOMPARE(u32(40), quint32(b.size() - 44));
+            } else if (e.kind == "tune") {
+                ++tunes;
+                QVERIFY2(b.startsWith(QByteArray("MThd\0\0\0\6\0\1", 10)), qPrintable(e.name));
+            }
         }
-        for (const char* name : {"wmtheme", "bgm-happy", "bgm-action", "bgm-calm"}) {
-            QCOMPARE(first_.value(QStringLiteral("sounds/%1.mid").arg(name)).left(4),
-                     QByteArray("MThd"));
+        QVERIFY(sounds >= 15);
+        QCOMPARE(tunes, 4);
+        // The names screens ask for by hand are listed.
+        for (const char* name : {"sounds/applause.wav", "sounds/wmtheme.mid", "images/wm-title.jpg",
+                                 "buttons/Scramble.jpg", "movies/wmsplash"})
+            QVERIFY2(manifestLists(name), name);
+        QVERIFY(!manifestLists("sounds/nothing.wav"));
+    }
+
+    // A recipe without its manifest line would silently never be made.
+    void everyRecipeIsListed() {
+        std::vector<ManifestEntry> entries;
+        QVERIFY(readManifest(QDir(sourceAssetsDir()).filePath("manifest.txt"), &entries, nullptr));
+        QSet<QString> sources;
+        for (const ManifestEntry& e : entries) sources.insert(e.source);
+        QDirIterator it(sourceAssetsDir(), {"*.sound", "*.tune", "*.timeline", "*.svg"},
+                        QDir::Files, QDirIterator::Subdirectories);
+        int recipes = 0;
+        while (it.hasNext()) {
+            const QString rel = QDir(sourceAssetsDir()).relativeFilePath(it.next());
+            ++recipes;
+            QVERIFY2(sources.contains(rel), qPrintable(rel + " is not in the manifest"));
         }
+        QVERIFY(recipes >= 19);
+    }
+
+    // Making one group rewrites that group's files and leaves every other file alone.
+    void oneGroupTouchesOnlyItsOwnFiles() {
+        QTemporaryDir app;
+        QString error;
+        QVERIFY2(generateAll(app.path(), &error), qPrintable(error));
+        const QString wav = app.filePath("sounds/ding.wav");
+        const QString jpg = app.filePath("images/wm-back.jpg");
+        const QString mid = app.filePath("sounds/wmtheme.mid");
+        for (const QString& path : {wav, jpg}) {
+            QFile f(path);
+            QVERIFY(f.open(QIODevice::WriteOnly));
+            f.write("spoilt");
+        }
+        const QDateTime tuneTime = QFileInfo(mid).lastModified();
+        QVERIFY2(generate(sourceAssetsDir(), app.path(), {"sounds"}, &error), qPrintable(error));
+        QCOMPARE(snapshot(app.path()).value("sounds/ding.wav"), first_.value("sounds/ding.wav"));
+        QCOMPARE(snapshot(app.path()).value("images/wm-back.jpg"), QByteArray("spoilt"));
+        QCOMPARE(QFileInfo(mid).lastModified(), tuneTime);
+        QVERIFY(!generate(sourceAssetsDir(), app.path(), {"noises"}, &error));
+        QCOMPARE(error, QString("no asset group \"noises\""));
+    }
+
+    // A mistake in a recipe stops the build with the recipe's file and line.
+    void aBrokenRecipeNamesItsFileAndLine() {
+        QTemporaryDir src, app;
+        QVERIFY(QFile::copy(QDir(sourceAssetsDir()).filePath("manifest.txt"),
+                            src.filePath("manifest.txt")));
+        QVERIFY(QDir(src.path()).mkpath("sounds"));
+        for (const QString& name : QDir(sourceAssetsDir() + "/sounds").entryList(QDir::Files))
+            QVERIFY(
+                QFile::copy(sourceAssetsDir() + "/sounds/" + name, src.filePath("sounds/" + name)));
+        QString error;
+        QVERIFY(QFile::rename(src.filePath("sounds/tick.sound"), src.filePath("tick.sound")));
+        QVERIFY(!generate(src.path(), app.path(), {"sounds"}, &error));
+        QVERIFY2(error.contains("sounds/tick.sound"), qPrintable(error));
+        QVERIFY(QFile::rename(src.filePath("tick.sound"), src.filePath("sounds/tick.sound")));
+        QFile pop(src.filePath("sounds/pop.sound"));
+        QVERIFY(pop.open(QIODevice::Append));
+        pop.write("tone frq=300\n");
+        pop.close();
+        QVERIFY(!generate(src.path(), app.path(), {"sounds"}, &error));
+        QVERIFY2(error.startsWith(src.filePath("sounds/pop.sound") + ":"), qPrintable(error));
+        QVERIFY2(error.endsWith("tone has no key \"frq\""), qPrintable(error));
     }
 
     void secondRunIsIdenticalAndLeavesScoresAlone() {

@@ -2,6 +2,7 @@
 // format (chunk lengths, delta times, running status) rather than the writer's code.
 #include "midi.h"
 #include "asset_gen.h"
+#include "manifest.h"
 
 #include <gtest/gtest.h>
 
@@ -13,6 +14,14 @@
 using namespace wm::assetgen;
 
 namespace {
+
+// One group made from the source tree's manifest and recipes.
+std::vector<AssetFile> rendered(const char* group) {
+    std::vector<AssetFile> out;
+    QString error;
+    EXPECT_TRUE(renderGroup(sourceAssetsDir(), group, &out, &error)) << error.toStdString();
+    return out;
+}
 
 struct Event {
     std::uint32_t tick = 0;
@@ -209,12 +218,12 @@ TEST(Tunes, EveryTuneIsAWellFormedLoopableSong) {
                                                                   {"bgm-happy", {30, 60}},
                                                                   {"bgm-action", {30, 60}},
                                                                   {"bgm-calm", {30, 60}}};
-    const std::vector<AssetFile> tunes = renderTunes();
-    ASSERT_EQ(tunes.size(), seconds.size());
+    const std::vector<AssetFile> tunes = rendered("tunes");
+    ASSERT_GE(tunes.size(), seconds.size());
     for (const AssetFile& tune : tunes) {
         const QString name = tune.path.mid(7).chopped(4);
         SCOPED_TRACE(name.toStdString());
-        ASSERT_TRUE(seconds.count(name));
+        const auto bounds = seconds.count(name) ? seconds.at(name) : std::make_pair(20.0, 120.0);
         const MidiFile f = parse(tune.bytes);
         ASSERT_EQ(f.error, "");
         EXPECT_EQ(f.format, 1);
@@ -256,8 +265,8 @@ TEST(Tunes, EveryTuneIsAWellFormedLoopableSong) {
         EXPECT_LE(lastNoteEnd, end);
         EXPECT_EQ(end % (4 * f.division), 0u);
         const double length = end / static_cast<double>(f.division) * usPerQuarter / 1e6;
-        EXPECT_GE(length, seconds.at(name).first);
-        EXPECT_LE(length, seconds.at(name).second);
+        EXPECT_GE(length, bounds.first);
+        EXPECT_LE(length, bounds.second);
         // Melody, bass and chords each have their own General MIDI sound; drums on channel 10.
         EXPECT_TRUE(sounding.count(9));
         for (int channel : sounding) {
@@ -270,8 +279,8 @@ TEST(Tunes, EveryTuneIsAWellFormedLoopableSong) {
 }
 
 TEST(Tunes, SameBytesOnEveryRun) {
-    const std::vector<AssetFile> a = renderTunes();
-    const std::vector<AssetFile> b = renderTunes();
+    const std::vector<AssetFile> a = rendered("tunes");
+    const std::vector<AssetFile> b = rendered("tunes");
     ASSERT_EQ(a.size(), b.size());
     for (size_t i = 0; i < a.size(); ++i) EXPECT_EQ(a[i].bytes, b[i].bytes);
 }

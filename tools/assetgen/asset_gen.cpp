@@ -1,15 +1,22 @@
-// Renders every asset and writes it into the application folder.
+// Renders the assets the manifest lists and writes them into the application folder.
 #include "asset_gen.h"
 
 #include "core/game_names.h"
+#include "manifest.h"
+#include "recipe_text.h"
+#include "sound_recipe.h"
+#include "tune_recipe.h"
+#include "wav.h"
 
 #include <QBuffer>
 #include <QDir>
+#include <QFile>
 #include <QImageWriter>
 #include <QSaveFile>
 #include <QThreadPool>
 
 #include <functional>
+#include <map>
 
 namespace wm::assetgen {
 
@@ -25,6 +32,14 @@ QByteArray jpegBytes(const QImage& image) {
     return bytes;
 }
 
+QByteArray pngBytes(const QImage& image) {
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "png");
+    return png;
+}
+
 // Whole-file writes go through a temporary file renamed over the old one.
 bool writeAtomically(const QString& path, const QByteArray& bytes, QString* error) {
     QSaveFile file(path);
@@ -35,9 +50,109 @@ bool writeAtomically(const QString& path, const QByteArray& bytes, QString* erro
     return true;
 }
 
+// The drawings a manifest may name as "draw:<name>".
+std::function<QImage()> drawing(const ManifestEntry& e) {
+    static const std::map<QString, std::function<QImage()>> kDrawings = {
+        {"title", renderTitle},
+        {"backdrop", renderBackdrop},
+        {"scramble-back", renderScrambleBack},
+        {"more", renderMoreButton},
+        {"back", renderBackButton},
+    };
+    const QString what = e.source.mid(5);
+    if (const auto it = kDrawings.find(what); it != kDrawings.end()) return it->second;
+    if (what == QLatin1String("game")) {
+        // A game's button is drawn by the game's place in the catalogue, found by file name.
+        const QString game = QFileInfo(e.name).completeBaseName();
+        for (int i = 0; i < kGameCount; ++i) {
+            if (QLatin1String(kGameNames[i].data(), kGameNames[i].size()) == game)
+                return [i] { return renderGameButton(i); };
+        }
+        return {};
+    }
+    if (e.kind == QLatin1String("icon")) {
+        for (const QString& icon : toolbarIconNames())
+            if (icon == what) return [icon] { return renderToolbarIcon(icon); };
+    }
+    return {};
+}
+
 }  // namespace
 
-bool generateAll(const QString& appDir, QString* error) {
+bool renderGroup(const QString& assetsDir, const QString& group, std::vector<AssetFile>* out,
+                 QString* error) {
+    const QDir src(assetsDir);
+    const QString manifestPath = src.filePath(QStringLiteral("manifest.txt"));
+    std::vector<ManifestEntry> entries;
+    if (!readManifest(manifestPath, &entries, error)) return false;
+    std::vector<ManifestEntry> mine;
+    for (const ManifestEntry& e : entries)
+        if (groupOf(e.kind) == group) mine.push_back(e);
+    out->assign(mine.size(), {});
+    auto where = [&](const ManifestEntry& e) {
+        return QStringLiteral("%1:%2 (%3)").arg(manifestPath).arg(e.line).arg(e.name);
+    };
+
+    if (group == QLatin1String("pictures") || group == QLatin1String("buttons")) {
+        std::vector<std::function<QImage()>> draws;
+        for (const ManifestEntry& e : mine) {
+            draws.push_back(drawing(e));
+            if (!draws.back()) {
+                if (error)
+                    *error = where(e) + QStringLiteral(": nothing draws \"%1\"").arg(e.source);
+                return false;
+            }
+        }
+        // Pictures are independent of each other, so they render in parallel.
+        QThreadPool pool;
+        for (size_t i = 0; i < mine.size(); ++i) {
+            pool.start([&, i] {
+                const QImage image = draws[i]();
+                // Icons keep their transparency, so they are PNG rather than JPEG.
+                const bool png = mine[i].name.endsWith(QLatin1String(".png"));
+                (*out)[i] = {mine[i].name, image.size() != mine[i].size ? QByteArray()
+                                           : png                        ? pngBytes(image)
+                                                                        : jpegBytes(image)};
+            });
+        }
+        pool.waitForDone();
+        for (size_t i = 0; i < mine.size(); ++i) {
+            if ((*out)[i].bytes.isEmpty()) {
+                if (error) *error = where(mine[i]) + QStringLiteral(": drawn at the wrong size");
+                return false;
+            }
+        }
+        return true;
+    }
+
+    for (size_t i = 0; i < mine.size(); ++i) {
+        const ManifestEntry& e = mine[i];
+        const QString path = src.filePath(e.source);
+        QString text;
+        if (!readRecipeFile(path, &text, error)) {
+            if (error) *error = where(e) + QStringLiteral(": ") + *error;
+            return false;
+        }
+        QByteArray bytes;
+        if (e.kind == QLatin1String("sound")) {
+            std::vector<std::int16_t> samples;
+            if (!renderSoundRecipe(text, path, &samples, error)) return false;
+            bytes = encodeWav(samples);
+        } else if (e.kind == QLatin1String("tune")) {
+            if (!renderTuneRecipe(text, path, &bytes, error)) return false;
+        } else {
+            // Timelines and their drawings are read by the program as they are.
+            QFile file(path);
+            file.open(QIODevice::ReadOnly);
+            bytes = file.readAll();
+        }
+        (*out)[i] = {e.name, bytes};
+    }
+    return true;
+}
+
+bool generate(const QString& assetsDir, const QString& appDir, const QStringList& groups,
+              QString* error) {
     QDir root(appDir);
     for (const char* sub : {"images", "buttons", "sounds", "movies", "scores"}) {
         if (!root.mkpath(QLatin1String(sub))) {
@@ -45,50 +160,33 @@ bool generateAll(const QString& appDir, QString* error) {
             return false;
         }
     }
-
-    // Pictures are independent of each other, so they render in parallel.
-    std::vector<std::pair<QString, std::function<QImage()>>> pictures = {
-        {QStringLiteral("images/wm-title.jpg"), renderTitle},
-        {QStringLiteral("images/wm-back.jpg"), renderBackdrop},
-        {QStringLiteral("images/scramble-back.jpg"), renderScrambleBack},
-        {QStringLiteral("buttons/morebutton.jpg"), renderMoreButton},
-        {QStringLiteral("buttons/backbutton.jpg"), renderBackButton},
-    };
-    for (int i = 0; i < kGameCount; ++i) {
-        const QString name =
-            QString::fromUtf8(kGameNames[i].data(), static_cast<int>(kGameNames[i].size()));
-        pictures.push_back(
-            {QStringLiteral("buttons/%1.jpg").arg(name), [i] { return renderGameButton(i); }});
-    }
-    std::vector<AssetFile> files(pictures.size());
-    QThreadPool pool;
-    for (size_t i = 0; i < pictures.size(); ++i) {
-        pool.start([&, i] { files[i] = {pictures[i].first, jpegBytes(pictures[i].second())}; });
-    }
-    // Icons keep their transparency, so they are PNG rather than JPEG.
-    std::vector<AssetFile> icons;
-    for (const QString& name : toolbarIconNames()) {
-        QByteArray png;
-        QBuffer buffer(&png);
-        buffer.open(QIODevice::WriteOnly);
-        renderToolbarIcon(name).save(&buffer, "png");
-        icons.push_back({QStringLiteral("images/tb-%1.png").arg(name), png});
-    }
-    std::vector<AssetFile> sounds = renderSounds();
-    std::vector<AssetFile> tunes = renderTunes();
-    pool.waitForDone();
-    files.insert(files.end(), icons.begin(), icons.end());
-    files.insert(files.end(), sounds.begin(), sounds.end());
-    files.insert(files.end(), tunes.begin(), tunes.end());
-
-    for (const AssetFile& f : files) {
-        if (f.bytes.isEmpty()) {
-            if (error) *error = QStringLiteral("could not render %1").arg(f.path);
+    for (const QString& group : groups.isEmpty() ? assetGroups() : groups) {
+        if (!assetGroups().contains(group)) {
+            if (error) *error = QStringLiteral("no asset group \"%1\"").arg(group);
             return false;
         }
-        if (!writeAtomically(root.filePath(f.path), f.bytes, error)) return false;
+        std::vector<AssetFile> files;
+        if (!renderGroup(assetsDir, group, &files, error)) return false;
+        for (const AssetFile& f : files) {
+            const QString path = root.filePath(f.path);
+            if (!QFileInfo(path).dir().exists() && !QDir().mkpath(QFileInfo(path).path())) {
+                if (error) *error = QStringLiteral("cannot create %1").arg(QFileInfo(path).path());
+                return false;
+            }
+            // Unchanged files keep their dates, so nothing downstream sees a change.
+            QFile old(path);
+            if (old.open(QIODevice::ReadOnly) && old.size() == f.bytes.size() &&
+                old.readAll() == f.bytes)
+                continue;
+            old.close();
+            if (!writeAtomically(path, f.bytes, error)) return false;
+        }
     }
     return true;
+}
+
+bool generateAll(const QString& appDir, QString* error) {
+    return generate(sourceAssetsDir(), appDir, {}, error);
 }
 
 }  // namespace wm::assetgen

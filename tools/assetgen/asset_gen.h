@@ -1,11 +1,12 @@
-// The asset generator: every picture, sound and tune the program loads, drawn or synthesised
-// here so the program ships no art of its own. Everything is deterministic: two runs write the
-// same bytes.
+// The asset generator: every picture, sound and tune the program loads, drawn here or made from
+// the recipes under assets/, so the program ships no art of its own. Everything is deterministic:
+// two runs write the same bytes.
 #pragma once
 
 #include <QByteArray>
 #include <QImage>
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -37,14 +38,20 @@ QImage renderBackButton();
 const std::vector<QString>& toolbarIconNames();
 QImage renderToolbarIcon(const QString& name);
 
-// "sounds/{name}.wav" files, WAV PCM 16-bit mono 22050 Hz.
-std::vector<AssetFile> renderSounds();
-// "sounds/{name}.mid" files, Standard MIDI format 1.
-std::vector<AssetFile> renderTunes();
+// Renders every file of one group (see assetGroups()) that `assetsDir`/manifest.txt lists:
+// pictures and buttons drawn here, "sounds/{name}.wav" (PCM 16-bit mono 22050 Hz) and
+// "sounds/{name}.mid" (Standard MIDI format 1) from their recipes, movies and their drawings
+// copied. False with a message naming the file (and line) on the first failure.
+bool renderGroup(const QString& assetsDir, const QString& group, std::vector<AssetFile>* out,
+                 QString* error);
 
-// Writes everything into `appDir` (creating images/, buttons/, sounds/, movies/, scores/).
-// Files in scores/ are never touched. Each file is written atomically. Returns false and sets
-// `error` on the first failure.
+// Writes the given groups (every group when `groups` is empty) into `appDir`, creating images/,
+// buttons/, sounds/, movies/ and scores/. Files in scores/ are never touched; a file whose bytes
+// are already right is left alone, others are written atomically. False with `error` set on the
+// first failure.
+bool generate(const QString& assetsDir, const QString& appDir, const QStringList& groups,
+              QString* error);
+// Every group, from the source tree's assets.
 bool generateAll(const QString& appDir, QString* error);
 
 }  // namespace wm::assetgen

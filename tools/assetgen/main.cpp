@@ -1,4 +1,5 @@
-// wm_assetgen <application folder>: draws and synthesises the program's assets into it.
+// wm_assetgen <assets folder> <application folder> [group...]: makes the program's assets from
+// the manifest and recipes into the application folder; only the named groups when given.
 #include "asset_gen.h"
 
 #include <QElapsedTimer>
@@ -11,18 +12,21 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
     const QStringList args = QGuiApplication::arguments();
-    if (args.size() != 2) {
-        std::fprintf(stderr, "usage: wm_assetgen <application folder>\n");
+    if (args.size() < 3) {
+        std::fprintf(stderr,
+                     "usage: wm_assetgen <assets folder> <application folder> [group...]\n");
         return 2;
     }
     QElapsedTimer timer;
     timer.start();
     QString error;
-    if (!wm::assetgen::generateAll(args[1], &error)) {
+    const QStringList groups = args.mid(3);
+    if (!wm::assetgen::generate(args[1], args[2], groups, &error)) {
         std::fprintf(stderr, "wm_assetgen: %s\n", qPrintable(error));
         return 1;
     }
-    std::printf("wm_assetgen: assets written to %s in %lld ms\n", qPrintable(args[1]),
-                static_cast<long long>(timer.elapsed()));
+    std::printf("wm_assetgen: %s written to %s in %lld ms\n",
+                groups.isEmpty() ? "all assets" : qPrintable(groups.join(QLatin1Char(' '))),
+                qPrintable(args[2]), static_cast<long long>(timer.elapsed()));
     return 0;
 }

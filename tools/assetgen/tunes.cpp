@@ -1,13 +1,18 @@
-// The background tunes, written as a melody, a chord chart and an accompaniment style; the
+// Background tunes from their recipes: a melody, a chord chart and an accompaniment style; the
 // bass, chords and drums are played from the chart. Each tune ends on its last bar line so it
 // loops without a gap.
-#include "asset_gen.h"
-#include "midi.h"
+#include "tune_recipe.h"
 
+#include "midi.h"
+#include "recipe_text.h"
+
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
 #include <array>
+#include <initializer_list>
+#include <map>
 
 namespace wm::assetgen {
 
@@ -22,20 +27,19 @@ enum class Comp { Stabs, Arpeggio, Pad, Harp };
 enum class Drums { Straight, Bouncy, Driving, Soft };
 
 struct Tune {
-    const char* file;
-    const char* title;
-    double bpm;
-    const char* chords;  // one token a bar; "Dm,G" splits a bar in halves
+    QString title;
+    double bpm = 120;
+    QString chords;  // one token a bar; "Dm,G" splits a bar in halves
     QString melody;
-    int melodyProgram;
-    int doubleProgram;  // plays the melody an octave up from `doubleFromBar`; -1 for none
-    int doubleFromBar;
-    int compProgram;
-    Comp comp;
-    int padProgram;  // a held chord under the comp; -1 for none
-    int bassProgram;
-    Bass bass;
-    Drums drums;
+    int melodyProgram = 0;
+    int doubleProgram = -1;  // plays the melody an octave up from `doubleFromBar`; -1 for none
+    int doubleFromBar = 0;
+    int compProgram = 0;
+    Comp comp = Comp::Stabs;
+    int padProgram = -1;  // a held chord under the comp; -1 for none
+    int bassProgram = 32;
+    Bass bass = Bass::Bounce;
+    Drums drums = Drums::Straight;
 };
 
 struct Chord {
@@ -72,9 +76,9 @@ Chord parseChord(const QString& name) {
 }
 
 // The chart as a list of (start tick, chord).
-std::vector<std::pair<std::uint32_t, Chord>> parseChart(const char* chart) {
+std::vector<std::pair<std::uint32_t, Chord>> parseChart(const QString& chart) {
     std::vector<std::pair<std::uint32_t, Chord>> out;
-    const QStringList bars = QString::fromLatin1(chart).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const QStringList bars = chart.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     for (int b = 0; b < bars.size(); ++b) {
         const QStringList parts = bars[b].split(QLatin1Char(','));
         for (int k = 0; k < parts.size(); ++k) {
@@ -286,20 +290,14 @@ MidiTrack part(const std::string& name, int channel, int program, int volume, in
     return t;
 }
 
-QByteArray renderTune(const Tune& tune) {
-    std::vector<WrittenNote> melody;
-    if (!parseLine(tune.melody, &melody, nullptr)) return {};
+QByteArray renderTune(const Tune& tune, const std::vector<WrittenNote>& melody) {
     const auto chart = parseChart(tune.chords);
-    const int bars = static_cast<int>(
-        QString::fromLatin1(tune.chords).split(QLatin1Char(' '), Qt::SkipEmptyParts).size());
-    std::uint32_t written = 0;
-    for (const WrittenNote& n : melody) written += n.ticks;
-    // A melody that does not fill the chart exactly would break the loop.
-    if (written != static_cast<std::uint32_t>(bars) * kBar || chart.empty()) return {};
+    const int bars =
+        static_cast<int>(tune.chords.split(QLatin1Char(' '), Qt::SkipEmptyParts).size());
 
     const std::uint32_t end = bars * kBar;
     MidiTrack conductor;
-    conductor.trackName(tune.title);
+    conductor.trackName(tune.title.toStdString());
     conductor.timeSignature(0, 4, 2);
     conductor.tempo(0, tune.bpm);
 
@@ -336,76 +334,144 @@ QByteArray renderTune(const Tune& tune) {
     return encodeMidiFile(tracks);
 }
 
-// General MIDI programs, counted from 0.
-enum Program {
-    Piano = 0,
-    Glockenspiel = 9,
-    Vibraphone = 11,
-    Marimba = 12,
-    NylonGuitar = 24,
-    AcousticBass = 32,
-    FingerBass = 33,
-    SynthBass = 38,
-    Harp = 46,
-    Strings = 48,
-    Trumpet = 56,
-    BrassSection = 61,
-    Flute = 73,
-    SquareLead = 80,
-    WarmPad = 89
-};
-
-std::vector<Tune> allTunes() {
-    return {
-        {"wmtheme", "Wordmere Theme", 120, "C Am F G C Am Dm,G C F G Em Am F G C G7",
-         "E5q G5e E5e C5q G4q | A4q C5e E5e A5h | A5q G5e F5e C5q A4q | B4q D5q G5h | "
-         "E5q G5e E5e C5q E5q | A5q. G5e E5q C5q | D5q F5q B4q D5q | C5h. rq | "
-         "F5q A5e G5e F5q C5q | G5q B5e A5e G5q D5q | E5q G5e B5e G5q E5q | A5q. G5e A5q C6q | "
-         "C6q A5e F5e A5q C6q | B5q. A5e G5q D5q | E5q G5q C6h | B5q G5q F5q D5q",
-         Trumpet, Glockenspiel, 8, Piano, Comp::Stabs, Strings, FingerBass, Bass::Bounce,
-         Drums::Straight},
-        {"bgm-happy", "Sunny Side", 128, "G D Em C G D C D C G Am D C G Am,D G G D Em C G D C D",
-         "B4e D5e G5q F#5e G5e A5q | F#5q. E5e D5q A4q | G5e F#5e E5e D5e E5q B4q | "
-         "C5e D5e E5e G5e E5h | B4e D5e G5q B5q A5e G5e | F#5q A5q D6q A5q | "
-         "G5e E5e C5e E5e G5q E5q | D5q F#5q A5h | "
-         "E5q. G5e C6q G5q | B5q. A5e G5q D5q | C6e B5e A5e G5e E5q A5q | F#5h. D5q | "
-         "E5e G5e C6e G5e E5e G5e C6q | D6q B5q G5q B5q | A5q C6q F#5q A5q | G5h. rq | "
-         "B4e D5e G5q F#5e G5e A5q | F#5q. E5e D5q A4q | G5e F#5e E5e D5e E5q B4q | "
-         "C5e D5e E5e G5e E5h | B4e D5e G5q B5q A5e G5e | F#5q A5q D6q A5q | "
-         "G5e E5e C5e E5e G5q E5q | A5q F#5q E5q D5q",
-         Marimba, Vibraphone, 16, NylonGuitar, Comp::Arpeggio, -1, AcousticBass, Bass::Pop,
-         Drums::Bouncy},
-        {"bgm-action", "Full Speed", 150,
-         "Am F C G Am F E E Dm Am Dm E F G Am E Am F C G Am F E E Dm Am Dm E F G Am E",
-         QString("A4e C5e E5e A5e G5e E5e C5e E5e | F5e A5e C6e A5e G5e F5e E5e F5e | "
-                 "E5e G5e C6e G5e E5q D5q | D5e G5e B5e D6e B5q G5q | "
-                 "A5q. E5e C5e E5e A5q | A5q. F5e C6q A5q | "
-                 "G#5e B5e E6e B5e G#5e E5e G#5e B5e | E6h. rq | "
-                 "F5q D5e F5e A5q F5q | E5q C5e E5e A5q E5q | "
-                 "F5e A5e D6e A5e F5e D5e F5e A5e | G#5q B5q E6h | "
-                 "A5e G5e F5e E5e F5q C6q | B5e A5e G5e F5e G5q D6q | "
-                 "C6e B5e A5e G5e A5e E5e C5e E5e | B4q E5q G#5q B5q | ")
-             .repeated(2),
-         SquareLead, -1, 0, BrassSection, Comp::Stabs, Strings, SynthBass, Bass::Drive,
-         Drums::Driving},
-        {"bgm-calm", "Still Water", 80, "F C Dm Bb F C Bb C Dm Am Bb F Gm C F C",
-         "A5h. G5e F5e | E5h G5h | F5q. E5e D5q A5q | F5h. D5q | "
-         "C5q F5q A5q C6q | Bb5q. A5e G5h | F5q D5q F5q Bb5q | G5h E5h | "
-         "A5q. G5e F5q D5q | E5h C5h | D5q F5q Bb5q D6q | C6h A5h | "
-         "Bb5q. A5e G5q D5q | E5q G5q C6q E5q | F5w | C5q E5q G5h",
-         Flute, -1, 0, Harp, Comp::Harp, WarmPad, AcousticBass, Bass::Calm, Drums::Soft},
+// General MIDI programs by the names recipes use, counted from 0; recipes may also give a number.
+int programNumber(const QString& name) {
+    static const std::map<QString, int> kPrograms = {
+        {"piano", 0},       {"brightpiano", 1},  {"epiano", 4},       {"harpsichord", 6},
+        {"celesta", 8},     {"glockenspiel", 9}, {"musicbox", 10},    {"vibraphone", 11},
+        {"marimba", 12},    {"xylophone", 13},   {"organ", 19},       {"accordion", 21},
+        {"harmonica", 22},  {"nylonguitar", 24}, {"steelguitar", 25}, {"acousticbass", 32},
+        {"fingerbass", 33}, {"pickbass", 34},    {"synthbass", 38},   {"violin", 40},
+        {"cello", 42},      {"pizzicato", 45},   {"harp", 46},        {"timpani", 47},
+        {"strings", 48},    {"slowstrings", 49}, {"choir", 52},       {"trumpet", 56},
+        {"trombone", 57},   {"tuba", 58},        {"frenchhorn", 60},  {"brasssection", 61},
+        {"saxophone", 65},  {"oboe", 68},        {"clarinet", 71},    {"piccolo", 72},
+        {"flute", 73},      {"recorder", 74},    {"panflute", 75},    {"ocarina", 79},
+        {"squarelead", 80}, {"sawlead", 81},     {"warmpad", 89},     {"steeldrums", 114},
     };
+    const auto it = kPrograms.find(name.toLower());
+    if (it != kPrograms.end()) return it->second;
+    bool ok = false;
+    const int n = name.toInt(&ok);
+    return ok && n >= 0 && n <= 127 ? n : -1;
+}
+
+template <typename E>
+bool styleNamed(const QString& name, std::initializer_list<std::pair<const char*, E>> styles,
+                E* out) {
+    for (const auto& [text, value] : styles) {
+        if (name == QLatin1String(text)) {
+            *out = value;
+            return true;
+        }
+    }
+    return false;
 }
 
 }  // namespace
 
-std::vector<AssetFile> renderTunes() {
-    std::vector<AssetFile> out;
-    for (const Tune& tune : allTunes()) {
-        out.push_back(
-            {QStringLiteral("sounds/%1.mid").arg(QLatin1String(tune.file)), renderTune(tune)});
+bool renderTuneRecipe(const QString& text, const QString& file, QByteArray* out, QString* error) {
+    Tune tune;
+    QString melodyText;
+    bool hasLead = false;
+    auto fail = [&](int line, const QString& message) {
+        if (error) *error = recipeError(file, line, message);
+        return false;
+    };
+    static const QRegularExpression chordName(
+        QStringLiteral("^[A-G][#b]?(m|7|m7|maj7)?(,[A-G][#b]?(m|7|m7|maj7)?)*$"));
+    for (const RecipeLine& line : splitRecipe(text)) {
+        const QStringList words = line.rest.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        // "<instrument>" with an optional style word after it.
+        auto instrument = [&](int* program) {
+            *program = words.isEmpty() ? -1 : programNumber(words[0]);
+            return *program >= 0;
+        };
+        const QString style = words.size() > 1 ? words[1] : QString();
+        if (line.word == QLatin1String("title")) {
+            tune.title = line.rest;
+        } else if (line.word == QLatin1String("tempo")) {
+            bool ok = false;
+            tune.bpm = line.rest.toDouble(&ok);
+            if (!ok || tune.bpm < 30 || tune.bpm > 300)
+                return fail(line.number, QStringLiteral("tempo is beats a minute, 30 to 300"));
+        } else if (line.word == QLatin1String("chords")) {
+            for (const QString& bar : words) {
+                if (bar == QLatin1String("|")) continue;
+                if (!chordName.match(bar).hasMatch())
+                    return fail(line.number, QStringLiteral("bad chord \"%1\"").arg(bar));
+                tune.chords += bar + QLatin1Char(' ');
+            }
+        } else if (line.word == QLatin1String("melody")) {
+            std::vector<WrittenNote> check;
+            QString why;
+            if (!parseLine(line.rest, &check, &why)) return fail(line.number, why);
+            melodyText += line.rest + QLatin1Char(' ');
+        } else if (line.word == QLatin1String("lead")) {
+            if (!instrument(&tune.melodyProgram))
+                return fail(line.number,
+                            QStringLiteral("unknown instrument \"%1\"").arg(line.rest));
+            hasLead = true;
+        } else if (line.word == QLatin1String("double")) {
+            // "double <instrument> from <bar>": the melody an octave up from that bar (from 1).
+            bool ok = words.size() == 3 && words[1] == QLatin1String("from");
+            const int bar = ok ? words[2].toInt(&ok) : 0;
+            if (!ok || bar < 1 || !instrument(&tune.doubleProgram))
+                return fail(line.number,
+                            QStringLiteral("write \"double <instrument> from <bar>\""));
+            tune.doubleFromBar = bar - 1;
+        } else if (line.word == QLatin1String("comp")) {
+            if (!instrument(&tune.compProgram) || !styleNamed<Comp>(style,
+                                                                    {{"stabs", Comp::Stabs},
+                                                                     {"arpeggio", Comp::Arpeggio},
+                                                                     {"pad", Comp::Pad},
+                                                                     {"harp", Comp::Harp}},
+                                                                    &tune.comp))
+                return fail(line.number, QStringLiteral("write \"comp <instrument> "
+                                                        "stabs|arpeggio|pad|harp\""));
+        } else if (line.word == QLatin1String("pad")) {
+            if (!instrument(&tune.padProgram))
+                return fail(line.number,
+                            QStringLiteral("unknown instrument \"%1\"").arg(line.rest));
+        } else if (line.word == QLatin1String("bass")) {
+            if (!instrument(&tune.bassProgram) || !styleNamed<Bass>(style,
+                                                                    {{"bounce", Bass::Bounce},
+                                                                     {"pop", Bass::Pop},
+                                                                     {"drive", Bass::Drive},
+                                                                     {"calm", Bass::Calm}},
+                                                                    &tune.bass))
+                return fail(line.number, QStringLiteral("write \"bass <instrument> "
+                                                        "bounce|pop|drive|calm\""));
+        } else if (line.word == QLatin1String("drums")) {
+            if (!styleNamed<Drums>(line.rest,
+                                   {{"straight", Drums::Straight},
+                                    {"bouncy", Drums::Bouncy},
+                                    {"driving", Drums::Driving},
+                                    {"soft", Drums::Soft}},
+                                   &tune.drums))
+                return fail(line.number,
+                            QStringLiteral("drums are straight, bouncy, driving or soft"));
+        } else {
+            return fail(line.number, QStringLiteral("unknown statement \"%1\"").arg(line.word));
+        }
     }
-    return out;
+    std::vector<WrittenNote> melody;
+    parseLine(melodyText, &melody, nullptr);
+    const auto bars =
+        static_cast<std::uint32_t>(tune.chords.split(QLatin1Char(' '), Qt::SkipEmptyParts).size());
+    std::uint32_t written = 0;
+    for (const WrittenNote& n : melody) written += n.ticks;
+    if (tune.title.isEmpty() || bars == 0 || melody.empty() || !hasLead)
+        return fail(1, QStringLiteral("a tune needs a title, chords, a melody and a lead"));
+    // A melody that does not fill the chart exactly would break the loop.
+    if (written != bars * kBar) {
+        return fail(1, QStringLiteral("the melody lasts %1 beats but the chords %2 bars (%3 beats)")
+                           .arg(written / double(kBeat))
+                           .arg(bars)
+                           .arg(bars * 4));
+    }
+    *out = renderTune(tune, melody);
+    return true;
 }
 
 }  // namespace wm::assetgen

@@ -1,0 +1,242 @@
+// The timeline scene: values at and between keyframes, frames switching at their keys, sprites
+// drawn from SVG element ids (an unknown id draws nothing), mistakes reported with file and line,
+// and MakeScene finding timeline files by name.
+#include "manifest.h"
+#include "platform/movie.h"
+#include "platform/timeline_scene.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QPainter>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cmath>
+
+using namespace wm;
+
+namespace {
+
+// Two 40x40 frames, red then blue, and a green square.
+const char kDrawing[] =
+    "<svg xmlns=\"http://www.w3.org/2000/svg\" version=\"1.2\" baseProfile=\"tiny\" width=\"200\" "
+    "height=\"100\">\n"
+    "  <rect id=\"lamp_0\" x=\"0\" y=\"0\" width=\"40\" height=\"40\" fill=\"#ff0000\"/>\n"
+    "  <rect id=\"lamp_1\" x=\"50\" y=\"0\" width=\"40\" height=\"40\" fill=\"#0000ff\"/>\n"
+    "  <rect id=\"box\" x=\"100\" y=\"0\" width=\"40\" height=\"40\" fill=\"#00ff00\"/>\n"
+    "</svg>";
+
+const char kTimeline[] =
+    "# a lamp that slides, fades and changes colour\n"
+    "timeline duration=4 size=200x100 background=#000000\n"
+    "sprite lamp svg=parts.svg frames=2\n"
+    "sprite ghost svg=parts.svg id=nothing_here\n"
+    "key lamp t=0 x=50 y=50 opacity=0 frame=0\n"
+    "key lamp t=1 x=150 opacity=1 ease=linear\n"
+    "key lamp t=2 frame=1\n"
+    "key lamp t=3 x=50 ease=in\n"
+    "key ghost t=0 x=100 y=50\n"
+    "";
+
+}  // namespace
+
+class TimelineTest : public QObject {
+    Q_OBJECT
+
+private:
+    QTemporaryDir dir_;
+
+    QString write(const QString& name, const QByteArray& bytes) {
+        QFile f(dir_.filePath(name));
+        f.open(QIODevice::WriteOnly);
+        f.write(bytes);
+        return f.fileName();
+    }
+
+    std::unique_ptr<TimelineScene> load(const QByteArray& text) {
+        QString error;
+        auto scene = TimelineScene::load(write("t.timeline", text), &error);
+        if (!scene) qWarning("%s", qPrintable(error));
+        return scene;
+    }
+
+    static QImage draw(MovieScene& scene, double t) {
+        QImage img(200, 100, QImage::Format_ARGB32);
+        img.fill(Qt::white);
+        QPainter p(&img);
+        scene.paint(p, QRectF(0, 0, 200, 100), t);
+        return img;
+    }
+
+private slots:
+    void initTestCase() {
+        QVERIFY(dir_.isValid());
+        write("parts.svg", kDrawing);
+    }
+
+    void valuesAtAndBetweenKeys() {
+        auto scene = load(kTimeline);
+        QVERIFY(scene);
+        QCOMPARE(scene->duration(), 4.0);
+        QCOMPARE(scene->naturalSize(), QSize(200, 100));
+        struct Row {
+            double t, x, opacity;
+            int frame;
+        };
+        for (const Row& r :
+             std::vector<Row>{{0, 50, 0, 0},
+                              {0.5, 100, 0.5, 0},
+                              {1, 150, 1, 0},
+                              {1.99, 150 - 100 * std::pow(0.495, 3), 1, 0},  // eased in
+                              {2, 137.5, 1, 1},  // the frame switches on its key
+                              {2.5, 150 - 100 * std::pow(0.75, 3), 1, 1},
+                              {3, 50, 1, 1},
+                              {3.9, 50, 1, 1}}) {
+            const SpriteState s = scene->stateAt("lamp", r.t);
+            QVERIFY2(qAbs(s.x - r.x) < 1e-9, qPrintable(QString("x at %1: %2").arg(r.t).arg(s.x)));
+            QCOMPARE(s.y, 50.0);  // set once, held throughout
+            QVERIFY2(qAbs(s.opacity - r.opacity) < 1e-9, qPrintable(QString::number(r.t)));
+            QCOMPARE(s.frame, r.frame);
+            QCOMPARE(s.scale, 1.0);
+        }
+    }
+
+    void drawsTheFrameOfTheMomentAndNothingForAnUnknownId() {
+        auto scene = load(kTimeline);
+        QVERIFY(scene);
+        // Hidden at the start: only the background. The ghost's id is not in the drawing.
+        QImage img = draw(*scene, 0);
+        QCOMPARE(img.pixelColor(50, 50), QColor(Qt::black));
+        QCOMPARE(img.pixelColor(100, 50), QColor(Qt::black));
+        img = draw(*scene, 1.5);
+        QCOMPARE(img.pixelColor(150, 50), QColor(Qt::red));
+        QCOMPARE(img.pixelColor(60, 50), QColor(Qt::black));
+        img = draw(*scene, 3.5);
+        QCOMPARE(img.pixelColor(50, 50), QColor(Qt::blue));
+        QCOMPARE(img.pixelColor(150, 50), QColor(Qt::black));
+    }
+
+    void aMissingDrawingDrawsNothing() {
+        auto scene = load(
+            "timeline duration=1 size=200x100\nsprite a svg=gone.svg\n"
+            "key a t=0 x=100 y=50\n");
+        QVERIFY(scene);
+        QCOMPARE(draw(*scene, 0.5).pixelColor(100, 50), QColor(Qt::white));
+    }
+
+    void mistakesNameTheFileAndLine() {
+        const std::vector<std::pair<QByteArray, QString>> cases = {
+            {"sprite a svg=parts.svg", ":1: a timeline starts with"},
+            {"", ":1: a timeline starts with"},
+            {"timeline size=10x10", ":1: no duration"},
+            {"timeline duration=2 size=big", ":1: size is <width>x<height>"},
+            {"timeline duration=2\nsprite a",
+             ":2: a sprite has either svg=<file> or helper=<name>"},
+            {"timeline duration=2\nsprite a helper=rainbow", ":2: no helper \"rainbow\""},
+            {"timeline duration=2\nsprite a svg=../x.svg", ":2: svg= names a file beside"},
+            {"timeline duration=2\nkey a t=0", ":2: no sprite called a above this line"},
+            {"timeline duration=2\nsprite a svg=p.svg\nkey a x=1", ":3: a key needs t="},
+            {"timeline duration=2\nsprite a svg=p.svg\nkey a t=3", ":3: t=3 is not a number from"},
+            {"timeline duration=2\nsprite a svg=p.svg\nkey a t=1 x=1\n\nkey a t=0.5 x=2",
+             ":5: keys of a go back in time"},
+            {"timeline duration=2\nsprite a svg=p.svg\nkey a t=1 ease=bounce", ":3: ease is"},
+            {"timeline duration=2\nsprite a svg=p.svg\nkey a t=1 spin=3",
+             ":3: key has no key \"spin\""},
+            {"timeline duration=2\nwobble", ":2: unknown statement \"wobble\""},
+        };
+        for (const auto& [text, message] : cases) {
+            QString error;
+            const QString file = write("bad.timeline", text);
+            QVERIFY(!TimelineScene::load(file, &error));
+            QVERIFY2(error.startsWith(file + message), qPrintable(error));
+        }
+        QString error;
+        QVERIFY(!TimelineScene::load(dir_.filePath("none.timeline"), &error));
+        QVERIFY2(error.startsWith("cannot read " + dir_.filePath("none.timeline")),
+                 qPrintable(error));
+    }
+
+    void helpersDrawProcedurally() {
+        auto scene = load(
+            "timeline duration=1 size=200x100 background=#000000\n"
+            "sprite glint helper=sparkle size=60\nkey glint t=0 x=100 y=50\n");
+        QVERIFY(scene);
+        const QColor centre = draw(*scene, 0.5).pixelColor(100, 50);
+        QVERIFY2(centre.lightness() > 150, qPrintable(centre.name()));
+        // A burst is nothing before its phase starts, sparks around its middle half way.
+        auto burst = load(
+            "timeline duration=2 size=200x100 background=#000000\n"
+            "sprite b helper=burst size=100 colour=#ff0000\n"
+            "key b t=0 x=100 y=50 phase=0\nkey b t=1 phase=0\nkey b t=2 phase=1\n");
+        QVERIFY(burst);
+        QCOMPARE(burst->stateAt("b", 1.5).phase, 0.5);
+        auto redPixels = [&](double t) {
+            const QImage img = draw(*burst, t);
+            int red = 0;
+            for (int y = 0; y < img.height(); ++y)
+                for (int x = 0; x < img.width(); ++x)
+                    if (img.pixelColor(x, y).red() > 120) ++red;
+            return red;
+        };
+        QCOMPARE(redPixels(0.5), 0);
+        QVERIFY(redPixels(1.5) > 50);
+    }
+
+    // Every film we ship loads, finds every drawing it names and paints at any moment.
+    void shippedTimelinesAreWhole() {
+        std::vector<wm::assetgen::ManifestEntry> entries;
+        QString error;
+        QVERIFY2(wm::assetgen::readManifest(wm::assetgen::sourceAssetsDir() + "/manifest.txt",
+                                            &entries, &error),
+                 qPrintable(error));
+        int films = 0;
+        for (const auto& e : entries) {
+            if (e.kind != "movie") continue;
+            ++films;
+            auto scene =
+                TimelineScene::load(wm::assetgen::sourceAssetsDir() + "/" + e.source, &error);
+            QVERIFY2(scene, qPrintable(error));
+            QVERIFY2(scene->missingDrawings().isEmpty(),
+                     qPrintable(scene->missingDrawings().join(", ")));
+            const QString shots = qEnvironmentVariable("WM_SHOTS");
+            for (double u : {0.0, 0.3, 0.6, 0.9}) {
+                QImage img(scene->naturalSize(), QImage::Format_ARGB32);
+                img.fill(QColor(20, 24, 60));
+                QPainter p(&img);
+                p.setRenderHint(QPainter::Antialiasing);
+                scene->paint(p, QRectF(img.rect()), u * scene->duration());
+                p.end();
+                if (!shots.isEmpty())
+                    img.save(QStringLiteral("%1/%2-%3.png")
+                                 .arg(shots, QFileInfo(e.name).baseName())
+                                 .arg(u));
+            }
+        }
+        QVERIFY(films >= 1);
+    }
+
+    void makeSceneFindsTimelineFilesByName() {
+        RegisterBuiltInScenes();
+        write("lamp.timeline", kTimeline);
+        SetTimelineFolder(dir_.path());
+        auto scene = MakeScene("\\movies\\LAMP.SWF");
+        QVERIFY(scene);
+        QCOMPARE(scene->duration(), 4.0);
+        QVERIFY(!MakeScene("nothing"));
+        // A broken file is no film, not a crash.
+        write("broken.timeline", "timeline\n");
+        QVERIFY(!MakeScene("broken"));
+        // Registered scenes come first.
+        write("wmsplash.timeline", "timeline duration=99\n");
+        QVERIFY(MakeScene("wmsplash"));
+        QVERIFY(MakeScene("wmsplash")->duration() < 99);
+        Movie movie;
+        QVERIFY(movie.load("lamp"));
+        SetTimelineFolder({});
+    }
+};
+
+QTEST_MAIN(TimelineTest)
+#include "timeline_test.moc"
