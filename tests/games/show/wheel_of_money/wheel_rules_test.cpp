@@ -1,0 +1,325 @@
+// Wheel of Money's rules over a scripted generator: the lap, the flash, the mystery slots and
+// the money line, each mini-game's draw and verdict, the clock, the end of the spins.
+#include <gtest/gtest.h>
+
+#include "core/rng.h"
+#include "core/shared_state.h"
+#include "games/show/wheel_of_money/wheel_rules.h"
+
+using namespace wm;
+using namespace wm::wheel;
+
+namespace {
+
+SharedState ListOf(std::initializer_list<std::pair<const char*, const char*>> pairs,
+                   int difficulty = 2) {
+    SharedState s;
+    s.Words.assign(kMaxWords + 2, "");
+    s.Meanings.assign(kMaxWords + 2, "");
+    int i = 0;
+    for (auto [w, m] : pairs) {
+        s.Words[++i] = w;
+        s.Meanings[i] = m;
+    }
+    s.WordCount = static_cast<short>(i);
+    s.Difficulty = difficulty;
+    return s;
+}
+
+SharedState Animals(int difficulty = 2) {
+    return ListOf({{"zebra", "a striped horse"},
+                   {"otter", "a river swimmer"},
+                   {"lion", "a big cat"},
+                   {"frog", "it hops and croaks"},
+                   {"owl", "a night bird"}},
+                  difficulty);
+}
+
+// A started game, the wheel stopped on `slot`.
+WheelState On(int slot, SharedState& s, ScriptedRng& setup) {
+    WheelState w;
+    SetupGame(s, w, setup);
+    AnimationEnded(w);
+    ClickCommand(w);
+    w.WheelPos = slot;
+    StopWheel(w);
+    while (!Flash(w)) {
+    }
+    return w;
+}
+
+}  // namespace
+
+TEST(Wheel, OneLapWalksTheOvalNotTheIndices) {
+    WheelState w;
+    std::vector<int> lap{w.WheelPos};
+    for (int i = 0; i < kSlots; ++i) {
+        StepWheel(w);
+        lap.push_back(w.WheelPos);
+    }
+    EXPECT_EQ(lap, (std::vector<int>{0, 1, 3, 4, 2, 5, 11, 10, 9, 8, 7, 6, 0}));
+}
+
+TEST(Wheel, OnlyASpinningWheelStopsAndTwentyFlashesEndOnTheStartColour) {
+    SharedState s = Animals();
+    ScriptedRng rng;
+    WheelState w;
+    SetupGame(s, w, rng);
+    EXPECT_FALSE(StopWheel(w));      // not spinning yet: a key does nothing
+    EXPECT_FALSE(w.commandEnabled);  // the intro plays first
+    AnimationEnded(w);
+    EXPECT_EQ(ClickCommand(w), Action::ToWheel);
+    EXPECT_TRUE(w.Spinning);
+    EXPECT_TRUE(w.wheelShown);
+    EXPECT_TRUE(StopWheel(w));
+    EXPECT_FALSE(StopWheel(w));  // a key during the flash does not touch the wheel
+    int flashes = 0;
+    while (!Flash(w)) ++flashes;
+    EXPECT_EQ(flashes + 1, 20);
+    EXPECT_FALSE(w.flashRed);
+}
+
+TEST(Mystery, ThiefLeavesANegativeTotalAndFortuneBringsItBack) {
+    SharedState s = Animals(3);
+    ScriptedRng setup;
+    WheelState w = On(3, s, setup);
+    ScriptedRng rng;
+    rng.pick(7, 10).pick(100, 500);  // the Thief, 100 x 3
+    SlotStart st = StartSlot(s, w, rng);
+    EXPECT_EQ(st.show, Show::Thief);
+    EXPECT_TRUE(st.ooh);
+    EXPECT_EQ(s.Score, -300);
+    EXPECT_EQ(TotalText(s.Score), "Cash and Prize Total:  $-300.00");
+    EXPECT_EQ(w.Label1,
+              "Oooooh! Tough Break! You hit the THIEF. He stole 300 dollars from your jackpot! "
+              "Try to be more careful next time...");
+    EXPECT_EQ(w.captions[9], "THIEF!");  // label 9, though slot 3 stopped: kept
+    EXPECT_EQ(w.SpinsLeft, 9);
+    EXPECT_FALSE(w.commandEnabled);  // until the animation ends
+    EXPECT_EQ(w.NextAction, Action::ToWheel);
+    EXPECT_EQ(rng.randomizeCount, 1);
+
+    EXPECT_EQ(ClickCommand(w), Action::ToWheel);
+    EXPECT_EQ(w.captions[9], "?????");
+    w.WheelPos = 9;
+    StopWheel(w);
+    ScriptedRng luck;
+    luck.pick(4, 10).pick(200, 500);
+    st = StartSlot(s, w, luck);
+    EXPECT_EQ(st.show, Show::Fortune);
+    EXPECT_EQ(s.Score, 300);
+    EXPECT_EQ(w.Label1, "Congratulations! You hit the FORTUNE. You have won $600.00!");
+}
+
+TEST(Mystery, TheLastSpinEndsTheGameWithTheShortThiefText) {
+    SharedState s = Animals();
+    ScriptedRng setup;
+    WheelState w = On(9, s, setup);
+    w.SpinsLeft = 1;
+    ScriptedRng rng;
+    rng.pick(5, 10).pick(50, 500);
+    StartSlot(s, w, rng);
+    EXPECT_EQ(w.SpinsLeft, 0);
+    EXPECT_EQ(w.NextAction, Action::EndGame);
+    EXPECT_EQ(w.Command1, "Click here to continue...");
+    EXPECT_EQ(w.Label1,
+              "Oooooh! Tough Break! You hit the THIEF. He stole $100.00 from your jackpot!");
+    AnimationEnded(w);
+    EXPECT_EQ(ClickCommand(w), Action::EndGame);
+    EXPECT_EQ(w.HeadLabel, "Game Over");
+    EXPECT_EQ(EndGame(w, s), Ending::Practice);  // below 1
+    s.Score = 1;
+    EXPECT_EQ(EndGame(w, s), Ending::HandOff);
+}
+
+TEST(MiniGames, TypeItDrawsPrizeThenWordAndJudgesWithoutTrimming) {
+    SharedState s = Animals(10);
+    ScriptedRng setup;
+    WheelState w = On(1, s, setup);
+    ScriptedRng rng;
+    rng.pick(42, 500).pick(3, 5);
+    StartSlot(s, w, rng);
+    EXPECT_EQ(w.SecondsLeft, 8);  // 38 - 3 x 10
+    EXPECT_EQ(w.PrizeAmount, 420);
+    EXPECT_EQ(w.question, "\"a big cat\"");
+    EXPECT_EQ(w.Label1,
+              "You will have 8 seconds to type out the word that matches the definition. Good "
+              "luck!");
+    EXPECT_EQ(w.Command1, "Click here when you are ready to play...");
+    EXPECT_EQ(ClickCommand(w), Action::Type);
+    EXPECT_TRUE(w.timer4);
+    Verdict v = CheckTyped(s, w, "lion ");
+    EXPECT_TRUE(v.decided);
+    EXPECT_FALSE(v.right);
+    EXPECT_EQ(w.Label1, "Ooooh! So sorry. The word you were looking for was \"lion\".");
+    EXPECT_EQ(s.Score, 0);
+    EXPECT_EQ(w.Command1, "Click here give the wheel another spin...");
+}
+
+TEST(MiniGames, RightAnswerPaysThePrize) {
+    SharedState s = Animals(2);
+    ScriptedRng setup;
+    WheelState w = On(0, s, setup);
+    ScriptedRng rng;
+    rng.pick(10, 500).pick(2, 5);  // otter, then its letters in a scripted order
+    rng.pick(5, 5).pick(4, 5).pick(3, 5).pick(2, 5).pick(1, 5);
+    StartSlot(s, w, rng);
+    EXPECT_EQ(w.SecondsLeft, 32);
+    EXPECT_EQ(w.question, "retto");
+    ClickCommand(w);
+    Verdict v = CheckTyped(s, w, "OTTER");
+    EXPECT_TRUE(v.right);
+    EXPECT_EQ(s.Score, 20);
+    EXPECT_EQ(w.Label1, "Great job! $20.00 has been added to your winnings!");
+    EXPECT_FALSE(w.timer4);
+    EXPECT_EQ(w.frame, Frame::None);
+}
+
+TEST(MiniGames, SpellItUsesALaterRuleForEachWrongLabel) {
+    SharedState s = ListOf({{"feather", "a bird's covering"}, {"a", "b"}, {"c", "d"}, {"e", "f"}});
+    ScriptedRng setup;
+    WheelState w = On(2, s, setup);
+    ScriptedRng rng(0.0);
+    rng.pick(1, 500).pick(1, 4).pick(2, 4);  // prize, the word, the right label 1
+    StartSlot(s, w, rng);
+    EXPECT_EQ(w.SecondsLeft, 27);
+    EXPECT_EQ(w.RightChoice, 1);
+    EXPECT_EQ(w.choices,
+              (std::array<std::string, 4>{"pheather", "feather", "feether", "ffeather"}));
+    EXPECT_EQ(w.question, "\"a bird's covering\"");
+    ClickCommand(w);
+    ClickChoice(s, w, 0);
+    EXPECT_EQ(w.Label1, "Ooooh! So sorry. The correct choice was \"feather\".");
+}
+
+TEST(MiniGames, TrueOrFalseRedrawsOnlyAgainstTheRoll) {
+    SharedState s = Animals();
+    ScriptedRng setup;
+    WheelState w = On(7, s, setup);
+    ScriptedRng rng;
+    // Prize, word 2, the choice draw, then the roll 60 (false) and the word shown: word 2 again,
+    // which stays, since only the roll is checked.
+    rng.pick(1, 500).pick(2, 5).pick(3, 4).pick(60, 100).pick(2, 5);
+    StartSlot(s, w, rng);
+    EXPECT_EQ(rng.randomizeCount, 2);
+    EXPECT_EQ(w.RightChoice, 2);
+    EXPECT_EQ(w.question, "True or False: The word \"otter\" means \"a river swimmer\".");
+    EXPECT_EQ(w.choiceShown, (std::array<bool, 4>{false, true, true, false}));
+    ClickCommand(w);
+    EXPECT_FALSE(ClickChoice(s, w, 0).decided);  // a hidden label
+    EXPECT_TRUE(ClickChoice(s, w, 2).right);
+}
+
+TEST(MiniGames, BackWordsAndTheQuestionAsAsked) {
+    SharedState s = Animals();
+    ScriptedRng setup;
+    WheelState w = On(8, s, setup);
+    ScriptedRng rng(0.0);
+    rng.pick(1, 500).pick(4, 5).pick(1, 4);
+    StartSlot(s, w, rng);
+    EXPECT_EQ(w.question, "Which of these is one of your vocabulry words spelled BACKWARDS?");
+    EXPECT_EQ(w.choices[0], "GORF");
+    EXPECT_EQ(w.choices[1], "AAAA");
+}
+
+TEST(MiniGames, FillInShowsTheFirstLetterAndForcesABlankPastSeventyPercent) {
+    ScriptedRng never(0.99);  // rolls of 100: no letter would go on its own
+    EXPECT_EQ(FillInText("abcdefghij", 2, never), "abcdefg _ ij");
+    ScriptedRng always(0.0);  // rolls of 1: every letter would go, but not far past 30 percent
+    EXPECT_EQ(FillInText("abcdefghij", 9, always), "a _  _  _  _ fghij");
+    // At the top level a roll of 100 is not above 100: even the first letter goes.
+    ScriptedRng top(0.0);
+    EXPECT_EQ(FillInText("abc", 10, top), " _  _  _ ");
+    ScriptedRng two(0.99);
+    EXPECT_EQ(FillInText("ab", 2, two), "a _ ");
+}
+
+TEST(MiniGames, TooManyHidesTheWordAmongCapitalsAndAnyRightRemovalWins) {
+    SharedState s = ListOf({{"cat", "a pet"}, {"b", "x"}, {"c", "y"}, {"d", "z"}});
+    ScriptedRng setup;
+    WheelState w = On(5, s, setup);
+    ScriptedRng rng;
+    // Prize, word 1; E = Int(19 x Rnd + 1) = 1, raised to 3; the places 1, 4, 1 (again), 6 with
+    // their letters A, T, X.
+    rng.pick(1, 500).pick(1, 4).then(0.0);
+    rng.pick(1, 6).pick(1, 26).pick(4, 6).pick(20, 26).pick(1, 6).pick(6, 6).pick(24, 26);
+    StartSlot(s, w, rng);
+    EXPECT_EQ(w.tileCount, 6);
+    EXPECT_EQ((std::vector<std::string>(w.tiles.begin(), w.tiles.begin() + 6)),
+              (std::vector<std::string>{"A", "C", "A", "T", "T", "X"}));
+    EXPECT_EQ(w.question, "a pet");
+    ClickCommand(w);
+    // Removing the first A, the second T and the X leaves CAT: right, though not the extras.
+    EXPECT_FALSE(ClickTile(s, w, 0).decided);
+    EXPECT_FALSE(ClickTile(s, w, 4).decided);
+    EXPECT_TRUE(ClickTile(s, w, 5).right);
+}
+
+TEST(MiniGames, LetterChangeClearsAWrongPairAndWinsOnTheSwappedOnes) {
+    SharedState s = ListOf({{"Otter", "a river swimmer"}, {"b", "x"}, {"c", "y"}, {"d", "z"}});
+    ScriptedRng setup;
+    WheelState w = On(6, s, setup);
+    ScriptedRng rng;
+    rng.pick(1, 500).pick(1, 4).pick(2, 5).pick(3, 5);  // t and t: drawn again
+    rng.pick(1, 5).pick(5, 5);
+    StartSlot(s, w, rng);
+    EXPECT_EQ(w.SwapFirst, 1);
+    EXPECT_EQ(w.SwapSecond, 5);
+    EXPECT_EQ((std::vector<std::string>(w.tiles.begin(), w.tiles.begin() + 5)),
+              (std::vector<std::string>{"r", "t", "t", "e", "O"}));
+    ClickCommand(w);
+    ClickTile(s, w, 2);
+    EXPECT_TRUE(ClickTile(s, w, 0).ooh);  // two marked, not the pair: all cleared
+    EXPECT_FALSE(w.TileMarked[0]);
+    EXPECT_FALSE(ClickTile(s, w, 0).decided);
+    EXPECT_TRUE(ClickTile(s, w, 4).right);
+}
+
+TEST(MiniGames, WordsTooLongOrOfOneLetterEndTheSpinInsteadOfHanging) {
+    SharedState s = ListOf({{"pneumonoultramicroscopics", "long"},
+                            {"supercalifragilisticexpi", "long"},
+                            {"antidisestablishmentarian", "long"},
+                            {"floccinaucinihilipilifica", "long"}});
+    ScriptedRng setup;
+    WheelState w = On(5, s, setup);
+    SystemRng rng;
+    SlotStart st = StartSlot(s, w, rng);
+    EXPECT_FALSE(st.refusal.empty());
+    EXPECT_EQ(w.NextAction, Action::ToWheel);
+    EXPECT_EQ(w.SpinsLeft, 9);
+
+    SharedState same = ListOf({{"aaa", "x"}, {"bbb", "y"}, {"ccc", "z"}, {"ddd", "w"}});
+    WheelState v = On(6, same, setup);
+    EXPECT_FALSE(StartSlot(same, v, rng).refusal.empty());
+}
+
+TEST(Clock, TimeOutNamesTheWordOnlyForTheLetterGamesAndRestartLeavesItRunning) {
+    SharedState s = Animals(10);
+    ScriptedRng setup;
+    WheelState w = On(5, s, setup);
+    ScriptedRng rng(0.1);
+    StartSlot(s, w, rng);
+    ClickCommand(w);
+    EXPECT_EQ(w.SecondsLeft, 3);
+    EXPECT_FALSE(CountDown(w));
+    EXPECT_FALSE(CountDown(w));
+    // Restart in the middle: the countdown is not stopped.
+    SetupGame(s, w, setup);
+    EXPECT_TRUE(w.timer4);
+    EXPECT_TRUE(CountDown(w));
+    // Over the welcome; the frame is gone, so the word is not named.
+    EXPECT_EQ(w.Label1, "Oops! Your time ran out! Try to be a little faster next time!");
+    EXPECT_EQ(w.NextAction, Action::ToWheel);
+    EXPECT_EQ(w.SpinsLeft, 10);
+
+    WheelState x = On(6, s, setup);
+    ScriptedRng again(0.1);
+    again.pick(1, 500).pick(2, 5).pick(1, 5).pick(2, 5);
+    StartSlot(s, x, again);
+    ClickCommand(x);
+    while (!CountDown(x)) {
+    }
+    EXPECT_EQ(x.Label1,
+              "Oops! Your time ran out! Try to be a little faster next time! The word you were "
+              "looking for was \"otter\".");
+}
