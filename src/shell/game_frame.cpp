@@ -167,7 +167,8 @@ void GameFrame::stopTimers() {
 
 void GameFrame::newGame() {
     if (leaving_) return;
-    stopTimers();
+    for (auto& [name, t] : timers_)
+        if (!keptOnRestart_.count(name)) t->stop();
     ++round_;
     if (newGame_) newGame_();
 }

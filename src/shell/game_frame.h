@@ -11,6 +11,7 @@
 #include <QString>
 #include <functional>
 #include <map>
+#include <set>
 
 #include "platform/ticker.h"
 
@@ -84,6 +85,9 @@ public:
                      bool singleShot = false);
     GameTimer* findTimer(const QString& name) const;
     void stopTimers();
+    // A timer that Restart leaves running (a countdown that runs on unseen, where the game is
+    // designed so); Quit and the end of a game still stop it.
+    void keepOnRestart(const QString& name) { keptOnRestart_.insert(name); }
 
     // The round in hand. newGame() starts the next one; a continuation made by later() in an
     // earlier round is dropped, so a Restart never receives the last round's animation end.
@@ -122,6 +126,7 @@ private:
     QMenuBar* menu_ = nullptr;
     std::map<Entry, QAction*> entries_;
     std::map<QString, GameTimer*> timers_;
+    std::set<QString> keptOnRestart_;
     int round_ = 0;
     bool leaving_ = false;
     bool escapeQuits_ = true;

@@ -71,17 +71,6 @@ std::vector<MatrixList> Lists() {
     return lists;
 }
 
-// Random, but the same every run.
-class SeededRng : public Rng {
-public:
-    explicit SeededRng(std::uint64_t seed) : engine_(seed) {}
-    double Rnd() override { return std::uniform_real_distribution<double>(0, 1)(engine_); }
-    void Randomize() override {}
-
-private:
-    std::mt19937_64 engine_;
-};
-
 // Answers every box a game opens: initials typed, tables closed, the palette used or put away.
 struct AnyBox {
     std::mt19937* dice;

@@ -131,10 +131,15 @@ void GameFrameTest::timersStopAsOneAndRunOnTheTestClock() {
     Pump(5000);
     QCOMPARE(slow, 1);
     QCOMPARE(fast, 62);
-    // Restart stops them too.
+    // Restart stops them too, but for one the game keeps running on purpose.
     game->frame.findTimer("Timer2")->start();
+    game->frame.findTimer("Timer1")->start();
+    game->frame.keepOnRestart("Timer1");
     game->frame.newGame();
     QVERIFY(!game->frame.findTimer("Timer2")->isActive());
+    QVERIFY(game->frame.findTimer("Timer1")->isActive());
+    game->frame.quit();
+    QVERIFY(!game->frame.findTimer("Timer1")->isActive());
 }
 
 void GameFrameTest::restartDropsTheLastRoundsContinuations() {

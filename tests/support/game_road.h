@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QListWidget>
 #include <QPushButton>
+#include <random>
 
 #include "shell/catalogue.h"
 #include "shell/choose_list.h"
@@ -17,6 +18,17 @@
 #include "shell_fixture.h"
 
 namespace wm::test {
+
+// Random, but the same every run: reseeding does not look at the clock.
+class SeededRng : public Rng {
+public:
+    explicit SeededRng(std::uint64_t seed) : engine_(seed) {}
+    double Rnd() override { return std::uniform_real_distribution<double>(0, 1)(engine_); }
+    void Randomize() override {}
+
+private:
+    std::mt19937_64 engine_;
+};
 
 // Types the initials and presses OK on the initials box; reads the table and presses OK.
 struct WinDriver {

@@ -1,0 +1,182 @@
+// The show on its screen: a whole game of ten spins through all ten mini-games to the table,
+// the thief and the fortune with their animations, and the game that ends in the red.
+#include <QLineEdit>
+#include <QtTest>
+
+#include "core/score_table.h"
+#include "core/strings.h"
+#include "game_road.h"
+#include "games/show/wheel_of_money/wheel_screen.h"
+#include "platform/movie.h"
+
+using namespace wm;
+using namespace wm::test;
+
+namespace {
+
+// Waits out the animation on the test clock until the big button can be pressed.
+void UntilButton(GameShowForm* game) {
+    for (int i = 0; i < 400 && !(game->state().commandShown && game->state().commandEnabled); ++i)
+        Pump(50);
+}
+
+// Spins and stops the wheel on `slot`; the slot starts after the flash.
+void SpinTo(GameShowForm* game, int slot) {
+    UntilButton(game);
+    game->clickCommand();
+    QVERIFY(game->state().Spinning);
+    for (int i = 0; i < 200 && game->state().WheelPos != slot; ++i) Pump(16);
+    QTest::keyClick(game, Qt::Key_S);
+    QVERIFY(!game->state().Spinning);
+    Pump(1100);  // twenty flashes
+}
+
+// Plays the mini-game in hand and answers it right.
+void AnswerRight(GameShowForm* game, const QString& shot = {}) {
+    const wheel::WheelState& w = game->state();
+    game->clickCommand();  // "Click here when you are ready to play..."
+    if (!shot.isEmpty()) Shot(game, shot);
+    switch (w.frame) {
+        case wheel::Frame::Type:
+            game->answerBox()->setText(QString::fromStdString(w.word));
+            QTest::keyClick(game->answerBox(), Qt::Key_Return);
+            break;
+        case wheel::Frame::Choice:
+            game->clickChoice(w.RightChoice);
+            break;
+        case wheel::Frame::Letters:
+            if (w.kind == wheel::Kind::LetterChange) {
+                game->clickTile(w.SwapFirst - 1);
+                game->clickTile(w.SwapSecond - 1);
+            } else {
+                // Keep the leftmost tiles that spell the word; remove the rest.
+                const std::string word = UCase(w.word);
+                std::size_t next = 0;
+                std::vector<int> extras;
+                for (int i = 0; i < w.tileCount; ++i) {
+                    if (next < word.size() && w.tiles[i] == std::string(1, word[next]))
+                        ++next;
+                    else
+                        extras.push_back(i);
+                }
+                for (int i : extras) game->clickTile(i);
+            }
+            break;
+        case wheel::Frame::None:
+            QFAIL("no frame opened");
+    }
+}
+
+}  // namespace
+
+class WheelScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void tenSpinsThroughEveryMiniGameToTheTable();
+    void thiefAndFortune();
+    void aGameInTheRedEndsWithAdvice();
+};
+
+void WheelScreenTest::tenSpinsThroughEveryMiniGameToTheTable() {
+    ShellFixture fx;
+    SeededRng varied(11);  // the letter games need draws that differ
+    SetRng(&varied);
+    auto* game = qobject_cast<GameShowForm*>(PlayFromTitle("Wheel of Money", "Human Body (", 4));
+    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+    Pump(200);
+    QVERIFY(game->movieScreen()->isVisible());  // the intro plays first
+    QVERIFY(!game->command()->isEnabled());
+    Shot(game, "wheel-intro");
+    UntilButton(game);
+    QVERIFY(!game->movieScreen()->isVisible());
+    QCOMPARE(game->command()->text(), "Click here to go to the wheel...");
+    QVERIFY(game->state().Label1.rfind("Welcome to Wheel of Money", 0) == 0);
+    Shot(game, "wheel-welcome");
+
+    const int stops[] = {0, 1, 2, 4, 5, 6, 7, 8, 10, 11};
+    const char* shots[] = {"wheel-scramble",
+                           "wheel-type-it",
+                           "wheel-spell-it",
+                           "",
+                           "wheel-too-many",
+                           "wheel-letter-change",
+                           "wheel-true-false",
+                           "",
+                           "",
+                           "wheel-fill-in"};
+    double total = 0;
+    for (int i = 0; i < 10; ++i) {
+        SpinTo(game, stops[i]);
+        if (i == 0) Shot(game, "wheel-stopped");
+        QCOMPARE(game->state().SpinsLeft, 9 - i);
+        QCOMPARE(game->command()->text(), "Click here when you are ready to play...");
+        AnswerRight(game, shots[i]);
+        total += double(game->state().PrizeAmount);
+        QVERIFY2(game->state().Label1.rfind("Great job! $", 0) == 0, game->state().Label1.c_str());
+        QCOMPARE(Shared().Score, total);
+    }
+    QCOMPARE(game->command()->text(), "Click here to continue...");
+    QVERIFY(fx.sound.played.contains("beep.wav"));
+    QVERIFY(fx.sound.played.contains("cheer.wav"));
+
+    WinDriver driver({"TV!"});
+    SetModalHook(std::ref(driver));
+    fx.dialogs.answerYes(false);
+    game->clickCommand();
+    QCOMPARE(driver.congratulations.size(), 1);
+    QCOMPARE(fx.dialogs.last(), "You won a cash and prize total of $" + QString::number(total) +
+                                    "! Would you like to try again?");
+    Pump();
+    QVERIFY(Showing<Title>() != nullptr);
+    const ScoreTable t = ReadScoreTable(fx.path("scores/Wheel of Money.dat").toStdString());
+    QCOMPARE(t.score(1), total);
+}
+
+void WheelScreenTest::thiefAndFortune() {
+    ShellFixture fx;
+    auto* game = qobject_cast<GameShowForm*>(
+        ContinueWithList(ChooserFor("Wheel of Money", 5, true), "Human Body ("));
+    QVERIFY(game);
+    Pump();
+    fx.rng.setFallback(0.9);  // mystery draws of 10: the Thief
+    SpinTo(game, 3);
+    QVERIFY(game->movieScreen()->isVisible());
+    QVERIFY(!game->command()->isEnabled());  // until the animation ends
+    Pump(1500);
+    Shot(game, "wheel-thief");
+    QVERIFY(Shared().Score < 0);
+    QVERIFY(game->findChild<QLabel*>("PrizeLabel")->text().startsWith("Cash and Prize Total:  $-"));
+    QVERIFY(fx.sound.played.contains("ooh.wav"));
+    UntilButton(game);
+    fx.rng.setFallback(0.1);  // the Fortune
+    SpinTo(game, 9);
+    Pump(1500);
+    Shot(game, "wheel-fortune");
+    QVERIFY(game->state().Label1.rfind("Congratulations! You hit the FORTUNE.", 0) == 0);
+    QCOMPARE(game->state().SpinsLeft, 8);
+}
+
+void WheelScreenTest::aGameInTheRedEndsWithAdvice() {
+    ShellFixture fx;
+    auto* game = qobject_cast<GameShowForm*>(
+        ContinueWithList(ChooserFor("Wheel of Money", 2, true), "Human Body ("));
+    QVERIFY(game);
+    Pump();
+    fx.rng.setFallback(0.1);
+    for (int i = 0; i < 10; ++i) {
+        SpinTo(game, 1);
+        game->clickCommand();
+        // Too slow every time: the countdown runs out.
+        Pump(40000);
+        QVERIFY(game->state().Label1.rfind("Oops! Your time ran out!", 0) == 0);
+    }
+    UntilButton(game);
+    game->clickCommand();
+    QCOMPARE(fx.dialogs.last(),
+             "Hmmm... maybe a bit more practice is needed before you're ready for this game. Go "
+             "and learn your vocab words, then come back and try again later...");
+    QVERIFY(Showing<Title>() != nullptr);
+}
+
+QTEST_MAIN(WheelScreenTest)
+#include "wheel_screen_test.moc"
