@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <utility>
 
 namespace wm {
 
@@ -179,18 +180,47 @@ void PlayField::drawText(const QRect& box, int flags, const QString& text, const
 
 void PlayField::markDirty(const QRect& rect) {
     const QRect inside = rect.intersected(surface_.rect());
-    if (!inside.isEmpty()) dirty_ += inside;
+    if (!inside.isEmpty()) dirty_.push_back(inside);
 }
 
-QRegion PlayField::flush() {
-    QRegion area;
-    for (const QRect& rect : dirty_) {
-        // One pixel more all round: smooth scaling blends each pixel into its neighbours.
-        area += toWidget(rect.adjusted(-1, -1, 1, 1).intersected(surface_.rect()));
+QList<QRect> PlayField::flush() {
+    // Overlapping rectangles (a sprite's old and new place) become one, but only while the
+    // union is no bigger than the two apart: chains of neighbours must not grow into the field.
+    const auto area = [](const QRect& r) { return qint64(r.width()) * r.height(); };
+    std::vector<QRect> merged;
+    merged.reserve(dirty_.size());
+    for (QRect rect : dirty_) {
+        bool grown = true;
+        while (grown) {
+            grown = false;
+            for (size_t i = 0; i < merged.size(); ++i) {
+                if (!merged[i].intersects(rect) ||
+                    area(merged[i] | rect) > area(merged[i]) + area(rect)) {
+                    continue;
+                }
+                rect |= merged[i];
+                merged[i] = merged.back();
+                merged.pop_back();
+                grown = true;
+                break;
+            }
+        }
+        merged.push_back(rect);
     }
-    dirty_ = QRegion();
-    if (!area.isEmpty()) update(area);
-    return area;
+    dirty_.clear();
+    syncScaler();
+    const QPoint origin = targetRect().topLeft();
+    QList<QRect> rects;
+    rects.reserve(qsizetype(merged.size()));
+    for (const QRect& rect : merged) {
+        // One pixel more all round: smooth scaling blends each pixel into its neighbours.
+        const QRect w = toWidget(rect.adjusted(-1, -1, 1, 1).intersected(surface_.rect()));
+        scaler_.update(surface_, w.translated(-origin));
+        rects.append(w);
+        pushed_.append(w);
+        update(w);
+    }
+    return rects;
 }
 
 QRect PlayField::targetRect() const {
@@ -223,31 +253,42 @@ void PlayField::render(QPainter& painter, const QRegion& region) const {
     const QRect t = targetRect();
     const QRegion bars = region.subtracted(QRegion(t));
     for (const QRect& bar : bars) painter.fillRect(bar, Qt::black);
-    if (t.isEmpty()) return;
-    const double sx = double(t.width()) / surface_.width();
-    const double sy = double(t.height()) / surface_.height();
-    painter.save();
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    for (const QRect& r : region.intersected(t)) {
-        // Only the part of the field under this rectangle (and a pixel round it, for the
-        // blending at its edges) is scaled; the clip keeps the result to the rectangle.
-        const int x0 = std::max(0, int(std::floor((r.left() - t.x()) / sx)) - 1);
-        const int y0 = std::max(0, int(std::floor((r.top() - t.y()) / sy)) - 1);
-        const int x1 = std::min(surface_.width(), int(std::ceil((r.right() + 1 - t.x()) / sx)) + 1);
-        const int y1 =
-            std::min(surface_.height(), int(std::ceil((r.bottom() + 1 - t.y()) / sy)) + 1);
-        const QRectF source(x0, y0, x1 - x0, y1 - y0);
-        const QRectF target(t.x() + x0 * sx, t.y() + y0 * sy, source.width() * sx,
-                            source.height() * sy);
-        painter.setClipRect(r);
-        painter.drawImage(target, surface_, source);
+    for (const QRect& r : region.intersected(t)) renderField(painter, r);
+}
+
+void PlayField::render(QPainter& painter, const QList<QRect>& rects) const {
+    const QRect t = targetRect();
+    for (const QRect& r : rects) renderField(painter, r.intersected(t));
+}
+
+void PlayField::syncScaler() const {
+    if (scaler_.resize(surface_.size(), targetRect().size())) {
+        scaler_.update(surface_, scaler_.image().rect());
     }
-    painter.restore();
+}
+
+void PlayField::renderField(QPainter& painter, const QRect& r) const {
+    const QRect t = targetRect();
+    if (t.isEmpty() || r.isEmpty()) return;
+    syncScaler();
+    // Already scaled: a plain block copy to the screen.
+    painter.drawImage(r.topLeft(), scaler_.image(), r.translated(-t.topLeft()));
 }
 
 void PlayField::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    render(painter, event->region());
+    const QRegion region = event->region();
+    // What flush() pushed is painted rectangle by rectangle, as pushed; anything else the
+    // system asks for (an uncovered window) through the region.
+    const QList<QRect> pushed = std::exchange(pushed_, {});
+    QRegion rest = region;
+    if (!pushed.isEmpty()) {
+        render(painter, pushed);  // each lies inside the region: it was asked for by update()
+        QRegion covered;
+        for (const QRect& r : pushed) covered += r;
+        rest = region.subtracted(covered);
+    }
+    if (!rest.isEmpty()) render(painter, rest);
 }
 
 void PlayField::mousePressEvent(QMouseEvent* event) {

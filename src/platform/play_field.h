@@ -3,8 +3,12 @@
 #pragma once
 
 #include <QImage>
+#include <QList>
 #include <QRegion>
 #include <QWidget>
+#include <vector>
+
+#include "platform/field_scaler.h"
 
 class QFont;
 
@@ -52,9 +56,9 @@ public:
                   const QColor& colour);
 
     void markDirty(const QRect& rect);
-    // Pushes the changed rectangles to the screen and forgets them; returns the widget area
-    // asked to repaint. Call once a tick.
-    QRegion flush();
+    // Pushes the changed rectangles to the screen and forgets them; returns the widget
+    // rectangles asked to repaint (overlapping ones merged). Call once a tick.
+    QList<QRect> flush();
 
     // Where the field sits in the widget: aspect kept, centred, black bars round it.
     QRect targetRect() const;
@@ -62,6 +66,8 @@ public:
     QRect toWidget(const QRect& logical) const;       // covers every pixel `logical` touches
     // Paints `region` of the widget as the paint event does (the bars and the scaled field).
     void render(QPainter& painter, const QRegion& region) const;
+    // The same for rectangles as flush() gives them, without cutting them into bands.
+    void render(QPainter& painter, const QList<QRect>& rects) const;
 
 signals:
     void mousePressed(const QPoint& logical, Qt::MouseButton button);
@@ -75,9 +81,15 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
+    void renderField(QPainter& painter, const QRect& area) const;
+    void syncScaler() const;  // the scaled picture at the present widget size
     QImage surface_;
     QImage background_;
-    QRegion dirty_;
+    // Plain lists, not QRegion: sixty sprites a tick would cost more in band merging than in
+    // drawing.
+    std::vector<QRect> dirty_;    // field pixels changed since the last flush
+    QList<QRect> pushed_;         // widget rectangles flushed since the last paint
+    mutable FieldScaler scaler_;  // the field as shown: scaled once, kept up to date by flush()
 };
 
 // The mask and picture of a picture with alpha, for drawMasked().
