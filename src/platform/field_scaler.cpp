@@ -51,6 +51,19 @@ void blendRows(quint32* out, const quint32* upper, const quint32* lower, int cou
     for (; x < count; ++x) out[x] = blend(upper[x], lower[x], w);
 }
 
+#if defined(__SSE2__)
+// Two pixels, each blended between its own pair of pixels with its own weights.
+inline __m128i blendPair(quint32 a0, quint32 a1, quint32 b0, quint32 b1, const quint16* wa,
+                         const quint16* wb) {
+    const __m128i zero = _mm_setzero_si128();
+    const __m128i a = _mm_unpacklo_epi8(_mm_set_epi32(0, 0, int(a1), int(a0)), zero);
+    const __m128i b = _mm_unpacklo_epi8(_mm_set_epi32(0, 0, int(b1), int(b0)), zero);
+    const __m128i va = _mm_loadu_si128(reinterpret_cast<const __m128i*>(wa));
+    const __m128i vb = _mm_loadu_si128(reinterpret_cast<const __m128i*>(wb));
+    return _mm_srli_epi16(_mm_add_epi16(_mm_mullo_epi16(a, va), _mm_mullo_epi16(b, vb)), 8);
+}
+#endif
+
 }  // namespace
 
 std::vector<FieldScaler::Tap> FieldScaler::taps(int from, int to) {
@@ -72,12 +85,21 @@ bool FieldScaler::resize(QSize source, QSize target) {
     scaled_ = target.isEmpty() ? QImage() : QImage(target, QImage::Format_RGB32);
     columns_ = taps(source.width(), target.width());
     rows_ = taps(source.height(), target.height());
+    // Each column's two weights, once per channel, for blending across four channels at once.
+    weightFirst_.assign(columns_.size() * 4, 0);
+    weightSecond_.assign(columns_.size() * 4, 0);
+    for (size_t i = 0; i < columns_.size(); ++i) {
+        for (size_t c = 0; c < 4; ++c) {
+            weightFirst_[i * 4 + c] = quint16(256 - columns_[i].weight);
+            weightSecond_[i * 4 + c] = quint16(columns_[i].weight);
+        }
+    }
     return true;
 }
 
 void FieldScaler::update(const QImage& source, const QRect& area) {
     const QRect r = area.intersected(scaled_.rect());
-    if (r.isEmpty() || source.format() != QImage::Format_RGB32) return;
+    if (r.isEmpty() || source.format() != QImage::Format_RGB32 || source.size() != source_) return;
     // Source rows this rectangle reads, each blended across once for all the rows that use it.
     const int top = rows_[size_t(r.top())].first;
     const int bottom = rows_[size_t(r.bottom())].second;
@@ -87,8 +109,22 @@ void FieldScaler::update(const QImage& source, const QRect& area) {
         const auto* in = reinterpret_cast<const quint32*>(source.constScanLine(y));
         quint32* out = band_.data() + size_t(y - top) * size_t(width);
         const Tap* tap = columns_.data() + r.left();
-        for (int x = 0; x < width; ++x)
-            out[x] = blend(in[tap[x].first], in[tap[x].second], tap[x].weight);
+        int x = 0;
+#if defined(__SSE2__)
+        const quint16* wa = weightFirst_.data() + size_t(r.left()) * 4;
+        const quint16* wb = weightSecond_.data() + size_t(r.left()) * 4;
+        for (; x + 4 <= width; x += 4) {
+            const Tap* t = tap + x;
+            const __m128i lo = blendPair(in[t[0].first], in[t[1].first], in[t[0].second],
+                                         in[t[1].second], wa + x * 4, wb + x * 4);
+            const __m128i hi = blendPair(in[t[2].first], in[t[3].first], in[t[2].second],
+                                         in[t[3].second], wa + x * 4 + 8, wb + x * 4 + 8);
+            _mm_storeu_si128(
+                reinterpret_cast<__m128i*>(out + x),
+                _mm_or_si128(_mm_packus_epi16(lo, hi), _mm_set1_epi32(int(0xFF000000u))));
+        }
+#endif
+        for (; x < width; ++x) out[x] = blend(in[tap[x].first], in[tap[x].second], tap[x].weight);
     }
     for (int y = r.top(); y <= r.bottom(); ++y) {
         const Tap& tap = rows_[size_t(y)];

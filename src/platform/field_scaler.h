@@ -31,6 +31,7 @@ private:
     QImage scaled_;
     QSize source_;
     std::vector<Tap> columns_, rows_;
+    std::vector<quint16> weightFirst_, weightSecond_;  // per column, four times over
     std::vector<quint32> band_;  // source rows blended across, for the rectangle being scaled
 };
 
