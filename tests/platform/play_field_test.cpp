@@ -91,6 +91,8 @@ private slots:
             }
             field.flush();
         }
+        field.resize(1280, 800);
+        field.grab().save(QStringLiteral("/tmp/play-field-sixty.png"));
         for (auto it = movers.rbegin(); it != movers.rend(); ++it) it->sprite.erase(field);
         QVERIFY(field.surface() == back);
     }
