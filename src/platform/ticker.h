@@ -22,6 +22,8 @@ public:
     void advance(int ms);
     qint64 now() const;  // milliseconds on this clock
     // The pace rule: intervals under 16 ms run at 16 ms (one frame at 60 Hz); longer ones as given.
+    // Zero stays zero, "as soon as possible": the next advance() (even of 0 ms), or in real time
+    // the next pass of the event loop. A repeating zero timer fires once an advance().
     static int effectiveInterval(int ms);
 
     static constexpr int kFrameMs = 16;

@@ -1,0 +1,332 @@
+// The playing field: a sprite scene that must leave the background exactly as it was, masked
+// draws, clipped block copies, and the one scale to the screen with its dirty rectangles.
+#include <QFont>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QTest>
+#include <vector>
+
+#include "platform/field_scaler.h"
+#include "platform/play_field.h"
+
+using namespace wm;
+
+namespace {
+
+// A background with no two neighbouring pixels alike, so a misplaced restore shows.
+QImage busyBackground(QSize size) {
+    QImage image(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            image.setPixel(x, y,
+                           qRgb((x * 7 + y * 3) & 255, (x * 5 ^ y * 11) & 255, (x + y) & 255));
+        }
+    }
+    return image;
+}
+
+// A round sprite: opaque disc in `colour`, transparent corners, a half-see-through rim.
+QImage ball(int size, QColor colour) {
+    QImage image(size, size, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    const double r = size / 2.0;
+    for (int y = 0; y < size; ++y) {
+        for (int x = 0; x < size; ++x) {
+            const double d = std::hypot(x + 0.5 - r, y + 0.5 - r);
+            if (d < r - 2)
+                image.setPixelColor(x, y, colour);
+            else if (d < r)
+                image.setPixelColor(x, y, QColor(255, 255, 255, d < r - 1 ? 140 : 100));
+        }
+    }
+    return image;
+}
+
+struct Mover {
+    FieldSprite sprite;
+    QPoint at, step;
+    QImage picture;
+};
+
+int maxChannelDiff(const QImage& a, const QImage& b) {
+    int worst = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y), q = b.pixel(x, y);
+            worst = std::max({worst, std::abs(qRed(p) - qRed(q)), std::abs(qGreen(p) - qGreen(q)),
+                              std::abs(qBlue(p) - qBlue(q))});
+        }
+    }
+    return worst;
+}
+
+}  // namespace
+
+class PlayFieldTest : public QObject {
+    Q_OBJECT
+private slots:
+    void sixtySpritesLeaveTheBackgroundUntouched() {
+        PlayField field({640, 480});
+        const QImage back = busyBackground({640, 480});
+        field.setBackground(back);
+        std::vector<Mover> movers(60);
+        for (int i = 0; i < 60; ++i) {
+            Mover& m = movers[size_t(i)];
+            // Some start half off the field, so the clipped edges are exercised too.
+            m.at = QPoint((i * 53) % 680 - 20, (i * 37) % 520 - 20);
+            m.step = QPoint(i % 7 - 3, i % 5 - 2);
+            m.picture = i % 3 ? ball(24 + i % 3 * 8, QColor::fromHsv(i * 6, 255, 255))
+                              : ball(32, Qt::red).convertToFormat(QImage::Format_RGB32);
+            m.sprite.draw(field, m.at, m.picture);
+        }
+        QVERIFY(field.surface() != back);
+        for (int tick = 0; tick < 40; ++tick) {
+            // Erase newest first, so overlapping sprites unwind in the order they were laid.
+            for (auto it = movers.rbegin(); it != movers.rend(); ++it) it->sprite.erase(field);
+            for (Mover& m : movers) {
+                m.at += m.step;
+                if (m.at.x() < -20 || m.at.x() > 640) m.step.rx() = -m.step.x();
+                if (m.at.y() < -20 || m.at.y() > 480) m.step.ry() = -m.step.y();
+                m.sprite.draw(field, m.at, m.picture);
+            }
+            field.flush();
+        }
+        field.resize(1280, 800);
+        field.grab().save(QStringLiteral("/tmp/play-field-sixty.png"));
+        for (auto it = movers.rbegin(); it != movers.rend(); ++it) it->sprite.erase(field);
+        QVERIFY(field.surface() == back);
+    }
+
+    void maskedDrawIsTheTwoPasses() {
+        const QImage back = busyBackground({64, 48});
+        const QImage sprite = ball(32, QColor(10, 200, 30));
+        PlayField alpha({64, 48}), passes({64, 48});
+        alpha.setBackground(back);
+        passes.setBackground(back);
+        alpha.drawTransparent({20, 10}, sprite);
+        passes.drawMasked({20, 10}, PictureOf(sprite), MaskOf(sprite));
+        QVERIFY(alpha.surface() == passes.surface());
+        for (int y = 0; y < 32; ++y) {
+            for (int x = 0; x < 32; ++x) {
+                const QRgb was = back.pixel(20 + x, 10 + y),
+                           now = alpha.surface().pixel(20 + x, 10 + y);
+                const int a = qAlpha(sprite.pixel(x, y));
+                if (a < 128)
+                    QCOMPARE(now, was);  // the field shows through, untouched
+                else
+                    QCOMPARE(now, sprite.pixel(x, y) | 0xFF000000u);
+            }
+        }
+        // The mask pass alone: where the mask is black the field goes black, white keeps it.
+        PlayField maskOnly({64, 48});
+        maskOnly.setBackground(back);
+        QImage black(32, 32, QImage::Format_RGB32);
+        black.fill(Qt::black);
+        maskOnly.drawMasked({20, 10}, black, MaskOf(sprite));
+        QCOMPARE(maskOnly.surface().pixel(36, 26), qRgb(0, 0, 0));
+        QCOMPARE(maskOnly.surface().pixel(20, 10), back.pixel(20, 10));
+    }
+
+    void blockCopiesClipAndOverlap() {
+        const QImage back = busyBackground({40, 30});
+        PlayField field({40, 30});
+        field.setBackground(back);
+        QImage block(10, 10, QImage::Format_RGB32);
+        block.fill(Qt::blue);
+        // Table: where the block goes, and the part of the field it must cover.
+        const std::vector<std::pair<QPoint, QRect>> cases = {
+            {{5, 5}, {5, 5, 10, 10}},
+            {{-4, -3}, {0, 0, 6, 7}},
+            {{35, 25}, {35, 25, 5, 5}},
+            {{-20, 0}, {}},
+            {{40, 0}, {}},
+        };
+        for (const auto& [at, covered] : cases) {
+            field.setBackground(back);
+            field.copy(at, block);
+            for (int y = 0; y < 30; ++y) {
+                for (int x = 0; x < 40; ++x) {
+                    const QRgb want = covered.contains(x, y) ? qRgb(0, 0, 255) : back.pixel(x, y);
+                    if (field.surface().pixel(x, y) != want) {
+                        QFAIL(qPrintable(QStringLiteral("copy to %1,%2 wrong at %3,%4")
+                                             .arg(at.x())
+                                             .arg(at.y())
+                                             .arg(x)
+                                             .arg(y)));
+                    }
+                }
+            }
+        }
+        // A scroll one pixel left: overlapping rectangles still come out as the old pixels.
+        field.setBackground(back);
+        field.copyWithin({0, 0}, {1, 0, 39, 30});
+        QCOMPARE(field.surface().copy(0, 0, 39, 30), back.copy(1, 0, 39, 30));
+        QCOMPARE(field.surface().pixel(39, 5), back.pixel(39, 5));
+        // Part of a source picture; restoring the background over a rectangle.
+        field.copy({0, 0}, back, {10, 10, 5, 5});
+        QCOMPARE(field.surface().pixel(2, 3), back.pixel(12, 13));
+        field.restoreBackground({0, 0, 40, 30});
+        QVERIFY(field.surface() == back);
+        // Save and restore round trip, partly off the field.
+        const SavedBlock saved = field.save({30, 20, 20, 20});
+        QCOMPARE(saved.pixels.size(), QSize(10, 10));
+        field.fill({0, 0, 40, 30}, Qt::green);
+        field.restore(saved);
+        QCOMPARE(field.surface().copy(30, 20, 10, 10), back.copy(30, 20, 10, 10));
+        QVERIFY(field.save({50, 50, 5, 5}).isNull());
+    }
+
+    void backgroundScalesAndTextStaysInItsBox() {
+        PlayField field({80, 60});
+        QImage small(8, 6, QImage::Format_RGB32);
+        small.fill(qRgb(200, 100, 50));
+        field.setBackground(small);
+        QCOMPARE(field.surface().size(), QSize(80, 60));
+        QCOMPARE(field.surface().pixel(79, 59), qRgb(200, 100, 50));
+        field.setBackground(QImage());
+        QCOMPARE(field.surface().pixel(40, 30), qRgb(0, 0, 0));
+        field.flush();
+        QFont font;
+        font.setPixelSize(14);
+        field.drawText({10, 10, 50, 20}, Qt::AlignCenter, QStringLiteral("Wordmere"), font,
+                       Qt::yellow);
+        int lit = 0;
+        for (int y = 0; y < 60; ++y) {
+            for (int x = 0; x < 80; ++x) {
+                if (field.surface().pixel(x, y) == qRgb(0, 0, 0)) continue;
+                QVERIFY(QRect(10, 10, 50, 20).contains(x, y));
+                ++lit;
+            }
+        }
+        QVERIFY(lit > 20);
+        QVERIFY(!field.flush().isEmpty());
+    }
+
+    void screenMappingKeepsAspect_data() {
+        QTest::addColumn<QSize>("widget");
+        QTest::addColumn<QRect>("target");
+        QTest::newRow("wide screen: bars left and right")
+            << QSize(1920, 1080) << QRect(240, 0, 1440, 1080);
+        QTest::newRow("tall: bars above and below") << QSize(640, 600) << QRect(0, 60, 640, 480);
+        QTest::newRow("exact") << QSize(640, 480) << QRect(0, 0, 640, 480);
+        QTest::newRow("laptop") << QSize(1280, 800) << QRect(107, 0, 1066, 800);
+    }
+
+    void screenMappingKeepsAspect() {
+        QFETCH(QSize, widget);
+        QFETCH(QRect, target);
+        PlayField field({640, 480});
+        field.resize(widget);
+        QCOMPARE(field.targetRect(), target);
+        QCOMPARE(field.toLogical(target.topLeft()), QPoint(0, 0));
+        QCOMPARE(field.toLogical(target.bottomRight()), QPoint(639, 479));
+        QVERIFY(field.toLogical(target.topLeft() - QPoint(1, 1)).x() < 0);
+        // A logical rectangle's widget area covers every screen pixel that maps back into it,
+        // and no more than the pixels it touches.
+        for (const QRect logical :
+             {QRect(0, 0, 1, 1), QRect(100, 200, 32, 32), QRect(639, 479, 1, 1)}) {
+            const QRect w = field.toWidget(logical);
+            QVERIFY(logical.contains(field.toLogical(w.center())));
+            QVERIFY(!logical.contains(field.toLogical(w.topLeft() - QPoint(1, 1))));
+            QVERIFY(!logical.contains(field.toLogical(w.bottomRight() + QPoint(1, 1))));
+            QVERIFY(w.width() <= int(std::ceil(logical.width() * target.width() / 640.0)) + 1);
+        }
+    }
+
+    void onlyDirtyRectanglesAreRepainted() {
+        PlayField field({640, 480});
+        field.resize(1920, 1080);
+        field.setBackground(busyBackground({640, 480}));
+        field.flush();
+        QImage shown(1920, 1080, QImage::Format_RGB32);
+        shown.fill(Qt::magenta);
+        {
+            QPainter p(&shown);
+            field.render(p, QRegion(shown.rect()));
+        }
+        QCOMPARE(shown.pixelColor(10, 500), QColor(Qt::black));  // the bar
+
+        FieldSprite sprite;
+        const QImage picture = ball(32, Qt::red);
+        sprite.draw(field, {100, 100}, picture);
+        field.flush();
+        sprite.erase(field);
+        sprite.draw(field, {104, 102}, picture);
+        const QList<QRect> pushed = field.flush();
+        // Old and new places of one small sprite, as one rectangle, and nothing else.
+        QCOMPARE(pushed.size(), 1);
+        QVERIFY(pushed[0].contains(field.toWidget({100, 100, 36, 34})));
+        QVERIFY(pushed[0].width() < 100);
+        QVERIFY(field.flush().isEmpty());
+
+        // Painting just what was pushed gives what a whole repaint gives.
+        {
+            QPainter p(&shown);
+            field.render(p, field.toWidget({99, 99, 38, 36}));
+        }
+        QImage whole(1920, 1080, QImage::Format_RGB32);
+        {
+            QPainter p(&whole);
+            field.render(p, QRegion(whole.rect()));
+        }
+        whole.save(QStringLiteral("/tmp/play-field.png"));
+        QVERIFY(shown == whole);
+        // The widget's own paint (what flush() pushed, then the rest) shows the same.
+        sprite.erase(field);
+        sprite.draw(field, {104, 102}, picture);
+        field.flush();
+        QCOMPARE(field.grab().toImage().convertToFormat(QImage::Format_RGB32), whole);
+        QCOMPARE(whole.pixelColor(field.toWidget({120, 118, 1, 1}).center()), QColor(Qt::red));
+    }
+
+    void scalerPiecesJoinWithoutSeams() {
+        const QImage field = busyBackground({640, 480});
+        for (const QSize target : {QSize(1440, 1080), QSize(1066, 800), QSize(320, 240)}) {
+            FieldScaler whole, pieces;
+            QVERIFY(whole.resize(field.size(), target));
+            QVERIFY(!whole.resize(field.size(), target));  // same sizes: kept
+            pieces.resize(field.size(), target);
+            whole.update(field, whole.image().rect());
+            // Odd strips and blocks, overlapping, in no particular order.
+            for (int y = 0; y < target.height(); y += 37) {
+                for (int x = target.width() - 1; x > -53; x -= 53) {
+                    pieces.update(field, QRect(x - 3, y - 2, 61, 41));
+                }
+            }
+            QVERIFY(whole.image() == pieces.image());
+        }
+        // Against Qt's own smooth scaling: the same picture, no shift of half a pixel.
+        QImage smooth(64, 48, QImage::Format_RGB32);
+        for (int y = 0; y < 48; ++y) {
+            for (int x = 0; x < 64; ++x) smooth.setPixel(x, y, qRgb(x * 4, y * 5, 128 + (x - y)));
+        }
+        FieldScaler scaler;
+        scaler.resize(smooth.size(), {144, 108});
+        scaler.update(smooth, QRect(0, 0, 144, 108));
+        const QImage qt = smooth.scaled(144, 108, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        QVERIFY(maxChannelDiff(scaler.image(), qt) <= 3);
+        // A flat colour stays exactly flat; a tiny field does not break it.
+        QImage flat(3, 1, QImage::Format_RGB32);
+        flat.fill(qRgb(10, 150, 250));
+        scaler.resize(flat.size(), {7, 5});
+        scaler.update(flat, QRect(-5, -5, 50, 50));
+        for (int x = 0; x < 7; ++x) QCOMPARE(scaler.image().pixel(x, 4), qRgb(10, 150, 250));
+    }
+
+    void mouseComesBackInFieldPixels() {
+        PlayField field({640, 480});
+        field.resize(1920, 1080);
+        QSignalSpy pressed(&field, &PlayField::mousePressed);
+        QSignalSpy moved(&field, &PlayField::mouseMoved);
+        QTest::mousePress(&field, Qt::LeftButton, {}, QPoint(240 + 1440 / 2, 1080 / 4));
+        QCOMPARE(pressed.count(), 1);
+        QCOMPARE(pressed.at(0).at(0).toPoint(), QPoint(320, 120));
+        QCOMPARE(pressed.at(0).at(1).value<Qt::MouseButton>(), Qt::LeftButton);
+        QTest::mouseMove(&field, QPoint(1679, 1079));
+        QTRY_COMPARE(moved.count(), 1);
+        QCOMPARE(moved.at(0).at(0).toPoint(), QPoint(639, 479));
+    }
+};
+
+QTEST_MAIN(PlayFieldTest)
+#include "play_field_test.moc"
