@@ -130,7 +130,7 @@ private slots:
             }
         }
         QVERIFY(sounds >= 15);
-        QCOMPARE(tunes, 4);
+        QVERIFY(tunes >= 4);
         // The names screens ask for by hand are listed.
         for (const char* name : {"sounds/applause.wav", "sounds/wmtheme.mid", "images/wm-title.jpg",
                                  "buttons/Scramble.jpg", "movies/wmsplash"})
