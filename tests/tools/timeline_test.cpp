@@ -218,7 +218,7 @@ private slots:
             const QString shots = qEnvironmentVariable("WM_SHOTS");
             for (double u : {0.0, 0.3, 0.6, 0.9}) {
                 QImage img(scene->naturalSize(), QImage::Format_ARGB32);
-                img.fill(QColor(20, 24, 60));
+                img.fill(QColor(236, 226, 200));
                 QPainter p(&img);
                 p.setRenderHint(QPainter::Antialiasing);
                 scene->paint(p, QRectF(img.rect()), u * scene->duration());
