@@ -207,7 +207,8 @@ std::unique_ptr<TimelineScene> TimelineScene::load(const QString& file, QString*
             return fail(QStringLiteral("a timeline starts with \"timeline duration=<seconds>\""));
         } else if (word == QLatin1String("sprite")) {
             if (bare.size() != 1) return fail(QStringLiteral("write \"sprite <name> ...\""));
-            if (const QString e = onlyKeys({"svg", "id", "frames", "helper", "size", "colour"});
+            if (const QString e =
+                    onlyKeys({"svg", "id", "frames", "helper", "size", "colour", "cover"});
                 !e.isEmpty())
                 return fail(e);
             Sprite s;
@@ -217,6 +218,7 @@ std::unique_ptr<TimelineScene> TimelineScene::load(const QString& file, QString*
             s.frames = static_cast<int>(number(QStringLiteral("frames"), 0, 0, 1000));
             s.helper = keys[QStringLiteral("helper")];
             s.size = number(QStringLiteral("size"), 64, 1, 100000);
+            s.cover = keys[QStringLiteral("cover")] == QLatin1String("yes");
             if (keys.count(QStringLiteral("colour"))) {
                 s.colour = QColor::fromString(keys[QStringLiteral("colour")]);
                 if (!s.colour.isValid()) return fail(QStringLiteral("colour is like #ff8800"));
@@ -349,6 +351,7 @@ void TimelineScene::paint(QPainter& painter, const QRectF& rect, double t) {
     if (background_) painter.fillRect(rect, *background_);
     const QRectF stage = scene::fitStage(rect, QSizeF(stage_));
     const double zoom = stage.width() / stage_.width();
+    const QTransform outer = painter.transform();
     painter.save();
     painter.setClipRect(stage);
     painter.translate(stage.topLeft());
@@ -356,6 +359,23 @@ void TimelineScene::paint(QPainter& painter, const QRectF& rect, double t) {
     for (const Sprite& sprite : sprites_) {
         const SpriteState s = stateAt(sprite.name, t);
         if (s.opacity <= 0 || s.scale == 0) continue;
+        if (sprite.cover) {
+            // Scaled to cover the whole picture, cropped rather than letterboxed.
+            QSvgRenderer* svg = renderer(sprite.svg);
+            if (!svg || !svg->elementExists(sprite.id)) continue;
+            const QRectF box = svg->boundsOnElement(sprite.id);
+            if (box.isEmpty()) continue;
+            const double k = std::max(rect.width() / box.width(), rect.height() / box.height());
+            const QSizeF size = box.size() * k;
+            painter.save();
+            painter.setTransform(outer);
+            painter.setClipRect(rect);
+            painter.setOpacity(painter.opacity() * s.opacity);
+            svg->render(&painter, sprite.id,
+                        QRectF(rect.center() - QPointF(size.width() / 2, size.height() / 2), size));
+            painter.restore();
+            continue;
+        }
         painter.save();
         painter.translate(s.x, s.y);
         painter.rotate(s.rotation);

@@ -68,6 +68,7 @@ private:
         QString id;      // element id, or the stem of frame ids ("<id>_<frame>")
         int frames = 0;  // 0: a single element `id`
         QString helper;
+        bool cover = false;  // fills the whole picture, not just the stage (skies, backdrops)
         double size = 64;
         QColor colour = Qt::white;
         std::vector<Point> tracks[PropertyCount];

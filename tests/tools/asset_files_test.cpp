@@ -130,7 +130,7 @@ private slots:
             }
         }
         QVERIFY(sounds >= 15);
-        QCOMPARE(tunes, 4);
+        QVERIFY(tunes >= 4);
         // The names screens ask for by hand are listed.
         for (const char* name : {"sounds/applause.wav", "sounds/wmtheme.mid", "images/wm-title.jpg",
                                  "buttons/Scramble.jpg", "movies/wmsplash"})
@@ -157,23 +157,24 @@ private slots:
 
     // Making one group rewrites that group's files and leaves every other file alone.
     void oneGroupTouchesOnlyItsOwnFiles() {
-        QTemporaryDir app;
-        QString error;
-        QVERIFY2(generateAll(app.path(), &error), qPrintable(error));
-        const QString wav = app.filePath("sounds/ding.wav");
-        const QString jpg = app.filePath("images/wm-back.jpg");
-        const QString mid = app.filePath("sounds/wmtheme.mid");
+        const QString wav = dir_.filePath("sounds/ding.wav");
+        const QString jpg = dir_.filePath("images/wm-back.jpg");
+        const QString mid = dir_.filePath("sounds/wmtheme.mid");
         for (const QString& path : {wav, jpg}) {
             QFile f(path);
             QVERIFY(f.open(QIODevice::WriteOnly));
             f.write("spoilt");
         }
         const QDateTime tuneTime = QFileInfo(mid).lastModified();
-        QVERIFY2(generate(sourceAssetsDir(), app.path(), {"sounds"}, &error), qPrintable(error));
-        QCOMPARE(snapshot(app.path()).value("sounds/ding.wav"), first_.value("sounds/ding.wav"));
-        QCOMPARE(snapshot(app.path()).value("images/wm-back.jpg"), QByteArray("spoilt"));
+        QString error;
+        QVERIFY2(generate(sourceAssetsDir(), dir_.path(), {"sounds"}, &error), qPrintable(error));
+        QCOMPARE(snapshot(dir_.path()).value("sounds/ding.wav"), first_.value("sounds/ding.wav"));
+        QCOMPARE(snapshot(dir_.path()).value("images/wm-back.jpg"), QByteArray("spoilt"));
         QCOMPARE(QFileInfo(mid).lastModified(), tuneTime);
-        QVERIFY(!generate(sourceAssetsDir(), app.path(), {"noises"}, &error));
+        QVERIFY2(generate(sourceAssetsDir(), dir_.path(), {"pictures"}, &error), qPrintable(error));
+        QCOMPARE(snapshot(dir_.path()).value("images/wm-back.jpg"),
+                 first_.value("images/wm-back.jpg"));
+        QVERIFY(!generate(sourceAssetsDir(), dir_.path(), {"noises"}, &error));
         QCOMPARE(error, QString("no asset group \"noises\""));
     }
 

@@ -223,7 +223,7 @@ TEST(Tunes, EveryTuneIsAWellFormedLoopableSong) {
     for (const AssetFile& tune : tunes) {
         const QString name = tune.path.mid(7).chopped(4);
         SCOPED_TRACE(name.toStdString());
-        const auto bounds = seconds.count(name) ? seconds.at(name) : std::make_pair(20.0, 120.0);
+        const auto bounds = seconds.count(name) ? seconds.at(name) : std::make_pair(12.0, 120.0);
         const MidiFile f = parse(tune.bytes);
         ASSERT_EQ(f.error, "");
         EXPECT_EQ(f.format, 1);

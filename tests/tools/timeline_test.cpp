@@ -118,6 +118,21 @@ private slots:
         QCOMPARE(img.pixelColor(150, 50), QColor(Qt::black));
     }
 
+    void aCoverSpriteFillsBeyondTheStage() {
+        // A square stage in a wide picture: the cover sprite reaches the sides, others do not.
+        auto scene = load(
+            "timeline duration=1 size=100x100 background=#000000\n"
+            "sprite sky svg=parts.svg id=box cover=yes\n"
+            "sprite lamp svg=parts.svg frames=2\nkey lamp t=0 x=50 y=50\n"
+            "key sky t=0 opacity=1\nkey sky t=1 opacity=0\n");
+        QVERIFY(scene);
+        QImage img = draw(*scene, 0);
+        QCOMPARE(img.pixelColor(3, 3), QColor(Qt::green));
+        QCOMPARE(img.pixelColor(196, 96), QColor(Qt::green));
+        QCOMPARE(img.pixelColor(100, 50), QColor(Qt::red));
+        QCOMPARE(draw(*scene, 1).pixelColor(3, 3), QColor(Qt::black));
+    }
+
     void aMissingDrawingDrawsNothing() {
         auto scene = load(
             "timeline duration=1 size=200x100\nsprite a svg=gone.svg\n"
@@ -203,7 +218,7 @@ private slots:
             const QString shots = qEnvironmentVariable("WM_SHOTS");
             for (double u : {0.0, 0.3, 0.6, 0.9}) {
                 QImage img(scene->naturalSize(), QImage::Format_ARGB32);
-                img.fill(QColor(20, 24, 60));
+                img.fill(QColor(236, 226, 200));
                 QPainter p(&img);
                 p.setRenderHint(QPainter::Antialiasing);
                 scene->paint(p, QRectF(img.rect()), u * scene->duration());

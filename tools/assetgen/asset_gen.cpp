@@ -125,28 +125,44 @@ bool renderGroup(const QString& assetsDir, const QString& group, std::vector<Ass
         return true;
     }
 
-    for (size_t i = 0; i < mine.size(); ++i) {
+    // Each recipe stands alone, so they render in parallel; the first failure in manifest order
+    // is the one reported, whatever order the threads finish in.
+    std::vector<QString> errors(mine.size());
+    auto make = [&](size_t i) {
         const ManifestEntry& e = mine[i];
         const QString path = src.filePath(e.source);
-        QString text;
-        if (!readRecipeFile(path, &text, error)) {
-            if (error) *error = where(e) + QStringLiteral(": ") + *error;
-            return false;
+        QString text, why;
+        if (!readRecipeFile(path, &text, &why)) {
+            errors[i] = where(e) + QStringLiteral(": ") + why;
+            return;
         }
         QByteArray bytes;
         if (e.kind == QLatin1String("sound")) {
             std::vector<std::int16_t> samples;
-            if (!renderSoundRecipe(text, path, &samples, error)) return false;
+            if (!renderSoundRecipe(text, path, &samples, &why)) {
+                errors[i] = why;
+                return;
+            }
             bytes = encodeWav(samples);
         } else if (e.kind == QLatin1String("tune")) {
-            if (!renderTuneRecipe(text, path, &bytes, error)) return false;
+            if (!renderTuneRecipe(text, path, &bytes, &why)) {
+                errors[i] = why;
+                return;
+            }
         } else {
             // Timelines and their drawings are read by the program as they are.
-            QFile file(path);
-            file.open(QIODevice::ReadOnly);
-            bytes = file.readAll();
+            bytes = text.toUtf8();
         }
         (*out)[i] = {e.name, bytes};
+    };
+    QThreadPool pool;
+    for (size_t i = 0; i < mine.size(); ++i) pool.start([&make, i] { make(i); });
+    pool.waitForDone();
+    for (const QString& why : errors) {
+        if (!why.isEmpty()) {
+            if (error) *error = why;
+            return false;
+        }
     }
     return true;
 }
