@@ -5,8 +5,8 @@
 #include "core/clock.h"
 #include "core/line_file.h"
 #include "core/score_table.h"
-#include "shell/catalogue.h"
 #include "games/study/scramble/scramble_screen.h"
+#include "shell/catalogue.h"
 #include "shell/choose_list.h"
 #include "shell/enter_initials_form.h"
 #include "shell/fl_form.h"
@@ -485,8 +485,7 @@ void RoadTest::everyOptionsScreenFitsItsText() {
             QVERIFY(opts);
             QApplication::processEvents();
             QLabel* text = opts->Label7;
-            QVERIFY2(text->heightForWidth(text->width()) <= text->height(),
-                     card.name.c_str());
+            QVERIFY2(text->heightForWidth(text->width()) <= text->height(), card.name.c_str());
             QVERIFY(opts->rect().contains(opts->Command1->geometry().translated(
                 opts->Command1->parentWidget()->mapTo(opts, QPoint(0, 0)))));
         }

@@ -1,4 +1,4 @@
-foreach(t title_test road_test chooser_test)
+foreach(t title_test road_test chooser_test score_screens_test)
   wm_qt_test(${t} SOURCES ${t}.cpp shell_fixture.h LIBS wm_games)
   target_compile_definitions(${t} PRIVATE
     WM_SOURCE_DATA_DIR="${CMAKE_SOURCE_DIR}/data" WM_ASSET_DIR="${WM_APP_DIR}")
