@@ -5,6 +5,8 @@
 #include <QLineEdit>
 #include <QtTest>
 
+#include "core/display_file.h"
+#include "core/game_names.h"
 #include "core/line_file.h"
 #include "shell/enter_initials_form.h"
 #include "shell/high_score_form.h"
@@ -25,6 +27,8 @@ private slots:
     void initialsSkipTheDashes();
     void titleStart_data();
     void titleStart();
+    void titlePagesAtTheEdge_data();
+    void titlePagesAtTheEdge();
 };
 
 void ScoreScreensTest::rankLineText_data() {
@@ -130,9 +134,43 @@ void ScoreScreensTest::titleStart() {
              noLists ? QStringList{"There are no vocabulary lists available to play with!"}
                      : QStringList{});
     QCOMPARE(Shared().SoundDefault, soundLine == "Sound On" ? kTrue : kFalse);
-    QTRY_COMPARE_WITH_TIMEOUT(fx.sound.played.size(), sounds.size(), 500);
+    QTRY_COMPARE_WITH_TIMEOUT(fx.sound.played.size(), sounds.size(), 2000);
     QTest::qWait(20);
     QCOMPARE(fx.sound.played, sounds);
+}
+
+void ScoreScreensTest::titlePagesAtTheEdge_data() {
+    QTest::addColumn<int>("shown");
+    QTest::addColumn<int>("pages");
+    QTest::addColumn<int>("onLastPage");
+    // Twelve a page: More shows exactly while games remain past the page.
+    QTest::newRow("one page full") << 12 << 1 << 12;
+    QTest::newRow("one over") << 13 << 2 << 1;
+    QTest::newRow("two pages full") << 24 << 2 << 12;
+    QTest::newRow("one game") << 1 << 1 << 1;
+}
+
+void ScoreScreensTest::titlePagesAtTheEdge() {
+    QFETCH(int, shown);
+    QFETCH(int, pages);
+    QFETCH(int, onLastPage);
+    ShellFixture fx;
+    DisplaySettings d = DisplaySettings::LargeIcons();
+    d.hidden.assign(kGameNames.begin() + shown, kGameNames.end());
+    WriteDisplaySettings(fx.path("wmgdisplay.dat").toStdString(), d);
+    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
+    QVERIFY(title && title->startedOk());
+    QCOMPARE(Shared().VisibleGameCount, shown);
+    int seen = 1;
+    while (title->moreButton()->isVisible() && seen <= pages) {
+        QTest::mouseClick(title->moreButton(), Qt::LeftButton);
+        ++seen;
+    }
+    QCOMPARE(seen, pages);
+    int visible = 0;
+    for (auto* b : title->buttons()) visible += b->isVisible() ? 1 : 0;
+    QCOMPARE(visible, onLastPage);
+    QCOMPARE(title->backButton()->isVisible(), pages > 1);
 }
 
 QTEST_MAIN(ScoreScreensTest)
