@@ -185,7 +185,13 @@ void ChooseList::opening() {
             if (TheLists->item(i)->text().toLower().startsWith(last)) pick = i;
         }
     }
-    if (pick >= 0) TheLists->setCurrentRow(pick);
+    if (pick < 0) {
+        // Nothing matches the last choice: nothing is chosen. Focus would make the box's first
+        // line current, and Continue would then play a list the pupil never picked.
+        Combo1->setFocus();
+        return;
+    }
+    TheLists->setCurrentRow(pick);
     TheLists->setFocus();
 }
 

@@ -46,7 +46,7 @@ void TitleTest::firstStartRenamesAndMakesFiles() {
     QCOMPARE(Shared().VisibleGameCount, 42);
     QCOMPARE(Shared().SoundDefault, kTrue);
     QVERIFY(fx.dialogs.shown.empty());
-    Pump();
+    Pump();  // the sound waits for a short timer, on the test clock
     QCOMPARE(fx.sound.played, QStringList{"ufofly.wav"});
 }
 

@@ -1,0 +1,78 @@
+// Kept behaviours of the small files that look odd and are meant: the display presets as
+// numbers, ties in a smallest-first table, and a category file under another name.
+#include <gtest/gtest.h>
+
+#include "core/category_file.h"
+#include "core/display_file.h"
+#include "core/line_file.h"
+#include "core/score_table.h"
+#include "temp_folder.h"
+
+using namespace wm;
+using wm::test::TempFolder;
+
+TEST(DisplayFile, ThePresetsAreTheseNumbersOnDisk) {
+    struct Case {
+        DisplaySettings preset;
+        double scale;
+        int columns, rows;
+        double h, v;
+        const char* bytes;
+    };
+    const Case cases[] = {
+        {DisplaySettings::LargeIcons(), 1.0, 4, 3, 1.01, 1.01,
+         "*****\r\n1\r\n4\r\n3\r\n1.01\r\n1.01\r\n*****\r\n"},
+        {DisplaySettings::MediumIcons(), 0.75, 5, 3, 1.01, 1.01,
+         "*****\r\n0.75\r\n5\r\n3\r\n1.01\r\n1.01\r\n*****\r\n"},
+        {DisplaySettings::SmallIcons(), 0.5, 6, 5, 1.1, 1.2,
+         "*****\r\n0.5\r\n6\r\n5\r\n1.1\r\n1.2\r\n*****\r\n"},
+    };
+    TempFolder dir;
+    for (const Case& c : cases) {
+        EXPECT_EQ(c.preset.scale, c.scale);
+        EXPECT_EQ(c.preset.columns, c.columns);
+        EXPECT_EQ(c.preset.rows, c.rows);
+        EXPECT_EQ(c.preset.hspace, c.h);
+        EXPECT_EQ(c.preset.vspace, c.v);
+        EXPECT_TRUE(c.preset.hidden.empty());
+        WriteDisplaySettings(dir.file("d.dat"), c.preset);
+        EXPECT_EQ(dir.read("d.dat"), c.bytes) << c.columns;
+    }
+}
+
+TEST(ScoreTable, SmallestFirstTiesGoBelowTheEqualScore) {
+    ScoreTable t = ScoreTable::Fresh();
+    const char* scores[] = {"12.5   ", "20     ", "20     ", "31     "};
+    for (int r = 1; r <= 4; ++r) t.Scores[r] = scores[r - 1];
+    struct Case {
+        double score;
+        int rank;
+    };
+    // A tie does not pass the score it equals; the first free rank (a 0) takes anything.
+    const Case cases[] = {{12.4, 1}, {12.5, 2}, {20, 4}, {20.01, 4}, {31, 5}, {99, 5}};
+    for (const Case& c : cases) EXPECT_EQ(FindRankSmallestFirst(t, c.score), c.rank) << c.score;
+    ScoreTable full = t;
+    for (int r = 5; r <= kRanks; ++r) full.Scores[r] = "40     ";
+    EXPECT_EQ(FindRankSmallestFirst(full, 40), 0);
+    EXPECT_EQ(FindRankSmallestFirst(full, 39), 5);
+}
+
+TEST(Categories, AFileNotNamedFoldersDatIsReadFromItsLockName) {
+    TempFolder dir;
+    const std::string path = dir.file("cats.dat");
+    dir.writeLines("cats.dat", {"^Own", "Animals"});
+    // Only a file named exactly folders.dat counts as unlocked: any other name reads as
+    // locked, so its .lok name is read, and deletes leave it alone. Kept as it always was.
+    EXPECT_TRUE(IsLocked(path));
+    EXPECT_EQ(LockName(path), dir.file("cats.lok"));
+    EXPECT_TRUE(ReadCategoryLines(path).empty());
+    dir.writeLines("cats.lok", {"^Locked", "Earth"});
+    EXPECT_EQ(ReadCategoryLines(path), (std::vector<std::string>{"^Locked", "Earth"}));
+    RemoveListFromCategories(path, "Animals");
+    EXPECT_EQ(dir.read("cats.dat"), "^Own\r\nAnimals\r\n");
+    // Start-up still makes the local folders.dat when neither name of the path is found.
+    TempFolder app;
+    EnsureCategoryFile(app.path(), dir.file("elsewhere.dat"));
+    EXPECT_TRUE(app.exists("folders.dat"));
+    EXPECT_FALSE(dir.exists("elsewhere.dat"));
+}
