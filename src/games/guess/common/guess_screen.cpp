@@ -192,12 +192,24 @@ void GuessScreen::placeBoxes() {
 void GuessScreen::resizeEvent(QResizeEvent*) {
     const int w = width(), h = height();
     const QRect pic = pictureRect();
-    const int side = std::max(w / 8, pic.left() - w / 20);
-    Frame2->setGeometry(w / 40, pic.top(), side, pic.height() * 2 / 3);
-    const int bw = std::min(side, w / 5), bh = Command1->minimumHeight();
-    const int bx = w - w / 40 - bw;
-    Command1->setGeometry(bx, pic.top() + pic.height() / 4, bw, bh);
-    Command2->setGeometry(bx, Command1->y() + bh + h / 30, bw, bh);
+    const int bh = Command1->minimumHeight();
+    if (pic.left() >= w / 6) {
+        // Beside a narrow picture: letters used on the left, the buttons on the right.
+        const int side = std::max(w / 8, pic.left() - w / 20);
+        Frame2->setGeometry(w / 40, pic.top(), side, pic.height() * 2 / 3);
+        const int bw = std::min(side, w / 5);
+        const int bx = w - w / 40 - bw;
+        Command1->setGeometry(bx, pic.top() + pic.height() / 4, bw, bh);
+        Command2->setGeometry(bx, Command1->y() + bh + h / 30, bw, bh);
+    } else {
+        // Above a wide picture, in the band under the menu.
+        const int top = frame_.menuHeight() + h / 100;
+        const int band = std::max(bh + 8, pic.top() - top - h / 100);
+        const int bw = w / 7;
+        Frame2->setGeometry(pic.left(), top, pic.width() - 2 * bw - w / 20, band);
+        Command2->setGeometry(pic.right() - bw, top + (band - bh) / 2, bw, bh);
+        Command1->setGeometry(Command2->x() - bw - w / 60, Command2->y(), bw, bh);
+    }
     const int top = pic.bottom() + h / 60;
     Frame1->setGeometry(w / 40, top, w - w / 20, std::max(h / 8, h - top - h / 40));
     placeBoxes();
