@@ -92,7 +92,7 @@ void BugSprayScreenTest::loseAtTheHardestLevel() {
     game->sprayPlayer()->advance(60);
     Pump();
     QVERIFY(game->bugPlayer()->isPlaying());  // still the first group
-    Keys(game, "e");                           // lost while it plays
+    Keys(game, "e");                          // lost while it plays
     game->bugPlayer()->advance(60);
     Pump();
     QVERIFY(game->sprayPlayer()->isPlaying());  // the second group started

@@ -176,7 +176,9 @@ void GuessScreen::placeBoxes() {
     const int rows = (n + kRowLength - 1) / kRowLength;
     const int gap = std::max(3, width() / 400);
     const int w = std::clamp((inner - gap * (perRow - 1)) / perRow, 8, height() / 11);
-    const int rowH = std::max(12, std::min(w * 5 / 4, (Frame1->height() - 34) / rows - 4));
+    const int rowH = std::max(12, std::min(w * 5 / 4, (Frame1->height() - 46) / rows - 4));
+    // Clear of the panel's title, and centred in what is left.
+    const int top = std::max(38, (Frame1->height() - rows * (rowH + 4)) / 2 + 10);
     QFont f = ScreenFont(24, true);
     f.setPixelSize(std::max(8, std::min(w, rowH) * 2 / 3));
     for (int i = 0; i < n; ++i) {
@@ -185,7 +187,7 @@ void GuessScreen::placeBoxes() {
         // Centred: the boxes of a row and the gaps between them.
         const int left = (Frame1->width() - (w * inRow + gap * (inRow - 1))) / 2;
         LetterLabel[i]->setFont(f);
-        LetterLabel[i]->setGeometry(left + col * (w + gap), 30 + row * (rowH + 4), w, rowH);
+        LetterLabel[i]->setGeometry(left + col * (w + gap), top + row * (rowH + 4), w, rowH);
     }
 }
 
