@@ -79,6 +79,13 @@ void GuessLayoutTest::fitsAtBothSizes() {
             QWidget* w = st->findChild<QWidget*>(name);
             QVERIFY2(screen.contains(inScreen(w, st)), name);
         }
+        // The word stands between the lights, whole.
+        auto* word = st->findChild<QLabel*>("Label2");
+        for (const char* light : {"SL1", "SL2"})
+            QVERIFY2(!word->geometry().intersects(st->findChild<QWidget*>(light)->geometry()),
+                     light);
+        QVERIFY(word->fontMetrics().horizontalAdvance(word->text()) <=
+                word->contentsRect().width());
         Shot(st, tag + "-go");
     }
 }

@@ -71,6 +71,7 @@ void SpeedTypeScreenTest::winsRankSmallestFirst() {
     fx.dialogs.otherwiseYes = [&](const QString&) {
         figures = text(game, "MLabel") + ":" + text(game, "SLabel") + "." + text(game, "SDLabel");
         fx.dialogs.otherwiseYes = {};
+        Shot(game, "speedtype-time");
         return true;
     };
     QTest::keyClick(game, Qt::Key_Return);

@@ -1,5 +1,6 @@
 #include "games/guess/speedtype/speedtype_screen.h"
 
+#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QSvgRenderer>
@@ -241,13 +242,17 @@ void SpeedType::resizeEvent(QResizeEvent*) {
     const int menuH = frame_.menuHeight();
     Label1->adjustSize();
     Label1->move((w - Label1->width()) / 2, menuH + h / 12);
-    // The word may be long: the label keeps to the screen and elides nothing, it wraps.
+    // Between the lights; a long word is drawn smaller rather than clipped.
+    const int lightsW = SL1->width() > 0 ? SL1->width() : h * 3 / 25;
+    const int maxW = w - 2 * (w / 20 + lightsW + w / 40);
     for (QLabel* l : {Label2, Label3}) {
-        l->setWordWrap(true);
-        l->setMaximumWidth(w * 9 / 10);
+        QFont f = ScreenFont(34, true);
+        const QString text = l->text().isEmpty() ? QString("W") : l->text();
+        while (f.pointSize() > 8 && QFontMetrics(f).horizontalAdvance(text) + 56 > maxW)
+            f.setPointSize(f.pointSize() * 9 / 10);
+        l->setFont(f);
         l->adjustSize();
-        l->setMinimumWidth(std::min(w * 9 / 10, w / 3));
-        l->adjustSize();
+        l->resize(std::clamp(l->width(), std::min(maxW, w / 3), maxW), l->height());
     }
     Label2->move((w - Label2->width()) / 2, int(h * 0.36));
     Label3->move((w - Label3->width()) / 2, Label2->y() + Label2->height() + h / 25);
@@ -255,8 +260,8 @@ void SpeedType::resizeEvent(QResizeEvent*) {
     Frame1->move((w - Frame1->width()) / 2, int(h * 0.8));
     if (SL1->pixmap().isNull() || SL1->height() != std::max(120, h * 3 / 10))
         showLights(!round_.WaitingForGo);
-    SL1->move(w / 10, int(h * 0.3));
-    SL2->move(w - w / 10 - SL2->width(), int(h * 0.3));
+    SL1->move(w / 20, int(h * 0.3));
+    SL2->move(w - w / 20 - SL2->width(), int(h * 0.3));
 }
 
 WM_REGISTER_GAME("Speed Type", SpeedType, "images/speedback.svg", "images/sl1.svg",
