@@ -1,6 +1,6 @@
 // Bug Spray on its screen: the intro holds the keys, clips of a group start together and the
 // next group waits for both, the sounds of hits and misses, a win into the table, a loss at
-// the sixth miss of the hardest level, and silence with sound off.
+// the sixth miss of the hardest level, and silence with sound off on a words-only list.
 #include <QtTest>
 
 #include "core/score_table.h"
@@ -118,10 +118,13 @@ void BugSprayScreenTest::loseAtTheHardestLevel() {
 
 void BugSprayScreenTest::silentWithSoundOff() {
     ShellFixture fx;
-    WriteOneList(fx, "Bugs", {{"bee", "buzzes"}});
+    WriteOneList(fx, "Bugs", {{"bee", ""}}, /*wordsOnly=*/true);
     auto* game = qobject_cast<BugSprayForm*>(
         ContinueWithList(ChooserFor("Bug Spray", 2, false, /*soundOn=*/false), "Bugs"));
     QVERIFY(game);
+    // A words-only list loses only the hint.
+    QVERIFY(!game->hintButton()->isVisible());
+    QVERIFY(game->solveButton()->isVisible());
     FinishClips(game);
     Keys(game, "bz");
     FinishClips(game);
