@@ -1,0 +1,136 @@
+// Bug Spray on its screen: the intro holds the keys, clips of a group start together and the
+// next group waits for both, the sounds of hits and misses, a win into the table, a loss at
+// the sixth miss of the hardest level, and silence with sound off on a words-only list.
+#include <QtTest>
+
+#include "core/score_table.h"
+#include "games/guess/bugspray/bugspray_screen.h"
+#include "guess_road.h"
+
+using namespace wm;
+using namespace wm::test;
+
+class BugSprayScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void winAtTheEasiestLevel();
+    void loseAtTheHardestLevel();
+    void silentWithSoundOff();
+};
+
+namespace {
+QString used(QWidget* game) {
+    return game->findChild<QLabel*>("Label2")->text();
+}
+}  // namespace
+
+void BugSprayScreenTest::winAtTheEasiestLevel() {
+    ShellFixture fx;
+    WriteOneList(fx, "Bugs", {{"Ant", "a tiny worker"}});
+    WinDriver driver({"BUG"});
+    SetModalHook(std::ref(driver));
+    auto* game = qobject_cast<BugSprayForm*>(PlayFromTitle("Bug Spray", "Bugs", 1));
+    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+    Shared().SoundOn = kTrue;
+    QVERIFY(TriggerMenu(game, "RS"));
+    QVERIFY(fx.sound.played.contains("bugintro.wav"));
+    // The intro holds the keys.
+    QVERIFY(game->bugPlayer()->isPlaying());
+    Keys(game, "a");
+    QCOMPARE(used(game), "");
+    game->bugPlayer()->advance(1.0);
+    Shot(game, "bugspray-intro");
+    FinishClips(game);
+    fx.sound.played.clear();
+
+    fx.sound.played.clear();
+    Keys(game, "a");                                         // a hit that does not finish the word
+    QCOMPARE(fx.sound.played, QStringList{"buggood3.wav"});  // Int(0.5 * 4 + 1)
+    Keys(game, "z");
+    QCOMPARE(fx.sound.played.last(), "bugbad1.wav");
+    QVERIFY(game->sprayPlayer()->isPlaying() && game->bugPlayer()->isPlaying());
+    game->sprayPlayer()->advance(0.7);
+    game->bugPlayer()->advance(0.5);
+    Shot(game, "bugspray-miss1");
+    FinishClips(game);
+    Keys(game, "q");
+    QCOMPARE(fx.sound.played.last(), "bugbad3.wav");  // Int(0.5 * 3 + 1) + 1
+    FinishClips(game);
+
+    fx.dialogs.answerYes(false);
+    Keys(game, "nT");
+    QVERIFY(fx.sound.played.contains("bugbye.wav"));
+    QVERIFY(game->bugPlayer()->isPlaying());  // the win clip, waited for
+    game->bugPlayer()->advance(1.0);
+    Shot(game, "bugspray-win");
+    FinishClips(game);
+    // The stake Int(0.5 * 1000 + 1) x 1 x 3 = 1503, kept whole.
+    QVERIFY(fx.dialogs.saw("You got a high score of 1503! Would you like to try again?"));
+    QVERIFY(!fx.dialogs.saw("Would you like to raise the difficulty level a bit?"));
+    const ScoreTable t = ReadScoreTable(ScoreFilePath(Shared().AppPath, "Bug Spray"));
+    QCOMPARE(QString::fromStdString(t.initials(1)), "BUG");
+    Pump();
+    QVERIFY(Showing<Title>());
+    QVERIFY(fx.music.opened.isEmpty());
+}
+
+void BugSprayScreenTest::loseAtTheHardestLevel() {
+    ShellFixture fx;
+    WriteOneList(fx, "Bugs", {{"moth", "flies at night"}});
+    auto* game =
+        qobject_cast<BugSprayForm*>(ContinueWithList(ChooserFor("Bug Spray", 3, false), "Bugs"));
+    QVERIFY(game);
+    FinishClips(game);
+    // Miss 4 at level 3: spray7 + bug5, spray8 + bug6, spray9, spray10 + bug7. A group waits
+    // for both of its clips.
+    for (QChar c : QString("abc")) {
+        Keys(game, c);
+        FinishClips(game);
+    }
+    QCOMPARE(game->round().Misses, 3);
+    Keys(game, "d");
+    game->sprayPlayer()->advance(60);
+    Pump();
+    QVERIFY(game->bugPlayer()->isPlaying());  // still the first group
+    Keys(game, "e");                          // lost while it plays
+    game->bugPlayer()->advance(60);
+    Pump();
+    QVERIFY(game->sprayPlayer()->isPlaying());  // the second group started
+    FinishClips(game);
+    QCOMPARE(used(game), "a b c d ");
+    Keys(game, "e");
+    FinishClips(game);
+    fx.dialogs.answerYes(false);
+    Keys(game, "f");
+    Keys(game, "g");
+    QVERIFY(!fx.dialogs.saw(QString::fromStdString(bugspray::lostText("moth"))));
+    game->sprayPlayer()->advance(1.2);
+    game->bugPlayer()->advance(1.6);
+    Shot(game, "bugspray-end");
+    FinishClips(game);
+    QVERIFY(fx.dialogs.saw(
+        "Oops! Your bug was sprayed! The word you were looking for was \"moth\". Would you like "
+        "to give it another try?"));
+    QCOMPARE(fx.dialogs.shown.back().title, "Try Again?");
+    Pump();
+    QVERIFY(Showing<Title>());
+}
+
+void BugSprayScreenTest::silentWithSoundOff() {
+    ShellFixture fx;
+    WriteOneList(fx, "Bugs", {{"bee", ""}}, /*wordsOnly=*/true);
+    auto* game = qobject_cast<BugSprayForm*>(
+        ContinueWithList(ChooserFor("Bug Spray", 2, false, /*soundOn=*/false), "Bugs"));
+    QVERIFY(game);
+    // A words-only list loses only the hint.
+    QVERIFY(!game->hintButton()->isVisible());
+    QVERIFY(game->solveButton()->isVisible());
+    FinishClips(game);
+    Keys(game, "bz");
+    FinishClips(game);
+    QCOMPARE(game->round().Misses, 1);
+    for (const QString& s : fx.sound.played) QVERIFY2(!s.startsWith("bug"), qPrintable(s));
+}
+
+QTEST_MAIN(BugSprayScreenTest)
+#include "bugspray_screen_test.moc"

@@ -1,0 +1,37 @@
+// Helpers for the letter-guessing screens: play a clip to its end on demand, type a word.
+#pragma once
+
+#include <QtTest>
+
+#include "game_road.h"
+#include "platform/movie.h"
+
+namespace wm::test {
+
+// Plays every clip of the named players to its end, chained clips included.
+inline int FinishClips(QWidget* screen, QStringList players = {"MovieBoxFront", "MovieBox"}) {
+    // The end of a clip may close the screen (No to "try again").
+    QPointer<QWidget> game(screen);
+    int ended = 0;
+    for (int guard = 0; guard < 100; ++guard) {
+        bool any = false;
+        for (const QString& name : players) {
+            QPointer<Movie> m = game ? game->findChild<Movie*>(name) : nullptr;
+            if (m && m->isPlaying()) {
+                m->advance(60);
+                ++ended;
+                any = true;
+                Pump();
+            }
+            if (!game) return ended;
+        }
+        if (!any) break;
+    }
+    return ended;
+}
+
+inline void Keys(QWidget* game, const QString& keys) {
+    for (QChar c : keys) QTest::keyClick(game, c.toLatin1());
+}
+
+}  // namespace wm::test

@@ -1,0 +1,316 @@
+// The rules of the letter-guessing games and of timed typing, over a scripted generator.
+#include <gtest/gtest.h>
+
+#include "core/rng.h"
+#include "core/shared_state.h"
+#include "games/guess/bugspray/bugspray_rules.h"
+#include "games/guess/common/word_guess.h"
+#include "games/guess/hangman/hangman_rules.h"
+#include "games/guess/speedtype/speedtype_rules.h"
+
+using namespace wm;
+using namespace wm::guess;
+
+namespace {
+
+SharedState listOf(std::vector<std::string> words, int difficulty = 2) {
+    SharedState s;
+    s.Words = {""};
+    s.Meanings = {""};
+    for (auto& w : words) {
+        s.Words.push_back(w);
+        s.Meanings.push_back("meaning of " + w);
+    }
+    s.WordCount = static_cast<short>(words.size());
+    s.Difficulty = difficulty;
+    return s;
+}
+
+std::string shown(const GuessRound& r) {
+    std::string out;
+    for (const Box& b : r.boxes) out += !b.visible ? "_" : b.letter.empty() ? "." : b.letter;
+    return out;
+}
+
+}  // namespace
+
+TEST(WordGuess, RoundPicksWordAndStakesLengthTimesDifficulty) {
+    SharedState s = listOf({"cat", "giraffe", "ox"}, 3);
+    ScriptedRng rng;
+    rng.pick(2, 3).pick(7, 1000);  // the word, then the stake's draw
+    GuessRound r;
+    startRound(s, r, rng);
+    EXPECT_EQ(rng.randomizeCount, 1);
+    EXPECT_EQ(r.PickedIndex, 2);
+    EXPECT_EQ(s.TheWord, "giraffe");
+    EXPECT_DOUBLE_EQ(s.Score, 7.0 * 3 * 7);
+    EXPECT_EQ(shown(r), ".......");
+    // Nothing of the round before is carried.
+    r.UsedLetters = "X ";
+    r.Misses = 4;
+    rng.pick(2, 3).pick(1, 1000);
+    startRound(s, r, rng);
+    EXPECT_EQ(r.Misses, 0);
+    EXPECT_EQ(r.UsedLetters, "");
+    EXPECT_DOUBLE_EQ(s.Score, 1.0 * 3 * 7);
+}
+
+TEST(WordGuess, BlanksHyphensAndApostrophes) {
+    SharedState s = listOf({"ice-cream man's"});
+    ScriptedRng rng;
+    GuessRound r;
+    startRound(s, r, rng);
+    EXPECT_EQ(shown(r), "...-....._...'.");
+    // A hyphen stands from the start: pressing it is a miss; blank and apostrophe are no guess.
+    EXPECT_EQ(pressKey(r, '-'), KeyResult::Miss);
+    EXPECT_EQ(pressKey(r, ' '), KeyResult::Ignored);
+    EXPECT_EQ(pressKey(r, '\''), KeyResult::Ignored);
+    EXPECT_EQ(pressKey(r, 0), KeyResult::Ignored);
+    EXPECT_EQ(r.UsedLetters, "- ");
+    for (char c : std::string("icermna")) EXPECT_EQ(pressKey(r, c), KeyResult::Hit) << c;
+    // The word is complete without its blank.
+    EXPECT_EQ(pressKey(r, 'S'), KeyResult::Won);
+    EXPECT_EQ(shown(r), "ice-cream_man's");
+}
+
+TEST(WordGuess, RepeatsInEitherCaseCostNothingAndBoxesKeepTheWordsCase) {
+    SharedState s = listOf({"Anna"});
+    ScriptedRng rng;
+    GuessRound r;
+    startRound(s, r, rng);
+    EXPECT_EQ(pressKey(r, 'a'), KeyResult::Hit);
+    EXPECT_EQ(shown(r), "A..a");
+    EXPECT_EQ(pressKey(r, 'A'), KeyResult::Repeat);
+    EXPECT_EQ(pressKey(r, 'z'), KeyResult::Miss);
+    EXPECT_EQ(pressKey(r, 'Z'), KeyResult::Repeat);
+    // Digits and punctuation are guesses like letters; a wrong one counts.
+    EXPECT_EQ(pressKey(r, '7'), KeyResult::Miss);
+    EXPECT_EQ(r.UsedLetters, "a z 7 ");
+    EXPECT_EQ(pressKey(r, 'N'), KeyResult::Won);
+}
+
+TEST(WordGuess, AccentedLettersFromThePaletteMatchEitherCase) {
+    // Windows-1252: 0xE9 is e acute, 0xC9 its capital.
+    SharedState s = listOf({"caf\xE9"});
+    ScriptedRng rng;
+    GuessRound r;
+    startRound(s, r, rng);
+    EXPECT_EQ(pressKey(r, 'e'), KeyResult::Miss);
+    EXPECT_EQ(pressKey(r, '\xC9'), KeyResult::Hit);
+    EXPECT_EQ(r.boxes[3].letter, "\xE9");
+    EXPECT_EQ(pressKey(r, '\xE9'), KeyResult::Repeat);
+}
+
+TEST(WordGuess, HintCostsARandomPartAndCanGoBelowZero) {
+    SharedState s = listOf({"owl"});
+    ScriptedRng rng;
+    GuessRound r;
+    startRound(s, r, rng);
+    EXPECT_EQ(hintText(s, r), "Definition: \"meaning of owl\"");
+    s.Score = 100;
+    rng.then(0.999);  // Int(0.999 * 100 + 1) = 100: all of it
+    payForHint(s, rng);
+    EXPECT_DOUBLE_EQ(s.Score, 0);
+    rng.then(0.5);  // at 0 the draw is 1
+    payForHint(s, rng);
+    EXPECT_DOUBLE_EQ(s.Score, -1);
+    s.Score = 10;
+    rng.then(0.0);
+    payForHint(s, rng);
+    EXPECT_DOUBLE_EQ(s.Score, 9);
+}
+
+TEST(WordGuess, SolveIgnoresCaseAndOuterBlanksButNotInnerOnes) {
+    GuessRound r;
+    r.word = "Ice Cream";
+    struct Case {
+        std::optional<std::string> answer;
+        SolveResult want;
+    };
+    for (const Case& c : std::vector<Case>{{std::nullopt, SolveResult::Nothing},
+                                           {"", SolveResult::Nothing},
+                                           {"  ice cream ", SolveResult::Won},
+                                           {"ICE CREAM", SolveResult::Won},
+                                           {"icecream", SolveResult::Miss},
+                                           {"ice  cream", SolveResult::Miss}})
+        EXPECT_EQ(solve(r, c.answer), c.want) << c.answer.value_or("<cancel>");
+}
+
+TEST(WordGuess, MissesAllowedAndEveryMissReseeds) {
+    EXPECT_EQ(missesAllowed(1), 14);
+    EXPECT_EQ(missesAllowed(2), 10);
+    EXPECT_EQ(missesAllowed(3), 6);
+    GuessRound r;
+    ScriptedRng rng;
+    EXPECT_EQ(addMiss(r, rng), 1);
+    EXPECT_EQ(addMiss(r, rng), 2);
+    EXPECT_EQ(rng.randomizeCount, 2);
+}
+
+namespace {
+std::string joined(const std::vector<std::string>& v) {
+    std::string out;
+    for (auto& x : v) out += (out.empty() ? "" : ",") + x;
+    return out;
+}
+std::string joined(const bugspray::Step& step) {
+    std::string out;
+    for (auto& g : step.groups)
+        out += (out.empty() ? "" : ",") + g.spray + (g.bug.empty() ? "" : "+" + g.bug);
+    return out;
+}
+}  // namespace
+
+TEST(HangmanSteps, ClipsByDifficultyAndTheLastStep) {
+    struct Case {
+        int difficulty, misses;
+        const char* clips;
+        bool lost;
+    };
+    for (const Case& c : std::vector<Case>{
+             {1, 1, "hang1", false},
+             {1, 13, "hang13", false},
+             {1, 14, "hang14,hangend", true},
+             {2, 1, "hang1,hang2", false},
+             {2, 2, "hang3,hang4,hang5", false},
+             {2, 9, "hang12,hang13", false},
+             {2, 10, "hang14,hangend", true},
+             {3, 4, "hang7,hang8,hang9,hang10", false},
+             {3, 5, "hang11,hang12,hang13", false},
+             {3, 6, "hang14,hangend", true},  // the sixth miss ends the hardest level
+             {3, 7, "", false},               // no step past the end
+             {2, 0, "", false},
+         }) {
+        auto step = hangman::wrongGuessStep(c.difficulty, c.misses);
+        EXPECT_EQ(joined(step.clips), c.clips) << c.difficulty << "/" << c.misses;
+        EXPECT_EQ(step.lost, c.lost) << c.difficulty << "/" << c.misses;
+    }
+    // Every level ends on the last gallows picture and uses each of the fourteen once.
+    for (int d = 1; d <= 3; ++d) {
+        std::string all;
+        for (int m = 1; m <= missesAllowed(d); ++m)
+            all += (all.empty() ? "" : ",") + joined(hangman::wrongGuessStep(d, m).clips);
+        std::string want;
+        for (int i = 1; i <= 14; ++i) want += "hang" + std::to_string(i) + ",";
+        EXPECT_EQ(all, want + "hangend") << d;
+    }
+    EXPECT_EQ(hangman::lostText("owl"),
+              "Oops! Your guy was hanged! The word you were looking for was \"owl\". Would you "
+              "like to give it another try?");
+}
+
+TEST(BugSpraySteps, GroupsByDifficultyWithTheReusedBugClips) {
+    struct Case {
+        int difficulty, misses;
+        const char* groups;
+        bool lost;
+    };
+    for (const Case& c : std::vector<Case>{
+             {1, 1, "spray1+bug1", false},
+             {1, 10, "spray10+bug4", false},  // reused on purpose
+             {1, 13, "spray13+bug9", false},
+             {1, 14, "spray14+bug14", true},
+             {2, 1, "spray1+bug1,spray2", false},
+             {2, 2, "spray3+bug2,spray4,spray5", false},
+             {2, 9, "spray12+bug9,spray13", false},
+             {2, 10, "spray14+bug14", true},
+             {3, 1, "spray1+bug1,spray2+bug2", false},
+             {3, 4, "spray7+bug5,spray8+bug6,spray9,spray10+bug7", false},
+             {3, 5, "spray11+bug8,spray12+bug9,spray13", false},
+             {3, 6, "spray14+bug14", true},
+             {3, 7, "", false},
+         }) {
+        auto step = bugspray::wrongGuessStep(c.difficulty, c.misses);
+        EXPECT_EQ(joined(step), c.groups) << c.difficulty << "/" << c.misses;
+        EXPECT_EQ(step.lost, c.lost) << c.difficulty << "/" << c.misses;
+    }
+}
+
+TEST(BugSpraySteps, Sounds) {
+    ScriptedRng rng;
+    EXPECT_EQ(bugspray::badSound(1, false, rng), "bugbad1.wav");
+    EXPECT_EQ(rng.draws, 0);
+    rng.then(0.0).then(0.999);
+    EXPECT_EQ(bugspray::badSound(2, false, rng), "bugbad2.wav");
+    EXPECT_EQ(bugspray::badSound(5, false, rng), "bugbad4.wav");
+    EXPECT_EQ(bugspray::badSound(6, true, rng), "bugdead.wav");
+    rng.then(0.0).then(0.999);
+    EXPECT_EQ(bugspray::goodSound(rng), "buggood1.wav");
+    EXPECT_EQ(bugspray::goodSound(rng), "buggood4.wav");
+    EXPECT_EQ(bugspray::lostText("ant"),
+              "Oops! Your bug was sprayed! The word you were looking for was \"ant\". Would you "
+              "like to give it another try?");
+}
+
+using namespace wm::speedtype;
+
+TEST(SpeedType, ReadySetGoThenStop) {
+    SharedState s = listOf({"a rather long word indeed"});
+    ScriptedRng rng;
+    SpeedRound r;
+    newWord(s, r, rng);
+    EXPECT_EQ(r.call, "Ready...");
+    EXPECT_TRUE(r.WaitingForGo);
+    EXPECT_EQ(pressKey(r, s.TheWord, KeyKind::Char, 'a'), Key::Ignored);
+    EXPECT_EQ(tick(r, 0.25), Tick::Set);
+    EXPECT_EQ(r.call, "Set...");
+    EXPECT_EQ(tick(r, 0.5), Tick::Go);
+    EXPECT_EQ(r.call, "Type this word:");
+    EXPECT_FALSE(r.WaitingForGo);
+    EXPECT_DOUBLE_EQ(r.StartTime, 0.5);
+    EXPECT_EQ(tick(r, 0.75), Tick::Stop);
+    EXPECT_EQ(r.Typed, "");
+}
+
+TEST(SpeedType, TypingBackspaceAndEnter) {
+    SpeedRound r;
+    r.WaitingForGo = false;
+    const std::string word = "Ice cream";
+    EXPECT_EQ(pressKey(r, word, KeyKind::Backspace), Key::Typed);  // nothing to take off
+    for (char c : std::string("ice creaX")) pressKey(r, word, KeyKind::Char, c);
+    EXPECT_EQ(r.Typed, "ICE CREAX");
+    pressKey(r, word, KeyKind::Backspace);
+    EXPECT_EQ(pressKey(r, word, KeyKind::Enter), Key::Wrong);
+    pressKey(r, word, KeyKind::Char, 'm');
+    EXPECT_EQ(pressKey(r, word, KeyKind::Enter), Key::Right);
+    // One character too many is still allowed; the second ends the round.
+    EXPECT_EQ(pressKey(r, word, KeyKind::Char, 'x'), Key::Typed);
+    EXPECT_EQ(pressKey(r, word, KeyKind::Char, 'y'), Key::Wrong);
+    EXPECT_FALSE(r.WordWasRight);
+}
+
+TEST(SpeedType, FiguresAreCutFromTheTextOfT) {
+    struct Case {
+        double t;
+        const char *m, *s, *sd;
+    };
+    for (const Case& c : std::vector<Case>{
+             {0, "00", "00", ""},  // T = 0: nothing from the third character on
+             {0.578125, "00", "00", "578"},
+             {1.15625, "00", "1", "562"},  // kept: the first decimal is skipped
+             {12.34567, "00", "12", "345"},
+             {75.5, "01", "15", "5"},
+         }) {
+        auto f = figures(c.t);
+        EXPECT_EQ(f.minutes, c.m) << c.t;
+        EXPECT_EQ(f.seconds, c.s) << c.t;
+        EXPECT_EQ(f.decimals, c.sd) << c.t;
+    }
+}
+
+TEST(SpeedType, TimePerLetterIsCutToSixCharacters) {
+    SpeedRound r;
+    r.StartTime = 0.5;
+    r.EndTime = 0.5;
+    EXPECT_EQ(timePerLetter(elapsed(r), "cat"), "0");  // same clock second: a score of 0
+    // Two seconds of a 100000-a-day clock over four letters: 0.5787037...
+    EXPECT_EQ(timePerLetter(2.0 / 86400 * 100000, "fish"), "0.5787");
+    EXPECT_EQ(timePerLetter(20.0, "ab"), "10");
+    EXPECT_EQ(timePerLetter(25.0, "ab"), "12.5");
+    EXPECT_EQ(timePerLetter(123.4567, "a"), "123.45");
+    EXPECT_EQ(wonText("0.5787"),
+              "Congratulations! Your time was 0.5787 seconds per letter! Would you like to try "
+              "again?");
+    EXPECT_EQ(lostText("cat"),
+              "Oops! The correct word was cat. Would you like to give it another try?");
+}
