@@ -34,6 +34,19 @@ QLabel* bigLabel(const char* name, QWidget* parent) {
     l->setStyleSheet("color: #1b1b1b; background: transparent;");
     return l;
 }
+// Sets the largest font, up to the designed size, at which the text fits its card: a long
+// meaning or a very long word gets smaller letters instead of running off the card.
+void fitText(QLabel* l, int designed, bool bold) {
+    QFont f = ScreenFont(designed, bold);
+    const int inset = l->width() / 30;
+    const QRect box = l->contentsRect().adjusted(inset, 4, -inset, -4);
+    for (; f.pointSize() > 7; f.setPointSize(f.pointSize() - 1)) {
+        const QRect need = QFontMetrics(f).boundingRect(QRect(0, 0, box.width(), 100000),
+                                                        Qt::TextWordWrap, l->text());
+        if (need.width() <= box.width() && need.height() <= box.height()) break;
+    }
+    l->setFont(f);
+}
 }  // namespace
 
 FlashCardForm::FlashCardForm(QWidget* parent)
@@ -143,6 +156,7 @@ void FlashCardForm::showCard() {
     MovieBox->raise();
     TheWord->setText(toQ(s.TheWord));
     TheDefinition->setText(toQ(s.TheMeaning));
+    fitFaces();
     Gimme->setFocus();
 }
 
@@ -158,11 +172,17 @@ void FlashCardForm::showView() {
     }
 }
 
+void FlashCardForm::fitFaces() {
+    fitText(TheWord, 34, true);
+    fitText(TheDefinition, 20, false);
+}
+
 void FlashCardForm::gimme() {
     if (transparent_ || MovieBox->isHidden()) return;
     const flash::Faces faces = flash::reveal(Shared());
     TheWord->setText(toQ(faces.word));
     TheDefinition->setText(toQ(faces.meaning));
+    fitFaces();
     transparent_ = true;
     MovieBox->play(false);
     sound().effect("zap.wav");
@@ -200,8 +220,7 @@ void FlashCardForm::resizeEvent(QResizeEvent*) {
     const int wordH = h / 5, meaningH = h * 3 / 10;
     TheWord->setGeometry(x, top + h / 12, cardW, wordH);
     TheDefinition->setGeometry(x, TheWord->geometry().bottom() + h / 20, cardW, meaningH);
-    TheWord->setFont(ScreenFont(34, true));
-    TheDefinition->setFont(ScreenFont(20));
+    fitFaces();
     // The cover lies exactly over the covered side.
     QLabel* covered = flash::coversWord(Shared()) ? TheWord : TheDefinition;
     MovieBox->setGeometry(covered->geometry().adjusted(-w / 80, -h / 80, w / 80, h / 80));

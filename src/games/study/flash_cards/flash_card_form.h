@@ -50,6 +50,7 @@ private:
     void setup();
     void showCard();  // the picked card's texts, the position line, a fresh cover
     void showView();
+    void fitFaces();
     void scrolled(int value);
 
     GameFrame frame_;

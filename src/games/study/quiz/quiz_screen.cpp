@@ -20,7 +20,7 @@ namespace wm {
 
 namespace {
 
-// The design's colour numbers for the answer cards.
+// Answer card colours as colour numbers with blue in the high byte.
 constexpr int kWaiting = 12582912;  // dark blue
 constexpr int kRed = 255;
 constexpr int kBlue = 16711680;

@@ -25,7 +25,7 @@ public:
     void StartRun();
     void pick(int index);  // a click on AnswerLabel(index)
     void nextQuestion();   // a click on "Click Here to go to the Next Question"
-    // The back colour of an answer card, as the design's colour number (12582912, 255...).
+    // The back colour of an answer card as a colour number, blue in the high byte (12582912, 255).
     int answerColour(int index) const { return colours_.value(index); }
 
 protected:
@@ -64,7 +64,7 @@ private:
     GameTimer& Timer1;
     quiz::QuizRun run_;
     QVector<int> colours_;
-    QVector<int> points_;  // each card's letter size, fitted to its text
+    QVector<int> points_;   // each card's letter size, fitted to its text
     bool waiting_ = false;  // feedback shown: answer clicks are ignored
     bool flashRed_ = true;
     int gap_ = -1;  // the gap between answer cards, worked out once from Difficulty

@@ -50,6 +50,8 @@ private slots:
     void alphabeticalWithButtonsAndScrollBar();
     void randomCards();
     void escapeAndQuit();
+    void longCardsFit_data();
+    void longCardsFit();
 };
 
 void FlashCardScreenTest::optionsScreen() {
@@ -235,6 +237,38 @@ void FlashCardScreenTest::escapeAndQuit() {
     Pump();
     QVERIFY(Showing<Title>());
     SetEndProgramHook({});
+}
+
+void FlashCardScreenTest::longCardsFit_data() {
+    QTest::addColumn<QSize>("screen");
+    QTest::newRow("1280x800") << QSize(1280, 800);
+    QTest::newRow("1920x1080") << QSize(1920, 1080);
+}
+
+void FlashCardScreenTest::longCardsFit() {
+    QFETCH(QSize, screen);
+    ShellFixture fx;
+    ScreenMetrics::overrideScreenSize(screen);
+    const std::string meaning =
+        "a word of very many letters that people like to say to show that they know a long "
+        "word, although almost nobody ever needs it in a sentence, and which names a lung "
+        "disease caused by breathing in very fine dust from a volcano";
+    WriteOneList(fx, "Long", {{"pneumonoultramicroscopicsilicovolcanoconiosis", meaning}});
+    Shared().FlashCardMode = 1;
+    auto* cards = qobject_cast<FlashCardForm*>(
+        ContinueWithList(ChooserFor("Flash Cards", 0, true), "Long ("));
+    QVERIFY(cards);
+    Pump();
+    Uncover(cards);
+    Shot(cards, QString("flash-long-%1").arg(screen.width()));
+    for (QLabel* l : {cards->TheWord, cards->TheDefinition}) {
+        const QRect need = l->fontMetrics().boundingRect(QRect(0, 0, l->width(), 100000),
+                                                         Qt::TextWordWrap, l->text());
+        QVERIFY2(need.width() <= l->width() && need.height() <= l->height(),
+                 qPrintable(l->objectName() + " runs off its card"));
+        QVERIFY(cards->rect().contains(l->geometry()));
+    }
+    QVERIFY(cards->Label1->geometry().bottom() < screen.height());
 }
 
 QTEST_MAIN(FlashCardScreenTest)
