@@ -135,6 +135,7 @@ Quiz::Quiz(QWidget* parent)
     Frame2->setObjectName("Frame2");
     Label1 = MakeButton("Click Here to go to the Next Question", Frame2, true);
     Label1->setObjectName("Label1");
+    nextStyle_ = Label1->styleSheet();
     connect(Label1, &QPushButton::clicked, this, &Quiz::nextQuestion);
 
     scoreBar_ = new QLabel(this);
@@ -319,7 +320,9 @@ void Quiz::resizeEvent(QResizeEvent*) {
     while (nextFont.pointSize() > 7 &&
            QFontMetrics(nextFont).horizontalAdvance(Label1->text()) + 64 > rightW)
         nextFont.setPointSize(nextFont.pointSize() - 1);
-    Label1->setFont(nextFont);
+    // Sized through the style sheet, which would otherwise override the font.
+    Label1->setStyleSheet(nextStyle_ +
+                          QString("QPushButton { font-size: %1pt; }").arg(nextFont.pointSize()));
 
     // The counters along the foot of the screen.
     const int barH = h / 16;

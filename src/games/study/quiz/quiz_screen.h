@@ -53,6 +53,7 @@ private:
     QLabel* Image2;
     QFrame* Frame2;
     QPushButton* Label1;
+    QString nextStyle_;
     QLabel* CorrectLabel;
     QLabel* WrongLabel;
     QLabel* RemainingLabel;

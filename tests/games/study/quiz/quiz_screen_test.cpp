@@ -269,6 +269,9 @@ void QuizScreenTest::layoutFitsLongMeanings() {
     QVERIFY(last.bottom() < child(quiz, "RemainingLabel")->geometry().top());
     QVERIFY(!last.intersects(child(quiz, "Feedback")->geometry()));
     QVERIFY(!last.intersects(quiz->findChild<QFrame*>("Frame2")->geometry()));
+    auto* next = quiz->findChild<QPushButton*>("Label1");
+    QVERIFY2(next->fontMetrics().horizontalAdvance(next->text()) + 52 <= next->width(),
+             "the Next button's text is cut");
 }
 
 void QuizScreenTest::noScoresForStudyActivities() {
