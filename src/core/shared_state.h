@@ -63,6 +63,7 @@ struct SharedState {
     short QuizType = 0;
     short QuizLength = 0;
     short FlashCardMode = 0;
+    std::string StartLetter;  // flash cards from a letter: one character
     int ListChanged = kFalse;
     int SoundResult = 0;
 };

@@ -1,0 +1,163 @@
+// Flash cards' orders over a scripted generator: alphabetical with its buttons and scroll bar,
+// from a letter with its step by two and its end past the list, the letter not found (and the
+// second-entry quirk), twin words, and random cards.
+#include <gtest/gtest.h>
+
+#include "core/rng.h"
+#include "core/shared_state.h"
+#include "games/study/flash_cards/flash_card_rules.h"
+
+using namespace wm;
+using namespace wm::flash;
+
+namespace {
+
+SharedState List(std::vector<std::pair<std::string, std::string>> rows, int mode,
+                 std::string letter = "A") {
+    SharedState s;
+    s.Words.assign(rows.size() + 2, "");
+    s.Meanings.assign(rows.size() + 2, "");
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        s.Words[i + 1] = rows[i].first;
+        s.Meanings[i + 1] = rows[i].second;
+    }
+    s.WordCount = short(rows.size());
+    s.FlashCardMode = short(mode);
+    s.StartLetter = letter;
+    s.ListChanged = -1;
+    return s;
+}
+
+const std::vector<std::pair<std::string, std::string>> kAnimals = {
+    {"eel", "slippery"}, {"Cat", "purrs"}, {"ant", "tiny"}, {"dog", "barks"}, {"bee", "buzzes"}};
+
+}  // namespace
+
+TEST(FlashCardRules, AlphabeticalWalkWithButtonsAndScrollBar) {
+    SharedState s = List(kAnimals, 1);
+    ScriptedRng rng;
+    Deck deck;
+    EXPECT_EQ(setup(deck, s), "");
+    EXPECT_EQ(deck.Alphabetize, (std::vector<std::string>{"ant", "bee", "Cat", "dog", "eel"}));
+    EXPECT_EQ(totalText(s), "Total cards available in this set: 5");
+    const char* expected[] = {"ant", "bee", "Cat", "dog", "eel"};
+    for (int i = 1; i <= 5; ++i) {
+        nextCard(deck, s, rng);
+        EXPECT_EQ(s.WordIndex, i);
+        EXPECT_EQ(s.TheWord, expected[i - 1]);
+        EXPECT_EQ(deck.view.previousShown, i > 1);
+        EXPECT_EQ(deck.view.nextShown, i < 5);
+        EXPECT_EQ(deck.view.position, "Card number " + std::to_string(i) + " out of 5");
+    }
+    EXPECT_EQ(s.TheMeaning, "slippery");
+    previousCard(deck, s);
+    EXPECT_EQ(s.TheWord, "dog");
+    EXPECT_TRUE(deck.view.nextShown);
+    previousCard(deck, s);
+    previousCard(deck, s);
+    previousCard(deck, s);
+    EXPECT_EQ(s.TheWord, "ant");
+    EXPECT_FALSE(deck.view.previousShown);
+    scrollTo(deck, s, 5);
+    EXPECT_EQ(s.TheMeaning, "slippery");
+    EXPECT_FALSE(deck.view.nextShown);
+    EXPECT_TRUE(deck.view.previousShown);
+    scrollTo(deck, s, 1);
+    EXPECT_FALSE(deck.view.previousShown);
+    EXPECT_TRUE(deck.view.nextShown);
+    EXPECT_EQ(rng.draws, 0);
+}
+
+TEST(FlashCardRules, FromALetterStepsByTwoAndRunsPastTheEnd) {
+    struct Row {
+        const char* letter;
+        std::vector<std::string> shown;  // words of the first cards; "" past the end
+    } rows[] = {
+        {"a", {"ant", "Cat", "eel"}},
+        {"c", {"Cat", "eel"}},
+        {"D", {"dog", ""}},  // the last letter but one: the step passes WordCount
+        {"e", {"eel"}},
+    };
+    for (const Row& r : rows) {
+        SCOPED_TRACE(r.letter);
+        SharedState s = List(kAnimals, 3, r.letter);
+        ScriptedRng rng;
+        Deck deck;
+        EXPECT_EQ(setup(deck, s), "");
+        for (std::size_t i = 0; i < r.shown.size(); ++i) {
+            nextCard(deck, s, rng);
+            EXPECT_EQ(s.TheWord, r.shown[i]);
+        }
+        EXPECT_FALSE(deck.view.nextShown);
+    }
+    // Past the end both faces read the end text.
+    SharedState s = List(kAnimals, 3, "d");
+    ScriptedRng rng;
+    Deck deck;
+    setup(deck, s);
+    nextCard(deck, s, rng);
+    nextCard(deck, s, rng);
+    EXPECT_EQ(s.WordIndex, 6);
+    EXPECT_EQ(reveal(s).word, kEndText);
+    EXPECT_EQ(reveal(s).meaning, kEndText);
+}
+
+TEST(FlashCardRules, LetterNotFoundStartsAtTheBeginning) {
+    for (const char* letter : {"z", "B"}) {
+        // "B" matches the second sorted entry: kept, it is reported as not found.
+        SCOPED_TRACE(letter);
+        SharedState s = List(kAnimals, 3, letter);
+        Deck deck;
+        EXPECT_EQ(setup(deck, s), std::string("No words in this list start with ") + letter +
+                                      "! Starting at beginning of list instead...");
+        EXPECT_EQ(deck.mode, 1);
+        EXPECT_EQ(s.FlashCardMode, 1);
+        EXPECT_EQ(s.WordIndex, 0);
+        ScriptedRng rng;
+        nextCard(deck, s, rng);
+        nextCard(deck, s, rng);
+        EXPECT_EQ(s.TheWord, "bee");  // one step at a time now
+    }
+}
+
+TEST(FlashCardRules, TwinWordsShowTheFirstRowsMeaning) {
+    SharedState s = List({{"bat", "flies at night"}, {"ace", "a card"}, {"Bat", "hits balls"}}, 1);
+    ScriptedRng rng;
+    Deck deck;
+    setup(deck, s);
+    nextCard(deck, s, rng);
+    nextCard(deck, s, rng);
+    EXPECT_EQ(s.TheMeaning, "flies at night");
+    nextCard(deck, s, rng);
+    EXPECT_EQ(s.TheWord, "bat");
+    EXPECT_EQ(s.TheMeaning, "flies at night");
+}
+
+TEST(FlashCardRules, RandomCardsRepeatAndNeverShowPrevious) {
+    SharedState s = List(kAnimals, 2);
+    ScriptedRng rng;
+    rng.pick(4, 5).pick(4, 5).pick(2, 5).pick(5, 5);
+    Deck deck;
+    setup(deck, s);
+    const char* rowsWords[] = {"dog", "dog", "Cat", "bee"};
+    for (const char* w : rowsWords) {
+        nextCard(deck, s, rng);
+        EXPECT_EQ(s.TheWord, w);  // the list's own row, not the sorted entry
+        EXPECT_FALSE(deck.view.previousShown);
+        EXPECT_TRUE(deck.view.position.empty());
+    }
+    // The last row drawn hides Next for good.
+    EXPECT_FALSE(deck.view.nextShown);
+    EXPECT_EQ(rng.randomizeCount, 4);
+}
+
+TEST(FlashCardRules, TheWordSideIsAlwaysCoveredFromTheOptions) {
+    SharedState s = List(kAnimals, 1);
+    EXPECT_TRUE(coversWord(s));
+    s.ListChanged = 0;
+    EXPECT_TRUE(coversWord(s));
+    s.ListChanged = 1;  // never set by the options screen
+    EXPECT_FALSE(coversWord(s));
+    s.FlashCardMode = 0;
+    EXPECT_EQ(cardMode(s), 1);
+}

@@ -1,0 +1,195 @@
+// The quiz's draws over a scripted generator: no repeats while the list allows, repeats from the
+// first question when it does not, the choices, a list of exactly as many words as choices,
+// random kinds, the run's length, and the verdict lines at their boundaries.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+
+#include "core/rng.h"
+#include "core/shared_state.h"
+#include "games/study/quiz/quiz_rules.h"
+
+using namespace wm;
+using namespace wm::quiz;
+
+namespace {
+
+SharedState List(int words, int difficulty, int length, int type = 1) {
+    SharedState s;
+    s.Words.assign(std::size_t(words) + 2, "");
+    s.Meanings.assign(std::size_t(words) + 2, "");
+    for (int i = 1; i <= words; ++i) {
+        s.Words[std::size_t(i)] = "w" + std::to_string(i);
+        s.Meanings[std::size_t(i)] = "m" + std::to_string(i);
+    }
+    s.WordCount = short(words);
+    s.Difficulty = difficulty;
+    s.QuizLength = short(length);
+    s.QuizType = short(type);
+    return s;
+}
+
+}  // namespace
+
+TEST(QuizRules, ChoicesFollowTheDrawAndSkipTakenRows) {
+    SharedState s = List(5, 3, 5);
+    ScriptedRng rng(0.5);
+    rng.pick(2, 5)   // the question: row 2
+        .pick(2, 3)  // the right answer is choice 2
+        .pick(2, 5)
+        .pick(4, 5)  // choice 1: row 2 is the question's, row 4
+        .pick(4, 5)
+        .pick(1, 5)  // choice 2 (the right one) takes row 1
+        .pick(1, 5)
+        .pick(5, 5);  // choice 3: row 5
+    QuizRun run;
+    startRun(run, s, rng);
+    EXPECT_EQ(rng.pending(), 0u);
+    EXPECT_EQ(s.TheWord, "w2");
+    EXPECT_EQ(s.TheMeaning, "m2");
+    EXPECT_EQ(run.CorrectChoice, 2);
+    EXPECT_EQ(run.choiceCount, 3);
+    EXPECT_EQ(run.choices[0], "m4");
+    EXPECT_EQ(run.choices[1], "m2");
+    EXPECT_EQ(run.choices[2], "m5");
+    EXPECT_TRUE(run.choices[3].empty());
+    EXPECT_EQ(questionText(run, s), "w2");
+    EXPECT_EQ(run.QuestionsLeft, 4);
+    EXPECT_GE(rng.randomizeCount, 1);  // reseeded for each question
+}
+
+TEST(QuizRules, MeaningQuestionsOfferWords) {
+    SharedState s = List(4, 2, 4, 2);
+    ScriptedRng rng(0.5);
+    rng.pick(3, 4).pick(1, 2).pick(1, 4).pick(4, 4);
+    QuizRun run;
+    startRun(run, s, rng);
+    EXPECT_EQ(run.QuestionKind, 2);
+    EXPECT_EQ(questionText(run, s), "m3");
+    EXPECT_EQ(run.choices[0], "w3");
+    EXPECT_EQ(run.choices[1], "w4");
+    EXPECT_STREQ(directions(run.QuestionKind), kMeaningDirections);
+    EXPECT_EQ(answerPointSize(2), 18);
+    EXPECT_EQ(answerPointSize(1), 12);
+}
+
+TEST(QuizRules, NoWordIsAskedTwiceWhileTheListAllows) {
+    SharedState s = List(5, 2, 5);
+    SystemRng real;
+    real.seed(7);
+    QuizRun run;
+    startRun(run, s, real);
+    std::set<int> asked{run.asked};
+    while (next(run, s, real)) asked.insert(run.asked);
+    EXPECT_EQ(asked.size(), 5u);
+}
+
+TEST(QuizRules, RepeatsComeFromTheFirstQuestionWhenTheListIsShort) {
+    // Five questions on five words: the second question draws row 2 again and is refused it.
+    SharedState s = List(5, 2, 5);
+    ScriptedRng rng(0.5);
+    rng.pick(2, 5).pick(1, 2).pick(1, 5).pick(3, 5);
+    QuizRun run;
+    startRun(run, s, rng);
+    rng.pick(2, 5).pick(4, 5);
+    ASSERT_TRUE(next(run, s, rng));
+    EXPECT_EQ(run.asked, 4);
+
+    // Six questions on the same five words: row 2 may come straight back.
+    s = List(5, 2, 6);
+    rng = ScriptedRng(0.5);
+    rng.pick(2, 5).pick(1, 2).pick(1, 5).pick(3, 5);
+    startRun(run, s, rng);
+    rng.pick(2, 5);
+    ASSERT_TRUE(next(run, s, rng));
+    EXPECT_EQ(run.asked, 2);
+}
+
+TEST(QuizRules, ExactlyAsManyWordsAsChoicesStillOffersThemAll) {
+    // A generator stuck on one value would loop for ever on an unbounded draw.
+    for (int words : {2, 3, 8}) {
+        SCOPED_TRACE(words);
+        SharedState s = List(words, words, 3);
+        for (double stuck : {0.0, 0.5, 0.999}) {
+            ScriptedRng rng(stuck);
+            QuizRun run;
+            startRun(run, s, rng);
+            std::set<std::string> offered(run.choices.begin(), run.choices.begin() + words);
+            EXPECT_EQ(int(offered.size()), words) << "stuck at " << stuck;
+            EXPECT_EQ(run.choices[std::size_t(run.CorrectChoice - 1)], s.TheMeaning);
+            EXPECT_LT(rng.draws, 4 * kDrawTries * (words + 1));
+        }
+    }
+    // Fewer words than choices (never let through by the chooser): blanks, no hang.
+    SharedState s = List(2, 4, 1);
+    ScriptedRng rng(0.3);
+    QuizRun run;
+    startRun(run, s, rng);
+    EXPECT_EQ(std::count(run.choices.begin(), run.choices.begin() + 4, std::string()), 2);
+}
+
+TEST(QuizRules, KindsByQuizType) {
+    ScriptedRng rng(0.5);
+    SharedState s = List(3, 2, 3, 1);
+    EXPECT_EQ(chooseKind(s, rng), 1);
+    s.QuizType = 2;
+    EXPECT_EQ(chooseKind(s, rng), 2);
+    EXPECT_EQ(rng.draws, 0);  // fixed kinds draw nothing
+    s.QuizType = 3;
+    rng.then(0.2).then(0.7).then(0.49).then(0.5);
+    EXPECT_EQ(chooseKind(s, rng), 1);
+    EXPECT_EQ(chooseKind(s, rng), 2);
+    EXPECT_EQ(chooseKind(s, rng), 1);
+    EXPECT_EQ(chooseKind(s, rng), 2);
+    // Reached without the options screen: words, ten questions.
+    s.QuizType = 0;
+    s.QuizLength = 0;
+    EXPECT_EQ(quizType(s), 1);
+    EXPECT_EQ(quizLength(s), 10);
+}
+
+TEST(QuizRules, RunLengthAndCounters) {
+    for (int length : {1, 3}) {
+        SharedState s = List(4, 2, length);
+        ScriptedRng rng(0.4);
+        QuizRun run;
+        startRun(run, s, rng);
+        EXPECT_EQ(run.QuestionsLeft, length - 1);
+        int questions = 1;
+        while (next(run, s, rng)) ++questions;
+        EXPECT_EQ(questions, length);
+        EXPECT_EQ(run.QuestionsLeft, -1);
+    }
+    QuizRun run;
+    run.CorrectChoice = 3;
+    EXPECT_TRUE(answer(run, 3));
+    EXPECT_FALSE(answer(run, 1));
+    EXPECT_FALSE(answer(run, 2));
+    EXPECT_EQ(run.QuizRight, 1);
+    EXPECT_EQ(run.QuizWrong, 2);
+    EXPECT_EQ(run.PickedChoice, 2);
+}
+
+TEST(QuizRules, VerdictLinesAtTheirBoundaries) {
+    struct Row {
+        int right, wrong, percent;
+        const char* line;
+    } rows[] = {
+        {0, 3, 0, "Oops! Keep studying!!"},
+        {40, 60, 40, "Oops! Keep studying!!"},
+        {41, 59, 41, "Looks like you could use a little more work."},
+        {70, 30, 70, "Looks like you could use a little more work."},
+        {71, 29, 71, "Good job!"},
+        {99, 1, 99, "Good job!"},
+        {3, 0, 100, "Perfect Score!!!"},
+        {2, 1, 66, "Looks like you could use a little more work."},  // 66.67 is cut, not rounded
+    };
+    for (const Row& r : rows) {
+        const Verdict v = verdict(r.right, r.wrong);
+        EXPECT_EQ(v.percent, r.percent) << r.right << "/" << r.wrong;
+        EXPECT_EQ(v.line, r.line) << r.right << "/" << r.wrong;
+        EXPECT_EQ(v.percentText, std::to_string(r.percent) + "%");
+    }
+    EXPECT_EQ(verdict(2, 1).outOf, "You got 2 out of 3 correct.");
+}
