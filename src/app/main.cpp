@@ -11,6 +11,7 @@
 #include "platform/sound.h"
 #include "shell/screens.h"
 #include "shell/style.h"
+#include "teacher/teacher_kit.h"
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
@@ -30,6 +31,7 @@ int main(int argc, char** argv) {
     wm::RegisterBuiltInScenes();
     wm::RegisterShellScreens();
     wm::RegisterGameScreens();
+    wm::RegisterTeacherScreens();
     wm::OpenScreen("BlackBack");
     const int rc = app.exec();
     music.close();
