@@ -72,6 +72,7 @@ void DeleteList::deleteClicked() {
         dialogs().message("You need to choose a list!");
         return;
     }
+    pending_ = fromQ(item->text());
     Command1->hide();
     Command2->hide();
     Sure->show();
@@ -85,8 +86,9 @@ void DeleteList::answer(bool yes) {
     No->hide();
     Command1->show();
     Command2->show();
-    if (!yes) return;
-    const std::string name = fromQ(TheLists->currentItem()->text());
+    if (!yes || pending_.empty()) return;
+    const std::string name = pending_;
+    pending_.clear();
     const bool ok = Guarded([&] {
         // The categories first; a locked category file keeps the name.
         RemoveListFromCategories(FolderPath(), name);

@@ -27,6 +27,7 @@ private:
     QLabel* Sure;
     QPushButton* Yes;
     QPushButton* No;
+    std::string pending_;  // the name asked about
 };
 
 }  // namespace wm

@@ -124,6 +124,11 @@ Manager::Manager(QWidget* parent) : Backdrop("images/wm-back.jpg", parent) {
                &Manager::showHideGames);
     addCommand(2, "Clear High Scores", "Empty every high score table", &Manager::clearHighScores);
 
+    for (QWidget* frame : Frames) {
+        auto* grid = static_cast<QGridLayout*>(frame->layout());
+        grid->setRowStretch(grid->rowCount(), 1);
+    }
+
     auto* foot = new QHBoxLayout;
     foot->addStretch();
     QuitButton = NamedButton("QuitButton", "Quit Management", panel);
@@ -149,7 +154,6 @@ QPushButton* Manager::addCommand(int frame, const QString& caption, const QStrin
     cell->addWidget(b);
     cell->addWidget(sub);
     grid->addLayout(cell, n / 2, n % 2);
-    grid->setRowStretch(n / 2 + 1, 1);
     return b;
 }
 
