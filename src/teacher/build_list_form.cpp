@@ -62,7 +62,8 @@ BuildListForm::BuildListForm(QWidget* parent) : QDialog(parent) {
     for (const auto& n : names) {
         if (n != kNoLists) TheLists->addItem(toQ(n));
     }
-    resize(ScreenFont(10).pointSize() * 70, ScreenFont(10).pointSize() * 46);
+    SizeToScreen(this, 0.7, 0.75);
+    for (int c = 0; c < 3; ++c) grid->setColumnStretch(c, 1);
 }
 
 QString BuildListForm::wordsCaption() const {

@@ -1,6 +1,5 @@
 #include "teacher/categories.h"
 
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -23,28 +22,33 @@ namespace wm {
 Categories::Categories(QWidget* parent) : QDialog(parent) {
     setObjectName("Categories");
     QVBoxLayout* layout = DialogBody(this, "List Categories");
-    auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(24);
-    grid->addWidget(NamedLabel("Label2", "Categories", this, 13, true), 0, 0);
+    auto* left = new QVBoxLayout;
+    auto* right = new QVBoxLayout;
+    left->addWidget(NamedLabel("Label2", "Categories", this, 13, true));
     Label3 = NamedLabel("Label3", "Word Lists (None Selected)", this, 13, true);
-    grid->addWidget(Label3, 0, 1);
+    right->addWidget(Label3);
     List1 = NamedList("List1", this);
     List2 = NamedList("List2", this);
-    grid->addWidget(List1, 1, 0);
-    grid->addWidget(List2, 1, 1);
+    left->addWidget(List1, 1);
+    right->addWidget(List2, 1);
     auto* add = NamedButton("Command2", "Add New Category", this);
     auto* remove = NamedButton("Command3", "Delete Category", this);
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(add);
-    buttons->addWidget(remove);
-    grid->addLayout(buttons, 2, 0);
-    grid->addWidget(
-        NamedLabel("Hint", "Tick the lists that belong to the chosen category.", this, 11), 2, 1);
-    layout->addLayout(grid, 1);
+    left->addWidget(
+        NamedLabel("Hint1", "Choose a category to see the lists filed under it.", this, 11));
+    right->addWidget(
+        NamedLabel("Hint", "Tick the lists that belong to the chosen category.", this, 11));
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(24);
+    columns->addLayout(left, 1);
+    columns->addLayout(right, 1);
+    layout->addLayout(columns, 1);
     auto* row = new QHBoxLayout;
     auto* cancel = NamedButton("Command4", "Cancel", this);
     auto* saveButton = NamedButton("Command1", "Save", this, true);
     row->addWidget(cancel);
+    row->addSpacing(24);
+    row->addWidget(add);
+    row->addWidget(remove);
     row->addStretch();
     row->addWidget(saveButton);
     layout->addLayout(row);
@@ -73,7 +77,7 @@ Categories::Categories(QWidget* parent) : QDialog(parent) {
     }
     Refreshing = false;
     fillCategories();
-    resize(ScreenFont(10).pointSize() * 64, ScreenFont(10).pointSize() * 46);
+    SizeToScreen(this, 0.55, 0.7);
 }
 
 Categories::~Categories() {

@@ -49,7 +49,7 @@ DeleteList::DeleteList(QWidget* parent) : QDialog(parent) {
     connect(Yes, &QPushButton::clicked, this, [this] { answer(true); });
     connect(No, &QPushButton::clicked, this, [this] { answer(false); });
     fillNames();
-    resize(ScreenFont(10).pointSize() * 44, ScreenFont(10).pointSize() * 48);
+    SizeToScreen(this, 0.4, 0.7);
 }
 
 void DeleteList::fillNames() {

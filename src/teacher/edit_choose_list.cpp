@@ -39,7 +39,7 @@ EditChooseList::EditChooseList(QWidget* parent) : QDialog(parent) {
     Guarded([&] { names = ListNames(ListPath()); });
     if (!names.empty() && names.front() == kNoLists) names.erase(names.begin());
     for (const auto& n : names) TheLists->addItem(toQ(PlainName(n)));
-    resize(ScreenFont(10).pointSize() * 40, ScreenFont(10).pointSize() * 44);
+    SizeToScreen(this, 0.4, 0.7);
 }
 
 void EditChooseList::choose() {

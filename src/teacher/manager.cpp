@@ -97,10 +97,13 @@ Manager::Manager(QWidget* parent) : Backdrop("images/wm-back.jpg", parent) {
         tabs->addWidget(TLabel[i]);
         Frames[i] = new QWidget(frames_);
         Frames[i]->setObjectName(kFrameNames[i]);
-        auto* grid = new QGridLayout(Frames[i]);
-        grid->setHorizontalSpacing(24);
-        grid->setVerticalSpacing(12);
-        grid->setContentsMargins(8, 12, 8, 4);
+        auto* column = new QVBoxLayout(Frames[i]);
+        column->setContentsMargins(8, 12, 8, 4);
+        grids_[i] = new QGridLayout;
+        grids_[i]->setHorizontalSpacing(24);
+        grids_[i]->setVerticalSpacing(18);
+        column->addLayout(grids_[i]);
+        column->addStretch(1);
         frames_->addWidget(Frames[i]);
     }
     tabs->addStretch();
@@ -124,11 +127,6 @@ Manager::Manager(QWidget* parent) : Backdrop("images/wm-back.jpg", parent) {
                &Manager::showHideGames);
     addCommand(2, "Clear High Scores", "Empty every high score table", &Manager::clearHighScores);
 
-    for (QWidget* frame : Frames) {
-        auto* grid = static_cast<QGridLayout*>(frame->layout());
-        grid->setRowStretch(grid->rowCount(), 1);
-    }
-
     auto* foot = new QHBoxLayout;
     foot->addStretch();
     QuitButton = NamedButton("QuitButton", "Quit Management", panel);
@@ -140,7 +138,7 @@ Manager::Manager(QWidget* parent) : Backdrop("images/wm-back.jpg", parent) {
 
 QPushButton* Manager::addCommand(int frame, const QString& caption, const QString& note,
                                  void (Manager::*action)()) {
-    auto* grid = static_cast<QGridLayout*>(Frames[frame]->layout());
+    QGridLayout* grid = grids_[frame];
     const int n = Frames[frame]->findChildren<QPushButton*>().size();
     auto* cell = new QVBoxLayout;
     cell->setSpacing(2);

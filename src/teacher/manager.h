@@ -5,6 +5,7 @@
 
 #include "shell/style.h"
 
+class QGridLayout;
 class QLabel;
 class QPushButton;
 class QStackedWidget;
@@ -44,6 +45,7 @@ private:
     QToolBar* Toolbar1;
     QStackedWidget* frames_;
     QWidget* Frames[3];  // ListManFrame, ListOptionsFrame, ProgOptionsFrame
+    QGridLayout* grids_[3];
     QPushButton* TLabel[3];
     QPushButton* QuitButton;
 };

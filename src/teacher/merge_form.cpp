@@ -74,7 +74,7 @@ MergeForm::MergeForm(QWidget* parent) : QDialog(parent) {
         if (name == kNoLists) continue;
         TheLists->addItem(MergeLine(name, RecordLines(data_, name).size()));
     }
-    resize(ScreenFont(10).pointSize() * 44, ScreenFont(10).pointSize() * 48);
+    SizeToScreen(this, 0.4, 0.7);
 }
 
 QString MergeForm::label() const {

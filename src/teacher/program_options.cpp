@@ -105,7 +105,7 @@ EnableDisable::EnableDisable(QWidget* parent) : QDialog(parent) {
                               DisplaySettings::MediumIcons().scale,
                               DisplaySettings::SmallIcons().scale};
     for (int i = 0; i < 3; ++i) Option1[i]->setChecked(d.scale == scales[i]);
-    resize(ScreenFont(10).pointSize() * 56, ScreenFont(10).pointSize() * 52);
+    SizeToScreen(this, 0.5, 0.75);
 }
 
 void EnableDisable::apply() {

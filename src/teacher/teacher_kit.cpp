@@ -11,6 +11,7 @@
 #include "core/line_file.h"
 #include "core/shared_state.h"
 #include "platform/dialogs.h"
+#include "platform/screen_metrics.h"
 #include "platform/services.h"
 #include "platform/text.h"
 #include "shell/style.h"
@@ -76,6 +77,11 @@ QVBoxLayout* DialogBody(QDialog* dialog, const QString& heading) {
     title->setObjectName("Heading");
     layout->addWidget(title);
     return layout;
+}
+
+void SizeToScreen(QDialog* dialog, double width, double height) {
+    const QSize screen = ScreenMetrics::screenSize();
+    dialog->resize(int(screen.width() * width), int(screen.height() * height));
 }
 
 QPushButton* NamedButton(const QString& name, const QString& text, QWidget* parent, bool primary) {

@@ -32,6 +32,8 @@ void Beep();
 QVBoxLayout* CentrePanel(Backdrop* screen, int share = 6, QWidget* top = nullptr);
 // A small dialog styled like the screens: margins, a heading and a body layout.
 QVBoxLayout* DialogBody(QDialog* dialog, const QString& heading);
+// Sizes a box to a share of the display, so lists have room at every screen size.
+void SizeToScreen(QDialog* dialog, double width, double height);
 QPushButton* NamedButton(const QString& name, const QString& text, QWidget* parent,
                          bool primary = false);
 QLabel* NamedLabel(const QString& name, const QString& text, QWidget* parent, int points = 13,
