@@ -29,6 +29,7 @@
 #include "teacher/delete_list.h"
 #include "teacher/edit_choose_list.h"
 #include "teacher/gate.h"
+#include "teacher/list_exchange.h"
 #include "teacher/merge_form.h"
 #include "teacher/program_options.h"
 #include "teacher/teacher_kit.h"
@@ -110,22 +111,29 @@ Manager::Manager(QWidget* parent) : Backdrop("images/wm-back.jpg", parent) {
     layout->addLayout(tabs);
     layout->addWidget(frames_, 1);
 
-    addCommand(0, "Create New Vocabulary List", "Start a list from nothing", &Manager::createList);
-    addCommand(0, "View / Edit Vocabulary List", "Change, add or remove words", &Manager::editList);
-    addCommand(0, "Delete Vocabulary List", "Remove a list for good", &Manager::deleteList);
-    addCommand(0, "Merge Word Lists", "Join whole lists into a new one", &Manager::mergeLists);
+    addCommand(0, "Create New Vocabulary List", "Start a list from nothing",
+               [this] { createList(); });
+    addCommand(0, "View / Edit Vocabulary List", "Change, add or remove words",
+               [this] { editList(); });
+    addCommand(0, "Delete Vocabulary List", "Remove a list for good", [this] { deleteList(); });
+    addCommand(0, "Merge Word Lists", "Join whole lists into a new one", [this] { mergeLists(); });
     addCommand(0, "Create List from Existing Lists", "Pick words from other lists",
-               &Manager::buildList);
-    addCommand(0, "List Categories", "File lists under categories", &Manager::categories);
-    addCommand(1, "Backup Lists", "Keep a copy of every list", &Manager::backupLists);
-    addCommand(1, "Restore Backup Lists", "Bring back the copy", &Manager::restoreLists);
+               [this] { buildList(); });
+    addCommand(0, "List Categories", "File lists under categories", [this] { categories(); });
+    addCommand(0, "Import List...", "From a CSV, tab separated or KVTML file",
+               [this] { ImportList(this); });
+    addCommand(0, "Export List...", "Save a list for other programs", [this] { ExportList(this); });
+    addCommand(1, "Backup Lists", "Keep a copy of every list", [this] { backupLists(); });
+    addCommand(1, "Restore Backup Lists", "Bring back the copy", [this] { restoreLists(); });
     addCommand(1, "Link to Alternate Vocabulary List File", "Share lists with another computer",
-               &Manager::linkListFile);
-    addCommand(2, "Change Password", "Keep the teacher's screens safe", &Manager::changePassword);
-    addCommand(2, "Sound Options", "Sound on or off at start", &Manager::soundOptions);
+               [this] { linkListFile(); });
+    addCommand(2, "Change Password", "Keep the teacher's screens safe",
+               [this] { changePassword(); });
+    addCommand(2, "Sound Options", "Sound on or off at start", [this] { soundOptions(); });
     addCommand(2, "Show/Hide Games", "Choose the games on the title screen",
-               &Manager::showHideGames);
-    addCommand(2, "Clear High Scores", "Empty every high score table", &Manager::clearHighScores);
+               [this] { showHideGames(); });
+    addCommand(2, "Clear High Scores", "Empty every high score table",
+               [this] { clearHighScores(); });
 
     auto* foot = new QHBoxLayout;
     foot->addStretch();
@@ -137,14 +145,14 @@ Manager::Manager(QWidget* parent) : Backdrop("images/wm-back.jpg", parent) {
 }
 
 QPushButton* Manager::addCommand(int frame, const QString& caption, const QString& note,
-                                 void (Manager::*action)()) {
+                                 std::function<void()> action) {
     QGridLayout* grid = grids_[frame];
     const int n = Frames[frame]->findChildren<QPushButton*>().size();
     auto* cell = new QVBoxLayout;
     cell->setSpacing(2);
     QPushButton* b = MakeButton(caption, Frames[frame]);
     b->setMinimumWidth(ScreenFont(10).pointSize() * 26);
-    connect(b, &QPushButton::clicked, this, action);
+    connect(b, &QPushButton::clicked, this, std::move(action));
     auto* sub = new QLabel(note, Frames[frame]);
     sub->setFont(ScreenFont(10));
     sub->setStyleSheet("color: #6b7a8c;");

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QStringList>
+#include <functional>
 
 #include "shell/style.h"
 
@@ -40,7 +41,7 @@ public:
 
 private:
     QPushButton* addCommand(int frame, const QString& caption, const QString& note,
-                            void (Manager::*action)());
+                            std::function<void()> action);
 
     QToolBar* Toolbar1;
     QStackedWidget* frames_;
