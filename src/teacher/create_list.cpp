@@ -58,7 +58,7 @@ CreateList::CreateList(QWidget* parent) : QDialog(parent) {
     connect(ok, &QPushButton::clicked, this, &CreateList::confirm);
     connect(Check1, &QCheckBox::toggled, this, &CreateList::wordsOnlyToggled);
     connect(Check2, &QCheckBox::toggled, this, &CreateList::foreignToggled);
-    setMinimumWidth(ScreenFont(10).pointSize() * 44);
+    WidenToScreen(this, 0.4);
 }
 
 void CreateList::wordsOnlyToggled(bool on) {

@@ -40,6 +40,7 @@ PasswordForm::PasswordForm(QWidget* parent) : QDialog(parent) {
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(ok, &QPushButton::clicked, this, &PasswordForm::confirm);
     Guarded([&] { stored_ = ReadSettings(Shared().AppPath).password(); });
+    WidenToScreen(this, 0.3);
 }
 
 void PasswordForm::warnAboutFactoryPassword() {
@@ -94,6 +95,7 @@ ChangePassword::ChangePassword(QWidget* parent) : QDialog(parent) {
     connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
     connect(Command3, &QPushButton::clicked, this, &QDialog::accept);
     connect(Command1, &QPushButton::clicked, this, &ChangePassword::confirm);
+    WidenToScreen(this, 0.4);
 }
 
 void ChangePassword::confirm() {

@@ -57,6 +57,7 @@ SoundOptions::SoundOptions(QWidget* parent) : QDialog(parent) {
         if (line == "Sound On") SoundOn->setChecked(true);
         if (line == "Sound Off") SoundOff->setChecked(true);
     });
+    WidenToScreen(this, 0.4);
 }
 
 void SoundOptions::save() {

@@ -84,6 +84,12 @@ void SizeToScreen(QDialog* dialog, double width, double height) {
     dialog->resize(int(screen.width() * width), int(screen.height() * height));
 }
 
+void WidenToScreen(QDialog* dialog, double width) {
+    const QSize screen = ScreenMetrics::screenSize();
+    const QSize hint = dialog->sizeHint();
+    dialog->resize(std::max(hint.width(), int(screen.width() * width)), hint.height());
+}
+
 QPushButton* NamedButton(const QString& name, const QString& text, QWidget* parent, bool primary) {
     QPushButton* b = MakeButton(text, parent, primary);
     b->setObjectName(name);

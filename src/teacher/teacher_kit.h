@@ -34,6 +34,8 @@ QVBoxLayout* CentrePanel(Backdrop* screen, int share = 6, QWidget* top = nullptr
 QVBoxLayout* DialogBody(QDialog* dialog, const QString& heading);
 // Sizes a box to a share of the display, so lists have room at every screen size.
 void SizeToScreen(QDialog* dialog, double width, double height);
+// A short box: a share of the display wide, as tall as its contents.
+void WidenToScreen(QDialog* dialog, double width);
 QPushButton* NamedButton(const QString& name, const QString& text, QWidget* parent,
                          bool primary = false);
 QLabel* NamedLabel(const QString& name, const QString& text, QWidget* parent, int points = 13,

@@ -59,7 +59,7 @@ WordBox::WordBox(Kind kind, QWidget* parent) : QDialog(parent), kind_(kind) {
         connect(word_, &QLineEdit::returnPressed, this, [this] { meaning_->setFocus(); });
         connect(meaning_, &QLineEdit::returnPressed, this, &WordBox::confirm);
     }
-    setMinimumWidth(ScreenFont(10).pointSize() * 44);
+    WidenToScreen(this, 0.4);
 }
 
 void WordBox::confirm() {
