@@ -39,7 +39,7 @@ PasswordForm::PasswordForm(QWidget* parent) : QDialog(parent) {
     layout->addLayout(row);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(ok, &QPushButton::clicked, this, &PasswordForm::confirm);
-    Guarded([&] { stored_ = ReadSettings(Shared().AppPath).password(); });
+    readable_ = Guarded([&] { stored_ = ReadSettings(Shared().AppPath).password(); });
     WidenToScreen(this, 0.3);
 }
 
@@ -55,7 +55,8 @@ void PasswordForm::warnAboutFactoryPassword() {
 
 void PasswordForm::confirm() {
     // The gate ignores case; the change-password box does not (it compares exactly).
-    if (LCase(fromQ(EnterPassword->text())) == LCase(stored_)) {
+    // Without a readable settings file there is no password to match, so nothing opens.
+    if (readable_ && LCase(fromQ(EnterPassword->text())) == LCase(stored_)) {
         accept();
     } else {
         dialogs().message("Incorrect Password.");

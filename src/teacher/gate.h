@@ -23,6 +23,7 @@ public:
 private:
     QLineEdit* EnterPassword;
     std::string stored_;
+    bool readable_ = false;
 };
 
 class ChangePassword : public QDialog {

@@ -57,7 +57,7 @@ Manager::Manager(QWidget* parent) : Backdrop("images/wm-back.jpg", parent) {
     auto icon = [](const char* name) {
         return QIcon(LoadPicture(QString("images/tb-%1.png").arg(name)));
     };
-    Toolbar1->addAction(icon("back"), "Return to Main Screen", this, &Manager::quit);
+    Toolbar1->addAction(icon("quit"), "Return to Main Screen", this, &Manager::quit);
     Toolbar1->addAction(icon("info"), "Program Info", this, [this] {
         AboutForm form(this);
         RunModal(form);

@@ -69,8 +69,12 @@ MergeForm::MergeForm(QWidget* parent) : QDialog(parent) {
         Label1->setText(names.isEmpty() ? "Select two or more lists to merge."
                                         : "Merge lists: " + names.join(", "));
     });
-    Guarded([&] { data_ = ReadAllLines(ListPath()); });
-    for (const auto& name : ListNames(ListPath())) {
+    std::vector<std::string> names;
+    Guarded([&] {
+        data_ = ReadAllLines(ListPath());
+        names = ListNames(ListPath());
+    });
+    for (const auto& name : names) {
         if (name == kNoLists) continue;
         TheLists->addItem(MergeLine(name, RecordLines(data_, name).size()));
     }

@@ -166,6 +166,15 @@ void TeacherRoadTest::gateRefusesAndIgnoresCase() {
     pressTitleEntry(title, "Teacher Management");
     QVERIFY(Showing<Manager>());
     QCOMPARE(f.dialogs.texts().size(), 1);  // no alert for a password of the teacher's own
+
+    // A settings file that cannot be read opens nothing, not even for an empty password.
+    QFile::remove(f.path("wmdata.dat"));
+    PasswordForm gate;
+    gate.confirm();
+    QCOMPARE(f.dialogs.shown[f.dialogs.shown.size() - 2].title, "File Error");
+    QVERIFY(f.dialogs.shown[f.dialogs.shown.size() - 2].text.contains("wmdata.dat"));
+    QCOMPARE(f.dialogs.last(), "Incorrect Password.");
+    QCOMPARE(gate.result(), int(QDialog::Rejected));
 }
 
 void TeacherRoadTest::changePasswordChecks_data() {
