@@ -71,5 +71,9 @@ TEST(KilledSave, FileIsAlwaysTheOldOrTheNew) {
         WriteAllLines(path, oldLines);
     }
     EXPECT_GT(sawOld + sawNew, 0);
+    // A killed save leaves at most its one temporary file behind, which the next save reuses.
+    EXPECT_LE(std::distance(std::filesystem::directory_iterator(folder),
+                            std::filesystem::directory_iterator()),
+              2);
     std::filesystem::remove_all(folder);
 }
