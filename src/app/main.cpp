@@ -10,6 +10,7 @@
 #include "platform/sound.h"
 #include "shell/screens.h"
 #include "shell/style.h"
+#include "teacher/teacher_kit.h"
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
@@ -28,6 +29,7 @@ int main(int argc, char** argv) {
     wm::ApplyAppStyle();
     wm::RegisterBuiltInScenes();
     wm::RegisterShellScreens();
+    wm::RegisterTeacherScreens();
     wm::OpenScreen("BlackBack");
     const int rc = app.exec();
     music.close();

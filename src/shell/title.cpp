@@ -1,5 +1,6 @@
 #include "shell/title.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDesktopServices>
@@ -77,7 +78,14 @@ Title::Title(QWidget* parent) : Backdrop("images/wm-title.jpg", parent) {
     };
     Toolbar1->setIconSize(QSize(ScreenFont(14).pointSize() * 2, ScreenFont(14).pointSize() * 2));
     auto* teacher = Toolbar1->addAction(icon("teacher"), "Teacher Management");
-    teacher->setEnabled(false);  // the teacher's screens are not part of this build yet
+    // The gate is registered by the teacher's screens; without them the entry stays grey.
+    teacher->setEnabled(HasScreen("PasswordForm"));
+    connect(teacher, &QAction::triggered, this, [this] {
+        // The manager replaces the title only behind a right password.
+        leavingForGame_ = true;
+        OpenScreen("PasswordForm", this);
+        leavingForGame_ = false;
+    });
     Toolbar1->addAction(icon("scores"), "High Scores", this, &Title::openHighScores);
     Toolbar1->addAction(icon("info"), "Program Info", this, &Title::openAbout);
     Toolbar1->addAction(icon("help"), "Help", this, &Title::openHelp);

@@ -1,0 +1,124 @@
+#include "teacher/program_options.h"
+
+#include <QButtonGroup>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "core/display_file.h"
+#include "core/settings_file.h"
+#include "core/shared_state.h"
+#include "platform/dialogs.h"
+#include "platform/services.h"
+#include "platform/text.h"
+#include "shell/style.h"
+#include "teacher/teacher_kit.h"
+
+namespace wm {
+
+namespace {
+QHBoxLayout* SaveCancelRow(QDialog* d, const QString& okText, QPushButton** ok) {
+    auto* row = new QHBoxLayout;
+    auto* cancel = NamedButton("Command2", "Cancel", d);
+    *ok = NamedButton("Command1", okText, d, true);
+    row->addWidget(cancel);
+    row->addStretch();
+    row->addWidget(*ok);
+    QObject::connect(cancel, &QPushButton::clicked, d, &QDialog::reject);
+    return row;
+}
+}  // namespace
+
+SoundOptions::SoundOptions(QWidget* parent) : QDialog(parent) {
+    setObjectName("SoundOptions");
+    QVBoxLayout* layout = DialogBody(this, "Sound Options");
+    auto* frame = new QGroupBox("Choose the default sound setting", this);
+    frame->setFont(ScreenFont(12, true));
+    auto* inner = new QVBoxLayout(frame);
+    SoundOn = new QRadioButton("Sound is  ON  by default. (Best for stand-alone computers)", frame);
+    SoundOn->setObjectName("SoundOn");
+    SoundOff =
+        new QRadioButton("Sound is  OFF  by default. (Best for running over networks)", frame);
+    SoundOff->setObjectName("SoundOff");
+    for (QRadioButton* b : {SoundOn, SoundOff}) {
+        b->setFont(ScreenFont(12));
+        inner->addWidget(b);
+    }
+    layout->addWidget(frame);
+    QPushButton* ok;
+    layout->addLayout(SaveCancelRow(this, "Save", &ok));
+    connect(ok, &QPushButton::clicked, this, &SoundOptions::save);
+    Guarded([&] {
+        const std::string line = ReadSettings(Shared().AppPath).lines[kSoundLine];
+        // Any other text leaves both buttons clear.
+        if (line == "Sound On") SoundOn->setChecked(true);
+        if (line == "Sound Off") SoundOff->setChecked(true);
+    });
+    WidenToScreen(this, 0.4);
+}
+
+void SoundOptions::save() {
+    // The running SoundDefault stays: the new default counts from the next start.
+    if (Guarded([&] {
+            RewriteSettingsLine(Shared().AppPath, kSoundLine,
+                                SoundOn->isChecked() ? "Sound On" : "Sound Off");
+        }))
+        accept();
+}
+
+EnableDisable::EnableDisable(QWidget* parent) : QDialog(parent) {
+    setObjectName("EnableDisable");
+    QVBoxLayout* layout = DialogBody(this, "Show/Hide Games");
+    findChild<QWidget*>("Heading")->setObjectName("Label1");
+    layout->addWidget(NamedLabel(
+        "Direction", "To hide a game, uncheck the box before it on the list below.", this));
+    auto* columns = new QHBoxLayout;
+    List1 = NamedList("List1", this);
+    columns->addWidget(List1, 2);
+    auto* frame = new QGroupBox("Title Screen Icons", this);
+    frame->setFont(ScreenFont(12, true));
+    auto* inner = new QVBoxLayout(frame);
+    const char* captions[3] = {"Large Icons", "Medium Icons", "Small Icons"};
+    for (int i = 0; i < 3; ++i) {
+        Option1[i] = new QRadioButton(captions[i], frame);
+        Option1[i]->setObjectName(QString("Option1_%1").arg(i));
+        Option1[i]->setFont(ScreenFont(12));
+        inner->addWidget(Option1[i]);
+    }
+    inner->addStretch();
+    columns->addWidget(frame, 1);
+    layout->addLayout(columns, 1);
+    QPushButton* ok;
+    layout->addLayout(SaveCancelRow(this, "Apply", &ok));
+    connect(ok, &QPushButton::clicked, this, &EnableDisable::apply);
+
+    const SharedState& s = Shared();
+    const DisplaySettings d = ReadDisplaySettings(AppFilePath(kDisplayFileName));
+    for (int i = 1; i <= s.GameCount; ++i) {
+        auto* item = new QListWidgetItem(toQ(s.GameNames[i]), List1);
+        item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
+        item->setCheckState(d.isHidden(s.GameNames[i]) ? Qt::Unchecked : Qt::Checked);
+    }
+    const double scales[3] = {DisplaySettings::LargeIcons().scale,
+                              DisplaySettings::MediumIcons().scale,
+                              DisplaySettings::SmallIcons().scale};
+    for (int i = 0; i < 3; ++i) Option1[i]->setChecked(d.scale == scales[i]);
+    SizeToScreen(this, 0.5, 0.75);
+}
+
+void EnableDisable::apply() {
+    if (!dialogs().yesNo("Apply these changes?")) return;
+    DisplaySettings d = Option1[2]->isChecked()   ? DisplaySettings::SmallIcons()
+                        : Option1[1]->isChecked() ? DisplaySettings::MediumIcons()
+                                                  : DisplaySettings::LargeIcons();
+    for (int i = 0; i < List1->count(); ++i) {
+        if (List1->item(i)->checkState() != Qt::Checked)
+            d.hidden.push_back(fromQ(List1->item(i)->text()));
+    }
+    if (Guarded([&] { WriteDisplaySettings(AppFilePath(kDisplayFileName), d); })) accept();
+}
+
+}  // namespace wm
