@@ -5,6 +5,7 @@
 
 #include "core/rng.h"
 #include "core/shared_state.h"
+#include "games/puzzles/word_maze/word_maze_rules.h"
 #include "games/puzzles/word_search/word_search_rules.h"
 
 namespace {
@@ -59,8 +60,43 @@ void BM_WordSearchWorstCase(benchmark::State& st) {
     }
 }
 
+void BM_WordMazeHardest(benchmark::State& st) {
+    wm::SharedState state = BigList(15);
+    wm::SystemRng rng;
+    for (auto _ : st) {
+        wm::word_maze::WordMazeState m;
+        auto r = wm::word_maze::startRound(state, m, rng);
+        if (!r.ok) st.SkipWithError("no maze");
+        benchmark::DoNotOptimize(m);
+    }
+}
+
+// The worst case: 15 words of 25 letters would fill every cell of the board, so the walk runs
+// into itself and all 1001 attempts fail.
+void BM_WordMazeWorstCase(benchmark::State& st) {
+    wm::SharedState state;
+    for (int i = 1; i <= 15; ++i) state.Words[i] = std::string(25, static_cast<char>('a' + i));
+    state.WordCount = 15;
+    state.Difficulty = 15;
+    wm::SystemRng rng;
+    for (auto _ : st) {
+        wm::word_maze::WordMazeState m;
+        auto r = wm::word_maze::startRound(state, m, rng);
+        if (r.ok) st.SkipWithError("built");
+        benchmark::DoNotOptimize(m);
+    }
+}
+
 }  // namespace
 
+BENCHMARK(BM_WordMazeHardest)
+    ->Unit(benchmark::kMillisecond)
+    ->Repetitions(5)
+    ->ReportAggregatesOnly();
+BENCHMARK(BM_WordMazeWorstCase)
+    ->Unit(benchmark::kMillisecond)
+    ->Repetitions(5)
+    ->ReportAggregatesOnly();
 BENCHMARK(BM_WordSearch20Of1000)
     ->Unit(benchmark::kMillisecond)
     ->Repetitions(5)
