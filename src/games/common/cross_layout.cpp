@@ -18,6 +18,15 @@ bool cellAgrees(const CrossBoard& board, int col, int row, char wanted, bool acr
     return board.at(col - 1, row) == 0 && board.at(col + 1, row) == 0;
 }
 
+// A word that would lie wholly on letters already placed (the same word twice in the list, laid
+// over its twin) gets no cell of its own and would take its twin's start entry, leaving a slot
+// short and the puzzle impossible to finish. Such a placing is refused.
+bool takesNewCell(const CrossBoard& board, int col, int row, int length, bool across) {
+    for (int i = 0; i < length; ++i)
+        if (board.at(across ? col + i : col, across ? row : row + i) == 0) return true;
+    return false;
+}
+
 }  // namespace
 
 // The fit is one tighter than the board at both ends (x - before > 0 and x + after < cols):
@@ -35,6 +44,7 @@ bool fitAcross(CrossBoard& board, const std::string& text, int index, int x, int
     if (board.at(x - k, y) != 0) return false;
 
     const int start = x - k + 1;
+    if (!takesNewCell(board, start, y, Len(text), true)) return false;
     for (int i = 0; i < Len(text); ++i) board.CrossLetters[start + i][y] = text[i];
     board.CrossWordAt[start][y][kAcross] = static_cast<short>(index);
     return true;
@@ -53,6 +63,7 @@ bool fitDown(CrossBoard& board, const std::string& text, int index, int x, int y
     if (board.at(x, y - k) != 0) return false;
 
     const int start = y - k + 1;
+    if (!takesNewCell(board, x, start, Len(text), false)) return false;
     for (int i = 0; i < Len(text); ++i) board.CrossLetters[x][start + i] = text[i];
     board.CrossWordAt[x][start][kDown] = static_cast<short>(index);
     return true;

@@ -168,6 +168,9 @@ TEST(CrossLayout, NeighbourCapAndAgreementRules) {
         {"runs through agreeing letters", "BCD", 5, 10, 1, true, true},
         {"disagreeing letter", "BXD", 5, 10, 1, true, false},
         {"case counts", "Bc", 5, 10, 1, true, false},
+        // The same word laid wholly over its twin would have no cell of its own.
+        {"twin laid over a word", "BC", 5, 10, 1, true, false},
+        {"twin laid over, down", "AB", 5, 9, 1, false, false},
         // Down through "AB" and on: the caps and the agreement hold down as well.
         {"down through agreeing letters", "ABE", 5, 9, 1, false, true},
         {"cap above taken", "BE", 5, 10, 1, false, false},
