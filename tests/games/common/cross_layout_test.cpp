@@ -1,0 +1,290 @@
+#include "games/common/cross_layout.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/rng.h"
+
+using namespace wm;
+using namespace wm::cross;
+
+namespace {
+
+std::vector<std::string> list(std::vector<std::string> words) {
+    words.insert(words.begin(), "");  // 1-based
+    return words;
+}
+
+// The letters of row `row` from column 1 to `cols`, "." for a free cell.
+std::string rowText(const CrossBoard& b, int row, int cols = 25) {
+    std::string s;
+    for (int c = 1; c <= cols; ++c) s += b.at(c, row) ? b.at(c, row) : '.';
+    return s;
+}
+std::string colText(const CrossBoard& b, int col, int rows = 19) {
+    std::string s;
+    for (int r = 1; r <= rows; ++r) s += b.at(col, r) ? b.at(col, r) : '.';
+    return s;
+}
+
+// A board holding one word down, as the first word stands.
+CrossBoard boardWithDown(const std::string& word, int col, int row) {
+    CrossBoard b;
+    for (std::size_t i = 0; i < word.size(); ++i) b.CrossLetters[col][row + i] = word[i];
+    b.CrossWordAt[col][row][kDown] = 1;
+    return b;
+}
+
+}  // namespace
+
+TEST(CrossLayout, FirstWordGoesDownCentredInOneOfTheFirstTenColumns) {
+    struct Case {
+        LayoutParams params;
+        std::string word;
+        int col;
+        int firstRow;
+    };
+    const Case cases[] = {
+        {kCrosswordParams, "CAT", 7, 9},                 // Int((19 - 3) / 2) = 8
+        {kCrosswordParams, "ABCD", 10, 8},               // Int(7.5) = 7
+        {kCrosswordParams, std::string(19, 'Q'), 1, 1},  // a 19-letter word fills rows 1..19
+        {kBlindTilesParams, "CAT", 4, 6},                // Int((14 - 3) / 2) = 5
+        {kBlindTilesParams, std::string(14, 'Q'), 2, 1},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.word);
+        ScriptedRng rng;
+        rng.pick(1, 1).pick(c.col, 10);
+        const LayoutResult r = layOut(list({c.word}), 1, 1, c.params, rng);
+        ASSERT_TRUE(r.ok);
+        EXPECT_EQ(r.target, 1);
+        EXPECT_EQ(rng.randomizeCount, 1);  // reseeded before the first draw
+        EXPECT_EQ(r.board.CrossWordAt[c.col][c.firstRow][kDown], 1);
+        std::string expected(c.params.rows, '.');
+        expected.replace(c.firstRow - 1, c.word.size(), c.word);
+        EXPECT_EQ(colText(r.board, c.col, c.params.rows), expected);
+        ASSERT_EQ(r.order.size(), 1u);
+        EXPECT_EQ(r.order[0].direction, kDown);
+    }
+}
+
+TEST(CrossLayout, FirstWordLongerThanTheBoardFailsTheAttempt) {
+    ScriptedRng rng(0.99);  // always the last word: the 20-letter one
+    const LayoutResult r = layOut(list({"CAT", std::string(20, 'Q')}), 2, 2, kCrosswordParams, rng);
+    EXPECT_FALSE(r.ok);
+    EXPECT_EQ(r.message, "Crossword creation failed. Please try another word list.");
+    EXPECT_EQ(r.attempts, 1);
+}
+
+TEST(CrossLayout, SecondWordCrossesTheFirstAtTheFirstSharedLetter) {
+    ScriptedRng rng;
+    // First word 1 "CAT" in column 5; then word 2 "HAT", scanned from column 1.
+    rng.pick(1, 2).pick(5, 10).pick(2, 2).pick(1, 2);
+    const LayoutResult r = layOut(list({"CAT", "HAT"}), 2, 2, kCrosswordParams, rng);
+    ASSERT_TRUE(r.ok);
+    EXPECT_EQ(rowText(r.board, 10), "...HAT...................");
+    EXPECT_EQ(r.board.CrossWordAt[4][10][kAcross], 2);
+    EXPECT_EQ(rng.randomizeCount, 1);  // once an attempt, at the first word
+    ASSERT_EQ(r.order.size(), 2u);
+    EXPECT_EQ(r.order[1].index, 2);
+    EXPECT_EQ(r.order[1].col, 4);
+
+    // Scanning from the far corner finds the last shared letter first: the T.
+    ScriptedRng back;
+    back.pick(1, 2).pick(5, 10).pick(2, 2).pick(2, 2);
+    const LayoutResult b = layOut(list({"CAT", "TOT"}), 2, 2, kCrosswordParams, back);
+    ASSERT_TRUE(b.ok);
+    EXPECT_EQ(rowText(b.board, 11), "....TOT..................");  // T on the crossing, k = 1
+}
+
+TEST(CrossLayout, FitLimitsAreOneTighterThanTheBoard) {
+    struct Case {
+        const char* name;
+        LayoutParams params;
+        int col;  // of a one-letter first word "A" in the middle row
+        std::string word;
+        int direction;  // 0: not placed
+        int startCol;
+        int startRow;
+    };
+    // Row of "A": crossword Int(18/2)+1 = 10, blind tiles Int(13/2)+1 = 7.
+    const std::string b14(14, 'B');
+    const Case cases[] = {
+        {"ends on column 24", kCrosswordParams, 10, "A" + b14, kAcross, 10, 10},
+        {"would end on 25", kCrosswordParams, 10, "A" + b14 + "B", 0, 0, 0},
+        {"starts on column 2", kCrosswordParams, 10, "BBBBBBBBA", kAcross, 2, 10},
+        {"would start on 1", kCrosswordParams, 10, "BBBBBBBBBA", 0, 0, 0},
+        // Column 1: no across word can cross it, down words still can.
+        {"down to row 18", kCrosswordParams, 1, "ABBBBBBBB", kDown, 1, 10},
+        {"down to row 19", kCrosswordParams, 1, "ABBBBBBBBB", 0, 0, 0},
+        {"down from row 2", kCrosswordParams, 1, "BBBBBBBBA", kDown, 1, 2},
+        {"down from row 1", kCrosswordParams, 1, "BBBBBBBBBA", 0, 0, 0},
+        {"tiles end on 14", kBlindTilesParams, 10, "ABBBB", kAcross, 10, 7},
+        {"tiles would end on 15: down", kBlindTilesParams, 10, "ABBBBB", kDown, 10, 7},
+        {"tiles down to 13", kBlindTilesParams, 1, "ABBBBBB", kDown, 1, 7},
+        {"tiles down to 14", kBlindTilesParams, 1, "ABBBBBBB", 0, 0, 0},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const int row = c.params.rows == 19 ? 10 : 7;
+        CrossBoard board = boardWithDown("A", c.col, row);
+        const int k = static_cast<int>(c.word.find('A')) + 1;
+        const bool across = fitAcross(board, c.word, 2, c.col, row, k, c.params);
+        const bool down = !across && fitDown(board, c.word, 2, c.col, row, k, c.params);
+        const int direction = across ? kAcross : down ? kDown : 0;
+        EXPECT_EQ(direction, c.direction);
+        if (direction != 0) {
+            EXPECT_EQ(board.CrossWordAt[c.startCol][c.startRow][direction], 2);
+        } else {
+            EXPECT_EQ(board, boardWithDown("A", c.col, row));  // untouched
+        }
+    }
+    // Hence a word of 24 letters or more never crosses across, of 18 or more never down.
+}
+
+TEST(CrossLayout, NeighbourCapAndAgreementRules) {
+    // "AB" down in column 5 (rows 9, 10) and "BC" across on row 10.
+    CrossBoard base = boardWithDown("AB", 5, 9);
+    ASSERT_TRUE(fitAcross(base, "BC", 2, 5, 10, 1, kCrosswordParams));
+    ASSERT_EQ(rowText(base, 10), "....BC...................");
+
+    struct Case {
+        const char* name;
+        std::string word;
+        int x, y, k;
+        bool across;
+        bool placed;
+    };
+    const Case cases[] = {
+        // The free cell (6, 9) has the C of "BC" below it.
+        {"free cell beside a letter", "AD", 5, 9, 1, true, false},
+        {"free cells clear", "DA", 5, 9, 2, true, true},
+        // "AB" would be followed by "C"... the cell after the end must be free.
+        {"cell after the end taken", "XB", 5, 10, 2, true, false},
+        {"cell before the start taken", "CX", 6, 10, 1, true, false},
+        // Running through agreeing letters: "BCD" lays over "BC" and carries on.
+        {"runs through agreeing letters", "BCD", 5, 10, 1, true, true},
+        {"disagreeing letter", "BXD", 5, 10, 1, true, false},
+        {"case counts", "Bc", 5, 10, 1, true, false},
+        // The same word laid wholly over its twin would have no cell of its own.
+        {"twin laid over a word", "BC", 5, 10, 1, true, false},
+        {"twin laid over, down", "AB", 5, 9, 1, false, false},
+        // Down through "AB" and on: the caps and the agreement hold down as well.
+        {"down through agreeing letters", "ABE", 5, 9, 1, false, true},
+        {"cap above taken", "BE", 5, 10, 1, false, false},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        CrossBoard board = base;
+        const bool placed = c.across ? fitAcross(board, c.word, 3, c.x, c.y, c.k, kCrosswordParams)
+                                     : fitDown(board, c.word, 3, c.x, c.y, c.k, kCrosswordParams);
+        EXPECT_EQ(placed, c.placed);
+        if (!placed) {
+            EXPECT_EQ(board, base);
+        }
+    }
+
+    CrossBoard through = base;
+    ASSERT_TRUE(fitAcross(through, "BCD", 3, 5, 10, 1, kCrosswordParams));
+    EXPECT_EQ(rowText(through, 10), "....BCD..................");
+    EXPECT_EQ(through.CrossWordAt[5][10][kAcross], 3);  // the longer word takes the start cell
+}
+
+TEST(CrossLayout, TwoWordsSharingNoLetterFail) {
+    // Crossword: the first failed attempt lowers the target to 1 and gives up.
+    ScriptedRng rng(0.75);  // after the first word, always word 2
+    rng.pick(1, 2).pick(3, 10);
+    const LayoutResult r = layOut(list({"abc", "xyz"}), 2, 2, kCrosswordParams, rng);
+    EXPECT_FALSE(r.ok);
+    EXPECT_EQ(r.message, kFailedMessage);
+    EXPECT_EQ(r.attempts, 1);
+    EXPECT_EQ(r.target, 1);
+    // 2 draws for the first word, then 100 tries of a draw and a scan order.
+    EXPECT_EQ(rng.draws, 2 + 100 * 2);
+
+    // Blind tiles: a hundred failures are only counted, the 101st lowers the target to 2, and
+    // two already fails, though two words might have fitted.
+    ScriptedRng tiles(0.75);
+    const LayoutResult t = layOut(list({"abc", "xyz", "abx"}), 3, 3, kBlindTilesParams, tiles);
+    EXPECT_FALSE(t.ok);
+    EXPECT_EQ(t.attempts, 101);
+    EXPECT_EQ(t.restarts, 101);
+    EXPECT_EQ(t.target, 2);
+}
+
+TEST(CrossLayout, FailedAttemptsLowerTheTargetUntilTheWordsFit) {
+    // Only "CAT" and "HAT" cross; "xyz" never does. Target 3: the first attempt places CAT
+    // and HAT, fails on xyz, and the second attempt at 2 words succeeds.
+    ScriptedRng rng;
+    rng.pick(1, 3).pick(5, 10).pick(2, 3).pick(1, 2);
+    for (int i = 0; i < 100; ++i) rng.pick(3, 3).pick(1, 2);
+    rng.pick(2, 3).pick(3, 10).pick(2, 3).pick(1, 3).pick(1, 2);  // HAT first, then CAT
+    const LayoutResult r = layOut(list({"CAT", "HAT", "xyz"}), 3, 3, kCrosswordParams, rng);
+    ASSERT_TRUE(r.ok);
+    EXPECT_EQ(r.target, 2);
+    EXPECT_EQ(r.attempts, 2);
+    EXPECT_EQ(rng.pending(), 0u);
+    // The first attempt's board is gone: HAT stands down in column 3, CAT across it.
+    EXPECT_EQ(colText(r.board, 3), "........HAT........");
+    EXPECT_EQ(rowText(r.board, 10), ".CAT.....................");
+    EXPECT_EQ(colText(r.board, 5), "...................");
+    EXPECT_EQ(r.board.CrossWordAt[3][9][kDown], 2);
+    EXPECT_EQ(r.board.CrossWordAt[2][10][kAcross], 1);
+    ASSERT_EQ(r.order.size(), 2u);
+    EXPECT_EQ(r.order[0].index, 2);
+    EXPECT_EQ(r.order[1].index, 1);
+}
+
+TEST(CrossLayout, MoreWordsWantedThanTheListHoldsEndsWithoutHanging) {
+    // A generator stuck on a placed word, and a target beyond the list: both end.
+    ScriptedRng stuck(0.0);
+    const LayoutResult r = layOut(list({"CAT", "HAT"}), 2, 2, kCrosswordParams, stuck);
+    EXPECT_FALSE(r.ok);
+    EXPECT_LT(stuck.draws, 5000);
+
+    ScriptedRng rng(0.75);
+    rng.pick(1, 2).pick(5, 10).pick(2, 2).pick(1, 2);
+    rng.pick(1, 2).pick(5, 10).pick(2, 2).pick(1, 2);  // the retry at 2
+    const LayoutResult t = layOut(list({"CAT", "HAT"}), 2, 5, kBlindTilesParams, rng);
+    EXPECT_FALSE(t.ok);  // 5, 4, 3 each fail a hundred and more times; 2 is never tried
+    EXPECT_EQ(t.attempts, 101 + 2);
+
+    ScriptedRng none;
+    EXPECT_FALSE(layOut(list({}), 0, 2, kCrosswordParams, none).ok);
+    EXPECT_FALSE(layOut(list({"CAT"}), 1, 0, kCrosswordParams, none).ok);
+}
+
+TEST(CrossLayout, SameWordTwiceIsPlacedTwice) {
+    ScriptedRng rng;
+    rng.pick(1, 2).pick(3, 10).pick(2, 2).pick(1, 2);
+    const LayoutResult r = layOut(list({"CAT", "CAT"}), 2, 2, kBlindTilesParams, rng);
+    ASSERT_TRUE(r.ok);
+    ASSERT_EQ(r.order.size(), 2u);
+    EXPECT_EQ(r.order[0].index, 1);
+    EXPECT_EQ(r.order[1].index, 2);
+    EXPECT_EQ(rowText(r.board, 6, 15), "..CAT..........");
+}
+
+TEST(CrossLayout, RealGeneratorLaysOutAConsistentBoard) {
+    std::vector<std::string> words = list({"apple", "banana", "cherry", "grape", "lemon", "mango",
+                                           "orange", "peach", "pear", "plum"});
+    SystemRng rng;
+    for (int round = 0; round < 50; ++round) {
+        const LayoutResult r = layOut(words, 10, 8, kCrosswordParams, rng);
+        ASSERT_TRUE(r.ok);
+        ASSERT_EQ(static_cast<int>(r.order.size()), r.target);
+        for (const PlacedWord& w : r.order) {
+            const std::string& text = words[w.index];
+            for (std::size_t i = 0; i < text.size(); ++i) {
+                const int c = w.col + (w.direction == kAcross ? static_cast<int>(i) : 0);
+                const int row = w.row + (w.direction == kDown ? static_cast<int>(i) : 0);
+                ASSERT_EQ(r.board.at(c, row), text[i]);
+            }
+            EXPECT_EQ(r.board.CrossWordAt[w.col][w.row][w.direction], w.index);
+        }
+        for (int c = 0; c < kTableCols; ++c) EXPECT_EQ(r.board.at(c, 0), 0);
+        for (int row = 0; row < kTableRows; ++row) EXPECT_EQ(r.board.at(0, row), 0);
+    }
+}

@@ -1,0 +1,175 @@
+#include "games/common/cross_play.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "core/shared_state.h"
+
+using namespace wm;
+using namespace wm::cross;
+
+namespace {
+
+// "CAT" (word 1) down at column 3, rows 2..4; "HAT" (word 2) across row 3, columns 2..4.
+// Cells: C 27, A 52, T 77; H 51, A 52, T 53.
+PlayBoard catHat() {
+    CrossBoard b;
+    for (int k = 0; k < 3; ++k) {
+        b.CrossLetters[3][2 + k] = "CAT"[k];
+        b.CrossLetters[2 + k][3] = "HAT"[k];
+    }
+    b.CrossWordAt[3][2][kDown] = 1;
+    b.CrossWordAt[2][3][kAcross] = 2;
+    return makePlayBoard(b, 25, 19);
+}
+
+std::string pinks(const PlayBoard& b) {
+    std::string s;
+    for (int i = 0; i < b.cells(); ++i)
+        if (b.colour[i] == TileColour::Pink) s += std::to_string(i) + " ";
+    return s;
+}
+
+void type(PlayBoard& b, const std::string& keys, const std::string& word) {
+    for (char k : keys) pressKey(b, k, word);
+}
+
+}  // namespace
+
+TEST(CrossPlay, BoardShowsOnlyTheLettersCells) {
+    PlayBoard b = catHat();
+    int shown = 0;
+    for (bool v : b.visible) shown += v;
+    EXPECT_EQ(shown, 5);
+    EXPECT_TRUE(b.visible[27] && b.visible[51] && b.visible[52] && b.visible[53] && b.visible[77]);
+    EXPECT_EQ(b.caption[52], 0);  // blank until typed
+}
+
+TEST(CrossPlay, ClicksOnACrossingCellAlternateAcrossAndDown) {
+    PlayBoard b = catHat();
+    ASSERT_TRUE(clickCell(b, 52));
+    EXPECT_TRUE(b.SelAcross);
+    EXPECT_EQ(b.SelWord, 2);
+    EXPECT_EQ(b.SelStart, 51);
+    EXPECT_EQ(b.Cursor, 51);
+    EXPECT_EQ(pinks(b), "51 52 53 ");
+    EXPECT_TRUE(b.helpShown);
+
+    ASSERT_TRUE(clickCell(b, 52));
+    EXPECT_TRUE(b.SelDown);
+    EXPECT_EQ(b.SelWord, 1);
+    EXPECT_EQ(b.SelStart, 27);
+    EXPECT_EQ(pinks(b), "27 52 77 ");
+
+    ASSERT_TRUE(clickCell(b, 52));
+    EXPECT_TRUE(b.SelAcross);
+    EXPECT_EQ(b.SelWord, 2);
+
+    ASSERT_TRUE(clickCell(b, 77));  // a cell of one word only
+    EXPECT_TRUE(b.SelDown);
+    EXPECT_EQ(b.SelStart, 27);
+}
+
+TEST(CrossPlay, TypingSolvesCorrectsAndStopsAtTheWordsLength) {
+    PlayBoard b = catHat();
+    clickCell(b, 53);
+    EXPECT_EQ(pressKey(b, 'h', "hat"), KeyResult::Typed);
+    EXPECT_EQ(b.caption[51], 'H');
+    EXPECT_EQ(pressKey(b, 'a', "hat"), KeyResult::Typed);
+    EXPECT_EQ(pressKey(b, 'x', "hat"), KeyResult::Wrong);
+    EXPECT_EQ(pinks(b), "");  // the wrong answer shows by the pink going
+    EXPECT_EQ(b.caption[53], 'X');
+    EXPECT_EQ(pressKey(b, 'y', "hat"), KeyResult::Ignored);  // one past the word: nothing
+    EXPECT_EQ(b.Cursor, 54);
+    // Backspace drops a letter each; the extra key counted in Typed though the cursor stayed,
+    // so from there the cursor runs one cell behind the letters.
+    EXPECT_EQ(pressKey(b, kBackspace, "hat"), KeyResult::Typed);
+    EXPECT_EQ(b.Cursor, 53);
+    EXPECT_EQ(b.caption[53], 0);
+    pressKey(b, kBackspace, "hat");
+    EXPECT_EQ(b.Typed, "HA");
+    EXPECT_EQ(b.caption[52], 0);
+    EXPECT_EQ(pressKey(b, 't', "hat"), KeyResult::Solved);  // Typed is right...
+    EXPECT_EQ(b.caption[52], 'T');                          // ...though shown one cell early
+
+    PlayBoard fresh = catHat();
+    clickCell(fresh, 51);
+    type(fresh, "ha", "hat");
+    EXPECT_EQ(pressKey(fresh, 't', "hat"), KeyResult::Solved);
+    endSelectionSolved(fresh);
+    EXPECT_FALSE(fresh.selected());
+    EXPECT_FALSE(fresh.helpShown);
+    EXPECT_EQ(pressKey(fresh, 'x', "hat"), KeyResult::Ignored);  // nothing selected
+
+    // A space adds nothing to Typed but moves the cursor.
+    PlayBoard spaced = catHat();
+    clickCell(spaced, 51);
+    pressKey(spaced, ' ', "hat");
+    EXPECT_EQ(spaced.Typed, "");
+    EXPECT_EQ(spaced.Cursor, 52);
+}
+
+TEST(CrossPlay, FlashThenSolvedCellsSteerTheNextClick) {
+    PlayBoard b = catHat();
+    clickCell(b, 51);
+    type(b, "hat", "hat");
+    endSelectionSolved(b);
+    for (int t = 1; t <= 10; ++t) {
+        flashTick(b);
+        EXPECT_EQ(b.colour[51], t % 2 ? TileColour::Yellow : TileColour::Pink);
+    }
+    flashTick(b);
+    EXPECT_FALSE(b.flashing);
+    for (int i : {51, 52, 53}) EXPECT_EQ(b.colour[i], TileColour::Green);
+
+    // The across word is solved: the crossing cell selects the down word.
+    ASSERT_TRUE(clickCell(b, 52));
+    EXPECT_TRUE(b.SelDown);
+    type(b, "ca", "cat");
+    EXPECT_EQ(b.caption[52], 'A');  // solved letters are never overwritten, but typed
+    ASSERT_TRUE(giveAnswer(b, "cat"));
+    EXPECT_EQ(b.caption[27], 'C');
+    EXPECT_EQ(b.caption[77], 'T');
+    EXPECT_EQ(b.colour[77], TileColour::Green);
+    EXPECT_FALSE(giveAnswer(b, "cat"));  // no selection
+
+    // Solved both ways: a click does nothing at all.
+    EXPECT_FALSE(clickCell(b, 52));
+    EXPECT_FALSE(b.helpShown);
+}
+
+TEST(CrossPlay, EdgeTestsAreKeptAsDesigned) {
+    // A word down the last column, rows 18..19: cells 449 and 474.
+    CrossBoard edge;
+    edge.CrossLetters[25][18] = 'O';
+    edge.CrossLetters[25][19] = 'X';
+    edge.CrossWordAt[25][18][kDown] = 1;
+    // A word down the first column, rows 1..2: cells 0 and 25.
+    edge.CrossLetters[1][1] = 'A';
+    edge.CrossLetters[1][2] = 'B';
+    edge.CrossWordAt[1][1][kDown] = 2;
+    PlayBoard b = makePlayBoard(edge, 25, 19);
+
+    // The cell below 449 is the last one, which the tighter down test never looks at.
+    EXPECT_FALSE(clickCell(b, 449));
+    EXPECT_TRUE(clickCell(b, 474));
+    EXPECT_EQ(b.SelStart, 449);
+    EXPECT_EQ(b.SelWord, 1);
+    // Cell 25 has no cell "above" (25 - 25 is not above 0), so its word cannot be found from it.
+    EXPECT_TRUE(clickCell(b, 0));
+    EXPECT_EQ(b.SelWord, 2);
+    clickCell(b, 474);  // another word selected, so cell 25 is not pink
+    EXPECT_FALSE(clickCell(b, 25));
+}
+
+TEST(CrossPlay, EndOfTheGame) {
+    SharedState s;
+    s.Score = 1234.75;
+    EXPECT_TRUE(endGame(s, true));
+    EXPECT_EQ(s.Score, 1234);
+    s.Score = -0.5;
+    EXPECT_FALSE(endGame(s, true));
+    EXPECT_EQ(s.Score, -0.5);
+    EXPECT_EQ(scoreText(-250), "Score: -250");
+}

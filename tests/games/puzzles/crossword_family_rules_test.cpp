@@ -1,0 +1,209 @@
+// The crossword and blind tiles from a new round to the end of the game.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/rng.h"
+#include "core/shared_state.h"
+#include "games/puzzles/blind_tiles/blind_tiles_rules.h"
+#include "games/puzzles/crossword/crossword_rules.h"
+
+using namespace wm;
+
+namespace {
+
+SharedState listOf(const std::vector<std::string>& words, int difficulty) {
+    SharedState s;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        s.Words[i + 1] = words[i];
+        s.Meanings[i + 1] = "meaning of " + words[i];
+    }
+    s.WordCount = static_cast<short>(words.size());
+    s.Difficulty = difficulty;
+    return s;
+}
+
+// "CAT" down in column 5 (rows 9..11), "HAT" across row 10 from column 4.
+ScriptedRng catHatLayout() {
+    ScriptedRng rng;
+    rng.pick(1, 2).pick(5, 10).pick(2, 2).pick(1, 2);
+    return rng;
+}
+constexpr int kCatCell = 8 * 25 + 4;  // C at (5, 9)
+constexpr int kHatCell = 9 * 25 + 3;  // H at (4, 10)
+
+void typeWord(SharedState& s, crossword::CrosswordState& cw, const std::string& w, Rng& rng,
+              crossword::Outcome* last = nullptr) {
+    crossword::Outcome o = crossword::Outcome::None;
+    for (char c : w) o = crossword::pressKey(s, cw, c, rng);
+    if (last) *last = o;
+}
+
+}  // namespace
+
+TEST(CrosswordRules, RoundClampsDifficultyForGoodAndKeepsTheFirstScore) {
+    std::vector<std::string> eight = {"apple", "pear",  "plum", "peach",
+                                      "grape", "lemon", "lime", "melon"};
+    SharedState s = listOf(eight, 10);
+    s.Score = 777;
+    SystemRng rng;
+    crossword::CrosswordState cw;
+    ASSERT_TRUE(crossword::newRound(s, cw, true, rng).ok);
+    EXPECT_EQ(s.Difficulty, 8);  // lowered, and it stays lowered
+    EXPECT_EQ(s.Score, 777);     // the first round runs on what it finds
+    EXPECT_EQ(cw.scoreText, "Score: 0000");
+    EXPECT_EQ(cw.clue, "Click a word in the puzzle to see the clue.");
+    EXPECT_GE(s.PuzzleWordCount, 2);
+    EXPECT_LE(s.PuzzleWordCount, 8);
+
+    ASSERT_TRUE(crossword::newRound(s, cw, false, rng).ok);
+    EXPECT_EQ(s.Score, 0);
+    EXPECT_EQ(cw.scoreText, "Score: 0");
+    EXPECT_EQ(s.Difficulty, 8);
+
+    SharedState apart = listOf({"abc", "xyz"}, 2);
+    const crossword::RoundResult failed = crossword::newRound(apart, cw, false, rng);
+    EXPECT_FALSE(failed.ok);
+    EXPECT_EQ(failed.message, "Crossword creation failed. Please try another word list.");
+}
+
+TEST(CrosswordRules, RoadToAWin) {
+    SharedState s = listOf({"cat", "hat"}, 2);
+    ScriptedRng rng = catHatLayout();
+    crossword::CrosswordState cw;
+    ASSERT_TRUE(crossword::newRound(s, cw, false, rng).ok);
+    EXPECT_EQ(s.PuzzleWordCount, 2);
+
+    crossword::clickCell(s, cw, kHatCell);
+    EXPECT_EQ(cw.clue, "meaning of hat");
+    rng.pick(100, 1000);
+    crossword::Outcome o;
+    typeWord(s, cw, "HAT", rng, &o);
+    EXPECT_EQ(o, crossword::Outcome::Solved);
+    EXPECT_EQ(s.Score, (100 + 250) * 3);
+    EXPECT_EQ(cw.scoreText, "Score: 1050");
+    EXPECT_EQ(s.PuzzleWordCount, 1);
+
+    crossword::clickCell(s, cw, kCatCell);
+    EXPECT_EQ(cw.clue, "meaning of cat");
+    rng.pick(1, 1000);
+    typeWord(s, cw, "cat", rng, &o);
+    EXPECT_EQ(o, crossword::Outcome::GameEnds);  // at once, while the flash runs
+    EXPECT_TRUE(cw.board.flashing);
+    EXPECT_TRUE(cw.GameWon);
+    EXPECT_EQ(s.Score, 1050 + 251 * 3);
+    EXPECT_TRUE(cross::endGame(s, cw.GameWon));
+}
+
+TEST(CrosswordRules, GiveAnswerCostsAndIsGuardedAgainstKeys) {
+    SharedState s = listOf({"cat", "hat"}, 2);
+    ScriptedRng rng = catHatLayout();
+    crossword::CrosswordState cw;
+    ASSERT_TRUE(crossword::newRound(s, cw, false, rng).ok);
+
+    EXPECT_EQ(crossword::giveAnswer(s, cw, rng), crossword::Outcome::None);  // nothing selected
+    crossword::clickCell(s, cw, kHatCell);
+    crossword::buttonKeyDown(cw);  // a space typed onto the focused button
+    EXPECT_EQ(crossword::giveAnswer(s, cw, rng), crossword::Outcome::None);
+    EXPECT_EQ(s.PuzzleWordCount, 2);
+    crossword::buttonMouseDown(cw);
+    rng.pick(1, 500);
+    EXPECT_EQ(crossword::giveAnswer(s, cw, rng), crossword::Outcome::Solved);
+    EXPECT_EQ(s.Score, -501);
+
+    crossword::clickCell(s, cw, kCatCell);
+    rng.pick(500, 500);
+    EXPECT_EQ(crossword::giveAnswer(s, cw, rng), crossword::Outcome::GameEnds);
+    EXPECT_EQ(s.Score, -1501);
+    EXPECT_TRUE(cw.GameWon);
+    EXPECT_FALSE(cross::endGame(s, cw.GameWon));  // a negative score loses
+    EXPECT_STREQ(cross::kLoseTitle, "You lose!");
+}
+
+TEST(BlindTilesRules, RoadToAWinWithTheSameWordTwice) {
+    SharedState s = listOf({"cat", "cat", "tact"}, 3);
+    SystemRng rng;
+    blind_tiles::BlindTilesState bt;
+    ASSERT_TRUE(blind_tiles::newRound(s, bt, rng).ok);
+    ASSERT_EQ(s.PuzzleWordCount, 3);
+    ASSERT_EQ(bt.entries.size(), 3u);
+    ASSERT_EQ(bt.PlaceWord.size(), 4u);
+    for (int i = 1; i <= 3; ++i) EXPECT_EQ(bt.entries[i - 1], s.Words[bt.PlaceWord[i]]);
+
+    // Solve each place by clicking its first tile (twice when the crossing word comes first).
+    int solved = 0;
+    for (int col = 1; col <= 15; ++col) {
+        for (int row = 1; row <= 14; ++row) {
+            for (int dir : {cross::kAcross, cross::kDown}) {
+                const int index = bt.board.layout.wordAt(col, row, dir);
+                if (index == 0) continue;
+                const int cell = (row - 1) * 15 + col - 1;
+                blind_tiles::clickCell(bt, cell);
+                if (bt.board.SelWord != index || !bt.board.selected())
+                    blind_tiles::clickCell(bt, cell);
+                if (bt.board.SelWord != index || !bt.board.selected())
+                    continue;  // solved across it
+                blind_tiles::Outcome o = blind_tiles::Outcome::None;
+                for (char c : s.Words[index]) o = blind_tiles::pressKey(s, bt, c);
+                EXPECT_NE(o, blind_tiles::Outcome::Typed);
+                ++solved;
+                for (int t = 0; t < 11; ++t) cross::flashTick(bt.board);
+            }
+        }
+    }
+    // Solving one "cat" marks both entries.
+    for (std::size_t i = 0; i < bt.entries.size(); ++i) EXPECT_TRUE(bt.entrySolved[i]);
+    EXPECT_EQ(solved, 3) << [&] {
+        std::string t;
+        for (int r = 1; r <= 14; ++r) {
+            for (int c = 1; c <= 15; ++c)
+                t += bt.board.layout.at(c, r) ? bt.board.layout.at(c, r) : '.';
+            t += '\n';
+        }
+        return t;
+    }();
+    EXPECT_TRUE(bt.GameWon);
+    EXPECT_EQ(s.Score, 100 * (3 + 3 + 4));
+    EXPECT_EQ(bt.scoreText, "Score: 1000");
+}
+
+TEST(BlindTilesRules, WrongWordInASlotAndGiveAnswerToANegativeScore) {
+    SharedState s = listOf({"cat", "hat", "tact"}, 3);
+    SystemRng rng;
+    blind_tiles::BlindTilesState bt;
+    ASSERT_TRUE(blind_tiles::newRound(s, bt, rng).ok);
+    ASSERT_EQ(s.PuzzleWordCount, 3);
+    // The first placed word stands down from its first tile.
+    const int first = bt.PlaceWord[1];
+    int startCell = -1;
+    for (int col = 1; col <= 15 && startCell < 0; ++col)
+        for (int row = 1; row <= 14; ++row)
+            if (bt.board.layout.wordAt(col, row, cross::kDown) == first)
+                startCell = (row - 1) * 15 + col - 1;
+    ASSERT_GE(startCell, 0);
+    blind_tiles::clickCell(bt, startCell);
+    if (!bt.board.SelDown) blind_tiles::clickCell(bt, startCell);
+    ASSERT_EQ(bt.board.SelWord, first);
+    if (s.Words[first].size() == 3) {
+        const std::string other = s.Words[first] == "cat" ? "hat" : "cat";
+        blind_tiles::Outcome o = blind_tiles::Outcome::None;
+        for (char c : other) o = blind_tiles::pressKey(s, bt, c);
+        EXPECT_EQ(o, blind_tiles::Outcome::Wrong);  // another list word in the slot
+    }
+    EXPECT_EQ(blind_tiles::giveAnswer(s, bt), blind_tiles::Outcome::Solved);
+    EXPECT_EQ(s.Score, -1000);
+    EXPECT_TRUE(bt.entrySolved[0]);
+    EXPECT_FALSE(bt.entrySolved[1]);
+    EXPECT_FALSE(cross::endGame(s, true));
+}
+
+TEST(BlindTilesRules, ListThatCannotCrossGivesTheCrosswordsMessage) {
+    SharedState s = listOf({"abc", "def", "ghi"}, 3);
+    SystemRng rng;
+    blind_tiles::BlindTilesState bt;
+    const blind_tiles::RoundResult r = blind_tiles::newRound(s, bt, rng);
+    EXPECT_FALSE(r.ok);
+    EXPECT_EQ(r.message, "Crossword creation failed. Please try another word list.");
+    EXPECT_EQ(bt.Restarts, 101);
+}

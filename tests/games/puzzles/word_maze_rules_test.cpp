@@ -1,0 +1,202 @@
+#include "games/puzzles/word_maze/word_maze_rules.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/rng.h"
+#include "core/shared_state.h"
+
+using namespace wm;
+using namespace wm::word_maze;
+
+namespace {
+
+SharedState listOf(const std::vector<std::string>& words, int difficulty, bool definitions) {
+    SharedState s;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        s.Words[i + 1] = words[i];
+        s.Meanings[i + 1] = "meaning of " + words[i];
+    }
+    s.WordCount = static_cast<short>(words.size());
+    s.Difficulty = difficulty;
+    s.GameOptionOn = definitions ? kTrue : kFalse;
+    return s;
+}
+
+std::string board(const WordMazeState& m) {
+    std::string s;
+    for (int i = 0; i < static_cast<int>(m.caption.size()); ++i) {
+        if (i > 0 && i % m.MazeWidth == 0) s += '/';
+        s += m.caption[i];
+    }
+    return s;
+}
+
+std::string pinks(const WordMazeState& m) {
+    std::string s;
+    for (int i = 0; i < static_cast<int>(m.colour.size()); ++i)
+        if (m.colour[i] == CellColour::Pink) s += std::to_string(i) + " ";
+    return s;
+}
+
+// "cat" then "dog": C A O G on row 1, . T D . on row 2, the end on the G (cell 3).
+WordMazeState catDog(SharedState& state, ScriptedRng& rng) {
+    rng.pick(1, 2);                 // word 1
+    rng.pick(3, 8).pick(1, 2);      // A: odd draw, then right
+    rng.pick(5, 8).pick(2, 2);      // T: odd draw, then down
+    rng.pick(1, 2).pick(2, 2);      // word 1 is taken: word 2
+    rng.pick(2, 8).pick(3, 8);      // D: even redrawn, right
+    rng.pick(1, 8);                 // O: up
+    rng.pick(7, 8).pick(3, 8);      // G: left is taken, then right
+    rng.pick(24, 26).pick(26, 26);  // free cells (1, 2) and (4, 2): X and Z
+    WordMazeState m;
+    EXPECT_TRUE(startRound(state, m, rng).ok);
+    return m;
+}
+
+}  // namespace
+
+TEST(WordMazeBuild, WalkSpellsTheWordsAndTheBoardFitsIt) {
+    SharedState state = listOf({"cat", "dog"}, 2, true);
+    state.Score = 50;  // carried in
+    ScriptedRng rng;
+    WordMazeState m = catDog(state, rng);
+    EXPECT_EQ(rng.pending(), 0u);
+    EXPECT_EQ(board(m), "CAOG/XTDZ");
+    EXPECT_EQ(m.MazeWidth, 4);
+    EXPECT_EQ(m.MazeHeight, 2);
+    EXPECT_EQ(m.EndCell, 3);
+    EXPECT_EQ(m.colour[3], CellColour::Green);
+    EXPECT_EQ(pinks(m), "0 ");
+    EXPECT_EQ(state.TheWord, "cat");
+    EXPECT_EQ(m.label1, "meaning of cat");
+    EXPECT_EQ(m.label3, "Words Left :2");
+    EXPECT_EQ(state.Score, 50);
+    EXPECT_FALSE(m.undoEnabled);
+}
+
+TEST(WordMazeBuild, ImpossibleWalkEndsWithTheMessage) {
+    // The first word walks only right and down: 24 + 14 steps at most.
+    SharedState state = listOf({std::string(40, 'a')}, 1, false);
+    SystemRng rng;
+    WordMazeState m;
+    const RoundStart r = startRound(state, m, rng);
+    EXPECT_FALSE(r.ok);
+    EXPECT_EQ(r.message, kUnableMessage);
+    EXPECT_EQ(m.builds, kMaxBuilds);
+
+    // More words wanted than the list holds ends too.
+    SharedState few = listOf({"ab"}, 3, false);
+    EXPECT_FALSE(startRound(few, m, rng).ok);
+
+    // 39 letters fit exactly when every step is right until column 25, then down.
+    SharedState exact = listOf({std::string(39, 'b')}, 1, false);
+    ScriptedRng walk;  // direction 3 (odd), then the override 1: right
+    walk.pick(1, 1);
+    for (int i = 0; i < 24; ++i) walk.then(0.25).then(0.25);
+    for (int i = 0; i < 14; ++i) walk.then(0.25).then(0.75);  // right refused at 25: down
+    m.MazeWordCount = 1;
+    ASSERT_TRUE(buildMaze(exact, m, walk));
+    EXPECT_EQ(m.EndCol, 25);
+    EXPECT_EQ(m.EndRow, 15);
+    EXPECT_EQ(m.MazeWidth, 25);
+    EXPECT_EQ(m.MazeHeight, 15);
+}
+
+TEST(WordMazePlay, RetraceUndoAndFinish) {
+    SharedState state = listOf({"cat", "dog"}, 2, false);
+    ScriptedRng rng;
+    WordMazeState m = catDog(state, rng);
+    EXPECT_EQ(m.label1, "cat");  // word clue
+
+    Click c = clickCell(state, m, 1, rng);  // white: a reminder, no cost
+    EXPECT_EQ(c.result, ClickResult::OffPath);
+    EXPECT_EQ(c.message, kFollowPathMessage);
+    EXPECT_EQ(state.Score, 0);
+
+    EXPECT_EQ(clickCell(state, m, 0, rng).result, ClickResult::Moved);
+    EXPECT_EQ(pinks(m), "1 4 ");
+    EXPECT_FALSE(m.visible[0]);
+    EXPECT_EQ(m.label5, "c");  // the word as the list holds it
+
+    rng.pick(321, 1000);
+    c = clickCell(state, m, 4, rng);  // pink, but "X" is not "A"
+    EXPECT_EQ(c.result, ClickResult::Wrong);
+    EXPECT_EQ(state.Score, -321);
+    EXPECT_EQ(c.label6, "-321 Points...");
+    EXPECT_EQ(m.LetterNo, 2);
+
+    EXPECT_EQ(clickCell(state, m, 1, rng).result, ClickResult::Moved);
+    EXPECT_EQ(pinks(m), "0 2 5 ");  // the taken cell 0 turns pink too but stays hidden
+    EXPECT_FALSE(m.visible[0]);
+    EXPECT_EQ(clickCell(state, m, 5, rng).result, ClickResult::NextWord);
+    EXPECT_EQ(state.TheWord, "dog");
+    EXPECT_EQ(m.label3, "Words Left :1");
+    EXPECT_EQ(m.label5, "");
+
+    // Undo after a new word's start returns to the last letter of the word before.
+    undoMove(state, m);
+    EXPECT_EQ(state.TheWord, "cat");
+    EXPECT_EQ(m.label1, "cat");
+    EXPECT_EQ(m.label5, "ca");
+    EXPECT_TRUE(m.visible[5]);
+    EXPECT_EQ(pinks(m), "0 2 5 ");  // around cell 1, taken cells included (still hidden)
+    EXPECT_EQ(clickCell(state, m, 5, rng).result, ClickResult::NextWord);
+
+    // The end cell with the right letter before its time.
+    m.caption[3] = "D";
+    c = clickCell(state, m, 3, rng);
+    EXPECT_EQ(c.result, ClickResult::NotReady);
+    EXPECT_EQ(c.message, kNotReadyMessage);
+    m.caption[3] = "G";
+
+    EXPECT_EQ(clickCell(state, m, 6, rng).result, ClickResult::Moved);
+    EXPECT_EQ(clickCell(state, m, 2, rng).result, ClickResult::Moved);
+    EXPECT_EQ(clickCell(state, m, 3, rng).result, ClickResult::MazeDone);
+    EXPECT_EQ(clickCell(state, m, 7, rng).result, ClickResult::Ignored);
+
+    // Undo all the way to the start.
+    while (m.undoEnabled) undoMove(state, m);
+    EXPECT_EQ(pinks(m), "0 ");
+    EXPECT_EQ(m.WordNo, 1);
+    EXPECT_EQ(m.LetterNo, 1);
+    EXPECT_EQ(m.label5, "");
+    for (bool v : m.visible) EXPECT_TRUE(v);
+    undoMove(state, m);  // nothing left to undo
+    EXPECT_EQ(m.WordNo, 1);
+}
+
+TEST(WordMazePlay, FinalScoreBySpeedAndClueMode) {
+    struct Case {
+        int seconds;
+        bool definitions;
+        double before;
+        double after;
+        bool won;
+    };
+    // Difficulty 2 and a roll of 100: 200 points before the speed factor.
+    const Case cases[] = {
+        {5, true, 0, 500, true},       // p = 2: x 2.5
+        {6, true, 0, 360, true},       // p = 3: x 1.8
+        {14, true, 0, 260, true},      // p = 7: x 1.3
+        {20, true, 0, 200, true},      // p = 10: as it is
+        {39, true, 0, 200, true},      // p = 19
+        {40, true, 0, 140, true},      // p = 20: x 0.7
+        {5, false, 0, 250, true},      // a word clue halves it
+        {5, true, -300, -250, false},  // a negative total loses
+        {5, true, 0.3, 500, true},     // made whole: Int(500.75)
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.seconds);
+        SharedState state = listOf({"ab", "cd"}, 2, c.definitions);
+        state.Score = c.before;
+        WordMazeState m;
+        m.Seconds = c.seconds;
+        ScriptedRng rng;
+        rng.pick(100, 5000);
+        EXPECT_EQ(finishMaze(state, m, rng), c.won);
+        EXPECT_DOUBLE_EQ(state.Score, c.after);
+    }
+}

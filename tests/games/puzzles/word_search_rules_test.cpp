@@ -1,0 +1,263 @@
+#include "games/puzzles/word_search/word_search_rules.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/rng.h"
+#include "core/shared_state.h"
+
+using namespace wm;
+using namespace wm::word_search;
+
+namespace {
+
+SharedState listOf(const std::vector<std::string>& words, int difficulty) {
+    SharedState s;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        s.Words[i + 1] = words[i];
+        s.Meanings[i + 1] = "meaning of " + words[i];
+    }
+    s.WordCount = static_cast<short>(words.size());
+    s.Difficulty = difficulty;
+    return s;
+}
+
+std::string row(const WordSearchState& ws, int y) {
+    std::string s;
+    for (int x = 1; x <= ws.GridSize; ++x) s += ws.LetterGrid[x][y];
+    return s;
+}
+
+// A hand-made round: the words across on rows 1, 2..., the rest of the 5 by 5 grid "x".
+WordSearchState handMade(SharedState& state, const std::vector<std::string>& words) {
+    WordSearchState ws;
+    ws.GridSize = 5;
+    for (int y = 1; y <= 5; ++y)
+        for (int x = 1; x <= 5; ++x) ws.LetterGrid[x][y] = 'X';
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        for (std::size_t k = 0; k < words[i].size(); ++k) ws.LetterGrid[k + 1][i + 1] = words[i][k];
+        ws.WordList.push_back(words[i]);
+        ws.AnswerList.push_back("meaning of " + words[i]);
+    }
+    ws.clueIsDefinition = true;
+    ws.WordsLeft = static_cast<int>(words.size());
+    state.PuzzleWordCount = static_cast<short>(words.size());
+    state.WordIndex = 1;
+    showWord(state, ws);
+    return ws;
+}
+
+}  // namespace
+
+TEST(WordSearchBuild, PlacesEachWordThenFillsInCapitals) {
+    SharedState state = listOf({"cat"}, 5);
+    state.Score = 1234;                               // carried in: a round never zeroes it
+    ScriptedRng rng(0.0);                             // the fill: every free cell "A"
+    rng.pick(1, 1).pick(1, 2).pick(3, 5).pick(2, 2);  // word 1, across, row 3, start column 2
+    WordSearchState ws;
+    ASSERT_TRUE(startRound(state, ws, rng).ok);
+    EXPECT_EQ(row(ws, 3), "ACATA");
+    EXPECT_EQ(row(ws, 1), "AAAAA");
+    EXPECT_EQ(ws.GridSize, 5);
+    EXPECT_TRUE(ws.NoDiagonals);
+    EXPECT_EQ(state.Score, 1234);
+    EXPECT_EQ(state.PuzzleWordCount, 1);
+    EXPECT_EQ(state.TheWord, "CAT");
+    EXPECT_EQ(ws.cardText, "cat");         // word clue
+    EXPECT_EQ(rng.randomizeCount, 2 + 5);  // the attempt, the word, each row of the fill
+    EXPECT_EQ(caption(ws, 2 * 20 + 1), "C");
+    EXPECT_EQ(caption(ws, 399), "");
+}
+
+TEST(WordSearchBuild, FewerWordsThanDifficultyKeepTheGridSize) {
+    SharedState state = listOf({"ab", "cd"}, 12);
+    SystemRng rng;
+    WordSearchState ws;
+    ASSERT_TRUE(startRound(state, ws, rng).ok);
+    EXPECT_EQ(ws.GridSize, 12);
+    EXPECT_FALSE(ws.NoDiagonals);
+    EXPECT_EQ(state.PuzzleWordCount, 2);
+    ASSERT_EQ(ws.PickedWords.size(), 2u);
+    EXPECT_NE(ws.PickedWords[0], ws.PickedWords[1]);
+}
+
+TEST(WordSearchBuild, WordNeedsAGridOneLongerThanItselfAndTheGridGrowsByTwo) {
+    struct Case {
+        int difficulty;
+        int length;
+        bool ok;
+        int finalSize;
+        const char* message;
+    };
+    const Case cases[] = {
+        {5, 4, true, 5, ""},  // fits only at start 1
+        {5, 5, true, 7, ""},  // as long as the grid: grows by 2 at once
+        {6, 6, true, 8, ""},
+        {19, 19, false, 21, kUnableMessage},   // 19 -> 21, past the board
+        {20, 20, false, 20, kTooLongMessage},  // retried at 20 until the bound
+        {18, 20, false, 20, kTooLongMessage},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.length);
+        SharedState state = listOf({std::string(c.length, 'q')}, c.difficulty);
+        SystemRng rng;
+        WordSearchState ws;
+        const BuildResult r = startRound(state, ws, rng);
+        EXPECT_EQ(r.ok, c.ok);
+        EXPECT_EQ(ws.GridSize, c.finalSize);
+        EXPECT_EQ(r.message, c.message);
+        if (!r.ok) {
+            EXPECT_EQ(r.title, "Error!");
+        }
+        if (c.message == std::string(kTooLongMessage)) {
+            EXPECT_EQ(ws.attempts, kMaxAttempts);
+        }
+    }
+
+    // A word one shorter than the grid never reaches the last column or row.
+    SharedState state = listOf({"abcd"}, 5);
+    ScriptedRng rng(0.0);
+    rng.pick(1, 1).pick(1, 2).pick(2, 5);  // across, row 2; the start can only be 1
+    WordSearchState ws;
+    ASSERT_TRUE(startRound(state, ws, rng).ok);
+    EXPECT_EQ(row(ws, 2), "ABCDA");
+}
+
+TEST(WordSearchBuild, WordsCrossOnlyWhereTheyAgreeCaseIncluded) {
+    SharedState state = listOf({"ab", "Ab"}, 5);
+    // Both across on row 1 start 1? "Ab" differs from "ab" in case, so it goes elsewhere.
+    ScriptedRng rng(0.0);
+    rng.pick(1, 2).pick(2, 2);                                   // words 1 and 2
+    rng.pick(1, 2).pick(1, 5).pick(1, 3);                        // "ab" across at (1, 1)
+    rng.pick(1, 2).pick(1, 5).pick(1, 3).pick(2, 3).pick(3, 3);  // "Ab": (1,1) no, (2,1) no, (3,1)
+    SharedState s5 = state;
+    s5.Difficulty = 5;
+    WordSearchState ws;
+    ASSERT_TRUE(startRound(s5, ws, rng).ok);
+    EXPECT_EQ(row(ws, 1), "ABABA");
+}
+
+TEST(WordSearchMarking, NeighbourTestsKeepTheirQuirks) {
+    struct Case {
+        int c, p;
+        bool ok;
+    };
+    const Case cases[] = {
+        {18, 19, true},  {0, 1, true},   {19, 20, false},  // left onto 19 is refused
+        {38, 39, false}, {40, 41, true}, {20, 19, true},   // row end to next row start
+        {1, 21, true},   {41, 21, true}, {0, 21, true},   {2, 21, true},
+        {42, 21, true},  {40, 21, true}, {5, 1, false},   {21, 21, false},
+    };
+    for (const Case& c : cases) EXPECT_EQ(isNeighbour(c.c, c.p), c.ok) << c.c << " after " << c.p;
+}
+
+TEST(WordSearchMarking, LettersInOrderToAFoundWordAndItsScore) {
+    SharedState state = listOf({}, 5);
+    state.Score = 100;
+    WordSearchState ws = handMade(state, {"CAT", "DOG"});
+    ws.Seconds = 7;
+    ScriptedRng rng;
+    rng.pick(4, 30);
+
+    EXPECT_EQ(mouseDown(state, ws, 1, rng), TryResult::EndDrag);  // "A" is not the first letter
+    EXPECT_FALSE(ws.Dragging);
+    EXPECT_EQ(tryCell(state, ws, 0, rng), TryResult::Accepted);
+    EXPECT_EQ(tryCell(state, ws, 2, rng), TryResult::Refused);   // wrong letter: nothing changes
+    EXPECT_EQ(tryCell(state, ws, 25, rng), TryResult::Refused);  // an "X"
+    EXPECT_EQ(ws.NextLetter, 2);
+    EXPECT_TRUE(ws.clearEnabled);
+    EXPECT_EQ(ws.colour[0], CellColour::Pink);
+
+    EXPECT_EQ(tryCell(state, ws, 1, rng), TryResult::Accepted);
+    EXPECT_EQ(tryCell(state, ws, 2, rng), TryResult::Found);
+    // (4 x 2 words x 3 letters - 7 seconds) x 10
+    EXPECT_EQ(state.Score, 100 + (4 * 2 * 3 - 7) * 10);
+    EXPECT_EQ(ws.WordList, std::vector<std::string>{"DOG"});
+    EXPECT_EQ(state.TheWord, "DOG");
+    EXPECT_EQ(ws.cardText, "meaning of DOG");
+    EXPECT_TRUE(ws.flashing);
+    EXPECT_FALSE(ws.clearEnabled);
+
+    // Cells marked during the flash turn blue with the rest.
+    EXPECT_EQ(tryCell(state, ws, 20, rng), TryResult::Accepted);
+    for (int t = 1; t <= 10; ++t) EXPECT_FALSE(flashTick(ws));
+    EXPECT_EQ(ws.colour[0], CellColour::Pink);  // ten swaps: back where it began
+    EXPECT_FALSE(flashTick(ws));
+    EXPECT_FALSE(ws.flashing);
+    for (int cell : {0, 1, 2, 20}) EXPECT_EQ(ws.colour[cell], CellColour::Blue);
+    EXPECT_EQ(ws.colour[3], CellColour::White);
+
+    // The last word gives no points; the game ends when its flash does.
+    EXPECT_EQ(tryCell(state, ws, 21, rng), TryResult::Accepted);
+    EXPECT_EQ(tryCell(state, ws, 22, rng), TryResult::LastFound);
+    EXPECT_EQ(state.Score, 100 + (4 * 2 * 3 - 7) * 10);
+    EXPECT_TRUE(ws.PuzzleDone);
+    for (int t = 1; t <= 10; ++t) EXPECT_FALSE(flashTick(ws));
+    EXPECT_TRUE(flashTick(ws));
+}
+
+TEST(WordSearchMarking, ClearScrollHintAndTheLastLine) {
+    SharedState state = listOf({}, 5);
+    WordSearchState ws = handMade(state, {"CAT", "DOG", "A"});
+    ScriptedRng rng(0.0);
+    tryCell(state, ws, 0, rng);
+    clearMarking(ws);
+    EXPECT_EQ(ws.colour[0], CellColour::White);
+    EXPECT_EQ(ws.NextLetter, 1);
+    EXPECT_FALSE(ws.Started);
+
+    scrollTo(state, ws, 3);
+    EXPECT_EQ(state.TheWord, "A");
+    // A one-letter word is found by its first cell; the last line gone, WordIndex steps back.
+    EXPECT_EQ(tryCell(state, ws, 40, rng), TryResult::Found);
+    EXPECT_EQ(state.WordIndex, 2);
+    EXPECT_EQ(state.TheWord, "DOG");
+    EXPECT_EQ(state.Score, (1 * 3 * 1 - 0) * 10);
+
+    // While the flash runs, scrolling changes only WordIndex.
+    scrollTo(state, ws, 1);
+    EXPECT_EQ(state.WordIndex, 1);
+    EXPECT_EQ(state.TheWord, "DOG");
+}
+
+TEST(WordSearchMarking, DragMovesRightDownAndDiagonallyWithAFixedHeightTest) {
+    SharedState state = listOf({}, 5);
+    WordSearchState ws = handMade(state, {"CAT"});
+    ScriptedRng rng(0.0);
+    ASSERT_EQ(mouseDown(state, ws, 0, rng), TryResult::Accepted);
+    EXPECT_EQ(mouseMove(state, ws, 20, 5, 30, 20, rng), TryResult::Refused);  // still on cell 0
+    EXPECT_EQ(ws.TryCell, 0);
+    EXPECT_EQ(mouseMove(state, ws, 60, 5, 30, 20, rng), TryResult::Accepted);  // right
+    EXPECT_EQ(ws.TryCell, 1);
+    // Below the cell pressed and past one width: a diagonal step, tried even though it fails.
+    EXPECT_EQ(mouseMove(state, ws, 31, 21, 30, 20, rng), TryResult::Refused);
+    EXPECT_EQ(ws.TryCell, 22);
+    EXPECT_EQ(ws.DiagonalSteps, 1);
+    mouseUp(ws);
+    EXPECT_EQ(mouseMove(state, ws, 200, 200, 30, 20, rng), TryResult::Refused);
+    EXPECT_EQ(ws.TryCell, 22);
+}
+
+TEST(WordSearchTexts, DirectionsHintAndLoss) {
+    EXPECT_EQ(directionsText(false, true),
+              "Directions: Look in the puzzle for the word shown below. Words can be hidden "
+              "down or across.When you find the word, highlight it by clicking on each letter "
+              "starting with the first.");
+    EXPECT_EQ(directionsText(true, false),
+              "Directions: Look in the puzzle for the word matching the meaning shown below. "
+              "Words can be hidden down, across, or diagnally.When you find the word, highlight "
+              "it by clicking on each letter starting with the first.");
+    SharedState state;
+    state.TheWord = "CAT";
+    EXPECT_EQ(takeHint(state), "CAT");
+    EXPECT_EQ(state.Score, -5000);
+    EXPECT_EQ(loseText(-4880),
+              "Oops! Unfortunately, you got a score of -4880 on that game! You may want to "
+              "practice a bit...");
+    ScriptedRng rng;
+    rng.pick(1, 5).pick(5, 5);
+    EXPECT_EQ(fireworkCount(rng), 4);
+    EXPECT_EQ(fireworkCount(rng), 8);
+}
