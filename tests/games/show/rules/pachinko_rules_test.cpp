@@ -61,9 +61,9 @@ TEST(PachinkoFall, MiddlePinsSendTheDiskAwayAndDeadCentreTossesACoin) {
     const Case cases[] = {
         {px - 20 - 5, 0.0, -1}, {px - 20 + 5, 0.0, 1}, {px - 20, 0.25, -1}, {px - 20, 0.75, 1}};
     for (const auto& c : cases) {
-        // Nothing is drawn before the strike: the coin (dead centre only), then the size.
+        // Nothing is drawn before the strike: the size, then the coin (dead centre only).
         ScriptedRng rng(0.0);
-        if (c.x == px - 20) rng.then(c.coin);
+        if (c.x == px - 20) rng.then(0.0).then(c.coin);
         Disk d = dropDisk(c.x);
         ASSERT_GT(fallToFirstTouch(d, rng), 0);
         EXPECT_EQ(d.dx, c.sign * 11) << c.x << " coin " << c.coin;
