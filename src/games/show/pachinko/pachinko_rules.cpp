@@ -138,7 +138,8 @@ bool step(Disk& d, Rng& rng) {
                 d.dy = std::max(1, int(std::lround(d.dy / 2.0)));
             else
                 d.dy = std::max(1, d.dy - 2);
-            if (d.dx == 0) {
+            const bool first = d.dx == 0;
+            if (first) {
                 const bool end = p.first || p.last;
                 const int size = end ? roll(rng, D / 2) + D / 2 : roll(rng, D / 4) + D / 4;
                 int dir;
@@ -152,7 +153,9 @@ bool step(Disk& d, Rng& rng) {
                     dir = off > 0 ? -1 : 1;  // rolls off the side away from the pin
                 d.dx = dir * size;
             }
-            d.y = p.y - kPinRadius - D;  // rests on the pin rather than sinking into it
+            // The first strike seats the disk on the pin; once it moves sideways it slides
+            // over the pins it meets and drops between them.
+            if (first) d.y = p.y - kPinRadius - D;
             continue;
         }
         // Touched on the side at the height of its body: turned back, a little faster.
@@ -163,17 +166,17 @@ bool step(Disk& d, Rng& rng) {
             d.touched = true;
             const int k = p.last ? 2 : 1;
             d.dx = d.dx > 0 ? -(d.dx + k) : -(d.dx - k);
-            d.dx = std::clamp(d.dx, -D, D);  // repeated turns never outrun the board
+            d.dx = std::clamp(d.dx, -D / 2, D / 2);  // repeated turns never outrun the pins
         }
     }
     // The side walls turn it back the same way.
     if (d.x < 0 && d.dx < 0) {
         d.x = 0;
-        d.dx = std::min(D, -(d.dx - 1));
+        d.dx = std::min(D / 2, -(d.dx - 1));
         d.touched = true;
     } else if (d.x + D > kBoardWidth && d.dx > 0) {
         d.x = kBoardWidth - D;
-        d.dx = std::max(-D, -(d.dx + 1));
+        d.dx = std::max(-D / 2, -(d.dx + 1));
         d.touched = true;
     }
     if (!d.touched && d.dy < kPinRadius) ++d.dy;

@@ -24,7 +24,7 @@ inline constexpr int kMaxDisks = 5;
 inline constexpr int kSlotHeight = 70;  // the slots at the foot of the board
 // Bound on a fall: a disk still among the pins after this many ticks drops straight through,
 // so no layout or generator can keep it bouncing for ever.
-inline constexpr int kMaxFallTicks = 3000;
+inline constexpr int kMaxFallTicks = 1000;
 
 struct Pin {
     int x = 0;  // centre, board pixels
