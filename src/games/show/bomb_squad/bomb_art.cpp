@@ -6,6 +6,7 @@
 #include <QRadialGradient>
 #include <cmath>
 
+#include "games/show/svg_picture.h"
 #include "platform/movie.h"
 #include "platform/scene_kit.h"
 
@@ -24,29 +25,36 @@ void paintBomb(QPainter& p, const QRectF& r, int seconds, QColor clockColour) {
     const double d = std::min(r.width(), r.height());
     const QPointF c(r.center().x(), r.center().y() + d * 0.08);
     const double rad = d * 0.40;
-    // Fuse, with a spark at its tip.
-    QPainterPath fuse;
-    fuse.moveTo(c.x() + rad * 0.45, c.y() - rad * 0.95);
-    fuse.cubicTo(c.x() + rad * 0.7, c.y() - rad * 1.35, c.x() + rad * 1.0, c.y() - rad * 1.0,
-                 c.x() + rad * 1.05, c.y() - rad * 1.3);
-    p.setPen(QPen(QColor(150, 110, 60), d * 0.03, Qt::SolidLine, Qt::RoundCap));
-    p.drawPath(fuse);
-    scene::paintSparkle(p, QPointF(c.x() + rad * 1.05, c.y() - rad * 1.3), d * 0.12, 0.3, 1.0);
-    // Cap.
-    p.setPen(Qt::NoPen);
-    p.setBrush(QColor(90, 90, 100));
-    p.drawRoundedRect(QRectF(c.x() + rad * 0.2, c.y() - rad * 1.08, rad * 0.5, rad * 0.35), 4, 4);
-    // Body with a shine.
-    QRadialGradient g(c - QPointF(rad * 0.35, rad * 0.35), rad * 1.4);
-    g.setColorAt(0, QColor(110, 110, 130));
-    g.setColorAt(0.5, QColor(45, 45, 60));
-    g.setColorAt(1, QColor(15, 15, 20));
-    p.setBrush(g);
-    p.setPen(QPen(QColor(0, 0, 0), d * 0.01));
-    p.drawEllipse(c, rad, rad);
-    p.setBrush(QColor(255, 255, 255, 110));
-    p.setPen(Qt::NoPen);
-    p.drawEllipse(QRectF(c.x() - rad * 0.6, c.y() - rad * 0.7, rad * 0.35, rad * 0.22));
+    if (show::PaintSvg(p, "images/bomb.svg",
+                       QRectF(r.center().x() - d / 2, r.center().y() - d / 2, d, d))) {
+        scene::paintSparkle(p, QPointF(r.center().x() + d * 0.29, r.center().y() - d * 0.43),
+                            d * 0.12, 0.3, 1.0);
+    } else {
+        // Fuse, with a spark at its tip.
+        QPainterPath fuse;
+        fuse.moveTo(c.x() + rad * 0.45, c.y() - rad * 0.95);
+        fuse.cubicTo(c.x() + rad * 0.7, c.y() - rad * 1.35, c.x() + rad * 1.0, c.y() - rad * 1.0,
+                     c.x() + rad * 1.05, c.y() - rad * 1.3);
+        p.setPen(QPen(QColor(150, 110, 60), d * 0.03, Qt::SolidLine, Qt::RoundCap));
+        p.drawPath(fuse);
+        scene::paintSparkle(p, QPointF(c.x() + rad * 1.05, c.y() - rad * 1.3), d * 0.12, 0.3, 1.0);
+        // Cap.
+        p.setPen(Qt::NoPen);
+        p.setBrush(QColor(90, 90, 100));
+        p.drawRoundedRect(QRectF(c.x() + rad * 0.2, c.y() - rad * 1.08, rad * 0.5, rad * 0.35), 4,
+                          4);
+        // Body with a shine.
+        QRadialGradient g(c - QPointF(rad * 0.35, rad * 0.35), rad * 1.4);
+        g.setColorAt(0, QColor(110, 110, 130));
+        g.setColorAt(0.5, QColor(45, 45, 60));
+        g.setColorAt(1, QColor(15, 15, 20));
+        p.setBrush(g);
+        p.setPen(QPen(QColor(0, 0, 0), d * 0.01));
+        p.drawEllipse(c, rad, rad);
+        p.setBrush(QColor(255, 255, 255, 110));
+        p.setPen(Qt::NoPen);
+        p.drawEllipse(QRectF(c.x() - rad * 0.6, c.y() - rad * 0.7, rad * 0.35, rad * 0.22));
+    }
     // Clock face.
     const QRectF face(c.x() - rad * 0.55, c.y() - rad * 0.2, rad * 1.1, rad * 0.6);
     p.setBrush(QColor(20, 30, 20));

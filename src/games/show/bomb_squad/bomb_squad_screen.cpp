@@ -239,6 +239,6 @@ void BombSquad::resizeEvent(QResizeEvent*) {
     layOut();
 }
 
-WM_REGISTER_GAME("Bomb Squad", BombSquad);
+WM_REGISTER_GAME("Bomb Squad", BombSquad, "images/bomb.svg");
 
 }  // namespace wm

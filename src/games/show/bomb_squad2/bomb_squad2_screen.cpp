@@ -237,6 +237,6 @@ void BombSquad2::resizeEvent(QResizeEvent*) {
     layOut();
 }
 
-WM_REGISTER_GAME("Bomb Squad 2", BombSquad2);
+WM_REGISTER_GAME("Bomb Squad 2", BombSquad2, "images/bomb.svg");
 
 }  // namespace wm

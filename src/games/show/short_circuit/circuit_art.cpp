@@ -5,9 +5,12 @@
 #include <QPainterPath>
 #include <QRadialGradient>
 
+#include "games/show/svg_picture.h"
+
 namespace wm::circuitart {
 
 void paintBattery(QPainter& p, const QRectF& r) {
+    if (show::PaintSvg(p, "images/battery.svg", r)) return;
     p.save();
     p.setRenderHint(QPainter::Antialiasing);
     const QRectF body(r.left(), r.top() + r.height() * 0.1, r.width() * 0.9, r.height() * 0.8);
@@ -52,6 +55,20 @@ void paintBulb(QPainter& p, const QRectF& r, bool lit) {
         p.setBrush(glow);
         p.drawEllipse(c, rad * 2.6, rad * 2.6);
     }
+    if (show::PaintSvg(p, "images/lightbulb.svg", r)) {
+        if (lit) {
+            // The glass lights up yellow and the filament glows orange.
+            p.setPen(Qt::NoPen);
+            p.setBrush(QColor(255, 240, 120, 150));
+            p.drawEllipse(QPointF(r.center().x(), r.top() + r.height() * 0.33), r.width() * 0.38,
+                          r.height() * 0.28);
+            p.setPen(QPen(QColor(255, 140, 0), std::max(2.0, r.width() * 0.04)));
+            p.drawLine(QPointF(r.left() + r.width() * 0.42, r.top() + r.height() * 0.4),
+                       QPointF(r.left() + r.width() * 0.58, r.top() + r.height() * 0.4));
+        }
+        p.restore();
+        return;
+    }
     QPainterPath glass;
     glass.addEllipse(c, rad, rad);
     glass.addRect(QRectF(c.x() - rad * 0.45, c.y() + rad * 0.5, rad * 0.9, rad * 0.75));
@@ -70,6 +87,10 @@ void paintBulb(QPainter& p, const QRectF& r, bool lit) {
             QRectF(c.x() - rad * 0.5, c.y() + rad * (1.25 + 0.22 * i), rad, rad * 0.22), 3, 3);
     }
     p.restore();
+}
+
+QPointF bulbSocket(const QRectF& r) {
+    return {r.left() + r.width() * 0.3, r.top() + r.height() * 0.8};
 }
 
 void paintSurprise(QPainter& p, const QRectF& r, bool robber) {

@@ -192,11 +192,11 @@ void ShortCircuit::CircuitDone() {
     sound().effect("laser.wav");
     // The last wire runs round to the side of the bulb's screw base.
     const QRectF b = bulbRect();
-    const double screwY = b.top() + b.height() * 0.38 + b.width() * 0.38 * 1.45;
+    const QPointF socket = circuitart::bulbSocket(b);
     const double x = b.left() - height() * 0.02;
     wire_.push_back(QPointF(x, wire_.back().y()));
-    wire_.push_back(QPointF(x, screwY));
-    wire_.push_back(QPointF(b.center().x() - b.width() * 0.19, screwY));
+    wire_.push_back(QPointF(x, socket.y()));
+    wire_.push_back(socket);
     lit_ = true;
     update();
     Timer2.start();
@@ -213,6 +213,6 @@ void ShortCircuit::resizeEvent(QResizeEvent*) {
     layOut();
 }
 
-WM_REGISTER_GAME("Short Circuit", ShortCircuit);
+WM_REGISTER_GAME("Short Circuit", ShortCircuit, "images/battery.svg", "images/lightbulb.svg");
 
 }  // namespace wm
