@@ -1,0 +1,86 @@
+// Pachinko: earn up to five disks with questions, then drop them through the pins.
+#pragma once
+
+#include <QFrame>
+#include <QImage>
+#include <QLabel>
+#include <QPushButton>
+#include <QVector>
+#include <array>
+
+#include "games/show/pachinko/pachinko_rules.h"
+#include "shell/game_frame.h"
+
+namespace wm {
+
+class Plachinko : public QWidget {
+    Q_OBJECT
+public:
+    explicit Plachinko(QWidget* parent = nullptr);
+
+    GameFrame& frame() { return frame_; }
+    QFrame* questionFrame() const { return Frame1; }
+    QVector<QPushButton*> answers() const { return AnswerLabel; }
+    const pachinko::Question& question() const { return question_; }
+    int disksEarned() const { return DisksEarned; }
+    const std::array<int, pachinko::kSlotCount>& slotValues() const { return SlotValue; }
+    bool valuesLocked() const { return locked_; }
+    bool falling() const { return Falling; }
+    QLabel* lockLabel() const { return Label1; }
+    // Where disk i (0-based) rests, and the middle of the drop zone, in screen pixels.
+    QPoint diskRest(int i) const;
+    QPoint dropPoint() const;
+    void SetupGame();
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void mousePressEvent(QMouseEvent* e) override;
+    void mouseMoveEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
+    void resizeEvent(QResizeEvent*) override;
+
+private:
+    void NextQuestion();
+    void answer(int i);
+    void afterQuestions();
+    void BuildBoard();
+    void drawBoard();
+    void tick();
+    void ScoreDisk();
+    void EndGame();
+    double scale() const;
+    QPointF offset() const;
+    QPointF toBoard(QPointF screen) const;  // logical design pixels
+
+    QImage board_;  // the pins and walls at the design size, drawn once
+    QImage disk_;   // the disk's picture with its transparent surround
+    QFrame* Frame1;
+    QLabel* Direct;
+    QLabel* Questionlabel;
+    QVector<QPushButton*> AnswerLabel;
+    QVector<QLabel*> Shape1;
+    QLabel* Label1;
+    GameFrame frame_;
+    GameTimer& Timer1;
+    GameTimer& Timer2;
+    GameTimer& ScrambleTimer;
+    GameTimer& AnswerPause;
+    pachinko::Question question_;
+    std::vector<bool> UsedWords;
+    int QuestionNumber = 0;
+    int DisksEarned = 0;
+    bool boardShown_ = false;
+    bool locked_ = false;
+    std::array<int, pachinko::kSlotCount> SlotValue{};
+    std::array<QPointF, pachinko::kMaxDisks> rest_{};  // design pixels
+    std::array<QPointF, pachinko::kMaxDisks> at_{};
+    std::array<bool, pachinko::kMaxDisks> inPlay_{};
+    int DiskHeld = -1;
+    QPointF grab_;
+    bool Falling = false;
+    int fallingDisk_ = -1;
+    pachinko::Disk fall_;
+};
+
+}  // namespace wm

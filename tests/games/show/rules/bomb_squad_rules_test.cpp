@@ -1,0 +1,109 @@
+#include "games/show/bomb_squad/bomb_squad_rules.h"
+#include "games/show/bomb_squad2/bomb_squad2_rules.h"
+
+#include <gtest/gtest.h>
+
+#include "core/rng.h"
+#include "list_of.h"
+
+using namespace wm;
+
+TEST(BombSquadDeal, CertainBadWireAndCoins) {
+    SharedState s = sixWords();
+    ScriptedRng rng;
+    rng.pick(2, 3);                        // wire 2 is bad for certain
+    rng.pick(1, 6).pick(2, 2);             // wire 1: apple, coin says good
+    rng.pick(2, 6).pick(2, 2);             // wire 2: brick, good by coin but bad for certain...
+    rng.pick(2, 6).pick(1, 6).pick(3, 6);  // ...its definition: brick, apple used; cloud
+    rng.pick(4, 6).pick(1, 2).pick(4, 6).pick(5, 6);  // wire 3: drum, bad: eagle's meaning
+    auto d = bombsquad::deal(s, 2, rng);
+    ASSERT_TRUE(d.ready);
+    EXPECT_EQ(d.secondsLeft, 30);
+    ASSERT_EQ(d.wires.size(), 3u);
+    EXPECT_EQ(d.wires[0].word, 1);
+    EXPECT_FALSE(d.wires[0].bad);
+    EXPECT_EQ(d.wires[0].definition, 1);
+    EXPECT_TRUE(d.wires[1].bad);
+    EXPECT_EQ(d.wires[1].definition, 3);
+    EXPECT_EQ(d.wires[2].word, 4);
+    EXPECT_EQ(d.wires[2].definition, 5);
+}
+
+TEST(BombSquadDeal, LevelsAndTheUnboundedDeal) {
+    const std::pair<int, bombsquad::Level> table[] = {{1, {2, 30}}, {3, {4, 25}}, {7, {8, 20}},
+                                                      {10, {8, 8}}, {0, {2, 30}}, {11, {8, 8}}};
+    for (auto [lv, want] : table) {
+        EXPECT_EQ(bombsquad::level(lv).wires, want.wires) << lv;
+        EXPECT_EQ(bombsquad::level(lv).seconds, want.seconds) << lv;
+    }
+    EXPECT_EQ(bombsquad2::level(2).seconds, 40);
+    EXPECT_EQ(bombsquad2::level(10).seconds, 15);
+    // Eight wires from six words cannot be dealt: the deal ends instead of spinning for ever.
+    SharedState s = sixWords();
+    SystemRng rng;
+    EXPECT_FALSE(bombsquad::deal(s, 8, rng).ready);
+    EXPECT_FALSE(bombsquad2::deal(s, 8, rng).ready);
+    // Never a deal without a bad wire, and long meanings take the small font.
+    s.Meanings[1] = std::string(51, 'm');
+    for (int i = 0; i < 200; ++i) {
+        auto d = bombsquad::deal(s, 2, rng);
+        ASSERT_TRUE(d.ready);
+        EXPECT_FALSE(bombsquad::allBadCut(d));
+        for (auto& w : d.wires) EXPECT_EQ(w.smallFont, w.definition == 1);
+    }
+}
+
+TEST(BombSquadCut, SnipDefuseExplode) {
+    bombsquad::Deal d;
+    d.wires = {{1, 2, true}, {3, 3, false}, {4, 5, true}};
+    EXPECT_EQ(bombsquad::cut(d, -1), bombsquad::CutResult::Nothing);
+    EXPECT_EQ(bombsquad::cut(d, 0), bombsquad::CutResult::Snipped);
+    EXPECT_EQ(bombsquad::cut(d, 0), bombsquad::CutResult::Nothing) << "already cut";
+    // The last bad wire wins at once, with the good wire still standing.
+    EXPECT_EQ(bombsquad::cut(d, 2), bombsquad::CutResult::Defused);
+    d.wires[0].cut = d.wires[2].cut = false;
+    EXPECT_EQ(bombsquad::cut(d, 1), bombsquad::CutResult::Exploded);
+}
+
+TEST(BombSquadClock, RunsOutAndPicksTheLoserText) {
+    bombsquad::Deal d;
+    d.secondsLeft = 2;
+    EXPECT_FALSE(bombsquad::tick(d));
+    EXPECT_STREQ(bombsquad::lostText(d.secondsLeft), bombsquad::kLostWrongWire);
+    EXPECT_TRUE(bombsquad::tick(d));
+    EXPECT_STREQ(bombsquad::lostText(d.secondsLeft), bombsquad::kLostInTime);
+    ScriptedRng rng;
+    rng.pick(3, 4);
+    EXPECT_EQ(bombsquad::winScore(100, 17, 4, rng), 100 + (500 + 17 + 3) * 4);
+    EXPECT_STREQ(bombsquad2::tickSound(10), "spacebeep.wav");
+    EXPECT_STREQ(bombsquad2::tickSound(9), "highbeep.wav");
+    EXPECT_STREQ(bombsquad2::lostText(3), bombsquad2::kLostWrongWire);
+}
+
+TEST(BombSquad2, ShuffledDefinitionsAndCarriedWires) {
+    SharedState s = sixWords();
+    ScriptedRng rng;
+    rng.pick(5, 6).pick(3, 3);                        // eagle's meaning on DefLabel 2
+    rng.pick(5, 6).pick(2, 6).pick(3, 3).pick(1, 3);  // brick; slot 2 taken, slot 0
+    rng.pick(6, 6).pick(1, 3).pick(2, 3);             // frost on slot 1
+    auto b = bombsquad2::deal(s, 2, rng);
+    ASSERT_TRUE(b.ready);
+    EXPECT_EQ(b.words, (std::vector<int>{5, 2, 6}));
+    EXPECT_EQ(b.defOwner, (std::vector<int>{1, 2, 0}));
+
+    using bombsquad2::DefClick;
+    EXPECT_EQ(bombsquad2::clickDefinition(b, 0), DefClick::Nothing) << "no wire carried";
+    EXPECT_EQ(bombsquad2::clickWord(b, 1), bombsquad2::WordClick::PickedUp);
+    EXPECT_EQ(bombsquad2::clickWord(b, 1), bombsquad2::WordClick::PickedUp) << "dropped, anew";
+    EXPECT_EQ(bombsquad2::clickDefinition(b, 0), DefClick::Connected);
+    EXPECT_FALSE(b.carrying);
+    EXPECT_EQ(bombsquad2::clickWord(b, 0), bombsquad2::WordClick::PickedUp);
+    EXPECT_EQ(bombsquad2::clickWord(b, 1), bombsquad2::WordClick::Dropped) << "wired already";
+    EXPECT_FALSE(b.carrying);
+    bombsquad2::clickWord(b, 0);
+    EXPECT_EQ(bombsquad2::clickDefinition(b, 2), DefClick::Connected);
+    bombsquad2::clickWord(b, 2);
+    auto wrong = b;
+    EXPECT_EQ(bombsquad2::clickDefinition(wrong, 0), DefClick::Exploded);
+    EXPECT_EQ(bombsquad2::clickDefinition(b, 1), DefClick::Defused);
+}

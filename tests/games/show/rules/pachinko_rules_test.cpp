@@ -1,0 +1,138 @@
+#include "games/show/pachinko/pachinko_rules.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "core/rng.h"
+#include "list_of.h"
+
+using namespace wm;
+using namespace wm::pachinko;
+
+namespace {
+// Falls until the first touch; returns the ticks taken.
+int fallToFirstTouch(Disk& d, Rng& rng) {
+    for (int t = 1; t < 500; ++t) {
+        step(d, rng);
+        if (d.touched) return t;
+    }
+    return -1;
+}
+}  // namespace
+
+TEST(PachinkoBoard, DiskSizeAndPinRows) {
+    EXPECT_EQ(kDiskSize, 40);
+    EXPECT_EQ(kSlotWidth, 60);
+    ASSERT_FALSE(pins().empty());
+    EXPECT_LE(pins().size(), 300u);
+    // Rows alternate, shifted by half a gap; a disk fits between two pins of a row.
+    EXPECT_EQ(pins()[0].x, 30);
+    EXPECT_TRUE(pins()[0].first);
+    EXPECT_EQ(pins()[kPinsInRow].x, 60);
+    EXPECT_TRUE(pins()[kPinsInRow - 1].last);
+    EXPECT_GT(pins()[1].x - pins()[0].x - 2 * kPinRadius, kDiskSize);
+}
+
+TEST(PachinkoFall, SpeedsUpToThePinRadiusThenStrikesTheFirstPin) {
+    ScriptedRng rng;
+    Disk d = dropDisk(10);  // dead over the first pin of the top row
+    std::vector<int> speeds;
+    for (int i = 0; i < 6; ++i) {
+        step(d, rng);
+        speeds.push_back(d.dy);
+    }
+    EXPECT_EQ(speeds, (std::vector<int>{2, 3, 4, 5, 5, 5}));
+    rng.pick(5, kDiskSize / 2);
+    ASSERT_GT(fallToFirstTouch(d, rng), 0);
+    // The first pin of a row always sends the disk right, an end pin's size: 5 + D / 2.
+    EXPECT_EQ(d.dx, 25);
+    EXPECT_EQ(d.dy, 3) << "struck near the centre: the speed is halved, rounded";
+    EXPECT_EQ(d.y, pins()[0].y - kPinRadius - kDiskSize) << "rests on the pin";
+}
+
+TEST(PachinkoFall, MiddlePinsSendTheDiskAwayAndDeadCentreTossesACoin) {
+    struct Case {
+        int x;
+        double coin;
+        int sign;
+    };
+    const int px = pins()[4].x;  // a middle pin of the top row
+    const Case cases[] = {
+        {px - 20 - 5, 0.0, -1}, {px - 20 + 5, 0.0, 1}, {px - 20, 0.25, -1}, {px - 20, 0.75, 1}};
+    for (const auto& c : cases) {
+        // Nothing is drawn before the strike: the size, then the coin (dead centre only).
+        ScriptedRng rng(0.0);
+        if (c.x == px - 20) rng.then(0.0).then(c.coin);
+        Disk d = dropDisk(c.x);
+        ASSERT_GT(fallToFirstTouch(d, rng), 0);
+        EXPECT_EQ(d.dx, c.sign * 11) << c.x << " coin " << c.coin;
+        EXPECT_EQ(d.dy, 3);
+    }
+}
+
+TEST(PachinkoFall, FixedStartGivesTheSamePathAndAlwaysLandsInASlot) {
+    std::set<int> slots;
+    for (int x = 0; x <= kBoardWidth - kDiskSize; x += 7) {
+        ScriptedRng a(0.37), b(0.37);
+        Disk d1 = dropDisk(x), d2 = dropDisk(x);
+        int ticks = 0;
+        bool done = false;
+        while (!done && ticks < kMaxFallTicks + 2000) {
+            done = step(d1, a);
+            step(d2, b);
+            ASSERT_EQ(d1.x, d2.x);
+            ASSERT_EQ(d1.y, d2.y);
+            ASSERT_GE(d1.x, 0);
+            ASSERT_LE(d1.x + kDiskSize, kBoardWidth);
+            ++ticks;
+        }
+        ASSERT_TRUE(done) << "start " << x;
+        slots.insert(slotOf(d1));
+    }
+    EXPECT_GT(slots.size(), 3u) << "the pins spread the disks over the slots";
+}
+
+TEST(PachinkoFall, WallsTurnTheDiskBack) {
+    ScriptedRng rng;
+    Disk d = dropDisk(0, -6);
+    d.y = 20;
+    step(d, rng);
+    EXPECT_EQ(d.x, 0);
+    EXPECT_EQ(d.dx, 7);
+    d = dropDisk(kBoardWidth - kDiskSize, 6);
+    d.y = 20;
+    step(d, rng);
+    EXPECT_EQ(d.dx, -7);
+}
+
+TEST(PachinkoSlots, ValuesRichestAtTheEdgesAndTheDropZone) {
+    ScriptedRng rng;
+    rng.then(0.5);                                                 // base 15
+    for (double v : {0.0, 0.99, 0.5, 0.1, 0.2, 0.3}) rng.then(v);  // pairs, then the middle
+    auto v = scrambleValues(rng);
+    EXPECT_EQ(v, (std::array<int, 10>{6000, 15 * 399, 15 * 250, 15 * 110, 15 * 21, 15 * 31,
+                                      15 * 110, 15 * 250, 15 * 399, 6000}));
+    EXPECT_TRUE(inDropZone(100, -40));
+    EXPECT_FALSE(inDropZone(100, 300)) << "among the pins";
+    EXPECT_FALSE(inDropZone(-30, -40)) << "outside the walls";
+    EXPECT_FALSE(inDropZone(kBoardWidth - kDiskSize + 1, -40));
+    EXPECT_EQ(scoreLine(1234), "Score: 00001234");
+}
+
+TEST(PachinkoQuestions, FiveWordsAreEachAskedOnceWithFiveDistinctAnswers) {
+    SharedState s = listOf({"ant", "bee", "cat", "dog", "elk"});
+    std::vector<bool> used;
+    std::set<int> asked;
+    SystemRng rng;
+    for (int q = 0; q < 5; ++q) {
+        Question question = nextQuestion(s, used, rng);
+        asked.insert(question.word);
+        EXPECT_EQ(question.answers[question.right], question.word);
+        std::set<int> distinct(question.answers.begin(), question.answers.end());
+        EXPECT_EQ(distinct.size(), 5u);
+    }
+    EXPECT_EQ(asked.size(), 5u);
+    EXPECT_EQ(tryingText(3), "Trying for disk 3 out of 5.");
+    EXPECT_EQ(earnedText(2), "Let's play pachinko! You have earned 2 disks!");
+}

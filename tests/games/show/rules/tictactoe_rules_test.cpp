@@ -1,0 +1,131 @@
+#include "games/show/tictactoe/tictactoe_rules.h"
+
+#include <gtest/gtest.h>
+
+#include "core/rng.h"
+#include "list_of.h"
+
+using namespace wm;
+using namespace wm::tictactoe;
+
+namespace {
+// "X" the player, "O" the computer, "." free, row by row.
+Board boardOf(const char* rows) {
+    Board b;
+    for (int i = 0; i < 9; ++i)
+        b.set(i / 3 + 1, i % 3 + 1, rows[i] == 'X' ? Player : rows[i] == 'O' ? Computer : Empty);
+    return b;
+}
+}  // namespace
+
+TEST(TicTacToeOpponent, ChoosesSquareInThePreferredOrder) {
+    struct Case {
+        const char* board;
+        Square want;
+        const char* why;
+    };
+    const Case cases[] = {
+        {".........", {2, 2}, "the centre first"},
+        {"X........", {2, 2}, "the centre even before a block"},
+        {"OO.XXO.X.", {1, 3}, "completes its own row before blocking"},
+        {"XX..O....", {1, 3}, "blocks two player marks"},
+        {"X.X.O....", {1, 2}, "blocks with the gap in the middle"},
+        {"X...O...X", {2, 3}, "builds on its row, rows walked first, last free square"},
+        {"XO..X...O", {3, 2}, "builds on a begun line rather than choosing at random"},
+    };
+    for (const auto& c : cases) {
+        ScriptedRng rng(0.0);
+        EXPECT_EQ(computerChoice(boardOf(c.board), 4, rng), c.want) << c.why << " " << c.board;
+        EXPECT_EQ(rng.draws, 0) << "no random draw needed: " << c.why;
+    }
+}
+
+TEST(TicTacToeOpponent, RandomSquareOnlyWhenNoLineHelps) {
+    // Centre held by the player, the computer's only mark is blocked everywhere.
+    Board b = boardOf("OX.XX.OXO");  // row 2 col 3 blocks; take it first
+    ScriptedRng rng;
+    EXPECT_EQ(computerChoice(b, 3, rng), (Square{2, 3}));
+
+    b = boardOf("XOXXO.OXO");  // every line is mixed: nothing to win, block or build
+    ScriptedRng draws;
+    draws.pick(1, 3).pick(1, 3);  // (1,1) taken: drawn again
+    draws.pick(2, 3).pick(3, 3);
+    EXPECT_EQ(computerChoice(b, 3, draws), (Square{2, 3}));
+    EXPECT_EQ(draws.draws, 4);
+
+    // Level 1, never offered, keeps its rule: random even with the centre free.
+    ScriptedRng one;
+    one.pick(3, 3).pick(3, 3);
+    EXPECT_EQ(computerChoice(Board{}, 1, one), (Square{3, 3}));
+}
+
+TEST(TicTacToeOpponent, MissesOnceInDifficulty) {
+    for (int level : {2, 6}) {
+        ScriptedRng rng;
+        rng.pick(1, level).pick(2, level).pick(level, level);
+        EXPECT_FALSE(computerHits(level, rng));
+        EXPECT_TRUE(computerHits(level, rng));
+        EXPECT_TRUE(computerHits(level, rng));
+    }
+}
+
+TEST(TicTacToeBoard, VerdictsAndWinningLineEnds) {
+    struct Case {
+        const char* board;
+        int winner;
+        bool tie;
+        Square from, to;
+    };
+    const Case cases[] = {
+        {"XXX.O.O..", Player, false, {1, 1}, {1, 3}},
+        {"X.O.XO..O", Computer, false, {1, 3}, {3, 3}},
+        {"O.X.X.X.O", Player, false, {1, 3}, {3, 1}},
+        {"XOXXOOOXX", Empty, true, {}, {}},
+        {"XO.......", Empty, false, {}, {}},
+    };
+    for (const auto& c : cases) {
+        Verdict v = checkBoard(boardOf(c.board));
+        EXPECT_EQ(v.winner, c.winner) << c.board;
+        EXPECT_EQ(v.tie, c.tie) << c.board;
+        EXPECT_EQ(v.from, c.from) << c.board;
+        EXPECT_EQ(v.to, c.to) << c.board;
+    }
+}
+
+TEST(TicTacToeQuestion, AsManyDistinctChoicesAsTheLevel) {
+    for (int level = 2; level <= 6; ++level) {
+        SharedState s = sixWords(level);
+        ScriptedRng rng;
+        rng.pick(3, 6).pick(1, level);
+        // Wrong choices drawn: the word itself and repeats are drawn again.
+        for (int k : {3, 1, 1, 2, 4, 5, 6}) rng.pick(k, 6);
+        Question q = askQuestion(s, level, rng);
+        EXPECT_EQ(q.word, 3);
+        EXPECT_EQ(s.TheWord, "cloud");
+        EXPECT_EQ(q.right, 0);
+        ASSERT_EQ(int(q.options.size()), level);
+        EXPECT_EQ(q.options[0], 3);
+        std::vector<int> seen(q.options);
+        std::sort(seen.begin(), seen.end());
+        EXPECT_EQ(std::unique(seen.begin(), seen.end()), seen.end()) << "level " << level;
+    }
+}
+
+TEST(TicTacToeQuestion, ClockOnlyAtTheTopLevels) {
+    EXPECT_EQ(questionSeconds(4), 0);
+    EXPECT_EQ(questionSeconds(5), 10);
+    EXPECT_EQ(questionSeconds(6), 5);
+    EXPECT_TRUE(playerMovesFirst(4));
+    EXPECT_FALSE(playerMovesFirst(5));
+}
+
+TEST(TicTacToeScore, WinAddsToTheScoreOfEarlierWins) {
+    ScriptedRng rng;
+    rng.pick(1, 2).pick(2, 2).pick(6, 6);
+    EXPECT_EQ(winScore(0, 2, rng), 1002);
+    EXPECT_EQ(winScore(1002, 2, rng), 2006);
+    EXPECT_EQ(winScore(0, 6, rng), 3036);
+    EXPECT_EQ(missText("drum"),
+              "Sorry! The word you should have chosen was \"drum\"...you did not win this "
+              "square...");
+}
