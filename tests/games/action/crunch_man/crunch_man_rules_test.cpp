@@ -1,0 +1,293 @@
+// Crunch Man's rules on a text board: the grid, the mouth's steps and borders, eating in
+// spelling order with the kept quirks (repeated letters, blanks, no score without mines), the
+// mines, the two deaths and the word choice.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "games/action/crunch_man/crunch_man_rules.h"
+
+using namespace wm;
+using namespace wm::crunch;
+
+namespace {
+
+class SequenceRng : public Rng {
+public:
+    double Rnd() override { return std::uniform_real_distribution<double>(0, 1)(engine_); }
+    void Randomize() override {}
+
+private:
+    std::mt19937 engine_{7};
+};
+
+// A field written as rows of cells from the top row: '.' empty, '*' a mine, a letter a label.
+// Labels are numbered in reading order; the mouth stands centred in cell (col, row).
+Round Board(const std::vector<std::string>& rows, int col, int row, int difficulty = 3) {
+    Round r;
+    layGrid(r, Field{}, difficulty);
+    int k = 0;
+    for (int y = 0; y < int(rows.size()); ++y) {
+        for (int x = 0; x < int(rows[y].size()); ++x) {
+            const char c = rows[y][x];
+            if (c == '*')
+                placeMine(r, x, y);
+            else if (c != '.')
+                placeLetter(r, k++, c, x, y);
+        }
+    }
+    r.x = col * r.cellW + (r.cellW - r.field.playerW) / 2;
+    r.y = r.field.line1 + row * r.cellH + (r.cellH - r.field.playerH) / 2;
+    return r;
+}
+
+SharedState State(const std::string& word, int difficulty = 3) {
+    SharedState s;
+    s.TheWord = word;
+    s.Difficulty = difficulty;
+    return s;
+}
+
+// Ticks until something happens, at most `limit` ticks; returns the tick that did it.
+int RunUntilEvent(Round& r, SharedState& s, Rng& rng, TickResult& last, int limit = 400) {
+    for (int n = 1; n <= limit; ++n) {
+        last = tick(r, s, rng);
+        if (last.event != Event::None && last.event != Event::Ate) return n;
+    }
+    return -1;
+}
+
+}  // namespace
+
+TEST(CrunchManGrid, CellsAndStartFollowTheScreen) {
+    Round r;
+    layGrid(r, Field{}, 1);
+    EXPECT_EQ(r.columns, 20);
+    EXPECT_EQ(r.rows, 11);
+    EXPECT_EQ(r.cellW, 64);
+    EXPECT_EQ(r.cellH, 60);
+    EXPECT_DOUBLE_EQ(r.x, 617);
+    EXPECT_EQ(r.y, 378);
+    EXPECT_EQ(r.heading, 2);
+    EXPECT_EQ(r.wanted, 2);
+    Field wide;
+    wide.width = 1920;
+    wide.height = 1080;
+    layGrid(r, wide, 1);
+    EXPECT_EQ(r.columns, 31);
+    EXPECT_EQ(r.rows, 16);
+    EXPECT_EQ(r.cellW, 61);
+    EXPECT_EQ(r.cellH, 59);
+}
+
+TEST(CrunchManGrid, StepByDifficulty) {
+    const std::pair<int, int> table[] = {{1, 4}, {4, 4}, {5, 8}, {8, 8}, {9, 12}, {14, 12}};
+    for (auto [difficulty, step] : table) EXPECT_EQ(stepFor(difficulty), step) << difficulty;
+}
+
+TEST(CrunchManTick, MouthAndMinesAnimateInStep) {
+    Round r = Board({"*"}, 10, 5);
+    SharedState s = State("A");
+    ScriptedRng rng;
+    const int right[] = {0, 1, 2, 3, 2, 1, 0};
+    const int mines[] = {15, 16, 17, 18, 17, 16, 15};
+    for (int n = 0; n < 7; ++n) {
+        const TickResult t = tick(r, s, rng);
+        EXPECT_EQ(t.sprite, right[n]) << n;
+        EXPECT_EQ(t.mineSprite, mines[n]) << n;
+        EXPECT_EQ(t.chomp, n == 5) << n;
+        EXPECT_EQ(t.restoreOld, n > 0) << "the first tick has nothing to restore";
+    }
+    const std::pair<int, int> firstOpen[] = {{1, 7}, {2, 1}, {3, 10}, {4, 4}};
+    for (auto [heading, holder] : firstOpen) EXPECT_EQ(spriteFor(heading, 2), holder);
+    EXPECT_EQ(spriteFor(4, 4), 6);
+    Round none = Board({"."}, 10, 5);
+    EXPECT_EQ(tick(none, s, rng).mineSprite, -1);
+}
+
+TEST(CrunchManTick, TurnsAtOnceAndPressesAgainstBorders) {
+    Round r = Board({}, 10, 5);
+    SharedState s = State("A");
+    ScriptedRng rng;
+    r.wanted = 4;  // reversing is allowed, with no grid alignment
+    TickResult t = tick(r, s, rng);
+    EXPECT_EQ(t.newX, t.oldX - 4);
+    for (int n = 0; n < 400; ++n) t = tick(r, s, rng);
+    EXPECT_EQ(t.newX, 0);
+    r.wanted = 2;
+    for (int n = 0; n < 400; ++n) t = tick(r, s, rng);
+    EXPECT_EQ(t.newX, 1280 - 46);
+    r.wanted = 1;
+    for (int n = 0; n < 400; ++n) t = tick(r, s, rng);
+    EXPECT_EQ(t.newY, 67 + 10);
+    r.wanted = 3;
+    for (int n = 0; n < 400; ++n) t = tick(r, s, rng);
+    EXPECT_EQ(t.newY, 800 - 67 + 5 - 44 - 5);
+    EXPECT_EQ(t.event, Event::None);
+}
+
+TEST(CrunchManEating, SpellingOrderOnTheBoard) {
+    struct Case {
+        const char* word;
+        const char* row;
+        Event end;
+        const char* spelled;
+    };
+    // The mouth starts in column 10 of the middle row and runs right along it.
+    const Case cases[] = {
+        {"CAT", "CAT", Event::Won, "CAT"},
+        {"CAT", "ACT", Event::WrongLetter, ""},
+        {"NO GO", "NOGO", Event::Won, "NO GO"},  // the blank is never eaten
+        {"BOOK", "BOOK", Event::Won, "BOOK"},
+        {"BOOK", "BOKO", Event::WrongLetter, "BO"},  // K touched while the second O is due
+        {"TOOT", "TOTO", Event::WrongLetter, "TO"},
+        {"CAT", "C*AT", Event::Mine, "C"},
+    };
+    for (const Case& c : cases) {
+        const std::string blanks(5, '.');
+        Round r =
+            Board({blanks, blanks, blanks, blanks, blanks, "..........." + std::string(c.row), "*"},
+                  10, 5);
+        r.length = int(std::string(c.word).size());
+        SharedState s = State(c.word);
+        ScriptedRng rng(0.5);
+        TickResult t;
+        RunUntilEvent(r, s, rng, t);
+        EXPECT_EQ(t.event, c.end) << c.word << " on " << c.row;
+        EXPECT_EQ(r.spelled, c.spelled) << c.word << " on " << c.row;
+        if (c.end == Event::WrongLetter) EXPECT_TRUE(r.labels[t.label].red);
+        if (c.end == Event::Mine) EXPECT_EQ(t.mine, 1);
+    }
+}
+
+TEST(CrunchManEating, OnlyTheCentreCountsAndScoresByMines) {
+    Round r = Board({".", ".", ".", ".", ".", "...........A", "*", "*"}, 10, 5);
+    r.length = 1;
+    SharedState s = State("A", 7);
+    r.x = 617;  // the start of a round
+    ScriptedRng rng(0.5);
+    TickResult t;
+    // The centre starts at x 640 and reaches column 11 (x 704) on the sixteenth step of 4,
+    // although the mouth's right side overlaps the cell long before.
+    EXPECT_EQ(RunUntilEvent(r, s, rng, t), 16);
+    EXPECT_EQ(t.event, Event::Won);
+    EXPECT_TRUE(t.wipeUnder);
+    EXPECT_EQ(t.points, (350 + 1) * 2);
+    EXPECT_DOUBLE_EQ(s.Score, 702);
+    EXPECT_FALSE(r.labels[0].visible);
+    EXPECT_EQ(r.labels[0].left, 0);
+}
+
+TEST(CrunchManEating, NoMinesMeansEveryLetterIsWorthNothing) {
+    Round r = Board({".", ".", ".", ".", ".", "...........AB"}, 10, 5, 1);
+    r.length = 2;
+    SharedState s = State("AB", 1);
+    ScriptedRng rng(0.99);
+    TickResult t;
+    RunUntilEvent(r, s, rng, t);
+    EXPECT_EQ(t.event, Event::Won);
+    EXPECT_DOUBLE_EQ(s.Score, 0);
+    EXPECT_EQ(rng.draws, 2) << "the draw is made all the same";
+}
+
+TEST(CrunchManSetup, PlacesLettersOffTheMiddleRowAndMinesOffLetters) {
+    SharedState s;
+    s.Words = {"", std::string(25, 'x'), "an ox"};
+    s.Meanings = {"", "long", "a beast"};
+    s.WordCount = 2;
+    s.Difficulty = 2;
+    ScriptedRng rng;
+    rng.pick(1, 2).pick(2, 2);           // the long word, then "an ox"
+    rng.then(0.0).then(5.5 / 11);        // A in the middle row: drawn again
+    rng.then(0.0).then(0.0);             // A at (0, 0)
+    rng.then(0.0).then(0.0);             // N on A's cell: drawn again
+    rng.then(1.0 / 20).then(0.0);        // N at (1, 0)
+    rng.then(2.0 / 20).then(0.0);        // O at (2, 0)
+    rng.then(3.0 / 20).then(1.0 / 11);   // X at (3, 1)
+    rng.then(2.0 / 20).then(0.0);        // a mine on O: drawn again
+    rng.then(4.0 / 20).then(2.0 / 11);   // mine 1 at (4, 2)
+    rng.then(5.0 / 20).then(10.0 / 11);  // mine 2 at (5, 10)
+    Round r;
+    ASSERT_TRUE(setupRound(s, r, Field{}, rng).ready);
+    EXPECT_EQ(s.TheWord, "AN OX");
+    EXPECT_EQ(s.TheMeaning, "a beast");
+    EXPECT_EQ(r.mineCount, 2);
+    EXPECT_EQ(rng.pending(), 0u);
+    // The blank keeps N's cell with an invisible label.
+    EXPECT_FALSE(r.labels[2].visible);
+    EXPECT_EQ(r.labels[2].left, r.labels[1].left);
+    EXPECT_EQ(r.labels[1].left, 64 + (64 - 23) / 2);
+    EXPECT_EQ(r.labels[4].top, 67 + (60 - 36) / 2 + 60);
+    EXPECT_EQ(r.mineX[2], 5 * 64 + (64 - 47) / 2);
+    EXPECT_EQ(r.mineY[2], 67 + (60 - 47) / 2 + 600);
+    EXPECT_TRUE(r.mineCell[4][2]);
+
+    s.Difficulty = 1;
+    s.WordCount = 1;
+    s.Words[1] = "otter";
+    SequenceRng plain;
+    ASSERT_TRUE(setupRound(s, r, Field{}, plain).ready);
+    EXPECT_EQ(r.mineCount, 0);
+}
+
+TEST(CrunchManSetup, OnlyLongWordsAreRefusedAfterBoundedDraws) {
+    SharedState s;
+    s.Words = {"", std::string(20, 'a'), std::string(31, 'b')};
+    s.Meanings = {"", "", ""};
+    s.WordCount = 2;
+    ScriptedRng rng(0.7);
+    Round r;
+    const SetupResult result = setupRound(s, r, Field{}, rng);
+    EXPECT_FALSE(result.ready);
+    EXPECT_EQ(result.message,
+              "The words on this list are too long to play this game! Choose another list or "
+              "another game.");
+    EXPECT_EQ(rng.draws, kMaxWordDraws);
+}
+
+TEST(CrunchManDeath, WrongLetterBlinksAndTheMouthSpinsAway) {
+    Round r;
+    r.labels[3].visible = false;
+    Dying d{100, 100, 46, 44, 1, 1, 3};
+    std::vector<int> pictures;
+    int ticks = 0, picture = 0;
+    bool over = false;
+    while (!over && ticks < 50) {
+        over = letterDeathTick(d, r, picture);
+        pictures.push_back(picture);
+        ++ticks;
+        if (!over) EXPECT_EQ(r.labels[3].visible, ticks % 2 == 1);
+    }
+    EXPECT_EQ(ticks, 11);  // 46 shrinks by 4 a tick until under 5
+    EXPECT_EQ(std::vector<int>(pictures.begin(), pictures.begin() + 5),
+              (std::vector<int>{2, 11, 5, 8, 2}));
+    EXPECT_EQ(d.left, 122);
+    EXPECT_EQ(d.height, d.width);
+}
+
+TEST(CrunchManDeath, MineExplodesThenTheMouthSpinsAway) {
+    Dying d{100, 100, 46, 44, 1, 1, 1};
+    std::vector<int> explosions, pictures;
+    int ticks = 0;
+    bool over = false;
+    while (!over && ticks < 50) {
+        int explosion = 0, picture = 0;
+        over = mineDeathTick(d, explosion, picture);
+        explosions.push_back(explosion);
+        pictures.push_back(picture);
+        ++ticks;
+    }
+    EXPECT_EQ(ticks, 18);  // seven flashes, then the black frame with the first of 11 spins
+    EXPECT_EQ(std::vector<int>(explosions.begin(), explosions.begin() + 9),
+              (std::vector<int>{1, 2, 3, 4, 5, 6, 7, 8, 8}));
+    EXPECT_EQ(pictures[6], -1);
+    EXPECT_EQ(std::vector<int>(pictures.begin() + 7, pictures.begin() + 11),
+              (std::vector<int>{2, 11, 5, 8}));
+}
+
+TEST(CrunchManTexts, LostAndScore) {
+    EXPECT_EQ(lostText("CAT"),
+              "Oops! You lost this game! The word you were looking for was \"CAT\". Would you like "
+              "to give it another try?");
+    EXPECT_EQ(scoreCaption(702), "Score: 702");
+}

@@ -1,0 +1,165 @@
+// Crunch Man on its screen: from the title through a scripted field to a win and the table,
+// to a wrong letter and to a mine, the sounds gated by SoundOn, and the long-word refusal.
+#include <QKeyEvent>
+#include <QtTest>
+
+#include "core/score_table.h"
+#include "game_road.h"
+#include "games/action/crunch_man/crunch_man_screen.h"
+
+using namespace wm;
+using namespace wm::test;
+
+namespace {
+
+// C, A and T in row 4 at columns 12, 14 and 16 (the mouth starts in column 10 of row 5), the
+// two mines of difficulty 2 at the bottom left.
+void ScriptField(ScriptedRng& rng) {
+    rng.pick(1, 1);
+    for (int column : {12, 14, 16}) rng.then((column + 0.5) / 20).then(4.5 / 11);
+    for (int column : {0, 1}) rng.then((column + 0.5) / 20).then(9.5 / 11);
+    rng.setFallback(0.5);
+}
+
+CrunchManGame* Start(ShellFixture& fx, bool soundOn = true) {
+    WriteOneList(fx, "Pets", {{"cat", "a small furry pet"}});
+    auto* chooser = ChooserFor("Crunch Man", 2, false, soundOn);
+    ScriptField(fx.rng);
+    ContinueWithList(chooser, "Pets");
+    auto* game = Showing<CrunchManGame>();
+    Pump(20);  // the instructions come once the screen has painted
+    return game;
+}
+
+int CentreColumn(CrunchManGame* g) {
+    const auto& r = g->round();
+    return int((r.x + 23) / r.cellW);
+}
+int CentreRow(CrunchManGame* g) {
+    const auto& r = g->round();
+    return int((r.y + 22 - 67) / r.cellH);
+}
+
+void Press(CrunchManGame* g, int key) {
+    QKeyEvent e(QEvent::KeyPress, key, Qt::NoModifier);
+    QApplication::sendEvent(g, &e);
+}
+
+// Ticks until `done` holds, at most `limit` ticks.
+template <class F>
+bool TickUntil(F done, int limit = 200) {
+    for (int n = 0; n < limit; ++n) {
+        if (done()) return true;
+        Pump(50);
+    }
+    return done();
+}
+
+}  // namespace
+
+class CrunchManScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void roadToAWinAndTheTable();
+    void wrongLetterBlinksThenAsks();
+    void mineExplodesThenAsksWithoutSound();
+    void longWordsAreRefused();
+};
+
+void CrunchManScreenTest::roadToAWinAndTheTable() {
+    ShellFixture fx;
+    auto* game = Start(fx);
+    QVERIFY(game);
+    QCOMPARE(game->windowTitle(), "Crunch Man!");
+    QVERIFY(fx.dialogs.saw(
+        "OK. Look at the definition at the top of the screen. Using the arrow keys on the "
+        "keyboard, you will try to eat the letters in order so they spell out the word that best "
+        "matches that definition. Press the ENTER key when you are ready to begin!"));
+    QCOMPARE(game->definition(), "Definition: a small furry pet");
+    QCOMPARE(game->scoreCaption(), "Score: 0");
+    QCOMPARE(QString::fromStdString(Shared().TheWord), "CAT");
+
+    QVERIFY(TickUntil([&] { return CentreColumn(game) == 12; }));
+    Shot(game, "crunch-man");
+    Press(game, Qt::Key_Up);
+    QVERIFY(TickUntil([&] { return game->spelled() == "C"; }));
+    QCOMPARE(CentreRow(game), 4);
+    QCOMPARE(game->scoreCaption(), "Score: 202");  // (Int(0.5 x 200) + 1) x 2 mines
+    // The eaten letter is gone from the field itself.
+    const QRect under(12 * 64 + 20, 67 + 4 * 60 + 12, 23, 36);
+    Press(game, Qt::Key_Right);
+    Pump(50 * 8);
+    const QImage& surface = game->field()->surface();
+    int yellow = 0;
+    for (int y = under.top(); y <= under.bottom(); ++y)
+        for (int x = under.left(); x <= under.right(); ++x)
+            if (surface.pixel(x, y) == qRgb(255, 255, 0)) ++yellow;
+    QCOMPARE(yellow, 0);
+    QVERIFY(fx.sound.played.contains("bleep2.wav"));
+
+    WinDriver driver({"CMN"});
+    SetModalHook(std::ref(driver));
+    QVERIFY(TickUntil([&] { return Showing<Title>() != nullptr; }));
+    QVERIFY(fx.sound.played.contains("dingling.wav"));
+    QVERIFY(fx.sound.played.contains("winner2.wav"));
+    QCOMPARE(driver.tables.size(), 1);
+    QCOMPARE(fx.dialogs.last(), "You chomped a score of 606! Would you like to try again?");
+    QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
+    const ScoreTable table = ReadScoreTable(fx.path("scores/Crunch Man.dat").toStdString());
+    QCOMPARE(QString::fromStdString(table.initials(1)), "CMN");
+    QCOMPARE(table.score(1), 606.0);
+}
+
+void CrunchManScreenTest::wrongLetterBlinksThenAsks() {
+    ShellFixture fx;
+    auto* game = Start(fx);
+    QVERIFY(game);
+    QVERIFY(TickUntil([&] { return CentreColumn(game) == 14; }));
+    Press(game, Qt::Key_Up);
+    QVERIFY(TickUntil([&] { return game->dying(); }));
+    QVERIFY(fx.sound.played.contains("bonk.wav"));
+    QVERIFY(game->round().labels[1].red);
+    const int round = game->frame().round();
+    fx.dialogs.answerYes();
+    Pump(100 * 12);
+    QVERIFY(!game->dying());
+    QVERIFY(fx.dialogs.saw(
+        "Oops! You lost this game! The word you were looking for was \"CAT\". Would you like to "
+        "give it another try?"));
+    QCOMPARE(game->frame().round(), round + 1);  // Yes: a new round
+    QVERIFY(!QFile::exists(fx.path("scores/Crunch Man.dat")) ||
+            ReadScoreTable(fx.path("scores/Crunch Man.dat").toStdString()).score(1) == 0);
+}
+
+void CrunchManScreenTest::mineExplodesThenAsksWithoutSound() {
+    ShellFixture fx;
+    auto* game = Start(fx, false);
+    QVERIFY(game);
+    Press(game, Qt::Key_Left);
+    QVERIFY(TickUntil([&] { return CentreColumn(game) == 1; }));
+    Press(game, Qt::Key_Down);
+    QVERIFY(TickUntil([&] { return game->dying(); }));
+    Pump(50 * 20);
+    QVERIFY(!game->dying());
+    QVERIFY(fx.dialogs.last().startsWith("Oops! You lost this game!"));
+    // The title has its own sound; the game's are all gated.
+    for (const char* effect : {"bleep2.wav", "2.wav", "dingling.wav", "bonk.wav"})
+        QVERIFY2(!fx.sound.played.contains(effect), effect);
+    Pump();
+    QVERIFY(Showing<Title>() != nullptr);  // No: back to the title
+}
+
+void CrunchManScreenTest::longWordsAreRefused() {
+    ShellFixture fx;
+    WriteOneList(fx, "Long", {{"supercalifragilistic", "too long"}, {"antidisestablishment", "x"}});
+    auto* chooser = ChooserFor("Crunch Man", 3, false);
+    ContinueWithList(chooser, "Long");
+    Pump(50);
+    QVERIFY(
+        fx.dialogs.saw("The words on this list are too long to play this game! Choose another "
+                       "list or another game."));
+    QVERIFY(Showing<Title>() != nullptr);
+}
+
+QTEST_MAIN(CrunchManScreenTest)
+#include "crunch_man_screen_test.moc"
