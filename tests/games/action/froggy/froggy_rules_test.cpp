@@ -1,0 +1,256 @@
+// Froggy's rules: the level and stone tables, the key lock, hops against stones and edges, the
+// answer row, cars and logs on lanes written as text, the bonus and the score.
+#include <gtest/gtest.h>
+
+#include "games/action/froggy/froggy_rules.h"
+
+using namespace wm;
+using namespace wm::froggy;
+
+namespace {
+
+Board Lay(int difficulty) {
+    Board b;
+    lay(b, 1280, 800, difficulty);  // rows of 57 pixels, columns of 64
+    return b;
+}
+
+// A lane as text, one character per 8 pixels: '=' where a car or log starts. Returns the
+// pixel x of each start, left to right.
+std::vector<int> Starts(const std::string& lane) {
+    std::vector<int> xs;
+    for (int i = 0; i < int(lane.size()); ++i)
+        if (lane[i] == '=') xs.push_back(i * 8);
+    return xs;
+}
+
+}  // namespace
+
+TEST(FroggyLevels, TableByDifficulty) {
+    struct Row {
+        int level;
+        const char* cars;
+        int step, interval, logWidth;
+    };
+    const Row table[] = {
+        {1, "14", 1, 40, 640},    {2, "124", 1, 40, 640},    {3, "1245", 1, 30, 300},
+        {4, "12345", 1, 30, 200}, {5, "123456", 1, 30, 200}, {6, "123456", 1, 20, 150},
+        {7, "1245", 2, 15, 150},  {8, "123456", 2, 15, 100}, {9, "123456", 3, 1, 64}};
+    for (const Row& r : table) {
+        const Level l = levelFor(r.level, 1280, 64);
+        std::string cars;
+        for (int i = 1; i <= 6; ++i)
+            if (l.active[i]) cars += char('0' + i);
+        EXPECT_EQ(cars, r.cars) << r.level;
+        EXPECT_EQ(l.carStep, r.step) << r.level;
+        EXPECT_EQ(l.logInterval, r.interval) << r.level;
+        EXPECT_EQ(l.logWidth, r.logWidth) << r.level;
+    }
+}
+
+TEST(FroggyLevels, StonesLeaveTheDesignedGaps) {
+    struct Row {
+        int level;
+        std::string free5, free8;  // columns left open, as letters a=1 .. t=20
+    };
+    const Row table[] = {
+        {3, "abcdefghijklmnopqrst", "abcdefghijklmnopqrst"},
+        {4, "bdfghijklmnoqs", "abcdefghijklmnopqrst"},
+        {5, "bcefhilmoprs", "acegikmoqs"},
+        {6, "aeim", "fjnr"},
+        {7, "pqrst", "abcde"},
+        {8, "aho", "dkr"},
+        {9, "a", "t"},
+    };
+    for (const Row& r : table) {
+        const Board b = Lay(r.level);
+        std::string free5, free8;
+        for (int c = 1; c <= 20; ++c) {
+            if (!b.stone[c][5]) free5 += char('a' + c - 1);
+            if (!b.stone[c][8]) free8 += char('a' + c - 1);
+        }
+        EXPECT_EQ(free5, r.free5) << r.level;
+        EXPECT_EQ(free8, r.free8) << r.level;
+    }
+}
+
+TEST(FroggyHops, KeyLockMakesOnePressOneHop) {
+    Board b = Lay(1);
+    EXPECT_EQ(keyDown(b, Key::Other).hop, Hop::NotArrow);
+    EXPECT_FALSE(b.keyLock) << "a wrong key does not lock";
+    EXPECT_EQ(keyDown(b, Key::Up).hop, Hop::Moved);
+    EXPECT_EQ(keyDown(b, Key::Up).hop, Hop::Locked);  // the key held: its repeats do nothing
+    EXPECT_EQ(b.frogRow, 2);
+    keyUp(b);
+    EXPECT_EQ(keyDown(b, Key::Up).hop, Hop::Moved);
+    EXPECT_EQ(b.frogRow, 3);
+    EXPECT_EQ(b.frogY, 800 - 3 * 57);
+}
+
+TEST(FroggyHops, EdgesAndStones) {
+    Board b = Lay(4);
+    auto hop = [&](Key k) {
+        keyUp(b);
+        return keyDown(b, k).hop;
+    };
+    hop(Key::Down);
+    EXPECT_EQ(b.frogRow, 1);
+    for (int n = 0; n < 12; ++n) hop(Key::Left);
+    EXPECT_EQ(b.frogCol, 1);
+    EXPECT_EQ(b.frogX, 0);
+    for (int n = 0; n < 3; ++n) hop(Key::Up);
+    EXPECT_EQ(b.frogRow, 4);
+    EXPECT_EQ(hop(Key::Up), Hop::Blocked);  // a stone in row 5, column 1
+    EXPECT_EQ(b.frogRow, 4);
+    EXPECT_EQ(hop(Key::Right), Hop::Moved);
+    EXPECT_EQ(hop(Key::Up), Hop::Moved);
+    EXPECT_EQ(b.frogRow, 5);
+    EXPECT_EQ(hop(Key::Right), Hop::Blocked);
+    EXPECT_EQ(b.frogCol, 2) << "column 3 of row 5 is stone";
+}
+
+TEST(FroggyHops, AnswerRowDecidesBySlot) {
+    struct Case {
+        int slot, column;
+        Outcome outcome;
+    };
+    const Case cases[] = {
+        {1, 1, Outcome::Won},        {1, 5, Outcome::Won},  {1, 6, Outcome::WrongWord},
+        {2, 5, Outcome::WrongWord},  {2, 6, Outcome::Won},  {2, 10, Outcome::Won},
+        {2, 11, Outcome::WrongWord}, {4, 20, Outcome::Won}, {4, 15, Outcome::WrongWord}};
+    for (const Case& c : cases) {
+        Board b = Lay(1);
+        b.correctSlot = c.slot;
+        b.frogRow = 12;
+        b.frogCol = c.column;
+        EXPECT_EQ(keyDown(b, Key::Up).outcome, c.outcome) << c.slot << "/" << c.column;
+        EXPECT_EQ(b.frogX, b.X(c.column)) << "row 13 is not river: the frog is put on its column";
+    }
+}
+
+TEST(FroggyHops, RiverKeepsXUpButSnapsSideways) {
+    Board b = Lay(1);
+    b.frogRow = 9;
+    b.frogX = 600;  // between columns, as after a ride
+    keyDown(b, Key::Up);
+    EXPECT_EQ(b.frogX, 600);
+    keyUp(b);
+    keyDown(b, Key::Left);
+    EXPECT_EQ(b.frogX, b.X(b.frogCol));
+}
+
+TEST(FroggyCars, SquashAtTheEdgesOfTheCar) {
+    // Right cars run on row 3; the frog stands at x 576 (column 10). A car starting at x hits
+    // when 576 > x - 64 + 5 and 576 < x + 114 - 5, after its step of 1.
+    for (auto [start, squashed] : std::vector<std::pair<int, bool>>{
+             {465, false}, {466, false}, {467, true}, {633, true}, {634, false}, {300, false}}) {
+        Board b = Lay(1);
+        b.frogRow = 3;
+        b.frogX = 576;
+        b.rightX[1] = start;
+        b.rightX[4] = -500;
+        b.leftX[1] = b.leftX[4] = 5000;
+        EXPECT_EQ(carTick(b) == Outcome::Squashed, squashed) << start;
+    }
+    Board b = Lay(1);
+    b.rightX[1] = 1280;
+    carTick(b);
+    EXPECT_EQ(b.rightX[1], -114) << "a car past the right edge comes back from the left";
+    b.leftX[1] = -113;
+    carTick(b);
+    EXPECT_EQ(b.leftX[1], -114);
+    carTick(b);
+    EXPECT_EQ(b.leftX[1], 1280);
+}
+
+TEST(FroggyLogs, RideDrownAndTheEdge) {
+    Board b = Lay(1);  // logs of 640 pixels
+    const std::vector<int> logs =
+        Starts("=..............................................................................=");
+    ASSERT_EQ(logs.size(), 2u);
+    b.logX[2] = logs[0];
+    b.logX[5] = logs[1];  // 632
+    b.frogRow = 11;       // logs move by +2 here
+    b.frogX = 610;
+    b.frogCol = 7;
+    bool rode = false;
+    EXPECT_EQ(logTick(b, rode), Outcome::None);
+    EXPECT_TRUE(rode);
+    EXPECT_EQ(b.frogX, 612) << "two logs share the row; the frog rides once";
+    EXPECT_EQ(b.frogCol, 7) << "no column starts within half a column of 612: it stays";
+    b.frogX = 574;
+    logTick(b, rode);
+    EXPECT_EQ(b.frogX, 576);
+    EXPECT_EQ(b.frogCol, 10);
+    // Carried to the right edge, the frog stays there until its log has gone.
+    b.frogX = 1210;
+    b.logX[5] = 1000;
+    b.logX[2] = -600;
+    int ticks = 0;
+    Outcome out = Outcome::None;
+    while (out == Outcome::None && ticks < 200) {
+        out = logTick(b, rode);
+        ++ticks;
+        if (out == Outcome::None) EXPECT_LE(b.frogX, 1280 - 64);
+    }
+    EXPECT_EQ(out, Outcome::Drowned);
+    EXPECT_EQ(b.frogX, 1216);
+    // No log under the frog at all.
+    Board water = Lay(1);
+    water.frogRow = 12;
+    water.frogX = 1000;
+    water.logX[3] = 0;
+    water.logX[6] = -700;
+    EXPECT_EQ(logTick(water, rode), Outcome::Drowned);
+}
+
+TEST(FroggyScore, BonusRunsDownAndIsReadAtTheWin) {
+    Board b = Lay(3);
+    EXPECT_EQ(b.bonus, 10000);
+    for (int n = 0; n < 1000; ++n) bonusTick(b);
+    EXPECT_EQ(b.bonus, 9000);
+    ScriptedRng rng(0.5);
+    EXPECT_DOUBLE_EQ(winScore(b, 3, rng), 90000 + 3000 + 20);
+    b.bonus = 2;
+    bonusTick(b);
+    bonusTick(b);
+    bonusTick(b);
+    EXPECT_EQ(b.bonus, 1);
+}
+
+TEST(FroggySetup, FourDifferentWordsOrARefusal) {
+    SharedState s;
+    s.Words = {"", "ant", "bee", "cat", "dog", "ant"};
+    s.Meanings = {"", "m1", "m2", "m3", "m4", "m5"};
+    s.WordCount = 5;
+    s.Difficulty = 2;
+    ScriptedRng rng;
+    rng.pick(3, 5).pick(2, 4);             // the word "cat" in slot 2
+    rng.pick(3, 5).pick(1, 5).pick(5, 5);  // cat again, ant, ant again (placed)
+    rng.pick(2, 5).pick(4, 5);
+    Board b;
+    ASSERT_TRUE(setup(s, b, 1280, 800, rng).ready);
+    EXPECT_EQ(s.TheWord, "cat");
+    EXPECT_EQ(b.correctSlot, 2);
+    EXPECT_EQ(b.slotWords[1], "ant");
+    EXPECT_EQ(b.slotWords[3], "bee");
+    EXPECT_EQ(b.slotWords[4], "dog");
+    EXPECT_EQ(b.frogCol, 10);
+    EXPECT_EQ(b.logX[4], 640);
+    EXPECT_EQ(b.leftX[2], 768);
+
+    s.Words = {"", "ant", "bee", "ant", "bee"};
+    s.WordCount = 4;
+    ScriptedRng loop(0.3);
+    const SetupResult refused = setup(s, b, 1280, 800, loop);
+    EXPECT_FALSE(refused.ready);
+    EXPECT_EQ(refused.message,
+              "This list needs at least four different words to play Froggy! Choose another "
+              "list or another game.");
+}
+
+TEST(FroggyTexts, QuestionAndWrongWord) {
+    EXPECT_EQ(question("a pet"), "Which word means \"a pet\"?");
+    EXPECT_EQ(wrongWordText("cat"),
+              "Oops! Wrong word! The correct word was \"cat\" Would you like to try again?");
+}

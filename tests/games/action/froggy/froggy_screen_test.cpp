@@ -1,0 +1,149 @@
+// Froggy on its screen: from the title across the lanes to the right slot and the table, a
+// car, a stone, a held key and the wrong slot.
+#include <QKeyEvent>
+#include <QtTest>
+
+#include "core/score_table.h"
+#include "game_road.h"
+#include "games/action/froggy/froggy_screen.h"
+
+using namespace wm;
+using namespace wm::test;
+
+namespace {
+
+const std::vector<std::pair<std::string, std::string>> kPets = {
+    {"cat", "a small furry pet"}, {"dog", "barks"}, {"fish", "swims"}, {"bird", "sings"}};
+
+FroggyForm* Start(ShellFixture& fx, int difficulty, bool soundOn = true) {
+    WriteOneList(fx, "Pets", kPets);
+    auto* chooser = ChooserFor("Froggy", difficulty, false, soundOn);
+    // "cat" in slot 2 (columns 6 to 10); then dog, fish, bird in order.
+    fx.rng.pick(1, 4).pick(2, 4).pick(2, 4).pick(3, 4).pick(4, 4);
+    fx.rng.setFallback(0.5);
+    ContinueWithList(chooser, "Pets");
+    auto* game = Showing<FroggyForm>();
+    Pump(0);
+    return game;
+}
+
+void Key(QWidget* w, int key, bool autoRepeat = false) {
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(), autoRepeat);
+    QApplication::sendEvent(w, &press);
+}
+void Release(QWidget* w, int key, bool autoRepeat = false) {
+    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, QString(), autoRepeat);
+    QApplication::sendEvent(w, &release);
+}
+void Hop(QWidget* w, int key) {
+    Key(w, key);
+    Release(w, key);
+}
+
+// No cars, and the river's logs wide enough to stand on anywhere.
+void ClearTheWay(FroggyForm* game) {
+    auto& b = game->board();
+    b.level.active = {};
+    b.level.logWidth = 2000;
+    for (int i = 1; i <= 6; ++i) b.logX[i] = -300;
+}
+
+}  // namespace
+
+class FroggyScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void roadToTheRightSlotAndTheTable();
+    void heldKeyHopsOnceAndStonesCrumble();
+    void carEndsTheGame();
+    void wrongSlotEndsTheGame();
+};
+
+void FroggyScreenTest::roadToTheRightSlotAndTheTable() {
+    ShellFixture fx;
+    auto* game = Start(fx, 3);
+    QVERIFY(game);
+    QCOMPARE(game->windowTitle(), "Froggy!");
+    QCOMPARE(game->board().slotWords[2], std::string("cat"));
+    QCOMPARE(game->board().slotWords[4], std::string("bird"));
+    Pump(16 * 40);
+    Shot(game, "froggy");
+    ClearTheWay(game);
+    WinDriver driver({"FRG"});
+    SetModalHook(std::ref(driver));
+    Pump(50 * 100);  // 100 ticks of the bonus
+    for (int n = 0; n < 12; ++n) {
+        Hop(game, Qt::Key_Up);
+        Pump(16);
+        if (Showing<Title>()) break;
+    }
+    Pump();
+    QVERIFY(Showing<Title>() != nullptr);
+    QVERIFY(fx.sound.played.contains("bleep.wav"));
+    QCOMPARE(fx.sound.modes[fx.sound.played.indexOf("bleep.wav")], SoundMode::NoInterrupt);
+    QCOMPARE(driver.tables.size(), 1);
+    // The bonus after some 5.8 s of 50 ms ticks, times 10, plus the level x 1000 and one draw:
+    // Int(0.5 x 3 + 1) x 10.
+    const double score = Shared().Score;
+    QCOMPARE(score, (10000 - 116) * 10.0 + 3000 + 20);
+    QVERIFY(fx.dialogs.last().startsWith("You got a high score of "));
+    QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
+    const ScoreTable table = ReadScoreTable(fx.path("scores/Froggy.dat").toStdString());
+    QCOMPARE(QString::fromStdString(table.initials(1)), "FRG");
+}
+
+void FroggyScreenTest::heldKeyHopsOnceAndStonesCrumble() {
+    ShellFixture fx;
+    auto* game = Start(fx, 4);
+    QVERIFY(game);
+    ClearTheWay(game);
+    Key(game, Qt::Key_Up);
+    for (int n = 0; n < 5; ++n) {  // the keyboard repeats while the key is held
+        Release(game, Qt::Key_Up, true);
+        Key(game, Qt::Key_Up, true);
+    }
+    QCOMPARE(game->board().frogRow, 2);
+    Release(game, Qt::Key_Up);
+    for (int n = 0; n < 9; ++n) Hop(game, Qt::Key_Left);
+    Hop(game, Qt::Key_Up);
+    Hop(game, Qt::Key_Up);
+    QCOMPARE(game->board().frogRow, 4);
+    Hop(game, Qt::Key_Up);  // a stone in column 1 of row 5
+    QCOMPARE(game->board().frogRow, 4);
+    QCOMPARE(fx.sound.played.last(), "crumble.wav");
+    Hop(game, Qt::Key_A);
+    QVERIFY(fx.dialogs.saw("Use the arrow keys to contol your frog..."));
+    QCOMPARE(game->board().frogRow, 4);
+}
+
+void FroggyScreenTest::carEndsTheGame() {
+    ShellFixture fx;
+    auto* game = Start(fx, 1, false);
+    QVERIFY(game);
+    Hop(game, Qt::Key_Up);
+    Hop(game, Qt::Key_Up);  // row 3: right car 1 comes along from the left
+    fx.dialogs.answerYes();
+    const int round = game->frame().round();
+    for (int n = 0; n < 2000 && game->frame().round() == round; ++n) Pump(16);
+    QVERIFY(fx.dialogs.saw("Oops! Froggy met a car tire! Would you like to try again?"));
+    QCOMPARE(game->frame().round(), round + 1);
+    QVERIFY(!fx.sound.played.contains("squish.wav"));
+    QCOMPARE(game->board().frogRow, 1);
+}
+
+void FroggyScreenTest::wrongSlotEndsTheGame() {
+    ShellFixture fx;
+    auto* game = Start(fx, 2);
+    QVERIFY(game);
+    ClearTheWay(game);
+    for (int n = 0; n < 9; ++n) Hop(game, Qt::Key_Left);
+    for (int n = 0; n < 12 && Showing<FroggyForm>(); ++n) Hop(game, Qt::Key_Up);
+    QVERIFY(fx.dialogs.saw(
+        "Oops! Wrong word! The correct word was \"cat\" Would you like to try again?"));
+    QCOMPARE(fx.sound.played.last(), "gbell.wav");
+    Pump();
+    QVERIFY(Showing<Title>() != nullptr);
+}
+
+QTEST_MAIN(FroggyScreenTest)
+#include "froggy_screen_test.moc"
