@@ -1,0 +1,168 @@
+// Asteroid Zap's rules: the row of word and filler, the subsequence rule of a hit, the shots,
+// the sinking wall, the ship's travel and the score.
+#include <gtest/gtest.h>
+
+#include "games/action/asteroid_zap/asteroid_zap_rules.h"
+
+using namespace wm;
+using namespace wm::asteroid;
+
+namespace {
+
+// A round whose wall reads `row` (20 characters) over the word `word`.
+Round Wall(const std::string& word, const std::string& row) {
+    Round r;
+    ScriptedRng rng(0.0);
+    setup(r, Geometry{}, word, rng);
+    for (int i = 0; i < kLetters; ++i) r.rocks[i].letter = row[i];
+    return r;
+}
+
+// Shoots the letters at `columns` one after another, letting each explosion run out.
+std::string Shoot(Round& r, const std::vector<int>& columns) {
+    ScriptedRng rng(0.5);
+    std::string results;
+    for (int k : columns) {
+        results += hitLetter(r, k, rng) ? 'y' : 'n';
+        if (r.wrongShot) break;
+    }
+    return results;
+}
+
+}  // namespace
+
+TEST(AsteroidRow, FillerKeepsTheWordInOrder) {
+    ScriptedRng rng;
+    // "CAT": Q after nothing, then Z after the first two characters...
+    rng.pick(17, 26).then(0.0);      // Q at the front: QCAT
+    rng.pick(26, 26).then(2.5 / 4);  // Z after QC: QCZAT
+    rng.setFallback(0.999);          // then Zs as far right as they go
+    const std::string row = buildRow("  cat ", rng);
+    EXPECT_EQ(row.substr(0, 5), "QCZAZ");
+    // A filler goes after at most all but one character: the last letter stays last.
+    EXPECT_EQ(row.back(), 'T');
+    EXPECT_EQ(row.size(), 20u);
+    ScriptedRng one(0.0);
+    EXPECT_EQ(buildRow("abcdefghijklmnopqrs", one), "AABCDEFGHIJKLMNOPQRS")
+        << "19 letters: one filler";
+    ScriptedRng blank(0.999);
+    EXPECT_EQ(buildRow("ice age", blank).substr(0, 7), "ICE AGZ") << "the blank is a letter box";
+}
+
+TEST(AsteroidRow, WordsOf15OrMoreAreNeverChosen) {
+    SharedState s;
+    s.Words = {"", std::string(15, 'a'), std::string(14, 'b')};
+    s.Meanings = {"", "", "fourteen"};
+    s.WordCount = 2;
+    ScriptedRng rng;
+    rng.pick(1, 2).pick(1, 2).pick(2, 2);
+    EXPECT_EQ(chooseWord(s, rng), 2);
+    EXPECT_EQ(s.TheMeaning, "fourteen");
+    s.WordCount = 1;
+    ScriptedRng only(0.2);
+    EXPECT_EQ(chooseWord(s, only), 0);
+    EXPECT_EQ(only.draws, kMaxWordDraws);
+}
+
+TEST(AsteroidHits, OnlyTheSubsequenceRuleDecides) {
+    struct Case {
+        const char* word;
+        const char* row;
+        std::vector<int> shots;
+        const char* results;
+        bool allCleared;
+    };
+    const Case cases[] = {
+        // Filler away one by one until only the word stands.
+        {"CAT", "QCZATXXXXXXXXXXXXXXX", {0, 2}, "yy", false},
+        {"CAT",
+         "QCATXXXXXXXXXXXXXXXX",
+         {0, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19},
+         "yyyyyyyyyyyyyyyyy",
+         true},
+        {"CAT", "CATXXXXXXXXXXXXXXXXX", {1}, "n", false},
+        // A doubled letter may go once when another copy can take its place.
+        {"BOOK", "BOOOKXXXXXXXXXXXXXXX", {1}, "y", false},
+        {"BOOK", "BOOOKXXXXXXXXXXXXXXX", {1, 2}, "yn", false},
+        {"ICE AGE", "ICE AGEXXXXXXXXXXXXX", {3}, "n", false},
+    };
+    for (const Case& c : cases) {
+        Round r = Wall(c.word, c.row);
+        EXPECT_EQ(Shoot(r, c.shots), c.results) << c.word << " " << c.row;
+        EXPECT_EQ(r.allCleared, c.allCleared) << c.word << " " << c.row;
+        if (std::string(c.results).back() == 'n') {
+            EXPECT_TRUE(r.wrongShot);
+            EXPECT_EQ(int(r.blasts.size()), kLetters) << "every letter still alive blows up";
+            for (const Blast& b : r.blasts) EXPECT_TRUE(b.frame >= 13 && b.frame <= 18);
+        }
+    }
+}
+
+TEST(AsteroidShots, ColumnsFlightAndTheThreeShotLimit) {
+    const Geometry g;
+    EXPECT_EQ(columnAt(g, 0), 0);
+    EXPECT_EQ(columnAt(g, g.boxLeft(1) - 1), 0);
+    EXPECT_EQ(columnAt(g, g.boxLeft(1)), 1);
+    EXPECT_EQ(columnAt(g, g.boxLeft(19) - 1), 18);
+    EXPECT_EQ(columnAt(g, g.boxLeft(19)), 19);
+    EXPECT_EQ(columnAt(g, g.boxLeft(19) + 1), 19);
+    EXPECT_EQ(columnAt(g, g.width), 19);
+
+    Round r = Wall("CAT", "QCATXXXXXXXXXXXXXXXX");
+    ScriptedRng rng(0.5);
+    int fired = 0;
+    for (int n = 0; n < 4; ++n) {
+        r.fireWanted = true;
+        fired += tick(r, 1, rng).shotFired;
+    }
+    EXPECT_EQ(fired, 3);
+    EXPECT_TRUE(r.fireWanted) << "the fourth waits for a free shot";
+    const int column = columnAt(g, r.shipX + g.shipW / 2);
+    // Shots climb 10 pixels a tick from the ship's top to the letter's bottom.
+    TickEvents e;
+    int ticks = 0;
+    while (e.hit < 0 && ticks < 200) {
+        e = tick(r, 1, rng);
+        ++ticks;
+    }
+    EXPECT_EQ(e.hit, column);
+    EXPECT_EQ(e.booms.size(), 1u);
+    EXPECT_GT(ticks, 20);
+}
+
+TEST(AsteroidWall, SinksByDifficultyUntilTheShip) {
+    Round r = Wall("CAT", "QCATXXXXXXXXXXXXXXXX");
+    ScriptedRng rng(0.5);
+    const int start = r.rocks[0].bottom;
+    tick(r, 7, rng);
+    EXPECT_EQ(r.rocks[0].bottom, start + 7);
+    const int limit = r.g.shipTop() - r.g.shipH;
+    r.rocks[5].bottom = limit - 8;
+    EXPECT_EQ(tick(r, 7, rng).ending, Ending::None);
+    EXPECT_EQ(tick(r, 7, rng).ending, Ending::ShipDestroyed);
+    EXPECT_TRUE(r.over);
+    EXPECT_FALSE(r.blasts.empty());
+}
+
+TEST(AsteroidShip, StaysUnderTheRow) {
+    Round r = Wall("CAT", "QCATXXXXXXXXXXXXXXXX");
+    r.leftHeld = true;
+    for (int n = 0; n < 1000; ++n) moveShip(r);
+    EXPECT_EQ(r.shipX, 0);
+    r.leftHeld = false;
+    r.rightHeld = true;
+    moveShip(r);
+    EXPECT_EQ(r.shipX, 50);
+    for (int n = 0; n < 1000; ++n) moveShip(r);
+    EXPECT_EQ(r.shipX, r.g.boxLeft(19) + r.g.boxWidth() - r.g.shipW);
+}
+
+TEST(AsteroidScore, WordLengthLevelOptionAndHowFarTheWallSank) {
+    Round r = Wall("CAT", "QCATXXXXXXXXXXXXXXXX");
+    EXPECT_DOUBLE_EQ(winScore(r, 3, true), 4500);
+    EXPECT_DOUBLE_EQ(winScore(r, 3, false), 45000);
+    for (Rock& rock : r.rocks) rock.bottom += 600;
+    EXPECT_DOUBLE_EQ(winScore(r, 3, true), 3900);
+    EXPECT_EQ(wonText(3900),
+              "Great job! You have cleared the path to safety! Your score this round is 3900!");
+}
