@@ -1,0 +1,118 @@
+// Word Zap on its screen: from the title through a timed round of hits to the initials the game
+// writes itself and the table, and a careless round that ends below zero.
+#include <QtTest>
+
+#include "core/score_table.h"
+#include "game_road.h"
+#include "games/action/word_zap/word_zap_screen.h"
+
+using namespace wm;
+using namespace wm::test;
+
+namespace {
+
+Zap* Start(ShellFixture& fx) {
+    WriteOneList(fx, "Pets", {{"cat", "a small furry pet"}, {"dog", "barks"}, {"owl", "hoots"}});
+    auto* chooser = ChooserFor("Word Zap", 2, false);
+    static SeededRng seeded(11);
+    SetRng(&seeded);
+    ContinueWithList(chooser, "Pets");
+    auto* game = Showing<Zap>();
+    Pump(0);
+    return game;
+}
+
+void Click(Zap* game, const QRect& logical) {
+    QTest::mouseClick(game->field(), Qt::LeftButton, {}, game->field()->toWidget(logical).center());
+}
+
+// The slot of the definition on show.
+int RightTarget(Zap* game) {
+    const auto& g = game->gallery();
+    return g.slotOf[g.definition] - 1;
+}
+
+}  // namespace
+
+class WordZapScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void roadToTheInitialsAndTheTable();
+    void carelessRoundEndsBelowZero();
+};
+
+void WordZapScreenTest::roadToTheInitialsAndTheTable() {
+    ShellFixture fx;
+    auto* game = Start(fx);
+    QVERIFY(game);
+    QCOMPARE(game->windowTitle(), "Word Zap");
+    QCOMPARE(game->scoreText(), "Score:  0000");
+    QCOMPARE(game->timeText(), "Time:  60");
+    QCOMPARE(game->defText(),
+             "When the timer starts, look here for the definition of the word you should shoot.");
+    Click(game, QRect(10, 10, 5, 5));  // nothing counts before the start
+    QCOMPARE(game->gallery().score, 0.0);
+    Pump(16 * 30);  // reaction ticks run before the start too
+    Click(game, game->readyRect());
+    QVERIFY(!game->readyShown());
+    QCOMPARE(game->gallery().reaction, 0);
+    QVERIFY(fx.sound.played.contains("ricochet.wav"));
+    QVERIFY(game->defText() != "");
+
+    Pump(16 * 10);
+    Click(game, game->targetRect(RightTarget(game)));
+    QCOMPARE(game->gallery().score, 1000.0 - 10 + 200);
+    QCOMPARE(game->scoreText(), "Score: 1190");
+    QVERIFY(fx.sound.played.contains("crumble.wav"));
+    Pump(16 * 5);
+    Shot(game, "word-zap");
+    Click(game, game->targetRect(RightTarget(game)));  // the last of the round: a new deal
+    QCOMPARE(game->gallery().definition, 1);
+    Click(game, QRect(game->field()->logicalSize().width() / 2, 20, 4, 4));  // the sky
+    QCOMPARE(game->gallery().score, 1190.0 + 1000 - 5 + 200 - 100);
+    QCOMPARE(fx.sound.played.last(), "shotmiss.wav");
+
+    WinDriver driver({"ZAP"});
+    SetModalHook(std::ref(driver));
+    for (int n = 0; n < 62 && Showing<Zap>(); ++n) Pump(1000);
+    Pump();
+    QVERIFY(Showing<Title>() != nullptr);
+    QVERIFY(fx.sound.played.contains("airhorn.wav"));
+    QCOMPARE(driver.congratulations.size(), 1);
+    QCOMPARE(driver.congratulations[0],
+             "Congratulations! You have placed number 1 in the high score records with a score of "
+             "2285! Type your initials to save your record...");
+    QCOMPARE(fx.dialogs.last(), "You got a high score of 2285! Would you like to try again?");
+    const ScoreTable table = ReadScoreTable(fx.path("scores/Word Zap.dat").toStdString());
+    QCOMPARE(QString::fromStdString(table.initials(1)), "ZAP");
+    QCOMPARE(table.score(1), 2285.0);
+}
+
+void WordZapScreenTest::carelessRoundEndsBelowZero() {
+    ShellFixture fx;
+    auto* game = Start(fx);
+    QVERIFY(game);
+    Click(game, game->readyRect());
+    const int wrong = RightTarget(game) == 0 ? 1 : 0;
+    int other = -1;
+    for (int k = 0; k < 8; ++k)
+        if (k != RightTarget(game) && game->gallery().targets[k].visible) other = k;
+    QVERIFY(other >= 0);
+    (void)wrong;
+    Click(game, game->targetRect(other));
+    QCOMPARE(game->gallery().score, -500.0);
+    QVERIFY(game->gallery().targets[other].black);
+    fx.dialogs.answerYes();
+    const int round = game->frame().round();
+    for (int n = 0; n < 62 && game->frame().round() == round; ++n) Pump(1000);
+    QVERIFY(
+        fx.dialogs.saw("Oops! You scored -500! Try to be more careful what you shoot next "
+                       "time! Would you like to try again?"));
+    QCOMPARE(fx.dialogs.shown.back().title, "Not so great...");
+    QVERIFY(game->readyShown());  // Yes: a new game waits for the start again
+    QVERIFY(!QFile::exists(fx.path("scores/Word Zap.dat")) ||
+            ReadScoreTable(fx.path("scores/Word Zap.dat").toStdString()).score(1) == 0);
+}
+
+QTEST_MAIN(WordZapScreenTest)
+#include "word_zap_screen_test.moc"
