@@ -21,6 +21,7 @@ public:
     GameFrame& frame() { return frame_; }
     PlayField* field() const { return field_; }
     const crunch::Round& round() const { return round_; }
+    crunch::Round& round() { return round_; }
     QString definition() const { return Label1; }  // empty when hidden
     QString scoreCaption() const { return Label2; }
     QString spelled() const { return Label3; }

@@ -175,6 +175,7 @@ void FroggyForm::SetupGame() {
     loadPictures();
     for (auto& c : rightCars_) c = FieldSprite();
     for (auto& c : leftCars_) c = FieldSprite();
+    for (auto& l : logs_) l = FieldSprite();
     frogSprite_ = FieldSprite();
     field_->setBackground(backPicture());
     drawLogs();
@@ -198,8 +199,11 @@ void FroggyForm::drawCars() {
 
 void FroggyForm::drawLogs() {
     const froggy::Board& b = board_;
-    field_->restoreBackground(QRect(0, b.Y(12), b.width, 3 * b.rowH));
-    for (int i = 1; i <= 6; ++i) field_->copy({b.logX[i], b.Y(froggy::logRow(i))}, log_);
+    for (int i = 1; i <= 6; ++i) logs_[i].draw(*field_, {b.logX[i], b.Y(froggy::logRow(i))}, log_);
+}
+
+void FroggyForm::eraseLogs() {
+    for (int i = 6; i >= 1; --i) logs_[i].erase(*field_);
 }
 
 void FroggyForm::drawFrog() {
@@ -221,6 +225,7 @@ void FroggyForm::carTick() {
 
 void FroggyForm::logTick() {
     frogSprite_.erase(*field_);
+    eraseLogs();
     bool rode = false;
     const froggy::Outcome out = froggy::logTick(board_, rode);
     drawLogs();

@@ -35,6 +35,7 @@ private:
     QImage backPicture() const;
     void drawCars();
     void drawLogs();
+    void eraseLogs();
     void drawFrog();
     void rings(const QColor& colour, int step);
     void squashed();
@@ -47,7 +48,7 @@ private:
     froggy::Board board_;
     QImage carLeft_, carRight_, log_, stone_;
     std::array<QImage, 4> frog_;
-    std::array<FieldSprite, 7> rightCars_, leftCars_;
+    std::array<FieldSprite, 7> rightCars_, leftCars_, logs_;
     FieldSprite frogSprite_;
     GameTimer& CarTimer;
     GameTimer& LogTimer;
