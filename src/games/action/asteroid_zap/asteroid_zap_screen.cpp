@@ -40,6 +40,18 @@ QImage fromSheet(const SpriteSheet& sheet, const char* name, int i, QSize size, 
     return image;
 }
 
+// The rocks fill their letter boxes and the ship is sized to them, on any screen.
+asteroid::Geometry geometryFor(QSize pixels) {
+    asteroid::Geometry g;
+    g.width = pixels.width() * kTwips;
+    g.height = pixels.height() * kTwips;
+    const int rock = std::max(24, g.boxWidth() / kTwips * 19 / 20);
+    g.rock = rock * kTwips;
+    g.shipW = rock * 4 / 3 * kTwips;
+    g.shipH = rock * 16 / 15 * kTwips;
+    return g;
+}
+
 QFont boldFont(int px) {
     QFont font("DejaVu Sans");
     font.setBold(true);
@@ -86,7 +98,7 @@ void AsteroidBlast::resizeEvent(QResizeEvent*) {
 
 void AsteroidBlast::loadPictures() {
     const SpriteSheet sheet = SpriteSheet::fromSvg(findAsset(kSprites));
-    const asteroid::Geometry g;
+    const asteroid::Geometry g = geometryFor(field_->logicalSize());
     const QSize rock(g.rock / kTwips, g.rock / kTwips);
     for (int i = 0; i < 4; ++i) rock_[i] = fromSheet(sheet, "rock", i, rock, QColor(140, 120, 100));
     for (int i = 0; i < 8; ++i)
@@ -129,9 +141,7 @@ void AsteroidBlast::SetupGame() {
     blastSprites_.clear();
     shipSprite_ = FieldSprite();
     s.Score = 0;
-    asteroid::Geometry g;
-    g.width = field_->logicalSize().width() * kTwips;
-    g.height = field_->logicalSize().height() * kTwips;
+    const asteroid::Geometry g = geometryFor(field_->logicalSize());
     if (asteroid::chooseWord(s, TheRng()) == 0) {
         defText_.clear();
         Timer1.start();

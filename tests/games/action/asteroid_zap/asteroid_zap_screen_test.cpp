@@ -110,7 +110,8 @@ void AsteroidZapScreenTest::shipDestroyedAndArrowKeys() {
     QCOMPARE(game->round().shipX, x - 4 * 50);
     Pump(16 * 4);
     QCOMPARE(game->round().shipX, x - 4 * 50);
-    for (auto& rock : game->round().rocks) rock.bottom = game->round().g.shipTop() - 962;
+    for (auto& rock : game->round().rocks)
+        rock.bottom = game->round().g.shipTop() - game->round().g.shipH - 2;
     Pump(20 * 5);
     QCOMPARE(game->defText(), "Your ship was destroyed! The word was:");
     QVERIFY(game->waitingForKey());
