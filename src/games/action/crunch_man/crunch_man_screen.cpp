@@ -236,7 +236,7 @@ void CrunchManGame::gameTick() {
     const QRect at(t.newX, t.newY, geometry_.playerW, geometry_.playerH);
     under_ = field_->save(at);
     field_->copy(at.topLeft(), PicUfo[t.sprite]);
-    if (t.chomp) sound().effect("bleep2.wav", SoundMode::NoInterrupt);
+    if (t.chomp) sound().effect("bleep2.wav");
     if (t.mineSprite >= 0) {
         for (int m = 1; m <= round_.mineCount; ++m)
             field_->copy({round_.mineX[m], round_.mineY[m]}, PicUfo[t.mineSprite]);

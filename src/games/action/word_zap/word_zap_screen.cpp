@@ -260,9 +260,11 @@ void Zap::eraseStars() {
 
 void Zap::drawStars() {
     const QImage& picture = star_[gallery_.stripFrame - 1];
+    // The panel stands in front of the gallery: a star falling behind it is not drawn.
+    const int panelTop = int(0.82 * field_->logicalSize().height());
     for (int i = 0; i < zap::kStars; ++i) {
         const zap::Star& s = gallery_.stars[i];
-        if (s.alive)
+        if (s.alive && s.y + kStarSize / 2 < panelTop)
             starSprites_[i].draw(*field_, {s.x - kStarSize / 2, s.y - kStarSize / 2}, picture);
     }
 }
