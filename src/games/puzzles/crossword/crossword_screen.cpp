@@ -107,7 +107,7 @@ void CrosswordBoard::paintEvent(QPaintEvent*) {
     const double s = cellSize();
     QFont letter("DejaVu Serif");
     letter.setBold(true);
-    letter.setPixelSize(std::max(8, int(s * 0.62)));
+    letter.setPixelSize(std::max(8, int(s * 0.54)));
     QFont number("DejaVu Sans");
     number.setPixelSize(std::max(6, int(s * 0.28)));
     p.setRenderHint(QPainter::Antialiasing, false);
@@ -132,7 +132,8 @@ void CrosswordBoard::paintEvent(QPaintEvent*) {
         if (board_->caption[i]) {
             p.setFont(letter);
             p.setPen(QColor(15, 25, 60));
-            p.drawText(r.adjusted(0, int(s * 0.12), 0, 0), Qt::AlignCenter,
+            // Below the corner number, as a pencilled letter sits.
+            p.drawText(r.adjusted(int(s * 0.08), int(s * 0.2), 0, 0), Qt::AlignCenter,
                        toQ(std::string(1, board_->caption[i])));
         }
     }
