@@ -106,16 +106,16 @@ void WordMazeBoard::paintEvent(QPaintEvent*) {
         p.setBrush(stone);
         p.drawRoundedRect(r, r.width() * 0.25, r.width() * 0.25);
         if (n == maze_->EndCell) {
-            // A little flag on the finish stone.
-            const QPointF pole(r.right() - r.width() * 0.18, r.top() + r.height() * 0.1);
+            // A little flag in the corner of the finish stone, clear of its letter.
+            const QPointF pole(r.right() - r.width() * 0.1, r.top() + r.height() * 0.06);
             p.setPen(QPen(QColor(90, 60, 30), std::max(1.0, pad * 0.5)));
-            p.drawLine(pole, pole + QPointF(0, r.height() * 0.42));
+            p.drawLine(pole, pole + QPointF(0, r.height() * 0.3));
             p.setPen(Qt::NoPen);
             p.setBrush(QColor(230, 50, 70));
             QPainterPath flag;
             flag.moveTo(pole);
-            flag.lineTo(pole + QPointF(-r.width() * 0.24, r.height() * 0.1));
-            flag.lineTo(pole + QPointF(0, r.height() * 0.2));
+            flag.lineTo(pole + QPointF(-r.width() * 0.2, r.height() * 0.07));
+            flag.lineTo(pole + QPointF(0, r.height() * 0.14));
             p.drawPath(flag);
         }
         p.setPen(QColor(30, 36, 70));

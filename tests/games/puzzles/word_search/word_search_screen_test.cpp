@@ -8,6 +8,7 @@
 #include "game_road.h"
 #include "games/puzzles/word_search/word_search_screen.h"
 #include "platform/text.h"
+#include "platform/timeline_scene.h"
 
 using namespace wm;
 using namespace wm::test;
@@ -94,6 +95,7 @@ private slots:
 
 void WordSearchScreenTest::roadFromTitleToTheTable() {
     ShellFixture fx;
+    SetTimelineFolder(QString(WM_ASSET_DIR) + "/movies");  // the films as the program has them
     SeededRng rng(7);
     SetRng(&rng);
     WriteOneList(fx, "Animals", kAnimals);
@@ -118,6 +120,18 @@ void WordSearchScreenTest::roadFromTitleToTheTable() {
         }
     }
     QCOMPARE(Label(game, "WLLabel"), "Words Left: 1");  // the last word leaves the labels be
+    Pump(600);  // the flash ends, the puzzle goes and the win animation plays
+    QVERIFY(!game->board()->isVisible());
+    QVERIFY(!game->findChild<QWidget*>("Frame1")->isVisible());
+    auto* win = game->findChild<Movie*>("MovieBackBox");
+    QVERIFY(win->isPlaying());
+    QCOMPARE(win->width(), int(game->width() * 0.6));
+    Pump(2500);
+    Shot(game, "word-search-win");
+    QVERIFY(fx.sound.played.count("2.wav") == 0);  // fireworks only once it is over
+    Pump(1500);
+    Shot(game, "word-search-fireworks");
+    QVERIFY(fx.sound.played.count("2.wav") >= 1);
     PumpThroughEnd(game, fx.dialogs);
     const int fireworks = int(fx.sound.played.count("2.wav"));
     QVERIFY(fireworks >= 4 && fireworks <= 8);
@@ -130,6 +144,7 @@ void WordSearchScreenTest::roadFromTitleToTheTable() {
     const ScoreTable table = ReadScoreTable(fx.path("scores/Word Search.dat").toStdString());
     QCOMPARE(QString::fromStdString(table.initials(1)), "WSR");
     QCOMPARE(table.score(1), s.Score);
+    SetTimelineFolder({});
     SetRng(nullptr);
 }
 
