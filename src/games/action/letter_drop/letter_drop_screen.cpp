@@ -181,12 +181,17 @@ void LetterFall::showTiles() {
     for (int i = 0; i < kTiles; ++i) {
         QLabel* t = Letter[i];
         t->setVisible(game_.tileVisible(i));
-        t->setText(game_.tileShows(i) ? toQ(std::string(1, game_.tileChar(i))) : QString());
+        const QString text =
+            game_.tileShows(i) ? toQ(std::string(1, game_.tileChar(i))) : QString();
+        if (t->text() != text) t->setText(text);
+        // Style sheets are dear: set only when the colour changes.
         const bool blink = i == game_.hintTile() && blink_;
-        t->setStyleSheet(
-            QString("QLabel { background: %1; color: #202060; border: 2px solid #4050a0;"
-                    " border-radius: 6px; }")
-                .arg((blink ? kTileBlink : kTileBack).name()));
+        const QString colour = (blink ? kTileBlink : kTileBack).name();
+        if (t->property("back").toString() == colour) continue;
+        t->setProperty("back", colour);
+        t->setStyleSheet(QString("QLabel { background: %1; color: #202060; border: 2px solid "
+                                 "#4050a0; border-radius: 6px; }")
+                             .arg(colour));
     }
 }
 
