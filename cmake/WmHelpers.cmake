@@ -39,6 +39,10 @@ function(wm_game_screen target)
   target_link_libraries(${target} PUBLIC wm_shell ${G_LIBS})
   target_precompile_headers(${target} REUSE_FROM wm_shell)
   set_property(GLOBAL APPEND PROPERTY WM_GAME_LIBS ${target})
+  # Its pictures, sounds and animations are made from assets/ by the asset generator.
+  if(TARGET wm_assets)
+    add_dependencies(${target} wm_assets)
+  endif()
 endfunction()
 
 # Links game screen libraries whole into a test, so their registrations are kept.

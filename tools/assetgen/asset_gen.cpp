@@ -150,7 +150,8 @@ bool renderGroup(const QString& assetsDir, const QString& group, std::vector<Ass
                 return;
             }
         } else {
-            // Timelines and their drawings are read by the program as they are.
+            // Timelines, their drawings and the games' SVG art are read by the program as they
+            // are.
             bytes = text.toUtf8();
         }
         (*out)[i] = {e.name, bytes};

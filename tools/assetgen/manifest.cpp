@@ -12,7 +12,7 @@ namespace wm::assetgen {
 const QStringList& assetGroups() {
     static const QStringList groups = {QStringLiteral("pictures"), QStringLiteral("buttons"),
                                        QStringLiteral("sounds"), QStringLiteral("tunes"),
-                                       QStringLiteral("movies")};
+                                       QStringLiteral("movies"), QStringLiteral("art")};
     return groups;
 }
 
@@ -24,6 +24,7 @@ QString groupOf(const QString& kind) {
     if (kind == QLatin1String("tune")) return QStringLiteral("tunes");
     if (kind == QLatin1String("movie") || kind == QLatin1String("drawing"))
         return QStringLiteral("movies");
+    if (kind == QLatin1String("art")) return QStringLiteral("art");
     return {};
 }
 

@@ -107,6 +107,10 @@ void BugSprayForm::placePictures() {
     MovieBoxFront->raise();
 }
 
-WM_REGISTER_GAME("Bug Spray", BugSprayForm, "images/bugspray.svg", "images/hangback.svg");
+WM_REGISTER_GAME("Bug Spray", BugSprayForm, "images/bugspray.svg", "images/hangback.svg",
+                 "sounds/bugbad1.wav", "sounds/bugbye.wav", "sounds/bugdead.wav",
+                 "sounds/bugintro.wav", "sounds/buggood1.wav", "sounds/buggood2.wav",
+                 "sounds/buggood3.wav", "sounds/buggood4.wav", "sounds/bugbad2.wav",
+                 "sounds/bugbad3.wav", "sounds/bugbad4.wav");
 
 }  // namespace wm

@@ -105,6 +105,7 @@ void HangMan::placePictures() {
     Label3->raise();
 }
 
-WM_REGISTER_GAME("HangMan", HangMan, "images/hangman.svg", "images/hangback.svg");
+WM_REGISTER_GAME("HangMan", HangMan, "images/hangman.svg", "images/hangback.svg",
+                 "sounds/hangman.mid");
 
 }  // namespace wm

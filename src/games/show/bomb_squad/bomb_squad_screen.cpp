@@ -239,6 +239,7 @@ void BombSquad::resizeEvent(QResizeEvent*) {
     layOut();
 }
 
-WM_REGISTER_GAME("Bomb Squad", BombSquad, "images/bomb.svg");
+WM_REGISTER_GAME("Bomb Squad", BombSquad, "images/bomb.svg", "sounds/2.wav", "sounds/snip.wav",
+                 "sounds/spacebeep.wav");
 
 }  // namespace wm

@@ -237,6 +237,7 @@ void BombSquad2::resizeEvent(QResizeEvent*) {
     layOut();
 }
 
-WM_REGISTER_GAME("Bomb Squad 2", BombSquad2, "images/bomb.svg");
+WM_REGISTER_GAME("Bomb Squad 2", BombSquad2, "images/bomb.svg", "sounds/2.wav", "sounds/dkbell.wav",
+                 "sounds/highbeep.wav", "sounds/snip.wav", "sounds/spacebeep.wav");
 
 }  // namespace wm

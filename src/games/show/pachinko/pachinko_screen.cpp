@@ -387,6 +387,8 @@ void Plachinko::resizeEvent(QResizeEvent*) {
     Label1->move((width() - Label1->width()) / 2, height() - Label1->height() - 12);
 }
 
-WM_REGISTER_GAME("Pachinko", Plachinko, "sounds/ding.wav", "sounds/buzz.wav");
+WM_REGISTER_GAME("Pachinko", Plachinko, "sounds/ding.wav", "sounds/buzz.wav", "sounds/bleep2.wav",
+                 "sounds/cymbals.wav", "sounds/dingling.wav", "sounds/gbell.wav",
+                 "sounds/webshot.wav");
 
 }  // namespace wm

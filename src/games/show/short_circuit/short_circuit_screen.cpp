@@ -213,6 +213,7 @@ void ShortCircuit::resizeEvent(QResizeEvent*) {
     layOut();
 }
 
-WM_REGISTER_GAME("Short Circuit", ShortCircuit, "images/battery.svg", "images/lightbulb.svg");
+WM_REGISTER_GAME("Short Circuit", ShortCircuit, "images/battery.svg", "images/lightbulb.svg",
+                 "sounds/laser.wav", "sounds/loser3.wav", "sounds/zap.wav");
 
 }  // namespace wm

@@ -381,7 +381,8 @@ void SpellCrushGame::paintEvent(QPaintEvent*) {
 }
 
 WM_REGISTER_GAME("Spell Crush", SpellCrushGame, "images/spellcrush-safe.svg",
-                 "images/spellcrush-robot.svg", "sounds/fall.wav");
+                 "images/spellcrush-robot.svg", "sounds/fall.wav", "sounds/2.wav",
+                 "sounds/cymbals.wav", "sounds/glassbk.wav", "sounds/squeaky.wav");
 
 namespace {
 // The swinging safe joins the animations when the game is linked in.

@@ -432,6 +432,7 @@ void TicTacToe::resizeEvent(QResizeEvent*) {
                  std::max(frame_.menuHeight() + 4, (height() - Frame1->height()) / 2));
 }
 
-WM_REGISTER_GAME("Tic-Tac-Toe", TicTacToe, "sounds/ooh.wav");
+WM_REGISTER_GAME("Tic-Tac-Toe", TicTacToe, "sounds/ooh.wav", "sounds/2.wav", "sounds/laser.wav",
+                 "sounds/loser3.wav", "sounds/winner2.wav");
 
 }  // namespace wm

@@ -236,6 +236,6 @@ void FlashCardForm::resizeEvent(QResizeEvent*) {
 }
 
 WM_REGISTER_GAME("Flash Cards", FlashCardForm, "images/flash-back.svg", "images/card.svg",
-                 "images/card-cover.svg");
+                 "images/card-cover.svg", "sounds/pageturn.wav", "sounds/zap.wav");
 
 }  // namespace wm

@@ -372,6 +372,7 @@ void Quiz::layoutAnswers() {
 WM_REGISTER_GAME("Quiz", Quiz, "images/quiz-back.svg", "images/quiz-board.svg",
                  "images/quiz-happy.svg", "images/quiz-happy2.svg", "images/quiz-sad.svg",
                  "images/quiz-sad2.svg", "images/quiz-right.svg", "images/quiz-wrong.svg",
-                 "images/paperback.svg", "images/stamp.svg");
+                 "images/paperback.svg", "images/stamp.svg", "sounds/dingling.wav",
+                 "sounds/gbell.wav");
 
 }  // namespace wm
