@@ -2,7 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <QRandomGenerator>
+#include <QSvgRenderer>
 #include <QTimer>
 
 #include "core/shared_state.h"
@@ -233,43 +233,14 @@ void BasketBallForm::mouseReleaseEvent(QMouseEvent* e) {
 }
 
 void BasketBallForm::paintBack() {
+    // The gym wall with the crowd over the wooden court, stretched to the screen.
     back_ = QPixmap(size());
+    back_.fill(QColor(90, 70, 130));
+    QSvgRenderer svg(findAsset("images/bball-gym.svg"));
+    if (!svg.isValid()) return;
     QPainter p(&back_);
     p.setRenderHint(QPainter::Antialiasing);
-    const double W = width(), H = height();
-    // The gym wall with the crowd in the stands.
-    QLinearGradient wall(0, 0, 0, H * 0.4);
-    wall.setColorAt(0, QColor(50, 40, 90));
-    wall.setColorAt(1, QColor(90, 70, 130));
-    p.fillRect(QRectF(0, 0, W, H * 0.4), wall);
-    QRandomGenerator crowd(17);  // the same crowd every time
-    const double r = H * 0.014;
-    for (double y = H * 0.12; y < H * 0.38; y += r * 2.6) {
-        p.setPen(Qt::NoPen);
-        p.setBrush(QColor(60, 50, 80));
-        p.drawRect(QRectF(0, y + r * 1.2, W, r * 0.8));
-        for (double x = r + crowd.bounded(int(r) + 1); x < W; x += r * 2.4) {
-            p.setBrush(QColor::fromHsv(crowd.bounded(360), 150, 220));
-            p.drawRoundedRect(QRectF(x - r, y, r * 2, r * 1.4), r * 0.5, r * 0.5);
-            p.setBrush(QColor::fromHsv(20 + crowd.bounded(20), 90, 120 + crowd.bounded(130)));
-            p.drawEllipse(QPointF(x, y - r * 0.4), r * 0.7, r * 0.7);
-        }
-    }
-    // The court: a wooden floor, its lines and the key.
-    QLinearGradient floor(0, H * 0.4, 0, H);
-    floor.setColorAt(0, QColor(205, 150, 90));
-    floor.setColorAt(1, QColor(230, 180, 115));
-    p.fillRect(QRectF(0, H * 0.4, W, H * 0.6), floor);
-    p.setPen(QPen(QColor(180, 125, 70), 1));
-    for (double y = H * 0.4; y < H; y += H * 0.03) p.drawLine(QPointF(0, y), QPointF(W, y));
-    p.setPen(QPen(Qt::white, std::max(2.0, H / 200)));
-    p.setBrush(QColor(200, 80, 50, 90));
-    const QPolygonF key({QPointF(W * 0.4, H * 0.4), QPointF(W * 0.6, H * 0.4),
-                         QPointF(W * 0.66, H * 0.78), QPointF(W * 0.34, H * 0.78)});
-    p.drawPolygon(key);
-    p.setBrush(Qt::NoBrush);
-    p.drawArc(QRectF(W * 0.34, H * 0.68, W * 0.32, H * 0.2), 180 * 16, 180 * 16);
-    p.drawArc(QRectF(W * 0.08, H * 0.2, W * 0.84, H * 0.86), 180 * 16, 180 * 16);
+    svg.render(&p, QRectF(QPointF(0, 0), QSizeF(size())));
 }
 
 void BasketBallForm::paintEvent(QPaintEvent*) {
@@ -308,6 +279,7 @@ void BasketBallForm::resizeEvent(QResizeEvent*) {
     Image2->raise();
 }
 
-WM_REGISTER_GAME("Basketball", BasketBallForm, "sounds/cheer.wav", "sounds/ooh.wav");
+WM_REGISTER_GAME("Basketball", BasketBallForm, "images/bball-gym.svg", "sounds/cheer.wav",
+                 "sounds/ooh.wav");
 
 }  // namespace wm

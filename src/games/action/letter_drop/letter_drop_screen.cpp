@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QRandomGenerator>
+#include <QSvgRenderer>
 #include <QTimer>
 #include <cmath>
 
@@ -38,49 +39,16 @@ int px(int twips) {
     return twips / 15;
 }
 
-// The night sky over a grassy strip: drawn once, the field's background.
+// The night sky over a grassy strip: drawn once, the field's background. A missing picture
+// leaves a plain dark sky.
 QImage NightSky() {
     QImage sky(kW, kH, QImage::Format_RGB32);
-    QPainter p(&sky);
-    p.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient g(0, 0, 0, kH);
-    g.setColorAt(0, QColor(8, 10, 40));
-    g.setColorAt(0.6, QColor(30, 30, 90));
-    g.setColorAt(0.8, QColor(70, 50, 120));
-    p.fillRect(sky.rect(), g);
-    QRandomGenerator stars(7);  // the same sky every game
-    for (int i = 0; i < 180; ++i) {
-        const double x = stars.bounded(kW), y = stars.bounded(kH * 0.75);
-        const int a = 120 + stars.bounded(135);
-        p.setPen(Qt::NoPen);
-        p.setBrush(QColor(255, 255, 230, a));
-        const double r = stars.bounded(100) < 12 ? 1.8 : 0.9;
-        p.drawEllipse(QPointF(x, y), r, r);
-    }
-    // A smiling crescent moon.
-    QPainterPath moon, bite;
-    moon.addEllipse(QPointF(kW * 0.86, kH * 0.22), 46, 46);
-    bite.addEllipse(QPointF(kW * 0.86 - 22, kH * 0.22 - 10), 42, 42);
-    p.setBrush(QColor(255, 245, 190));
-    p.drawPath(moon.subtracted(bite));
-    // Hills and the ground strip under the tiles.
-    p.setBrush(QColor(30, 60, 60));
-    QPainterPath hills;
-    hills.moveTo(0, kH * 0.78);
-    hills.cubicTo(kW * 0.2, kH * 0.68, kW * 0.35, kH * 0.74, kW * 0.5, kH * 0.76);
-    hills.cubicTo(kW * 0.7, kH * 0.7, kW * 0.85, kH * 0.72, kW, kH * 0.77);
-    hills.lineTo(kW, kH);
-    hills.lineTo(0, kH);
-    p.drawPath(hills);
-    QLinearGradient ground(0, kH * 0.8, 0, kH);
-    ground.setColorAt(0, QColor(40, 110, 50));
-    ground.setColorAt(1, QColor(20, 60, 30));
-    p.fillRect(QRectF(0, kH * 0.8, kW, kH * 0.2), ground);
-    p.setPen(QPen(QColor(90, 170, 80), 2));
-    QRandomGenerator grass(3);
-    for (int x = 0; x < kW; x += 6) {
-        const double y = kH * 0.8;
-        p.drawLine(QPointF(x, y + 2), QPointF(x + grass.bounded(5) - 2, y - 4 - grass.bounded(6)));
+    sky.fill(QColor(14, 16, 50));
+    QSvgRenderer svg(findAsset("images/letterdrop-sky.svg"));
+    if (svg.isValid()) {
+        QPainter p(&sky);
+        p.setRenderHint(QPainter::Antialiasing);
+        svg.render(&p, QRectF(0, 0, kW, kH));
     }
     return sky;
 }
@@ -337,6 +305,7 @@ void LetterFall::resizeEvent(QResizeEvent*) {
     }
 }
 
-WM_REGISTER_GAME("Letter Drop", LetterFall, "sounds/zap.wav", "sounds/crumble.wav");
+WM_REGISTER_GAME("Letter Drop", LetterFall, "images/letterdrop-sky.svg", "sounds/zap.wav",
+                 "sounds/crumble.wav");
 
 }  // namespace wm
