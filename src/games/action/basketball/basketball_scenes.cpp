@@ -184,7 +184,8 @@ private:
                 break;
             }
             case Kind::Airball:
-                o.at = bezier(From(), {100, -140}, {360, -160}, {560, 40}, smooth(t / 1.4));
+                // Sails high over the board, the wrong way, and away.
+                o.at = bezier(From(), {120, 0}, {380, -10}, {560, 150}, smooth(t / 1.4));
                 o.scale = 1 - 0.4 * clamp01(t / 1.4);
                 break;
             case Kind::Clank:

@@ -6,6 +6,8 @@
 #include "games/action/basketball/basketball_screen.h"
 #include "platform/movie.h"
 
+#include <QPainter>
+
 using namespace wm;
 using namespace wm::test;
 using wm::basketball::kBegin;
@@ -18,6 +20,7 @@ class BasketballScreenTest : public QObject {
 private slots:
     void tenGoodShotsToTheTable();
     void wildAndScrambledShotsEndWithoutAScore();
+    void nineAnimationsDrawAndMove();
 };
 
 namespace {
@@ -165,6 +168,38 @@ void BasketballScreenTest::wildAndScrambledShotsEndWithoutAScore() {
     QCOMPARE(Shared().Score, 0.0);
     QVERIFY2(!fx.sound.played.contains("ooh.wav"), qPrintable(fx.sound.played.join(" ")));
     QVERIFY(Showing<Title>());
+}
+
+void BasketballScreenTest::nineAnimationsDrawAndMove() {
+    ShellFixture fx;
+    QStringList names{"bball-still"};
+    for (int i = 1; i <= 4; ++i)
+        names << QString("bball-good%1").arg(i) << QString("bball-bad%1").arg(i);
+    const QList<double> times{0.4, 0.9, 1.3, 1.8};
+    QImage sheet(4 * 240, names.size() * 180, QImage::Format_RGB32);
+    sheet.fill(QColor(90, 70, 130));
+    QPainter sheetPainter(&sheet);
+    for (int row = 0; row < names.size(); ++row) {
+        auto scene = MakeScene(names[row]);
+        QVERIFY2(scene, qPrintable(names[row]));
+        QVERIFY(scene->duration() >= 1.0);
+        QList<QImage> frames;
+        for (int col = 0; col < times.size(); ++col) {
+            QImage frame(240, 180, QImage::Format_ARGB32_Premultiplied);
+            frame.fill(Qt::transparent);
+            QPainter p(&frame);
+            scene->paint(p, QRectF(0, 0, 240, 180), std::min(times[col], scene->duration()));
+            p.end();
+            frames << frame;
+            sheetPainter.drawImage(col * 240, row * 180, frame);
+        }
+        // A shot moves: its frames differ; the basket at rest stands still.
+        const bool moves = frames[0] != frames[2] && frames[1] != frames[3];
+        QCOMPARE(moves, row != 0);
+    }
+    sheetPainter.end();
+    if (!qEnvironmentVariableIsEmpty("WM_SHOTS"))
+        sheet.save(qEnvironmentVariable("WM_SHOTS") + "/basketball-animations.png");
 }
 
 QTEST_MAIN(BasketballScreenTest)
