@@ -27,7 +27,7 @@ std::unique_ptr<MovieScene> MakeScene(const QString& name);  // nullptr when unk
 // Asked by MakeScene, with the bare lower-case name, when no scene of that name is registered.
 using SceneFinder = std::function<std::unique_ptr<MovieScene>(const QString& name)>;
 void SetSceneFinder(SceneFinder finder);
-// Registers the program's own scenes ("wmsplash"...). Called once at start: a static library
+// Makes the timeline files of movies/ playable by name. Called once at start: a static library
 // drops unreferenced static initialisers, so registration is explicit. Safe to call again.
 void RegisterBuiltInScenes();
 

@@ -18,7 +18,10 @@ QWidget* OpenScreen(const QString& name, QWidget* from = nullptr);
 void PresentScreen(QWidget* screen);
 // The screen shown last, for tests.
 QWidget* CurrentScreen();
-// Registers Title, BlackBack, ChooseList and GameOptions.
+// Registers Title, BlackBack, ChooseList, GameOptions and the other shell screens, and the
+// opening film the splash plays.
 void RegisterShellScreens();
+// The opening film, "wmsplash".
+void RegisterSplashScene();
 
 }  // namespace wm

@@ -9,6 +9,7 @@
 namespace wm {
 
 void RegisterShellScreens() {
+    RegisterSplashScene();
     RegisterScreen("BlackBack", [] { return new BlackBack; });
     RegisterScreen("Title", [] { return new Title; });
     RegisterScreen("ChooseList", [] { return new ChooseList; });

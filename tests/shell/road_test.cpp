@@ -79,7 +79,7 @@ void RoadTest::wordsOnlyAndShortListsAreRefusedOrWarned_data() {
         << "Word Search" << spelling << 5 << true
         << "The list you have selected contains words only, with no definitions. The word clue "
            "will be the word and not the definition..."
-        << false << "";
+        << false << "WordSearchForm";
     QTest::newRow("scramble warns and keeps")
         << "Scramble" << spelling << 1 << true
         << "The list you have selected contains words only, with no definitions. The <hint> button "

@@ -28,6 +28,8 @@ namespace {
 constexpr double kWheelW = 8775, kWheelH = 5655;  // the wheel's frame, twips
 constexpr double kPlateW = 2535, kPlateH = 375;
 constexpr double kMarker = 255;
+// The marquee stands round the plates with room for its rim of bulbs.
+constexpr double kPadX = 700, kPadY = 420;
 
 const char* const kPractice =
     "Hmmm... maybe a bit more practice is needed before you're ready for this game. Go and learn "
@@ -70,22 +72,23 @@ WheelBoard::WheelBoard(QWidget* parent) : QWidget(parent) {
 void WheelBoard::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
-    const QRectF r = QRectF(rect()).adjusted(4, 4, -4, -4);
+    const double rim = std::max(6.0, height() * 0.03);
+    const QRectF r = QRectF(rect()).adjusted(rim, rim, -rim, -rim);
     // A gold rim round a deep blue oval, the stage's centrepiece.
     QRadialGradient face(r.center(), r.width() / 2);
     face.setColorAt(0, QColor(40, 60, 200));
     face.setColorAt(1, QColor(10, 16, 90));
-    p.setPen(QPen(QColor(255, 200, 40), std::max(6.0, r.height() * 0.03)));
+    p.setPen(QPen(QColor(255, 200, 40), rim));
     p.setBrush(face);
     p.drawRoundedRect(r, r.height() * 0.45, r.height() * 0.45);
     // The bulbs round the rim chase while the wheel runs, and glow still when it stops.
-    QPainterPath rim;
-    rim.addRoundedRect(
+    QPainterPath bulbs;
+    bulbs.addRoundedRect(
         r.adjusted(r.height() * 0.03, r.height() * 0.03, -r.height() * 0.03, -r.height() * 0.03),
         r.height() * 0.42, r.height() * 0.42);
     const int n = 48;
     for (int i = 0; i < n; ++i) {
-        const QPointF at = rim.pointAtPercent((i + 0.5) / n);
+        const QPointF at = bulbs.pointAtPercent((i + 0.5) / n);
         const bool lit = running ? ((i + int(phase)) % 4 == 0) : (i % 2 == 0);
         p.setPen(Qt::NoPen);
         if (lit) {
@@ -98,13 +101,14 @@ void WheelBoard::paintEvent(QPaintEvent*) {
         p.setBrush(lit ? QColor(255, 245, 180) : QColor(150, 110, 30));
         p.drawEllipse(at, r.height() * 0.012, r.height() * 0.012);
     }
-    // The name across the middle.
+    // The name in the middle, between the two mystery plates.
     QFont f("DejaVu Sans", 10, QFont::Black);
-    f.setPixelSize(int(r.height() * 0.075));
+    f.setPixelSize(int(r.height() * 0.06));
     p.setFont(f);
     p.setPen(QColor(255, 225, 80));
-    p.drawText(QRectF(r.left(), r.center().y() - r.height() * 0.09, r.width(), r.height() * 0.18),
-               Qt::AlignCenter, "The Wheel of Money!");
+    const QRectF middle(r.center().x() - r.width() * 0.15, r.center().y() - r.height() * 0.1,
+                        r.width() * 0.3, r.height() * 0.2);
+    p.drawText(middle, Qt::AlignCenter, "The Wheel\nof Money!");
 }
 
 HostPanel::HostPanel(QWidget* parent) : QWidget(parent), host_(findAsset("images/wheel-show.svg")) {
@@ -170,7 +174,7 @@ GameShowForm::GameShowForm(QWidget* parent)
 
     WheelFrame = new WheelBoard(this);
     for (int i = 0; i < wheel::kSlots; ++i) {
-        auto* l = makeLabel(WheelFrame, QString("WheelLabel%1").arg(i), 15);
+        auto* l = makeLabel(WheelFrame, QString("WheelLabel%1").arg(i), 13);
         l->setStyleSheet(kPlateBlue);
         WheelLabel[i] = l;
         auto* m = new QLabel(WheelFrame);
@@ -454,14 +458,14 @@ void GameShowForm::layOut() {
                           std::max(Command1->minimumHeight(), H / 13));
 
     // The wheel keeps its designed shape, as large as the stage allows.
-    const double k = std::min(0.84 * W / kWheelW, 0.62 * H / kWheelH);
-    const QSize wheelSize(int(kWheelW * k), int(kWheelH * k));
+    const double k = std::min(0.88 * W / (kWheelW + 2 * kPadX), 0.6 * H / (kWheelH + 2 * kPadY));
+    const QSize wheelSize(int((kWheelW + 2 * kPadX) * k), int((kWheelH + 2 * kPadY) * k));
     WheelFrame->setGeometry((W - wheelSize.width()) / 2, (H - wheelSize.height()) / 2 - H / 40,
                             wheelSize.width(), wheelSize.height());
     for (int i = 0; i < wheel::kSlots; ++i) {
         const auto& slot = wheel::kWheel[i];
         // The plates stand where the design puts them, shifted in from the frame's border.
-        const double ox = (kWheelW - 8700) / 2 + 60, oy = 200;
+        const double ox = kPadX, oy = kPadY;
         WheelLabel[i]->setGeometry(int((slot.left + ox) * k), int((slot.top + oy) * k),
                                    int(kPlateW * k), int(kPlateH * k * 1.25));
         Shape1[i]->setGeometry(int((slot.markerLeft + ox) * k), int((slot.markerTop + oy) * k),

@@ -26,6 +26,9 @@ void SpinTo(GameShowForm* game, int slot) {
     game->clickCommand();
     QVERIFY(game->state().Spinning);
     for (int i = 0; i < 200 && game->state().WheelPos != slot; ++i) Pump(16);
+    static bool shot = false;
+    if (!shot) Shot(game, "wheel-spinning");
+    shot = true;
     QTest::keyClick(game, Qt::Key_S);
     QVERIFY(!game->state().Spinning);
     Pump(1100);  // twenty flashes

@@ -1,4 +1,5 @@
-// The animation player: names, one pass and loops, continuations, and the opening scene's look.
+// The animation player on the opening film: names, one pass and loops, continuations, and the
+// opening film's look.
 #include <QImage>
 #include <QPainter>
 #include <QSignalSpy>
@@ -6,6 +7,7 @@
 
 #include "platform/movie.h"
 #include "platform/ticker.h"
+#include "shell/screens.h"
 
 using namespace wm;
 
@@ -49,6 +51,7 @@ private slots:
     void initTestCase() {
         Ticker::get().setManual(true);
         RegisterBuiltInScenes();
+        RegisterSplashScene();
     }
 
     void namesAreFoundLoosely() {
@@ -213,4 +216,4 @@ private slots:
 };
 
 QTEST_MAIN(PlatformMovieTest)
-#include "platform_movie_test.moc"
+#include "movie_test.moc"

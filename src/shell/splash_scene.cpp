@@ -12,7 +12,7 @@
 
 #include "platform/movie.h"
 #include "platform/scene_kit.h"
-#include "platform/timeline_scene.h"
+#include "shell/screens.h"
 
 namespace wm {
 
@@ -561,13 +561,8 @@ private:
 
 }  // namespace
 
-void RegisterBuiltInScenes() {
-    static bool done = false;
-    if (done) return;
-    done = true;  // set first: RegisterScene calls back here
+void RegisterSplashScene() {
     RegisterScene(QStringLiteral("wmsplash"), [] { return std::make_unique<SplashScene>(); });
-    // Every other film is a timeline file in the program folder's movies/.
-    UseTimelineFiles();
 }
 
 }  // namespace wm

@@ -1,0 +1,148 @@
+// Basketball's rules: the pace, the word draws, the letters revealed one by one, the points by
+// how many words were shown, and the ten shots.
+#include <gtest/gtest.h>
+
+#include "games/action/basketball/basketball_rules.h"
+
+using namespace wm;
+using namespace wm::basketball;
+
+namespace {
+SharedState List(int difficulty) {
+    SharedState s;
+    s.Words = {"", "dribble", std::string(31, 'x'), "hoop", "court"};
+    s.Meanings = {"", "bounce the ball", "too long", "the ring", "where you play"};
+    s.WordCount = 4;
+    s.Difficulty = difficulty;
+    return s;
+}
+}  // namespace
+
+TEST(BasketballRules, PaceFollowsTheLevel) {
+    EXPECT_EQ(WordPace(10), 500);
+    EXPECT_EQ(WordPace(2), 1300);
+}
+
+TEST(BasketballRules, WordsOfThirtyOneCharactersAreNeverDrawn) {
+    SharedState s = List(5);
+    s.Score = 50;
+    ScriptedRng rng;
+    rng.pick(2, 4).pick(2, 4).pick(3, 4);
+    Game g;
+    ASSERT_TRUE(g.setup(s, rng));
+    EXPECT_EQ(s.TheWord, "hoop");
+    EXPECT_EQ(s.TheMeaning, "the ring");
+    EXPECT_EQ(s.Score, 0);
+    EXPECT_EQ(g.shotsLeft(), 10);
+    s.Words[2] = std::string(30, 'y');  // 30 is still short enough
+    rng.pick(2, 4);
+    ASSERT_TRUE(g.chooseWord(s, rng));
+    EXPECT_EQ(s.TheWord, std::string(30, 'y'));
+
+    SharedState longOnly = List(5);
+    for (int k = 1; k <= 4; ++k) longOnly.Words[k] = std::string(40, 'z');
+    ScriptedRng r2(0.3);
+    EXPECT_FALSE(g.setup(longOnly, r2));  // bounded: no hang
+}
+
+TEST(BasketballRules, AboutOneWordInFourIsTheRightOne) {
+    SharedState s = List(5);
+    ScriptedRng rng;
+    rng.pick(1, 4);  // TheWord: dribble
+    Game g;
+    ASSERT_TRUE(g.setup(s, rng));
+    rng.pick(3, 4).pick(2, 4);  // hoop, and the draw of four that is not 3
+    g.showNextWord(s, rng);
+    EXPECT_EQ(g.onShow(), "hoop");
+    rng.pick(4, 4).pick(3, 4);  // court, overruled by the 3
+    g.showNextWord(s, rng);
+    EXPECT_EQ(g.onShow(), "dribble");
+    EXPECT_EQ(g.wordsShown(), 2);
+    EXPECT_EQ(g.revealed(), 0);
+}
+
+TEST(BasketballRules, LettersRevealOneByOneOverRandomCapitals) {
+    SharedState s = List(5);
+    ScriptedRng rng;
+    rng.pick(3, 4);
+    Game g;
+    ASSERT_TRUE(g.setup(s, rng));
+    rng.pick(3, 4).pick(1, 4);
+    g.showNextWord(s, rng);
+    ASSERT_EQ(g.onShow(), "hoop");
+    bool done = true;
+    // Four random capitals (A, B, C, Z); then a 1 of two: nothing revealed.
+    rng.then(0.01).then(1.5 / 26).then(2.5 / 26).then(25.5 / 26).pick(1, 2);
+    EXPECT_EQ(g.revealTick(rng, done), "ABCZ");
+    EXPECT_FALSE(done);
+    EXPECT_EQ(g.revealed(), 0);
+    // A 2 of two reveals position 2 ("o").
+    rng.then(0).then(0).then(0).then(0).pick(2, 2).pick(2, 4);
+    EXPECT_EQ(g.revealTick(rng, done), "AAAA");
+    EXPECT_EQ(g.revealed(), 1);
+    rng.then(0).then(0).then(0).pick(2, 2).pick(2, 4).pick(4,
+                                                           4);  // a revealed place is drawn again
+    EXPECT_EQ(g.revealTick(rng, done), "AoAA");
+    EXPECT_EQ(g.revealed(), 2);
+    ScriptedRng rest(0.99);  // always reveal, at the last hidden place
+    std::string caption;
+    for (int i = 0; i < 10 && !done; ++i) caption = g.revealTick(rest, done);
+    EXPECT_TRUE(done);
+    EXPECT_EQ(caption, "hoop");
+}
+
+TEST(BasketballRules, PointsDependOnHowManyWordsWereShown) {
+    struct Row {
+        int shown;
+        double rnd;
+        long long points;
+    };
+    // Level 3: the first word Int(Rnd x 1000) x 3, the second Int(Rnd x 500) x 3, then
+    // Len x 3 ("hoop").
+    for (const Row r : {Row{1, 0.5, 1500}, Row{1, 0.9999, 2997}, Row{2, 0.5, 750}, Row{3, 0.5, 12},
+                        Row{6, 0.9, 12}}) {
+        SharedState s = List(3);
+        ScriptedRng rng;
+        rng.pick(3, 4);
+        Game g;
+        ASSERT_TRUE(g.setup(s, rng));
+        for (int i = 0; i < r.shown; ++i) {
+            rng.pick(1, 4).pick(3, 4);
+            g.showNextWord(s, rng);
+        }
+        rng.pick(4, 4).then(r.rnd);  // the animation, then the points
+        const Shot shot = g.shoot(s, "hoop", rng);
+        EXPECT_TRUE(shot.good);
+        EXPECT_EQ(shot.animation, 4);
+        EXPECT_EQ(shot.points, r.points) << r.shown;
+        EXPECT_EQ(s.Score, r.points);
+    }
+}
+
+TEST(BasketballRules, AHalfShownCaptionOrAnotherWordIsAMiss) {
+    SharedState s = List(3);
+    ScriptedRng rng;
+    rng.pick(3, 4);
+    Game g;
+    ASSERT_TRUE(g.setup(s, rng));
+    for (const char* caption : {"hQoP", "HOOP", "court", "Drag ball over net to begin...", ""}) {
+        rng.pick(2, 4);
+        const Shot shot = g.shoot(s, caption, rng);
+        EXPECT_FALSE(shot.good) << caption;
+        EXPECT_EQ(shot.animation, 2);
+        EXPECT_EQ(s.Score, 0);
+    }
+}
+
+TEST(BasketballRules, TenShotsThenTheEnd) {
+    SharedState s = List(3);
+    ScriptedRng rng(0.6);
+    Game g;
+    ASSERT_TRUE(g.setup(s, rng));
+    for (int shot = 1; shot < 10; ++shot) {
+        EXPECT_FALSE(g.nextShot());
+        EXPECT_EQ(g.shotsLeft(), 10 - shot);
+    }
+    EXPECT_TRUE(g.nextShot());
+    EXPECT_EQ(g.shotsLeft(), 0);
+}

@@ -1,0 +1,206 @@
+// Basketball on its screen: from the title, ten good shots to the table; and a wild shot, a shot
+// at a scrambled word and eight more wild ones to the no-score ending, with the sound off.
+#include <QtTest>
+
+#include "game_road.h"
+#include "games/action/basketball/basketball_screen.h"
+#include "platform/movie.h"
+
+#include <QPainter>
+
+using namespace wm;
+using namespace wm::test;
+using wm::basketball::kBegin;
+using wm::basketball::kPractice;
+using wm::basketball::kReady;
+using wm::basketball::kWild;
+
+class BasketballScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void tenGoodShotsToTheTable();
+    void wildAndScrambledShotsEndWithoutAScore();
+    void nineAnimationsDrawAndMove();
+};
+
+namespace {
+const std::vector<std::pair<std::string, std::string>> kSport = {{"dribble", "bounce the ball"},
+                                                                 {"hoop", "the ring"},
+                                                                 {"court", "where you play"},
+                                                                 {"pass", "throw to a friend"},
+                                                                 {"guard", "a player"},
+                                                                 {"foul", "against the rules"},
+                                                                 {"score", "points"},
+                                                                 {"net", "under the ring"},
+                                                                 {"jump", "leave the ground"},
+                                                                 {"team", "players together"}};
+
+void Drop(BasketBallForm* g, QPoint at) {
+    const QPoint from = g->ball()->geometry().center();
+    QTest::mousePress(g, Qt::LeftButton, {}, from);
+    QTest::mouseMove(g, (from + at) / 2);
+    QTest::mouseMove(g, at);
+    QTest::mouseRelease(g, Qt::LeftButton, {}, at);
+}
+
+void WaitForTheAnimation(BasketBallForm* g) {
+    for (int t = 0; t < 400 && g->shooting(); ++t) Pump(50);
+}
+}  // namespace
+
+void BasketballScreenTest::tenGoodShotsToTheTable() {
+    ShellFixture fx;
+    WriteOneList(fx, "Sport", kSport);
+    SeededRng rng(21);
+    SetRng(&rng);
+    auto* g = qobject_cast<BasketBallForm*>(PlayFromTitle("Basketball", "Sport", 10));
+    QVERIFY2(g, qPrintable(fx.dialogs.texts().join(" | ")));
+    SharedState& s = Shared();
+    QVERIFY(fx.dialogs.saw(kReady));
+    QCOMPARE(g->shootLabel()->text(), QString(kBegin));
+    QCOMPARE(g->shotsLeftLabel()->text(), QString("Shots Left: 10"));
+    QCOMPARE(g->scoreLabel()->text(), QString("Score: 0"));
+    QCOMPARE(g->definition()->text(), QString::fromStdString("\"" + s.TheMeaning + "\""));
+    QCOMPARE(g->frame().findTimer("Timer1")->interval(), 500);  // the pace at level 10
+    QCOMPARE(g->playing(), QString("bball-still"));
+
+    WinDriver driver({"DNK"});
+    SetModalHook(std::ref(driver));
+    fx.dialogs.answerYes(false);
+    QPointer<BasketBallForm> alive(g);
+    QStringList animations;
+    double score = 0;
+    for (int shot = 1; shot <= 10; ++shot) {
+        for (int t = 0; t < 2000 && g->shootLabel()->text() != QString::fromStdString(s.TheWord);
+             ++t)
+            Pump(16);
+        QCOMPARE(g->shootLabel()->text(), QString::fromStdString(s.TheWord));
+        if (shot == 3) {
+            Shot(g, "basketball-1280");
+            g->resize(1920, 1080);
+            Shot(g, "basketball-1920");
+            g->resize(1280, 800);
+        }
+        const int shown = g->game().wordsShown();
+        Drop(g, g->netPoint());
+        QVERIFY(g->shooting());
+        animations << g->playing();
+        const double points = s.Score - score;
+        score = s.Score;
+        if (shown >= 3)
+            QCOMPARE(points, 10.0 * s.TheWord.size());
+        else
+            QVERIFY(points >= 0 && points < (shown == 1 ? 10000 : 5000));
+        QCOMPARE(g->scoreLabel()->text(), QString("Score: %1").arg(s.Score));
+        if (shot == 5) {
+            Pump(800);
+            Shot(g, "basketball-good-shot");
+        }
+        if (shot < 10) {
+            WaitForTheAnimation(g);
+            QCOMPARE(g->shotsLeftLabel()->text(), QString("Shots Left: %1").arg(10 - shot));
+            QCOMPARE(g->shootLabel()->text(), QString(kBegin));
+            QCOMPARE(g->playing(), QString("bball-still"));
+        } else {
+            for (int t = 0; t < 400 && alive; ++t) Pump(50);
+        }
+    }
+    for (const QString& a : animations) QVERIFY2(a.startsWith("bball-good"), qPrintable(a));
+    QCOMPARE(fx.sound.played.count("cheer.wav"), 10);
+    QVERIFY(!alive);
+    QCOMPARE(driver.tables.size(), 1);
+    QVERIFY(driver.tables.first().contains("DNK"));
+    QCOMPARE(fx.dialogs.last(),
+             QString("You got a high score of %1! Would you like to try again?").arg(score));
+    QVERIFY(Showing<Title>());
+}
+
+void BasketballScreenTest::wildAndScrambledShotsEndWithoutAScore() {
+    ShellFixture fx;
+    WriteOneList(fx, "Sport", kSport);
+    SeededRng rng(8);
+    SetRng(&rng);
+    auto* chooser = ChooserFor("Basketball", 2, true, false);
+    auto* g = qobject_cast<BasketBallForm*>(ContinueWithList(chooser, "Sport"));
+    QVERIFY(g);
+    QCOMPARE(g->frame().findTimer("Timer1")->interval(), 1300);
+    const QPoint court(g->width() / 2, int(g->height() * 0.9));
+
+    // A click on the court without the ball is nothing; dropped there, the ball is wild, and
+    // play goes straight on to the next shot.
+    Pump(200);
+    QTest::mouseClick(g, Qt::LeftButton, {}, court);
+    QVERIFY(!fx.dialogs.saw(kWild));
+    Drop(g, court);
+    QVERIFY(fx.dialogs.saw(kWild));
+    QCOMPARE(g->shotsLeftLabel()->text(), QString("Shots Left: 9"));
+    QVERIFY(!g->shooting());
+
+    // Dropped on the net while the letters still scramble: a miss, and the label flashes.
+    for (int t = 0; t < 200 && !g->frame().findTimer("Timer2")->isActive(); ++t) Pump(16);
+    Pump(16);
+    QVERIFY(g->frame().findTimer("Timer2")->isActive());
+    const QString scrambled = g->shootLabel()->text();
+    Drop(g, g->netPoint());
+    QVERIFY(g->shooting());
+    QVERIFY(g->playing().startsWith("bball-bad"));
+    QCOMPARE(g->shootLabel()->text().size(), scrambled.size());  // the word that was on show
+    QStringList styles;
+    for (int t = 0; t < 3; ++t) {
+        Pump(100);
+        styles << g->shootLabel()->styleSheet();
+    }
+    styles.removeDuplicates();
+    QCOMPARE(styles.size(), 2);
+    QVERIFY(styles.join("").contains("#ff8080") && styles.join("").contains("#80ff80"));
+    Shot(g, "basketball-bad-shot");
+    // No second ball while the animation plays.
+    Drop(g, court);
+    QCOMPARE(fx.dialogs.texts().count(kWild), 1);
+    WaitForTheAnimation(g);
+    QCOMPARE(g->shotsLeftLabel()->text(), QString("Shots Left: 8"));
+
+    QPointer<BasketBallForm> alive(g);
+    for (int shot = 3; shot <= 10 && alive; ++shot) Drop(g, court);
+    Pump();
+    QCOMPARE(fx.dialogs.texts().count(kWild), 9);
+    QCOMPARE(fx.dialogs.last(), QString(kPractice));
+    QCOMPARE(Shared().Score, 0.0);
+    QVERIFY2(!fx.sound.played.contains("ooh.wav"), qPrintable(fx.sound.played.join(" ")));
+    QVERIFY(Showing<Title>());
+}
+
+void BasketballScreenTest::nineAnimationsDrawAndMove() {
+    ShellFixture fx;
+    QStringList names{"bball-still"};
+    for (int i = 1; i <= 4; ++i)
+        names << QString("bball-good%1").arg(i) << QString("bball-bad%1").arg(i);
+    const QList<double> times{0.4, 0.9, 1.3, 1.8};
+    QImage sheet(4 * 240, names.size() * 180, QImage::Format_RGB32);
+    sheet.fill(QColor(90, 70, 130));
+    QPainter sheetPainter(&sheet);
+    for (int row = 0; row < names.size(); ++row) {
+        auto scene = MakeScene(names[row]);
+        QVERIFY2(scene, qPrintable(names[row]));
+        QVERIFY(scene->duration() >= 1.0);
+        QList<QImage> frames;
+        for (int col = 0; col < times.size(); ++col) {
+            QImage frame(240, 180, QImage::Format_ARGB32_Premultiplied);
+            frame.fill(Qt::transparent);
+            QPainter p(&frame);
+            scene->paint(p, QRectF(0, 0, 240, 180), std::min(times[col], scene->duration()));
+            p.end();
+            frames << frame;
+            sheetPainter.drawImage(col * 240, row * 180, frame);
+        }
+        // A shot moves: its frames differ; the basket at rest stands still.
+        const bool moves = frames[0] != frames[2] && frames[1] != frames[3];
+        QCOMPARE(moves, row != 0);
+    }
+    sheetPainter.end();
+    if (!qEnvironmentVariableIsEmpty("WM_SHOTS"))
+        sheet.save(qEnvironmentVariable("WM_SHOTS") + "/basketball-animations.png");
+}
+
+QTEST_MAIN(BasketballScreenTest)
+#include "basketball_screen_test.moc"

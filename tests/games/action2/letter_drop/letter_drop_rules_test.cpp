@@ -1,0 +1,202 @@
+// Letter Drop's rules over a scripted generator: the word choice and its tiles, the landing test
+// at the tile edges, the keys, the speed rule, the hint, and the shooting star.
+#include <gtest/gtest.h>
+
+#include "games/action/letter_drop/letter_drop_rules.h"
+
+using namespace wm;
+using namespace wm::letter_drop;
+
+namespace {
+SharedState List(std::vector<std::string> words, int difficulty = 90) {
+    SharedState s;
+    s.Words = {""};
+    s.Meanings = {""};
+    for (auto& w : words) {
+        s.Words.push_back(w);
+        s.Meanings.push_back("meaning of " + w);
+    }
+    s.WordCount = static_cast<short>(words.size());
+    s.Difficulty = difficulty;
+    return s;
+}
+
+// Drops the falling letter from just above the landing line with its left edge at `x`.
+Landing DropAt(Game& g, SharedState& s, int x, Rng& rng) {
+    g.place(x, kTileTop - 2 * s.GameSpeed - 400 - s.GameSpeed + 1);
+    return g.tick(s, {}, rng);
+}
+
+// The tile that should take the falling letter next.
+int Target(const Game& g) {
+    for (int i = 0; i < int(g.word().size()); ++i)
+        if (g.word()[i] == g.falling() && !g.tileShows(i)) return i;
+    return -1;
+}
+}  // namespace
+
+TEST(LetterDropRules, WordChoiceUpperCasesAndSetsTheTiles) {
+    SharedState s = List({"abcdefghijklmnop", "rock'n roll"});
+    ScriptedRng rng(0.5);
+    rng.pick(1, 2).pick(2, 2).pick(1, 11);  // a long word is passed over
+    Game g;
+    ASSERT_TRUE(g.setup(s, rng));
+    EXPECT_EQ(s.TheWord, "ROCK'N ROLL");
+    EXPECT_EQ(s.TheMeaning, "meaning of rock'n roll");
+    EXPECT_EQ(s.GameSpeed, 90);
+    EXPECT_EQ(s.Score, 0);
+    EXPECT_EQ(rng.randomizeCount, 1);
+    EXPECT_EQ(g.lettersLeft(), 9);   // the apostrophe and the blank are not dropped
+    EXPECT_TRUE(g.tileShows(4));     // the apostrophe stands on its tile
+    EXPECT_FALSE(g.tileVisible(6));  // the blank hides its tile
+    EXPECT_TRUE(g.tileVisible(10));
+    EXPECT_FALSE(g.tileVisible(11));
+    EXPECT_EQ(g.falling(), 'R');
+}
+
+TEST(LetterDropRules, FourteenLettersFillEveryTileAndFifteenAreRefused) {
+    SharedState s = List({"ABCDEFGHIJKLMN"});
+    ScriptedRng rng(0.1);
+    Game g;
+    ASSERT_TRUE(g.setup(s, rng));
+    for (int i = 0; i < kTiles; ++i) EXPECT_TRUE(g.tileVisible(i)) << i;
+    EXPECT_GE(g.tileLeft(0), 0);
+    EXPECT_LE(g.tileLeft(kTiles - 1) + kTileW, kFieldW);
+
+    SharedState longOnly = List({"ABCDEFGHIJKLMNO", "PQRSTUVWXYZABCDE", "LONGLONGLONGLONG"});
+    ScriptedRng r2(0.3);
+    EXPECT_FALSE(g.setup(longOnly, r2));
+    EXPECT_EQ(r2.draws, 6);  // twice WordCount draws, then the list is given up
+}
+
+TEST(LetterDropRules, HyphensAndBlanksOnlyLeaveNothingToDrop) {
+    SharedState s = List({"- -"});
+    ScriptedRng rng(0.2);
+    Game g;
+    ASSERT_TRUE(g.setup(s, rng));
+    EXPECT_EQ(g.lettersLeft(), 0);
+    EXPECT_TRUE(g.tileShows(0));
+    EXPECT_FALSE(g.tileVisible(1));
+    EXPECT_EQ(g.tick(s, {}, rng), Landing::None);  // nothing falls
+}
+
+TEST(LetterDropRules, LandingTestAtTheTileEdges) {
+    struct Case {
+        int offset;  // of the letter's middle from the target tile's left edge
+        bool right;
+    };
+    for (const Case c : {Case{0, true}, Case{-1, false}, Case{kTileW, true},
+                         Case{kTileW + 1, false}, Case{kTileW / 2, true}}) {
+        SharedState s = List({"QZ"});
+        ScriptedRng rng(0.0);  // the Q falls first
+        Game g;
+        ASSERT_TRUE(g.setup(s, rng));
+        ASSERT_EQ(g.falling(), 'Q');
+        const int x = g.tileLeft(0) + c.offset - kTileW / 2;
+        const Landing l = DropAt(g, s, x, rng);
+        EXPECT_EQ(l, c.right ? Landing::Right : Landing::Wrong) << c.offset;
+        EXPECT_EQ(g.tileShows(0), c.right) << c.offset;
+        EXPECT_EQ(g.x(), kFieldW / 2);  // back to the top either way
+        EXPECT_EQ(g.y(), kTopY);
+    }
+}
+
+TEST(LetterDropRules, ALetterOnAFilledTileOrTheWrongOneIsAMiss) {
+    SharedState s = List({"AA"});
+    ScriptedRng rng(0.0);
+    Game g;
+    ASSERT_TRUE(g.setup(s, rng));
+    ASSERT_EQ(DropAt(g, s, g.tileLeft(0), rng), Landing::Right);
+    EXPECT_EQ(s.Score, 90 * 5);
+    // The second A on the tile that already shows its letter.
+    EXPECT_EQ(DropAt(g, s, g.tileLeft(0), rng), Landing::Wrong);
+    EXPECT_EQ(s.Score, 90 * 5 - 50);
+    EXPECT_EQ(g.lettersLeft(), 1);
+    EXPECT_EQ(g.falling(), 'A');  // the missed letter comes back
+    EXPECT_EQ(DropAt(g, s, g.tileLeft(1), rng), Landing::Won);
+}
+
+TEST(LetterDropRules, KeysMoveByTheStepAndStopAtTheEdges) {
+    SharedState s = List({"AB"}, 90);
+    ScriptedRng rng(0.0);
+    Game g;
+    ASSERT_TRUE(g.setup(s, rng));
+    const int step = 90 / 2 + 70;
+    g.place(1000, kTopY);
+    g.tick(s, {false, true, false}, rng);
+    EXPECT_EQ(g.x(), 1000 + step);
+    EXPECT_EQ(g.y(), kTopY + 90);
+    g.tick(s, {false, false, true}, rng);
+    EXPECT_EQ(g.y(), kTopY + 90 + 3 * 90);  // the fall and twice more with Down held
+    g.place(step - 1, kTopY);
+    g.tick(s, {true, false, false}, rng);
+    EXPECT_EQ(g.x(), step - 1);  // would pass 0: undone
+    g.place(step, kTopY);
+    g.tick(s, {true, false, false}, rng);
+    EXPECT_EQ(g.x(), 0);
+    g.place(kFieldW - kTileW - step + 1, kTopY);
+    g.tick(s, {false, true, false}, rng);
+    EXPECT_EQ(g.x(), kFieldW - kTileW - step + 1);
+    Game::downReleased(s);
+    EXPECT_EQ(s.Score, 1);
+}
+
+TEST(LetterDropRules, SpeedRisesOnEveryRightLandingOnceFewerThanFiveAreLeft) {
+    SharedState s = List({"ABCDEFG"}, 60);
+    ScriptedRng rng(0.0);
+    Game g;
+    ASSERT_TRUE(g.setup(s, rng));
+    std::vector<int> speeds;
+    double score = 0;
+    while (g.lettersLeft() > 0) {
+        const int speed = s.GameSpeed;
+        DropAt(g, s, g.tileLeft(Target(g)), rng);
+        score += speed * 5;
+        EXPECT_EQ(s.Score, score);
+        speeds.push_back(s.GameSpeed);
+    }
+    EXPECT_EQ(speeds, (std::vector<int>{60, 60, 75, 90, 105, 120, 135}));
+}
+
+TEST(LetterDropRules, FourMissesTurnTheHintOnAndOneRightLandingTurnsItOff) {
+    SharedState s = List({"ABA"});
+    ScriptedRng rng(0.0);
+    Game g;
+    ASSERT_TRUE(g.setup(s, rng));
+    ASSERT_EQ(g.falling(), 'A');
+    const int away = g.tileLeft(1);  // the B's tile
+    for (int miss = 1; miss <= 4; ++miss) {
+        EXPECT_EQ(g.hintTile(), -1) << miss;
+        DropAt(g, s, away, rng);
+    }
+    EXPECT_EQ(s.Score, -200);  // below zero during play
+    EXPECT_EQ(g.misses(), 4);
+    EXPECT_EQ(g.hintTile(), 0);
+    DropAt(g, s, g.tileLeft(0), rng);
+    EXPECT_EQ(g.hintTile(), -1);
+    EXPECT_EQ(g.misses(), 0);
+}
+
+TEST(LetterDropRules, TheStarStartsOneTimeInFiftyAndLeavesPastTheRightEdge) {
+    Star star;
+    ScriptedRng rng;
+    rng.then(10.0 / 500);  // Int(Rnd x 500 + 1) = 11: no star
+    star.tick(rng);
+    EXPECT_FALSE(star.flying());
+    rng.then(8.5 / 500).pick(1, 2).then(0.9);  // 9: a star from the left, low in the sky
+    star.tick(rng);
+    ASSERT_TRUE(star.flying());
+    EXPECT_EQ(star.trail()[0].first, 0);
+    int ticks = 0;
+    while (star.flying() && ticks < 1000) {
+        star.tick(rng);
+        ++ticks;
+        if (ticks == 10) {
+            EXPECT_EQ(star.points(), Star::kTrail);
+            EXPECT_GT(star.trail()[0].first, star.trail()[6].first);
+        }
+    }
+    EXPECT_FALSE(star.flying());
+    EXPECT_GT(star.trail()[0].first, kFieldW * 11 / 10);
+    EXPECT_LT(star.trail()[0].second, kTileTop);
+}

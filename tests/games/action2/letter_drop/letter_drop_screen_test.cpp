@@ -1,0 +1,150 @@
+// Letter Drop on its screen: from the title, letters steered with held keys onto their tiles, a
+// wrong landing that crumbles, the win to the table; a list of long words refused; a word with
+// nothing to drop.
+#include <QtTest>
+
+#include "game_road.h"
+#include "games/action/letter_drop/letter_drop_screen.h"
+
+using namespace wm;
+using namespace wm::test;
+using namespace wm::letter_drop;
+
+class LetterDropScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void steerEveryLetterHomeToTheTable();
+    void longWordsAreRefused();
+    void nothingToDropWinsAtOnceWithoutTheDefinition();
+};
+
+namespace {
+int Target(const Game& g) {
+    for (int i = 0; i < int(g.word().size()); ++i)
+        if (g.word()[i] == g.falling() && !g.tileShows(i)) return i;
+    return -1;
+}
+
+// Holds Left or Right until the letter is over `tile`, then Down until it lands (the falling
+// point goes back to the top).
+void Steer(QPointer<LetterFall> game, int tile) {
+    for (int t = 0; t < 400 && game; ++t) {
+        const Game& g = game->game();
+        const int mid = g.x() + kTileW / 2, want = g.tileLeft(tile) + kTileW / 2;
+        const int key = mid < want - 100 ? Qt::Key_Right : mid > want + 100 ? Qt::Key_Left : 0;
+        QTest::keyRelease(game, Qt::Key_Left);
+        QTest::keyRelease(game, Qt::Key_Right);
+        QTest::keyPress(game, key ? Qt::Key(key) : Qt::Key_Down);
+        const int y = g.y();
+        Pump(50);
+        if (!game || game->game().y() < y) break;
+    }
+    if (!game) return;
+    QTest::keyRelease(game, Qt::Key_Left);
+    QTest::keyRelease(game, Qt::Key_Right);
+    QTest::keyRelease(game, Qt::Key_Down);
+}
+}  // namespace
+
+void LetterDropScreenTest::steerEveryLetterHomeToTheTable() {
+    ShellFixture fx;
+    WriteOneList(fx, "Night",
+                 {{"owl", "a bird that hunts at night"}, {"bat", "it flies at night"}});
+    fx.rng.setFallback(0.0);  // the owl; its letters fall first to last; no shooting star
+    auto* game = qobject_cast<LetterFall*>(PlayFromTitle("Letter Drop", "Night", 90));
+    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+    Pump();
+    QCOMPARE(fx.dialogs.last(), QString(kReady));
+    QCOMPARE(game->definition()->text(), QString("Definition:  a bird that hunts at night"));
+    QVERIFY(game->definition()->isVisible() == (Shared().GameOptionOn != 0));
+    QCOMPARE(game->scoreLabel()->text(), QString("Score: 0"));
+    QCOMPARE(game->game().word(), std::string("OWL"));
+    for (int i = 0; i < kTiles; ++i) QCOMPARE(game->tile(i)->isVisible(), i < 3);
+    QCOMPARE(game->tile(0)->text(), QString());
+
+    // A wrong landing: straight down onto the W's tile with the O falling.
+    Steer(game, 1);
+    QCOMPARE(fx.sound.played.count("crumble.wav"), 1);
+    QCOMPARE(game->scoreLabel()->text(), QString("Score: -50"));
+    QVERIFY(game->dissolving());
+    const int y = game->game().y();
+    Pump(50);
+    QCOMPARE(game->game().y(), y);  // the fall waits for the dissolve
+    Pump(200);
+    QVERIFY(!game->dissolving());
+    // Three more misses turn the hint on: the O's tile blinks, tick by tick.
+    for (int miss = 2; miss <= 4; ++miss) {
+        QCOMPARE(game->tile(0)->property("back").toString(), QString("#c0c0ff"));
+        Steer(game, 1);
+        Pump(300);
+    }
+    QCOMPARE(game->game().hintTile(), 0);
+    QStringList colours;
+    for (int t = 0; t < 4; ++t) {
+        Pump(50);
+        colours << game->tile(0)->property("back").toString();
+    }
+    colours.removeDuplicates();
+    QCOMPARE(colours.size(), 2);
+    QVERIFY(colours.contains("#ff8080"));
+    QCOMPARE(game->tile(1)->property("back").toString(), QString("#c0c0ff"));
+    Shot(game, "letter-drop-1280");
+    game->resize(1920, 1080);
+    Shot(game, "letter-drop-1920");
+    game->resize(1280, 800);
+
+    WinDriver driver({"OWL"});
+    SetModalHook(std::ref(driver));
+    fx.dialogs.answerYes(false);
+    QPointer<LetterFall> alive(game);
+    for (int n = 0; n < 10 && alive && game->game().lettersLeft() > 0; ++n)
+        Steer(alive, Target(game->game()));
+    QCOMPARE(fx.sound.played.count("zap.wav"), 2);  // not for the last letter
+    QCOMPARE(fx.sound.played.count("crumble.wav"), 4);
+    QCOMPARE(driver.tables.size(), 1);
+    // 90 x 5, then 105 x 5 and 120 x 5 as the speed climbs at once for a short word, less four
+    // misses, plus a point for each release of Down while the letters fall.
+    const double score = Shared().Score;
+    QVERIFY2(score >= 1375 && score <= 1381, qPrintable(QString::number(score)));
+    QVERIFY(driver.tables.first().contains("OWL"));
+    QVERIFY(!alive);
+    QCOMPARE(fx.dialogs.last(),
+             QString("You got a high score of %1! Would you like to try again?").arg(score));
+    QVERIFY(Showing<Title>());
+}
+
+void LetterDropScreenTest::longWordsAreRefused() {
+    ShellFixture fx;
+    WriteOneList(
+        fx, "Long",
+        {{"antidisestablishment", "a long word"}, {"supercalifragilistic", "another long word"}});
+    PlayFromTitle("Letter Drop", "Long", 90);
+    Pump();
+    QVERIFY(fx.dialogs.saw(kTooLong));
+    Pump();
+    QVERIFY(Showing<Title>());
+}
+
+void LetterDropScreenTest::nothingToDropWinsAtOnceWithoutTheDefinition() {
+    ShellFixture fx;
+    WriteOneList(fx, "Dashes", {{"- -", "only dashes"}});
+    auto* chooser = ChooserFor("Letter Drop", 90, false);
+    fx.dialogs.answerYes(false);
+    WinDriver driver;
+    SetModalHook(std::ref(driver));
+    QVERIFY(SelectList(chooser, "Dashes") >= 0);
+    chooser->continueOn();
+    QApplication::processEvents();  // the game is up; its clock has not moved
+    auto* game = Showing<LetterFall>();
+    QVERIFY(game);
+    QVERIFY(!game->definition()->isVisible());
+    Pump();
+    QCOMPARE(fx.dialogs.texts().filter("Click").size(), 1);
+    QVERIFY(fx.dialogs.saw("You got a high score of 0! Would you like to try again?"));
+    QVERIFY(fx.sound.played.isEmpty());
+    Pump();
+    QVERIFY(Showing<Title>());
+}
+
+QTEST_MAIN(LetterDropScreenTest)
+#include "letter_drop_screen_test.moc"

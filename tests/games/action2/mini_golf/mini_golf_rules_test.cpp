@@ -1,0 +1,231 @@
+// Mini Golf's rules: the level table, the course, the swing and its clamp, the walls and blocks,
+// capture only of a slow ball, the scores of a right and a wrong hole.
+#include <gtest/gtest.h>
+
+#include "games/action/mini_golf/mini_golf_rules.h"
+
+using namespace wm;
+using namespace wm::mini_golf;
+
+namespace {
+SharedState List(int difficulty) {
+    SharedState s;
+    s.Words = {"", "apple", "pear", "plum", "fig", "lime"};
+    s.Meanings = {"", "red fruit", "green fruit", "purple fruit", "sweet fruit", "sour fruit"};
+    s.WordCount = 5;
+    s.Difficulty = difficulty;
+    return s;
+}
+
+// A course with the ball resting at (x, y), moving at (vx, vy) before friction.
+Course Rolling(SharedState& s, ScriptedRng& rng, double x, double y, double vx, double vy) {
+    Course c;
+    c.setup(s, rng);
+    c.placeBall(x, y);
+    c.setVelocity(vx, vy);
+    return c;
+}
+}  // namespace
+
+TEST(MiniGolfRules, LevelTable) {
+    struct Row {
+        int difficulty, holes, blocks, R;
+    };
+    for (const Row r : {Row{1, 2, 0, 400}, Row{2, 3, 0, 400}, Row{3, 3, 0, 400}, Row{4, 3, 4, 300},
+                        Row{5, 3, 5, 300}, Row{6, 4, 5, 200}, Row{7, 4, 7, 200}, Row{8, 5, 7, 100},
+                        Row{9, 5, 10, 100}, Row{10, 5, 12, 100}}) {
+        const Level l = LevelFor(r.difficulty);
+        int blocks = 0;
+        for (bool b : l.blocks) blocks += b;
+        EXPECT_EQ(l.holes, r.holes) << r.difficulty;
+        EXPECT_EQ(blocks, r.blocks) << r.difficulty;
+        EXPECT_EQ(l.R, r.R) << r.difficulty;
+    }
+    EXPECT_FALSE(LevelFor(4).blocks[3]);  // level 4 leaves the middle block out
+    EXPECT_TRUE(LevelFor(7).blocks[11] && LevelFor(7).blocks[12] && !LevelFor(7).blocks[6]);
+}
+
+TEST(MiniGolfRules, SetupLaysOutTheCourseAndTheWord) {
+    SharedState s = List(8);
+    s.Score = 77;
+    ScriptedRng rng;
+    rng.pick(2, 5).pick(4, 5);  // the word, the right hole
+    rng.pick(2, 5).pick(1, 5).pick(1, 5).pick(3, 5).pick(5, 5).pick(4, 5);  // repeats drawn again
+    rng.pick(1, 3);                                                         // block pattern 1
+    Course c;
+    c.setup(s, rng);
+    EXPECT_EQ(s.Score, 0);
+    EXPECT_EQ(c.seconds(), 90);
+    EXPECT_EQ(s.TheWord, "pear");
+    EXPECT_EQ(c.rightHole(), 4);
+    EXPECT_EQ(c.caption(4), "pear");
+    EXPECT_EQ(c.caption(1), "apple");
+    EXPECT_EQ(c.caption(2), "plum");
+    EXPECT_EQ(c.caption(3), "lime");
+    EXPECT_EQ(c.caption(5), "fig");
+    EXPECT_EQ(c.pattern(), 1);
+    EXPECT_EQ(c.B(), 384);
+    const Box& b = c.box();
+    EXPECT_EQ(c.holeY(1), b.top + b.height() / 10);
+    EXPECT_EQ(c.holeY(4), b.top + b.height() / 5);
+    EXPECT_EQ(c.holeX(2), b.right - b.width() / 10 - 100);
+    EXPECT_EQ(c.holeX(4), (c.holeX(1) + 100 + c.holeX(3)) / 2);
+    EXPECT_EQ(c.blockX(3), c.holeX(3));
+    EXPECT_EQ(c.blockX(12) - c.blockX(11), 4 * c.B());
+    EXPECT_EQ(c.blockY(6), c.holeY(1) + 2 * 100 + c.B());
+    EXPECT_EQ(c.ballX(), kFieldW / 2);
+    EXPECT_EQ(c.ballY(), 0.8 * kFieldH);
+}
+
+TEST(MiniGolfRules, AListOfOneWordRepeatedDoesNotHang) {
+    SharedState s = List(10);
+    for (int i = 1; i <= 5; ++i) s.Words[i] = "same";
+    ScriptedRng rng(0.3);
+    Course c;
+    c.setup(s, rng);
+    for (int h = 1; h <= 5; ++h) EXPECT_EQ(c.caption(h), "same");
+}
+
+TEST(MiniGolfRules, SwingIsClampedAndFliesAwayFromThePull) {
+    SharedState s = List(1);
+    ScriptedRng rng(0.5);
+    Course c;
+    c.setup(s, rng);
+    const int bx = int(c.ballX()), by = int(c.ballY());
+    c.swing(bx + 4000, by - 6000);
+    EXPECT_EQ(c.vx(), -800);
+    EXPECT_EQ(c.vy(), 1000);  // 1200 clamped
+    EXPECT_EQ(c.strokes(), 1);
+    EXPECT_FALSE(c.canSwing(bx, by));  // not while the ball moves
+    c.setup(s, rng);
+    c.swing(bx - 5001 * 5, by + 5);
+    EXPECT_EQ(c.vx(), 1000);
+    EXPECT_EQ(c.vy(), -1);
+}
+
+TEST(MiniGolfRules, SwingStartsOnlyCloseToTheBall) {
+    SharedState s = List(1);
+    ScriptedRng rng(0.5);
+    Course c;
+    c.setup(s, rng);
+    const int edge = int(c.ballX()) + kBallSize / 2 + kGrab;
+    EXPECT_TRUE(c.canSwing(edge, int(c.ballY())));
+    EXPECT_FALSE(c.canSwing(edge + 1, int(c.ballY())));
+    EXPECT_TRUE(c.canSwing(edge, int(c.ballY()) - kBallSize / 2 - kGrab));
+}
+
+TEST(MiniGolfRules, FrictionStopsTheBall) {
+    SharedState s = List(1);
+    ScriptedRng rng(0.5);
+    Course c = Rolling(s, rng, kFieldW / 2.0, 0.8 * kFieldH, 1.0, 0.5);
+    const Step st = c.tick(s, rng);
+    EXPECT_TRUE(st.stopped);
+    EXPECT_FALSE(c.moving());
+    c = Rolling(s, rng, kFieldW / 2.0, 0.8 * kFieldH, 100, 0);
+    c.tick(s, rng);
+    EXPECT_DOUBLE_EQ(c.vx(), 98);
+    EXPECT_DOUBLE_EQ(c.ballX(), kFieldW / 2.0 + 98);
+}
+
+TEST(MiniGolfRules, WallsTurnTheBallBack) {
+    SharedState s = List(1);
+    ScriptedRng rng(0.5);
+    Course c;
+    c.setup(s, rng);
+    const Box b = c.box();
+    c.placeBall(b.right - 130, 0.8 * kFieldH);
+    c.setVelocity(100, 0);
+    EXPECT_TRUE(c.tick(s, rng).wall);
+    EXPECT_DOUBLE_EQ(c.ballX(), b.right - kBallSize / 2);
+    EXPECT_DOUBLE_EQ(c.vx(), -98);
+    c.placeBall(kFieldW / 2.0, b.bottom - 125);
+    c.setVelocity(0, 50);
+    EXPECT_TRUE(c.tick(s, rng).wall);
+    EXPECT_DOUBLE_EQ(c.ballY(), b.bottom - kBallSize / 2);
+    EXPECT_DOUBLE_EQ(c.vy(), -49);
+}
+
+TEST(MiniGolfRules, ABlockTurnsTheAxisTheBallCameFrom) {
+    SharedState s = List(5);
+    ScriptedRng rng(0.5);
+    Course c;
+    c.setup(s, rng);
+    ASSERT_TRUE(c.blockActive(2));
+    const int bx = c.blockX(2), by = c.blockY(2), B = c.B();
+    // From below, straight up into it: Y turns, X goes on.
+    c.placeBall(bx, by + B + 50);
+    c.setVelocity(30, -100);
+    Step st = c.tick(s, rng);
+    EXPECT_TRUE(st.block);
+    EXPECT_DOUBLE_EQ(c.vy(), 98);
+    EXPECT_DOUBLE_EQ(c.vx(), 29.4);
+    EXPECT_DOUBLE_EQ(c.ballY(), by + B);
+    // From the left into its side: X turns.
+    c.placeBall(bx - B - 50, by);
+    c.setVelocity(100, 0);
+    st = c.tick(s, rng);
+    EXPECT_TRUE(st.block);
+    EXPECT_DOUBLE_EQ(c.vx(), -98);
+    EXPECT_DOUBLE_EQ(c.ballX(), bx - B);
+}
+
+TEST(MiniGolfRules, OnlyASlowBallDropsAndAFastOneFliesOver) {
+    for (const int level : {1, 8}) {
+        SharedState s = List(level);
+        ScriptedRng rng(0.0);  // hole 1 is the right one
+        Course probe;
+        probe.setup(s, rng);
+        const int R = probe.R(), hx = probe.holeX(1), hy = probe.holeY(1);
+        for (const double after : {R - 1.0, double(R)}) {
+            const double v = after / (1 - kFriction);  // the speed after this tick's friction
+            Course c = Rolling(s, rng, hx, hy + after, 0, -v);
+            const Step st = c.tick(s, rng);
+            EXPECT_EQ(st.hole, after < R ? 1 : 0) << level << " " << after;
+            // Both axes count: slow upwards but fast across flies over too.
+            Course d = Rolling(s, rng, hx - R, hy + 10, (R + 1) / (1 - kFriction), -10);
+            EXPECT_EQ(d.tick(s, rng).hole, 0) << level;
+        }
+        // Within R of the hole on both axes, and no further.
+        Course e = Rolling(s, rng, hx + R - 49, hy, 50, 0);  // 49 a tick after friction
+        EXPECT_EQ(e.tick(s, rng).hole, 0);
+        Course f = Rolling(s, rng, hx + R - 1 + 49, hy, -50, 0);
+        EXPECT_EQ(f.tick(s, rng).hole, 1);
+    }
+}
+
+TEST(MiniGolfRules, ScoresByStrokesAndAWrongHoleCostsAThousand) {
+    struct Row {
+        int strokes, base;
+    };
+    for (const Row r : {Row{1, 500}, Row{2, 200}, Row{3, 100}, Row{4, 50}, Row{9, 50}}) {
+        SharedState s = List(3);
+        ScriptedRng rng(0.0);
+        Course c;
+        c.setup(s, rng);
+        for (int i = 0; i < r.strokes; ++i) c.swing(int(c.ballX()), int(c.ballY()));
+        c.placeBall(c.holeX(1), c.holeY(1) + 10);
+        c.setVelocity(0, -10);
+        rng.pick(2, 3);  // the bonus: Int(Rnd x Difficulty + 1) = 2
+        const Step st = c.tick(s, rng);
+        EXPECT_TRUE(st.right);
+        EXPECT_EQ(s.Score, r.base * 3 + 200) << r.strokes;
+    }
+    SharedState s = List(2);
+    ScriptedRng rng(0.0);
+    rng.pick(1, 5).pick(1, 3).pick(2, 5).pick(3, 5);  // apple in hole 1, pear and plum beside
+    Course c;
+    c.setup(s, rng);
+    ASSERT_EQ(c.caption(2), "pear");
+    c.placeBall(c.holeX(2), c.holeY(2));
+    c.setVelocity(0, 5);
+    const Step st = c.tick(s, rng);
+    EXPECT_EQ(st.hole, 2);
+    EXPECT_FALSE(st.right);
+    EXPECT_EQ(s.Score, -1000);
+    EXPECT_TRUE(c.waiting());
+    EXPECT_FALSE(c.canSwing(int(c.ballX()), int(c.ballY())));
+    c.nextWord(s, rng);
+    EXPECT_FALSE(c.waiting());
+    EXPECT_EQ(s.Score, -1000);
+    EXPECT_EQ(c.strokes(), 0);
+}

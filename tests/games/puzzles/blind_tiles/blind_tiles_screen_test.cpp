@@ -1,0 +1,206 @@
+// Blind Tiles on its screen: the road from the title to a win, the table and another round; the
+// same word twice in the list, another list word typed into a slot, Give Answer down to a
+// negative score; a list that cannot cross.
+#include <QtTest>
+
+#include "core/strings.h"
+#include "game_road.h"
+#include "games/puzzles/blind_tiles/blind_tiles_screen.h"
+#include "platform/text.h"
+
+using namespace wm;
+using namespace wm::test;
+
+namespace {
+
+// The list first, then the options screen with its slider and sound set, then the game.
+QWidget* ThroughOptions(ChooseList* chooser, const QString& list, int difficulty, bool soundOn) {
+    if (!chooser || SelectList(chooser, list) < 0) return nullptr;
+    chooser->continueOn();
+    Pump();
+    auto* options = Showing<GameOptions>();
+    if (!options) return CurrentScreen();
+    options->SpeedBar->setValue(difficulty);
+    (soundOn ? options->SoundONOp : options->SoundOFFOp)->setChecked(true);
+    options->continueOn();
+    Pump();
+    return CurrentScreen();
+}
+
+struct WordPlace {
+    int index, direction, cell;
+};
+
+std::vector<WordPlace> PlacedWords(const BlindTilesForm* game) {
+    std::vector<WordPlace> out;
+    const auto& b = game->state().board;
+    for (int i = 0; i < b.cells(); ++i)
+        for (int d : {cross::kAcross, cross::kDown})
+            if (int w = b.layout.wordAt(i % b.cols + 1, i / b.cols + 1, d))
+                out.push_back({w, d, i});
+    return out;
+}
+
+bool SelectWord(BlindTilesForm* game, const WordPlace& w) {
+    const QPoint at = game->board()->tileRect(w.cell).center();
+    for (int clicks = 0; clicks < 3; ++clicks) {
+        QTest::mouseClick(game->board(), Qt::LeftButton, {}, at);
+        const auto& b = game->state().board;
+        if ((w.direction == cross::kAcross ? b.SelAcross : b.SelDown) && b.SelWord == w.index)
+            return true;
+    }
+    return false;
+}
+
+QStringList ShownEntries(const BlindTilesForm* game) {
+    QStringList out;
+    for (auto* l : game->clueLabels())
+        if (l->isVisible()) out << l->text();
+    return out;
+}
+
+bool EntryYellow(const QLabel* l) {
+    return l->styleSheet().contains("rgb(255, 255, 192)");
+}
+
+BlindTilesForm* OpenBlindTiles(ShellFixture& fx, const std::vector<std::string>& words,
+                               int difficulty, bool soundOn) {
+    std::vector<std::pair<std::string, std::string>> pairs;
+    for (const auto& w : words) pairs.push_back({w, ""});
+    WriteOneList(fx, "Tiles", pairs, true);
+    auto* chooser = ChooserFor("Blind Tiles", difficulty, false, soundOn);
+    ThroughOptions(chooser, "Tiles", difficulty, soundOn);
+    Pump(30);
+    return Showing<BlindTilesForm>();
+}
+
+}  // namespace
+
+class BlindTilesScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void roadToAWinTheTableAndAnotherRound();
+    void twinWordsWrongSlotAndGiveAnswerToANegativeScore();
+    void listThatCannotCrossGoesBackToTheTitle();
+};
+
+void BlindTilesScreenTest::roadToAWinTheTableAndAnotherRound() {
+    ShellFixture fx;
+    SeededRng rng(21);
+    SetRng(&rng);
+    WinDriver driver;
+    SetModalHook(std::ref(driver));
+    fx.dialogs.answerYes(true).answerYes(true);  // try again, a bit harder
+    auto* game = OpenBlindTiles(
+        fx, {"silver", "river", "listen", "stream", "valley", "forest", "island", "meadow"}, 5,
+        true);
+    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+    SharedState& s = Shared();
+    QCOMPARE(fx.music.opened, appFile("sounds/vivaldi.mid"));
+    QCOMPARE(game->findChild<QLabel*>("Label2")->text(), "Score: 0");
+    const auto words = PlacedWords(game);
+    QCOMPARE(int(words.size()), int(s.PuzzleWordCount));
+    // The panel lists the words in the order they were placed, all pink.
+    const QStringList entries = ShownEntries(game);
+    QCOMPARE(entries.size(), int(words.size()));
+    for (int i = 0; i < entries.size(); ++i) {
+        QCOMPARE(entries[i], toQ(s.Words[game->state().PlaceWord[i + 1]]));
+        QVERIFY(!EntryYellow(game->clueLabels()[i]));
+    }
+    Shot(game, "blind-tiles-1280x800");
+
+    auto* command1 = game->findChild<QPushButton*>("Command1");
+    int expected = 0;
+    for (std::size_t n = 0; n < words.size(); ++n) {
+        QVERIFY(SelectWord(game, words[n]));
+        QVERIFY(command1->isVisible());
+        const std::string& word = s.Words[words[n].index];
+        QTest::keyClicks(game, toQ(word));
+        expected += 100 * int(word.size());
+        if (n + 1 < words.size()) {
+            QCOMPARE(s.Score, double(expected));  // 100 a letter, no draw
+            QCOMPARE(game->findChild<QLabel*>("Label2")->text(),
+                     "Score: " + QString::number(expected));
+            QVERIFY(EntryYellow(game->clueLabels()[entries.indexOf(toQ(word))]));
+            if (n == 0) {
+                game->resize(1920, 1080);
+                Shot(game, "blind-tiles-1920x1080");
+            }
+            Pump(16 * 12);
+        }
+    }
+    QCOMPARE(fx.sound.played.count("gong.wav"), int(words.size()));
+    QVERIFY(fx.sound.played.contains("cheer.wav"));
+    QCOMPARE(driver.tables.size(), 1);
+    QVERIFY(driver.tables[0].contains("ZZZ"));
+    QVERIFY(fx.dialogs.saw("You got a high score of " + QString::number(expected) +
+                           "! Would you like to try again?"));
+    // Yes, and Yes to a harder game: the next round is laid out at once.
+    QCOMPARE(Showing<BlindTilesForm>(), game);
+    QCOMPARE(int(s.Difficulty), 6);
+    QCOMPARE(s.Score, 0.0);
+    QVERIFY(!PlacedWords(game).empty());
+    QVERIFY(!EntryYellow(game->clueLabels()[0]));
+    QCOMPARE(fx.music.plays, 1);
+    QVERIFY(TriggerMenu(game, "Return"));
+    QVERIFY(Showing<Title>());
+    QCOMPARE(fx.music.closes, 1);
+}
+
+void BlindTilesScreenTest::twinWordsWrongSlotAndGiveAnswerToANegativeScore() {
+    ShellFixture fx;
+    SeededRng rng(4);
+    SetRng(&rng);
+    // Anagrams cross anywhere, so all five entries are placed, the twin "garden" twice.
+    auto* game = OpenBlindTiles(fx, {"garden", "garden", "danger", "ranged", "gander"}, 5, true);
+    QVERIFY(game);
+    SharedState& s = Shared();
+    QCOMPARE(int(s.PuzzleWordCount), 5);
+    QCOMPARE(ShownEntries(game).count("garden"), 2);
+    auto words = PlacedWords(game);
+    QCOMPARE(int(words.size()), 5);
+
+    // Another word of the list typed into a slot is wrong: the pink goes, nothing is solved.
+    const auto gardenAt = std::find_if(words.begin(), words.end(), [&](const WordPlace& w) {
+        return s.Words[w.index] == "garden";
+    });
+    QVERIFY(SelectWord(game, *gardenAt));
+    QTest::keyClicks(game, "danger");
+    QCOMPARE(int(s.PuzzleWordCount), 5);
+    QCOMPARE(game->state().board.colour[gardenAt->cell], cross::TileColour::White);
+    for (int k = 0; k < 6; ++k) QTest::keyClick(game, Qt::Key_Backspace);
+    QTest::keyClicks(game, "garden");
+    // Both twin entries turn yellow; the count still wants the other slot.
+    QCOMPARE(int(s.PuzzleWordCount), 4);
+    for (auto* l : game->clueLabels())
+        if (l->isVisible() && l->text() == "garden") QVERIFY(EntryYellow(l));
+    QCOMPARE(s.Score, 600.0);
+    words.erase(gardenAt);
+
+    fx.sound.played.clear();
+    auto* command1 = game->findChild<QPushButton*>("Command1");
+    for (const auto& w : words) {
+        QVERIFY(SelectWord(game, w));
+        QTest::mouseClick(command1, Qt::LeftButton);
+    }
+    // Exactly 1000 a word, and no sound for a given answer.
+    QCOMPARE(s.Score, 600.0 - 4000.0);
+    QCOMPARE(fx.sound.played, QStringList{"ooh.wav"});
+    QVERIFY(
+        fx.dialogs.saw("Oops! You had a negative score! Maybe you will do better next time..."));
+    QCOMPARE(fx.dialogs.shown.back().title, "You lose!");
+    QVERIFY(Showing<Title>());
+}
+
+void BlindTilesScreenTest::listThatCannotCrossGoesBackToTheTitle() {
+    ShellFixture fx;
+    SeededRng rng(2);
+    SetRng(&rng);
+    auto* game = OpenBlindTiles(fx, {"abc", "xyz", "klm"}, 3, true);
+    QVERIFY(!game);
+    QVERIFY(fx.dialogs.saw("Crossword creation failed. Please try another word list."));
+    QVERIFY(Showing<Title>());
+}
+
+QTEST_MAIN(BlindTilesScreenTest)
+#include "blind_tiles_screen_test.moc"

@@ -1,0 +1,245 @@
+// Crossword on its screen: the road from the title to a win and the table, the road to a
+// negative score through Give Answer, the wait panel and Restart, the key guard on the button,
+// and a list that cannot be laid out.
+#include <QtTest>
+
+#include "core/strings.h"
+#include "game_road.h"
+#include "games/puzzles/crossword/crossword_screen.h"
+#include "platform/text.h"
+
+using namespace wm;
+using namespace wm::test;
+
+namespace {
+
+const std::vector<std::pair<std::string, std::string>> kSpace = {
+    {"planet", "A world that circles a star"},
+    {"earth", "The planet we live on"},
+    {"moon", "It circles the earth"},
+    {"comet", "An icy body with a bright tail"},
+    {"orbit", "The path around a planet or star"},
+    {"star", "A ball of burning gas"},
+    {"meteor", "A shooting star"},
+    {"rocket", "It carries people into space"}};
+
+// Selects the word `index` in `direction` by clicking its first cell (a second click switches
+// to the crossing word). Returns false when the word cannot be selected.
+bool SelectWord(CrosswordForm* game, int index, int direction, int cell) {
+    const QPoint at = game->board()->cellRect(cell).center();
+    for (int clicks = 0; clicks < 3; ++clicks) {
+        QTest::mouseClick(game->board(), Qt::LeftButton, {}, at);
+        const auto& b = game->state().board;
+        const bool dirOk = direction == cross::kAcross ? b.SelAcross : b.SelDown;
+        if (dirOk && b.SelWord == index) return true;
+    }
+    return false;
+}
+
+// The list first, then the options screen with its slider and sound set, then the game.
+QWidget* ThroughOptions(ChooseList* chooser, const QString& list, int difficulty, bool soundOn) {
+    if (!chooser || SelectList(chooser, list) < 0) return nullptr;
+    chooser->continueOn();
+    Pump();
+    auto* options = Showing<GameOptions>();
+    if (!options) return CurrentScreen();
+    options->SpeedBar->setValue(difficulty);
+    (soundOn ? options->SoundONOp : options->SoundOFFOp)->setChecked(true);
+    options->continueOn();
+    Pump();
+    return CurrentScreen();
+}
+
+struct WordPlace {
+    int index, direction, cell;
+};
+std::vector<WordPlace> PlacedWords(const CrosswordForm* game) {
+    std::vector<WordPlace> out;
+    const auto& b = game->state().board;
+    for (int i = 0; i < b.cells(); ++i)
+        for (int d : {cross::kAcross, cross::kDown})
+            if (int w = b.layout.wordAt(i % b.cols + 1, i / b.cols + 1, d))
+                out.push_back({w, d, i});
+    return out;
+}
+
+CrosswordForm* OpenCrossword(ShellFixture& fx, bool soundOn) {
+    WriteOneList(fx, "Space Words", kSpace);
+    auto* chooser = ChooserFor("Crossword", 10, false, soundOn);
+    ThroughOptions(chooser, "Space Words", 10, soundOn);
+    Pump(100);
+    return Showing<CrosswordForm>();
+}
+
+}  // namespace
+
+class CrosswordScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void roadToAWinAndTheTable();
+    void giveAnswerEverywhereLosesWithoutASound();
+    void firstRoundKeepsTheScoreAndRestartWaitsForTheLayout();
+    void keyOnTheButtonNeverGivesTheAnswer();
+    void listThatCannotCrossGoesBackToTheTitle();
+};
+
+void CrosswordScreenTest::roadToAWinAndTheTable() {
+    ShellFixture fx;
+    SeededRng rng(11);
+    SetRng(&rng);
+    WinDriver driver({"ASS"});
+    SetModalHook(std::ref(driver));
+    fx.dialogs.answerYes(false);  // no more tries
+    auto* game = OpenCrossword(fx, true);
+    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+    SharedState& s = Shared();
+    // Ten words wanted from a list of eight: Difficulty itself comes down to eight.
+    QCOMPARE(int(s.Difficulty), 8);
+    QVERIFY(!game->findChild<QWidget*>("Frame1")->isVisible());
+    QCOMPARE(fx.music.opened, appFile("sounds/entertainer.mid"));
+    QCOMPARE(fx.music.plays, 1);
+    QCOMPARE(game->findChild<QLabel*>("ClueLabel")->text(),
+             "Click a word in the puzzle to see the clue.");
+
+    const auto words = PlacedWords(game);
+    QCOMPARE(int(words.size()), int(s.PuzzleWordCount));
+    QVERIFY(words.size() >= 2);
+    auto* command1 = game->findChild<QPushButton*>("Command1");
+    QVERIFY(!command1->isVisible());
+    for (std::size_t n = 0; n < words.size(); ++n) {
+        const auto& w = words[n];
+        QVERIFY(SelectWord(game, w.index, w.direction, w.cell));
+        QCOMPARE(game->findChild<QLabel*>("ClueLabel")->text(), toQ(s.Meanings[w.index]));
+        QVERIFY(command1->isVisible());
+        const QString word = toQ(s.Words[w.index]);
+        if (n == 0) {
+            // A wrong last letter unpinks the word; Backspace lets it be corrected.
+            QTest::keyClicks(game, word.left(word.size() - 1) + "#");
+            QCOMPARE(s.PuzzleWordCount, short(words.size()));
+            QTest::keyClick(game, Qt::Key_Backspace);
+            QTest::keyClicks(game, word.right(1));
+            Shot(game, "crossword-1280x800");
+        } else {
+            QTest::keyClicks(game, word);
+        }
+        if (n + 1 < words.size()) {
+            QCOMPARE(int(s.PuzzleWordCount), int(words.size() - n - 1));
+            QVERIFY(!command1->isVisible());
+            QVERIFY(game->findChild<QLabel*>("Label2")->text().startsWith("Score: "));
+            Pump(16 * 12);  // the flash runs out and leaves the word green
+            // A word corrected after a wrong try was unpinked, so the flash passes it by and
+            // it stays white, its letters written: kept as designed.
+            QCOMPARE(game->state().board.colour[w.cell],
+                     n == 0 ? cross::TileColour::White : cross::TileColour::Green);
+            QCOMPARE(game->state().board.caption[w.cell], UCase(s.Words[w.index])[0]);
+        }
+    }
+    // The last word ends the game at once: the table, then the question, then the title.
+    QCOMPARE(fx.sound.played.count("dkbell.wav"), int(words.size()));
+    QVERIFY(fx.sound.played.contains("cheer.wav"));
+    QCOMPARE(driver.tables.size(), 1);
+    QVERIFY(driver.tables[0].contains("WIN"));
+    const QString score = QString::number(qint64(s.Score));
+    QVERIFY(s.Score >= 251.0 * 2 * 4);
+    QVERIFY(fx.dialogs.saw("You got a high score of " + score + "! Would you like to try again?"));
+    QVERIFY(Showing<Title>());
+    QCOMPARE(fx.music.closes, 1);
+}
+
+void CrosswordScreenTest::giveAnswerEverywhereLosesWithoutASound() {
+    ShellFixture fx;
+    SeededRng rng(5);
+    SetRng(&rng);
+    auto* game = OpenCrossword(fx, false);
+    QVERIFY(game);
+    QVERIFY(fx.music.opened.isEmpty());  // no music with the sound off
+    auto* command1 = game->findChild<QPushButton*>("Command1");
+    const auto words = PlacedWords(game);
+    for (const auto& w : words) {
+        QVERIFY(SelectWord(game, w.index, w.direction, w.cell));
+        const double before = Shared().Score;
+        QTest::mouseClick(command1, Qt::LeftButton);
+        if (!Showing<CrosswordForm>()) break;
+        // 501 to 1000 a word, whatever the help text says.
+        QVERIFY(before - Shared().Score >= 501 && before - Shared().Score <= 1000);
+        QCOMPARE(game->state().board.caption[w.cell], UCase(Shared().Words[w.index])[0]);
+    }
+    QVERIFY(Shared().Score < 0);
+    QVERIFY(
+        fx.dialogs.saw("Oops! You had a negative score! Maybe you will do better next time..."));
+    QCOMPARE(fx.dialogs.shown.back().title, "You lose!");
+    QVERIFY(fx.sound.played.isEmpty());  // gbell and ooh are gated by SoundOn
+    QVERIFY(Showing<Title>());
+}
+
+void CrosswordScreenTest::firstRoundKeepsTheScoreAndRestartWaitsForTheLayout() {
+    ShellFixture fx;
+    SeededRng rng(3);
+    SetRng(&rng);
+    WriteOneList(fx, "Space Words", kSpace);
+    auto* chooser = ChooserFor("Crossword", 10, false, true);
+    Shared().Score = 777;  // left over from an earlier game
+    ContinueWithList(chooser, "Space Words");
+    auto* game = Showing<CrosswordForm>();
+    QVERIFY(game);
+    Pump(100);
+    auto* label2 = game->findChild<QLabel*>("Label2");
+    QCOMPARE(label2->text(), "Score: 0000");
+    QCOMPARE(Shared().Score, 777.0);
+
+    QVERIFY(TriggerMenu(game, "RS"));
+    auto* frame1 = game->findChild<QWidget*>("Frame1");
+    QVERIFY(frame1->isVisible());
+    QCOMPARE(game->findChild<QLabel*>("Label4")->text(),
+             "Please Wait While The Puzzle Is Created...");
+    QCOMPARE(label2->text(), "Score: 0");
+    QCOMPARE(Shared().Score, 0.0);
+    Shot(game, "crossword-wait");
+    Pump(20);
+    QVERIFY(!frame1->isVisible());
+    QVERIFY(!PlacedWords(game).empty());
+    QCOMPARE(fx.music.plays, 1);  // the music is not opened twice
+
+    game->resize(1920, 1080);
+    const auto w = PlacedWords(game).front();
+    QVERIFY(SelectWord(game, w.index, w.direction, w.cell));
+    QTest::keyClicks(game, toQ(Shared().Words[w.index]).left(2));
+    Shot(game, "crossword-1920x1080");
+    // A click beside the cells changes nothing.
+    QTest::mouseClick(game->board(), Qt::LeftButton, {}, QPoint(1, 1));
+    QVERIFY(game->state().board.selected());
+}
+
+void CrosswordScreenTest::keyOnTheButtonNeverGivesTheAnswer() {
+    ShellFixture fx;
+    SeededRng rng(9);
+    SetRng(&rng);
+    auto* game = OpenCrossword(fx, true);
+    QVERIFY(game);
+    const auto w = PlacedWords(game).front();
+    QVERIFY(SelectWord(game, w.index, w.direction, w.cell));
+    auto* command1 = game->findChild<QPushButton*>("Command1");
+    const short left = Shared().PuzzleWordCount;
+    QTest::keyClick(command1, Qt::Key_Space);
+    command1->click();
+    QCOMPARE(Shared().PuzzleWordCount, left);
+    QVERIFY(!fx.sound.played.contains("gbell.wav"));
+    QTest::mouseClick(command1, Qt::LeftButton);  // a mouse-down clears the guard
+    QCOMPARE(int(Shared().PuzzleWordCount), left - 1);
+    QCOMPARE(fx.sound.played.count("gbell.wav"), 1);
+}
+
+void CrosswordScreenTest::listThatCannotCrossGoesBackToTheTitle() {
+    ShellFixture fx;
+    SeededRng rng(1);
+    SetRng(&rng);
+    WriteOneList(fx, "No Match", {{"abc", "first letters"}, {"xyz", "last letters"}});
+    ContinueWithList(ChooserFor("Crossword", 10, false), "No Match");
+    Pump(100);
+    QVERIFY(fx.dialogs.saw("Crossword creation failed. Please try another word list."));
+    QVERIFY(Showing<Title>());
+    QCOMPARE(int(Shared().Difficulty), 2);
+}
+
+QTEST_MAIN(CrosswordScreenTest)
+#include "crossword_screen_test.moc"
