@@ -48,13 +48,21 @@ Plachinko::Plachinko(QWidget* parent)
       ScrambleTimer(frame_.timer("ScrambleTimer", 10,
                                  [this] {
                                      SlotValue = scrambleValues(TheRng());
-                                     update();
+                                     labelsDirty_ = true;
+                                     redraw();
                                  })),
       AnswerPause(frame_.timer(
           "AnswerPause", 700, [this] { NextQuestion(); }, true)) {
     setObjectName("Plachinko");
     setWindowTitle("Pachinko");
     setFocusPolicy(Qt::StrongFocus);
+    // The board lies under the question panel and the lamps. Mouse presses go to the game,
+    // which maps them through the field.
+    field_ = new PlayField(QSize(kW, kH), this);
+    field_->setObjectName("Field");
+    field_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    field_->lower();  // under the menu and the panels
+    field_->hide();
     Frame1 = new QFrame(this);
     Frame1->setObjectName("Frame1");
     Frame1->setStyleSheet(
@@ -112,6 +120,8 @@ Plachinko::Plachinko(QWidget* parent)
         p.setPen(QPen(QColor(255, 255, 255, 160), 2));
         p.drawEllipse(QRectF(kDiskSize * 0.25, kDiskSize * 0.25, kDiskSize * 0.5, kDiskSize * 0.5));
     }
+    diskPicture_ = PictureOf(disk_);
+    diskMask_ = MaskOf(disk_);
     resize(ScreenMetrics::screenSize());
     QTimer::singleShot(0, &frame_, [this] { frame_.newGame(); });
 }
@@ -127,6 +137,8 @@ void Plachinko::SetupGame() {
     SlotValue.fill(0);
     boardShown_ = false;
     locked_ = false;
+    sprites_ = {};
+    field_->hide();
     Label1->hide();
     Shared().Score = 0;
     for (auto* lamp : Shape1) {
@@ -196,8 +208,13 @@ void Plachinko::BuildBoard() {
         at_[i] = rest_[i];
     }
     drawBoard();
+    field_->setBackground(fieldBackground());
+    sprites_ = {};
+    labelsDirty_ = true;
     boardShown_ = true;
-    update();
+    field_->show();
+    resizeEvent(nullptr);
+    redraw();
     dialogs().message(kSetValues);
     Label1->show();
     resizeEvent(nullptr);
@@ -242,26 +259,29 @@ QPointF Plachinko::offset() const {
 }
 
 QPointF Plachinko::toBoard(QPointF screen) const {
-    return (screen - offset()) / scale();
+    return field_->toLogical((screen - field_->pos()).toPoint());
+}
+
+QPoint Plachinko::toScreen(QPointF board) const {
+    const QPoint p = board.toPoint();
+    return field_->pos() + field_->toWidget(QRect(p, QSize(1, 1))).center();
 }
 
 QPoint Plachinko::diskRest(int i) const {
-    return (offset() + (rest_[i] + QPointF(kDiskSize / 2.0, kDiskSize / 2.0)) * scale()).toPoint();
+    return toScreen(rest_[i] + QPointF(kDiskSize / 2.0, kDiskSize / 2.0));
 }
 
 QPoint Plachinko::dropPoint() const {
-    return (offset() + QPointF(kBoardLeft + kBoardWidth / 2.0, kBoardTop - 10) * scale()).toPoint();
+    return toScreen(QPointF(kBoardLeft + kBoardWidth / 2.0, kBoardTop - 10));
 }
 
-void Plachinko::paintEvent(QPaintEvent*) {
-    QPainter p(this);
-    QLinearGradient bg(0, 0, 0, height());
+QImage Plachinko::fieldBackground() const {
+    QImage image(kW, kH, QImage::Format_RGB32);
+    QPainter p(&image);
+    QLinearGradient bg(0, 0, 0, kH);
     bg.setColorAt(0, QColor(70, 20, 90));
     bg.setColorAt(1, QColor(20, 10, 40));
-    p.fillRect(rect(), bg);
-    if (!boardShown_) return;
-    p.translate(offset());
-    p.scale(scale(), scale());
+    p.fillRect(image.rect(), bg);
     p.setRenderHint(QPainter::Antialiasing);
     p.drawImage(QPointF(kBoardLeft - 20, kBoardTop - 40), board_);
     QFont f("DejaVu Sans");
@@ -271,25 +291,81 @@ void Plachinko::paintEvent(QPaintEvent*) {
     p.setPen(QColor(255, 230, 120));
     p.drawText(QRectF(kBoardLeft, kBoardTop - 72, kBoardWidth, 30), Qt::AlignCenter,
                "Drop Disk Here");
+    p.setPen(Qt::NoPen);
+    for (int s = 0; s < kSlotCount; ++s) {
+        p.setBrush(kSlotColours[s]);
+        p.drawRoundedRect(
+            QRectF(kBoardLeft + s * kSlotWidth + 3, kBoardTop + kBoardHeight - kSlotHeight + 6,
+                   kSlotWidth - 6, kSlotHeight - 12),
+            6, 6);
+    }
+    return image;
+}
+
+// The slot values sit inside their coloured boxes, the score in the lower right corner.
+std::vector<QRect> Plachinko::labelRects() const {
+    std::vector<QRect> rects;
+    for (int s = 0; s < kSlotCount; ++s)
+        rects.emplace_back(kBoardLeft + s * kSlotWidth + 9,
+                           kBoardTop + kBoardHeight - kSlotHeight + 12, kSlotWidth - 18,
+                           kSlotHeight - 24);
+    rects.emplace_back(kBoardLeft + kBoardWidth + 12, kH - 60, kW - kBoardLeft - kBoardWidth - 16,
+                       40);
+    return rects;
+}
+
+void Plachinko::paintLabels(QPainter& p) const {
+    const std::vector<QRect> rects = labelRects();
+    p.setRenderHint(QPainter::Antialiasing);
+    QFont f("DejaVu Sans");
+    f.setBold(true);
     f.setPixelSize(13);
     p.setFont(f);
-    for (int s = 0; s < kSlotCount; ++s) {
-        const QRectF r(kBoardLeft + s * kSlotWidth + 3, kBoardTop + kBoardHeight - kSlotHeight + 6,
-                       kSlotWidth - 6, kSlotHeight - 12);
-        p.setPen(Qt::NoPen);
-        p.setBrush(kSlotColours[s]);
-        p.drawRoundedRect(r, 6, 6);
-        p.setPen(Qt::white);
-        p.drawText(r, Qt::AlignCenter, QString::number(SlotValue[s]));
-    }
+    p.setPen(Qt::white);
+    for (int s = 0; s < kSlotCount; ++s)
+        p.drawText(rects[size_t(s)], Qt::AlignCenter, QString::number(SlotValue[s]));
     f.setPixelSize(20);
     p.setFont(f);
-    p.setPen(Qt::white);
-    p.drawText(
-        QRectF(kBoardLeft + kBoardWidth + 12, kH - 60, kW - kBoardLeft - kBoardWidth - 16, 40),
-        Qt::AlignRight | Qt::AlignVCenter, toQ(scoreLine(Shared().Score)));
+    p.drawText(rects.back(), Qt::AlignRight | Qt::AlignVCenter, toQ(scoreLine(Shared().Score)));
+}
+
+QImage Plachinko::boardPicture() const {
+    QImage image = field_->background().copy();
+    QPainter p(&image);
+    paintLabels(p);
+    return image;
+}
+
+QRect Plachinko::diskRect(int i) const {
+    return inPlay_[i] && sprites_[i].isDrawn() ? sprites_[i].rect() : QRect();
+}
+
+void Plachinko::redraw() {
+    if (!boardShown_) return;
+    PlayField& f = *field_;
+    for (int i = kMaxDisks - 1; i >= 0; --i) sprites_[i].erase(f);
+    if (labelsDirty_) {
+        labelsDirty_ = false;
+        for (const QRect& r : labelRects()) {
+            f.restoreBackground(r);
+            f.markDirty(r);
+        }
+        QPainter p(&f.surface());
+        paintLabels(p);
+    }
     for (int i = 0; i < kMaxDisks; ++i)
-        if (inPlay_[i]) p.drawImage(at_[i] - QPointF(1, 1), disk_);
+        if (inPlay_[i])
+            sprites_[i].draw(f, (at_[i] - QPointF(1, 1)).toPoint(), diskPicture_, diskMask_);
+    f.flush();
+}
+
+void Plachinko::paintEvent(QPaintEvent*) {
+    // Round the board: the same evening sky it is drawn on, from the menu down.
+    QPainter p(this);
+    QLinearGradient bg(0, frame_.menuHeight(), 0, height());
+    bg.setColorAt(0, QColor(70, 20, 90));
+    bg.setColorAt(1, QColor(20, 10, 40));
+    p.fillRect(rect(), bg);
 }
 
 void Plachinko::mousePressEvent(QMouseEvent* e) {
@@ -320,7 +396,7 @@ void Plachinko::mouseReleaseEvent(QMouseEvent* e) {
     if (!inDropZone(bx, by)) {
         sound().effect("gbell.wav");
         at_[i] = rest_[i];
-        update();
+        redraw();
         return;
     }
     fall_ = dropDisk(bx);
@@ -338,7 +414,7 @@ void Plachinko::tick() {
             return;
         }
     }
-    update();
+    redraw();
 }
 
 void Plachinko::ScoreDisk() {
@@ -347,12 +423,14 @@ void Plachinko::ScoreDisk() {
     SharedState& s = Shared();
     s.Score += v;
     sound().effect("dingling.wav");
-    repaint();
+    labelsDirty_ = true;
+    redraw();
+    field_->repaint();
     inPlay_[fallingDisk_] = false;
     fallingDisk_ = -1;
     dialogs().message(toQ(scoredText(v)));
     --DisksEarned;
-    update();
+    redraw();
     if (DisksEarned == 0) EndGame();
 }
 
@@ -368,7 +446,6 @@ void Plachinko::keyPressEvent(QKeyEvent* e) {
         Label1->hide();
         locked_ = true;
         sound().effect("cymbals.wav");
-        update();
         dialogs().message(kReady);
         return;
     }
@@ -376,6 +453,10 @@ void Plachinko::keyPressEvent(QKeyEvent* e) {
 }
 
 void Plachinko::resizeEvent(QResizeEvent*) {
+    // Exactly the field's shape, so that it has no bars of its own.
+    const QSize shown =
+        QSize(kW, kH).scaled(QSize(width(), height() - frame_.menuHeight()), Qt::KeepAspectRatio);
+    field_->setGeometry(QRect(QPoint((width() - shown.width()) / 2, frame_.menuHeight()), shown));
     Frame1->setFixedWidth(int(std::min(width() * 0.62, 760.0 * std::max(1.0, scale()))));
     Frame1->adjustSize();
     Frame1->move((width() - Frame1->width()) / 2,

@@ -9,6 +9,7 @@
 #include <array>
 
 #include "games/show/pachinko/pachinko_rules.h"
+#include "platform/play_field.h"
 #include "shell/game_frame.h"
 
 namespace wm {
@@ -27,6 +28,12 @@ public:
     bool valuesLocked() const { return locked_; }
     bool falling() const { return Falling; }
     QLabel* lockLabel() const { return Label1; }
+    // The board as it is shown, at the game's own resolution, and what it shows with no disk
+    // on it: the background with the slot values and the score.
+    PlayField* field() const { return field_; }
+    QImage boardPicture() const;
+    // Where disk i is drawn on the field; empty when it is not in play.
+    QRect diskRect(int i) const;
     // Where disk i (0-based) rests, and the middle of the drop zone, in screen pixels.
     QPoint diskRest(int i) const;
     QPoint dropPoint() const;
@@ -46,15 +53,26 @@ private:
     void afterQuestions();
     void BuildBoard();
     void drawBoard();
+    QImage fieldBackground() const;
+    void paintLabels(QPainter& p) const;
+    std::vector<QRect> labelRects() const;
+    // One frame on the field: the disks lifted off, the labels if they changed, the disks put
+    // back where they now are, and the changed rectangles pushed to the screen.
+    void redraw();
     void tick();
     void ScoreDisk();
     void EndGame();
     double scale() const;
     QPointF offset() const;
     QPointF toBoard(QPointF screen) const;  // logical design pixels
+    QPoint toScreen(QPointF board) const;
 
     QImage board_;  // the pins and walls at the design size, drawn once
     QImage disk_;   // the disk's picture with its transparent surround
+    QImage diskPicture_, diskMask_;
+    PlayField* field_;
+    std::array<FieldSprite, pachinko::kMaxDisks> sprites_;
+    bool labelsDirty_ = true;
     QFrame* Frame1;
     QLabel* Direct;
     QLabel* Questionlabel;

@@ -83,7 +83,7 @@ TicTacToe::TicTacToe(QWidget* parent)
                                   Qt::red,     Qt::yellow, Qt::green,          Qt::cyan,
                                   Qt::magenta, Qt::white,  QColor(255, 150, 0)};
                               lineColour_ = seven[int(sparkRnd() * 7) % 7];
-                              update();
+                              redrawOverlay();
                           })),
       StarTimer(frame_.timer("StarTimer", 1, [this] {
           bool any = false;
@@ -95,11 +95,26 @@ TicTacToe::TicTacToe(QWidget* parent)
               s.alive = ++s.age < 45;
               any = true;
           }
-          if (any) update();
+          if (any) redrawOverlay();
       })) {
     setObjectName("TicTacToe");
     setWindowTitle("Tic-Tac-Toe");
     sprites_ = {markSprite(true), markSprite(false)};
+    for (int age = 0; age < 45; ++age) {
+        QImage spark(12, 12, QImage::Format_ARGB32_Premultiplied);
+        spark.fill(Qt::transparent);
+        QPainter p(&spark);
+        p.setRenderHint(QPainter::Antialiasing);
+        p.setPen(Qt::NoPen);
+        p.setBrush(QColor::fromHsv((age * 17) % 360, 200, 255));
+        p.drawEllipse(QPointF(6, 6), 5, 5);
+        sparkFrames_.push_back(spark);
+    }
+    // Under the panels; clicks go to the game, which maps them through the field.
+    field_ = new PlayField(QSize(kW, kH), this);
+    field_->setObjectName("Field");
+    field_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    field_->lower();  // under the menu and the panels
     const QString panel =
         "QFrame { background: rgba(255, 250, 235, 245); border: 4px solid #2f5d8a;"
         " border-radius: 18px; } QLabel, QRadioButton { border: none; background: transparent;"
@@ -177,7 +192,8 @@ void TicTacToe::SetupGame() {
     Timer2.stop();
     Timer3.stop();
     afterPause_ = {};
-    for (auto& s : sparks_) s.alive = false;
+    for (auto& s : sparks_) s = Spark{};
+    lineUnder_ = {};
     StarTimer.start();
     Frame2->show();
     Frame1->hide();
@@ -199,11 +215,12 @@ void TicTacToe::chooseSide(bool x) {
 }
 
 double TicTacToe::scale() const {
-    return std::min(width() / double(kW), height() / double(kH));
+    return std::min(width() / double(kW), (height() - frame_.menuHeight()) / double(kH));
 }
 
 QPointF TicTacToe::offset() const {
-    return {(width() - kW * scale()) / 2, (height() - kH * scale()) / 2};
+    const int menu = frame_.menuHeight();
+    return {(width() - kW * scale()) / 2, menu + (height() - menu - kH * scale()) / 2};
 }
 
 QRect TicTacToe::logicalSquare(int row, int col) const {
@@ -211,14 +228,18 @@ QRect TicTacToe::logicalSquare(int row, int col) const {
 }
 
 QPoint TicTacToe::squareCentre(int row, int col) const {
-    return (offset() + QPointF(logicalSquare(row, col).center()) * scale()).toPoint();
+    return field_->pos() +
+           field_->toWidget(QRect(logicalSquare(row, col).center(), QSize(1, 1))).center();
 }
 
 void TicTacToe::drawBoard() {
-    buffer_ = QImage(kW, kH, QImage::Format_ARGB32_Premultiplied);
-    QPainter p(&buffer_);
+    QImage board(kW, kH, QImage::Format_RGB32);
+    QPainter p(&board);
+    QLinearGradient sky(0, 0, 0, kH);
+    sky.setColorAt(0, QColor(120, 200, 255));
+    sky.setColorAt(1, QColor(200, 240, 200));
+    p.fillRect(board.rect(), sky);
     p.setRenderHint(QPainter::Antialiasing);
-    buffer_.fill(Qt::transparent);  // the sky is painted under it across the whole screen
     // A chalk-green play board with rounded corners, then the grid lines.
     const QRectF boardRect(kGridLeft - 24, kGridTop - 24, 3 * kCell + 48, 3 * kCell + 48);
     p.setPen(QPen(QColor(120, 80, 40), 10));
@@ -231,41 +252,60 @@ void TicTacToe::drawBoard() {
         p.drawLine(kGridLeft + 10, kGridTop + i * kCell, kGridLeft + 3 * kCell - 10,
                    kGridTop + i * kCell);
     }
+    p.end();
+    field_->setBackground(board);
+    field_->markDirty(field_->surface().rect());
+    field_->flush();
 }
 
 void TicTacToe::drawMark(int row, int col, int owner) {
     const bool x = (owner == Player) == playerIsX_;
-    QPainter p(&buffer_);
-    // A block copy of the mark's sprite through its mask onto the board.
-    p.drawImage(logicalSquare(row, col).topLeft(), sprites_[x ? 0 : 1]);
-    update();
+    // A block copy of the mark's sprite through its mask onto the board, under the sparks.
+    for (auto it = sparks_.rbegin(); it != sparks_.rend(); ++it) it->sprite.erase(*field_);
+    const QRect square = logicalSquare(row, col);
+    field_->drawTransparent(square.topLeft(), sprites_[x ? 0 : 1]);
+    field_->markDirty(square);
+    redrawOverlay();
 }
 
-void TicTacToe::paintEvent(QPaintEvent*) {
-    QPainter p(this);
-    QLinearGradient sky(0, 0, 0, height());
-    sky.setColorAt(0, QColor(120, 200, 255));
-    sky.setColorAt(1, QColor(200, 240, 200));
-    p.fillRect(rect(), sky);
-    p.translate(offset());
-    p.scale(scale(), scale());
-    p.drawImage(0, 0, buffer_);
-    p.setRenderHint(QPainter::Antialiasing);
+void TicTacToe::redrawOverlay() {
+    PlayField& f = *field_;
+    for (auto it = sparks_.rbegin(); it != sparks_.rend(); ++it) it->sprite.erase(f);
+    if (!lineUnder_.isNull()) {
+        f.restore(lineUnder_);
+        lineUnder_ = {};
+    }
     if (verdict_.winner != Empty) {
         // From 0.2 to 0.8 across the end squares, through their middles.
         const QPointF a = logicalSquare(verdict_.from.row, verdict_.from.col).center();
         const QPointF b = logicalSquare(verdict_.to.row, verdict_.to.col).center();
         const QPointF d = b - a;
         const QPointF from = a - d * 0.3 / 2, to = b + d * 0.3 / 2;
+        const QRect around =
+            QRectF(from, to).normalized().toAlignedRect().adjusted(-10, -10, 10, 10);
+        lineUnder_ = f.save(around);
+        QPainter p(&f.surface());
+        p.setRenderHint(QPainter::Antialiasing);
         p.setPen(QPen(lineColour_, 16, Qt::SolidLine, Qt::RoundCap));
         p.drawLine(from, to);
+        f.markDirty(around);
     }
-    p.setPen(Qt::NoPen);
-    for (const auto& s : sparks_) {
-        if (!s.alive) continue;
-        p.setBrush(QColor::fromHsv((s.age * 17) % 360, 200, 255));
-        p.drawEllipse(QPointF(s.x, s.y), 5, 5);
+    const QRect inside = f.surface().rect().adjusted(0, 0, -12, -12);
+    for (auto& s : sparks_) {
+        const QPoint at = QPointF(s.x - 6, s.y - 6).toPoint();
+        if (s.alive && inside.contains(at))
+            s.sprite.draw(f, at, sparkFrames_[size_t(std::min(s.age, 44))]);
     }
+    f.flush();
+}
+
+void TicTacToe::paintEvent(QPaintEvent*) {
+    // Round the board: the same sky it is drawn on, from the menu down.
+    QPainter p(this);
+    QLinearGradient sky(0, frame_.menuHeight(), 0, height());
+    sky.setColorAt(0, QColor(120, 200, 255));
+    sky.setColorAt(1, QColor(200, 240, 200));
+    p.fillRect(rect(), sky);
 }
 
 void TicTacToe::burst(int row, int col, int count) {
@@ -273,12 +313,13 @@ void TicTacToe::burst(int row, int col, int count) {
     for (int group = 0; group < count / 10; ++group) {
         const int base = (nextBurst_++ % 16) * 10;
         for (int i = base; i < base + 10; ++i) {
-            sparks_[i] = {c.x(),
-                          c.y(),
-                          double(int(sparkRnd() * 10 + 1) + 5),
-                          double(10 - int(sparkRnd() * 20 + 1)),
-                          0,
-                          true};
+            Spark& s = sparks_[i];
+            s.x = c.x();
+            s.y = c.y();
+            s.dx = double(int(sparkRnd() * 10 + 1) + 5);
+            s.dy = double(10 - int(sparkRnd() * 20 + 1));
+            s.age = 0;
+            s.alive = true;
             if (i % 2) sparks_[i].dx = -sparks_[i].dx;  // a burst both ways, as fireworks do
         }
     }
@@ -286,7 +327,7 @@ void TicTacToe::burst(int row, int col, int count) {
 
 void TicTacToe::mousePressEvent(QMouseEvent* e) {
     if (!PlayerTurn || Timer1.isActive() || Frame1->isVisible() || Frame2->isVisible()) return;
-    const QPointF at = (e->position() - offset()) / scale();
+    const QPointF at = field_->toLogical((e->position() - QPointF(field_->pos())).toPoint());
     for (int r = 1; r <= 3; ++r)
         for (int c = 1; c <= 3; ++c) {
             if (!logicalSquare(r, c).contains(at.toPoint())) continue;
@@ -386,7 +427,7 @@ bool TicTacToe::CheckBoard(std::function<void()> goOn) {
         const bool player = verdict_.winner == Player;
         Label2->setText(player ? kYouWin : kComputerWinsGame);
         if (player) sound().effect("winner2.wav");
-        update();
+        redrawOverlay();
         pause(1, [this, player] {
             PlayerTurn = true;
             if (player) {
@@ -421,6 +462,12 @@ void TicTacToe::pause(int ticks, std::function<void()> then) {
 void TicTacToe::resizeEvent(QResizeEvent*) {
     const double s = scale();
     const QPointF o = offset();
+    // Below the menu, exactly the field's shape, so that it has no bars of its own.
+    const int menu = frame_.menuHeight();
+    const QSize shown = QSize(kW, kH).scaled(QSize(width(), height() - menu), Qt::KeepAspectRatio);
+    field_->setGeometry(
+        QRect(QPoint((width() - shown.width()) / 2, menu + (height() - menu - shown.height()) / 2),
+              shown));
     Label2->adjustSize();
     Label2->move((width() - Label2->width()) / 2,
                  std::max(frame_.menuHeight() + 8, int(o.y() + 70 * s)));

@@ -10,6 +10,7 @@
 #include <array>
 
 #include "games/show/tictactoe/tictactoe_rules.h"
+#include "platform/play_field.h"
 #include "shell/game_frame.h"
 
 namespace wm {
@@ -33,6 +34,9 @@ public:
     bool playerTurn() const { return PlayerTurn; }
     // The centre of square (row, column), 1-based, in the screen's pixels.
     QPoint squareCentre(int row, int col) const;
+    PlayField* field() const { return field_; }
+    // Square (row, column), 1-based, on the field.
+    QRect logicalSquare(int row, int col) const;
     void SetupGame();
 
 protected:
@@ -54,12 +58,16 @@ private:
     void burst(int row, int col, int sparks);
     void drawBoard();
     void drawMark(int row, int col, int owner);
-    QRect logicalSquare(int row, int col) const;
+    // The winning line and the sparks, drawn over the board with what was under them saved,
+    // and lifted off again on the next frame.
+    void redrawOverlay();
     double scale() const;
     QPointF offset() const;
 
-    QImage buffer_;  // the board at its design size, marks copied onto it as sprites
-    std::array<QImage, 2> sprites_;  // X, O
+    PlayField* field_;                 // the board at its design size, marks copied onto it
+    std::array<QImage, 2> sprites_;    // X, O
+    std::vector<QImage> sparkFrames_;  // a spark at each age
+    SavedBlock lineUnder_;
     QFrame* Frame1;
     QFrame* Frame2;
     QLabel* Label1;
@@ -90,6 +98,7 @@ private:
         double x = 0, y = 0, dx = 0, dy = 0;
         int age = 0;
         bool alive = false;
+        FieldSprite sprite;
     };
     std::array<Spark, 160> sparks_;
     int nextBurst_ = 0;

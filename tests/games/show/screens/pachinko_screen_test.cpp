@@ -15,6 +15,7 @@ class PachinkoScreenTest : public QObject {
 private slots:
     void earnDropAndScore();
     void fiveWrongAnswersEndBeforeTheBoard();
+    void aFallingDiskLeavesNothingBehind();
 };
 
 namespace {
@@ -121,6 +122,56 @@ void PachinkoScreenTest::fiveWrongAnswersEndBeforeTheBoard() {
     QVERIFY(!fx.dialogs.saw(QString(pachinko::kSetValues)));
     Pump();
     QVERIFY(Showing<Title>());
+}
+
+namespace {
+// The first field pixel, outside the disks, that differs from the bare board; (-1, -1) if none.
+QPoint firstLeftover(Plachinko* game) {
+    const QImage& shown = game->field()->surface();
+    const QImage board = game->boardPicture();
+    if (shown.size() != board.size()) return {-2, -2};
+    QRegion disks;
+    for (int i = 0; i < pachinko::kMaxDisks; ++i) disks += game->diskRect(i);
+    for (int y = 0; y < shown.height(); ++y) {
+        const auto* a = reinterpret_cast<const QRgb*>(shown.constScanLine(y));
+        const auto* b = reinterpret_cast<const QRgb*>(board.constScanLine(y));
+        for (int x = 0; x < shown.width(); ++x)
+            if (a[x] != b[x] && !disks.contains(QPoint(x, y))) return {x, y};
+    }
+    return {-1, -1};
+}
+}  // namespace
+
+void PachinkoScreenTest::aFallingDiskLeavesNothingBehind() {
+    ShellFixture fx;
+    auto* game = startGame(fx);
+    QVERIFY(game);
+    game->resize(1920, 1080);  // the other road plays at 1280 x 800
+    answerAll(fx, game, {true, true, true, true, true});
+    QTest::keyClick(game, Qt::Key_Space);
+    QVERIFY(game->valuesLocked());
+    QCOMPARE(firstLeftover(game), QPoint(-1, -1));  // the values drawn over the spinning ones
+    // Dragged about over the board and dropped: each step along the way and the fall itself.
+    QTest::mousePress(game, Qt::LeftButton, {}, game->diskRest(2));
+    for (int k = 1; k <= 4; ++k) {
+        QTest::mouseMove(game, game->diskRest(2) + QPoint(k * 60, k * 50));
+        Pump(10);
+        QCOMPARE(firstLeftover(game), QPoint(-1, -1));
+    }
+    QTest::mouseMove(game, game->dropPoint());
+    QTest::mouseRelease(game, Qt::LeftButton, {}, game->dropPoint());
+    QVERIFY(game->falling());
+    for (int t = 0; t < 400 && game->falling(); ++t) {
+        Pump(30);
+        if (t % 10 == 0) QCOMPARE(firstLeftover(game), QPoint(-1, -1));
+        if (t == 20) Shot(game, "pachinko-falling-1920");
+    }
+    QVERIFY(!game->falling());
+    QVERIFY(game->diskRect(2).isNull());  // scored and gone
+    QVERIFY(!game->diskRect(0).isNull());
+    // The score line changed with the disk; the board shows it and nothing else.
+    QVERIFY(fx.dialogs.texts().filter("You scored ").size() == 1);
+    QCOMPARE(firstLeftover(game), QPoint(-1, -1));
 }
 
 QTEST_MAIN(PachinkoScreenTest)

@@ -40,6 +40,22 @@ TicTacToe* startGame(ShellFixture& fx, int level) {
     return game;
 }
 
+// Whether the field shows the bare board everywhere but in `marked`, and something else in each
+// of those: the marks copied in, the sparks gone with nothing left where they flew.
+bool onlyMarksOnBoard(TicTacToe* game, const std::vector<QRect>& marked) {
+    const QImage& shown = game->field()->surface();
+    const QImage& board = game->field()->background();
+    QRegion inMarks;
+    for (const QRect& r : marked) inMarks += r;
+    for (int y = 0; y < shown.height(); ++y)
+        for (int x = 0; x < shown.width(); ++x)
+            if (shown.pixel(x, y) != board.pixel(x, y) && !inMarks.contains(QPoint(x, y)))
+                return false;
+    for (const QRect& r : marked)
+        if (shown.copy(r) == board.copy(r)) return false;
+    return true;
+}
+
 void takeSquare(TicTacToe* game, int row, int col, bool right) {
     QTest::mouseClick(game, Qt::LeftButton, {}, game->squareCentre(row, col));
     QVERIFY(game->questionFrame()->isVisible());
@@ -87,6 +103,11 @@ void TicTacToeScreenTest::winFromTheSideChoiceToTheTable() {
         QCOMPARE(game->board().at(1, col), int(tictactoe::Player));
         if (col == 2) Shot(game, "tictactoe-play");
         Pump(col < 3 ? 4000 : 1000);
+        if (col < 3) {
+            std::vector<QRect> marked;
+            for (int c = 1; c <= col; ++c) marked.push_back(game->logicalSquare(1, c));
+            QVERIFY(onlyMarksOnBoard(game, marked));
+        }
     }
     QCOMPARE(game->info()->text(), "You win the game!");
     QVERIFY(fx.sound.played.contains("winner2.wav"));
