@@ -14,26 +14,9 @@
 
 namespace wm {
 
-namespace {
-std::function<void()>& endHook() {
-    static std::function<void()> hook;
-    return hook;
-}
-}  // namespace
-
-void SetEndProgramHook(std::function<void()> hook) {
-    endHook() = std::move(hook);
-}
-
 void AskEndProgram() {
     if (!dialogs().yesNo("Do you want to quit?")) return;
-    if (endHook()) {
-        endHook()();
-        return;
-    }
-    // The whole program ends here, not only the activity: the event loop stops and every
-    // screen goes with it.
-    QTimer::singleShot(0, qApp, &QApplication::quit);
+    EndProgram();
 }
 
 QuizOptions::QuizOptions(QWidget* parent) : Backdrop("images/wm-back.jpg", parent) {

@@ -32,7 +32,5 @@ protected:
 
 // "Do you want to quit?"; Yes ends the program (the study screens' Escape).
 void AskEndProgram();
-// Tests watch the end of the program instead of having it.
-void SetEndProgramHook(std::function<void()> hook);
 
 }  // namespace wm

@@ -1,8 +1,10 @@
 #include "shell/screens.h"
 
+#include <QApplication>
 #include <QGuiApplication>
 #include <QHash>
 #include <QPointer>
+#include <QTimer>
 
 #include "platform/screen_metrics.h"
 
@@ -47,6 +49,25 @@ QWidget* OpenScreen(const QString& name, QWidget* from) {
     PresentScreen(next);
     if (from && from != next) from->close();
     return next;
+}
+
+namespace {
+std::function<void()>& endHook() {
+    static std::function<void()> hook;
+    return hook;
+}
+}  // namespace
+
+void SetEndProgramHook(std::function<void()> hook) {
+    endHook() = std::move(hook);
+}
+
+void EndProgram() {
+    if (endHook()) {
+        endHook()();
+        return;
+    }
+    QTimer::singleShot(0, qApp, &QApplication::quit);
 }
 
 QWidget* CurrentScreen() {

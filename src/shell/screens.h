@@ -16,6 +16,10 @@ bool HasScreen(const QString& name);
 QWidget* OpenScreen(const QString& name, QWidget* from = nullptr);
 // Shows a screen filling the display.
 void PresentScreen(QWidget* screen);
+// Ends the whole program, not only the screen: the event loop stops and every screen goes with
+// it. Tests watch it through the hook instead of having it.
+void EndProgram();
+void SetEndProgramHook(std::function<void()> hook);
 // The screen shown last, for tests.
 QWidget* CurrentScreen();
 // Registers Title, BlackBack, ChooseList, GameOptions and the other shell screens, and the

@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <cmath>
 
+#include <QCloseEvent>
 #include "core/shared_state.h"
 #include "platform/dialogs.h"
 #include "platform/key_state.h"
@@ -16,6 +17,7 @@
 #include "platform/sound.h"
 #include "platform/text.h"
 #include "shell/game_registry.h"
+#include "shell/screens.h"
 
 namespace wm {
 
@@ -303,6 +305,13 @@ void LetterFall::resizeEvent(QResizeEvent*) {
         Letter[i]->setFont(f);
         place(Letter[i], QRect(px(game_.tileLeft(i)), px(kTileTop), kTileW / 15, kTileH / 15));
     }
+}
+
+// Closing this screen by its close box ends the whole program, as the game always has; leaving
+// by Quit, Escape or the end of a game goes back to the title as usual.
+void LetterFall::closeEvent(QCloseEvent* e) {
+    if (!frame_.leaving()) EndProgram();
+    QWidget::closeEvent(e);
 }
 
 WM_REGISTER_GAME("Letter Drop", LetterFall, "images/letterdrop-sky.svg", "sounds/zap.wav",

@@ -33,6 +33,7 @@ public:
 
 protected:
     void keyReleaseEvent(QKeyEvent* e) override;
+    void closeEvent(QCloseEvent* e) override;
     void resizeEvent(QResizeEvent*) override;
 
 private:

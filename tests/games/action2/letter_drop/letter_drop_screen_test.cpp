@@ -16,6 +16,7 @@ private slots:
     void steerEveryLetterHomeToTheTable();
     void longWordsAreRefused();
     void nothingToDropWinsAtOnceWithoutTheDefinition();
+    void closingTheScreenEndsTheProgram();
 };
 
 namespace {
@@ -144,6 +145,27 @@ void LetterDropScreenTest::nothingToDropWinsAtOnceWithoutTheDefinition() {
     QVERIFY(fx.sound.played.isEmpty());
     Pump();
     QVERIFY(Showing<Title>());
+}
+
+void LetterDropScreenTest::closingTheScreenEndsTheProgram() {
+    ShellFixture fx;
+    int ended = 0;
+    SetEndProgramHook([&] { ++ended; });
+    auto* game = qobject_cast<LetterFall*>(
+        ContinueWithList(ChooserFor("Letter Drop", 90, false), "Human Body ("));
+    QVERIFY(game);
+    // Quit goes back to the title as any game does...
+    QTest::keyClick(game, Qt::Key_Escape);
+    Pump();
+    QVERIFY(Showing<Title>());
+    QCOMPARE(ended, 0);
+    // ...but the close box ends the whole program: kept as the game has always done.
+    game = qobject_cast<LetterFall*>(
+        ContinueWithList(ChooserFor("Letter Drop", 90, false), "Human Body ("));
+    QVERIFY(game);
+    game->close();
+    QCOMPARE(ended, 1);
+    SetEndProgramHook({});
 }
 
 QTEST_MAIN(LetterDropScreenTest)
