@@ -1,5 +1,7 @@
 #include "core/list_file.h"
 
+#include <algorithm>
+
 #include "core/line_file.h"
 #include "core/shared_state.h"
 #include "core/strings.h"
@@ -148,7 +150,10 @@ void LoadList(const std::string& path, SharedState& state, const std::vector<For
     }
 
     // Over the limit the count stays at 1001, as the game screens have always seen it.
-    state.WordCount = static_cast<short>(lastWord == kSeparator ? counter - 1 : counter);
+    // A record cut by the separator right after a blank pair would come out at -1; an empty list
+    // is what every screen expects, so the count never goes below zero.
+    const int count = lastWord == kSeparator ? counter - 1 : counter;
+    state.WordCount = static_cast<short>(std::max(count, 0));
     state.WordsOnly = state.Meanings[1] == kWordsOnlyMarker ? kTrue : kFalse;
 }
 

@@ -140,6 +140,14 @@ TEST_F(ListFileTest, OddLineCountAndMissingNamesAreSafe) {
     load("L");
     EXPECT_EQ(state.WordCount, 0);
     EXPECT_TRUE(ListNames(path).empty());
+    // The separator straight after a blank pair, or straight after the name at the end of the
+    // file, would count one pair too few: the count stops at zero.
+    dir.writeLines("thelists.dat", {"L", "<New List>", "", "M", "m", "mm"});
+    load("L");
+    EXPECT_EQ(state.WordCount, 0);
+    dir.write("thelists.dat", std::string("L\r\n<New List>", 14));
+    load("L");
+    EXPECT_EQ(state.WordCount, 0);
 }
 
 TEST_F(ListFileTest, LoadClearsTheOldList) {

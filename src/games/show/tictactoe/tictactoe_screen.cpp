@@ -5,9 +5,11 @@
 #include <QPainterPath>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <cmath>
 #include <random>
 
 #include "core/rng.h"
+#include "games/show/svg_picture.h"
 #include "core/shared_state.h"
 #include "platform/dialogs.h"
 #include "platform/screen_metrics.h"
@@ -96,6 +98,10 @@ TicTacToe::TicTacToe(QWidget* parent)
               any = true;
           }
           if (any) redrawOverlay();
+      })),
+      UfoTimer(frame_.timer("UfoTimer", 30, [this] {
+          for (auto& u : saucers_) u.phase += u.speed;
+          redrawOverlay();
       })) {
     setObjectName("TicTacToe");
     setWindowTitle("Tic-Tac-Toe");
@@ -110,6 +116,17 @@ TicTacToe::TicTacToe(QWidget* parent)
         p.drawEllipse(QPointF(6, 6), 5, 5);
         sparkFrames_.push_back(spark);
     }
+    // Two saucers wander the sky either side of the board, clear of the board and the captions.
+    saucerPicture_ = QImage(120, 66, QImage::Format_ARGB32_Premultiplied);
+    saucerPicture_.fill(Qt::transparent);
+    {
+        QPainter p(&saucerPicture_);
+        p.setRenderHint(QPainter::Antialiasing);
+        show::PaintSvg(p, "images/saucer.svg", QRectF(saucerPicture_.rect()));
+    }
+    const int lane = (kGridLeft - 24) / 2;  // the middle of the sky beside the board
+    saucers_[0] = {double(lane), 420.0, 0.035, 0.0, {}};
+    saucers_[1] = {double(kW - lane), 400.0, -0.027, 2.0, {}};
     // Under the panels; clicks go to the game, which maps them through the field.
     field_ = new PlayField(QSize(kW, kH), this);
     field_->setObjectName("Field");
@@ -195,6 +212,7 @@ void TicTacToe::SetupGame() {
     for (auto& s : sparks_) s = Spark{};
     lineUnder_ = {};
     StarTimer.start();
+    UfoTimer.start();
     Frame2->show();
     Frame1->hide();
     Label2->setText({});
@@ -260,17 +278,22 @@ void TicTacToe::drawBoard() {
 
 void TicTacToe::drawMark(int row, int col, int owner) {
     const bool x = (owner == Player) == playerIsX_;
-    // A block copy of the mark's sprite through its mask onto the board, under the sparks.
-    for (auto it = sparks_.rbegin(); it != sparks_.rend(); ++it) it->sprite.erase(*field_);
+    // A block copy of the mark's sprite through its mask onto the board, under the sprites.
+    liftSprites();
     const QRect square = logicalSquare(row, col);
     field_->drawTransparent(square.topLeft(), sprites_[x ? 0 : 1]);
     field_->markDirty(square);
     redrawOverlay();
 }
 
+void TicTacToe::liftSprites() {
+    for (auto it = sparks_.rbegin(); it != sparks_.rend(); ++it) it->sprite.erase(*field_);
+    for (auto it = saucers_.rbegin(); it != saucers_.rend(); ++it) it->sprite.erase(*field_);
+}
+
 void TicTacToe::redrawOverlay() {
     PlayField& f = *field_;
-    for (auto it = sparks_.rbegin(); it != sparks_.rend(); ++it) it->sprite.erase(f);
+    liftSprites();
     if (!lineUnder_.isNull()) {
         f.restore(lineUnder_);
         lineUnder_ = {};
@@ -289,6 +312,14 @@ void TicTacToe::redrawOverlay() {
         p.setPen(QPen(lineColour_, 16, Qt::SolidLine, Qt::RoundCap));
         p.drawLine(from, to);
         f.markDirty(around);
+    }
+    const QRect sky = f.surface().rect();
+    for (auto& u : saucers_) {
+        // A slow loop: side to side twice for each climb and fall.
+        const QPointF centre(u.x + 55 * std::sin(2 * u.phase), u.y + 200 * std::sin(u.phase));
+        const QPoint at = (centre - QPointF(saucerPicture_.width(), saucerPicture_.height()) / 2)
+                              .toPoint();
+        if (sky.intersects(QRect(at, saucerPicture_.size()))) u.sprite.draw(f, at, saucerPicture_);
     }
     const QRect inside = f.surface().rect().adjusted(0, 0, -12, -12);
     for (auto& s : sparks_) {

@@ -58,7 +58,9 @@ private:
     void burst(int row, int col, int sparks);
     void drawBoard();
     void drawMark(int row, int col, int owner);
-    // The winning line and the sparks, drawn over the board with what was under them saved,
+    // Lifts the sparks and the saucers off the board, newest first.
+    void liftSprites();
+    // The winning line, the saucers and the sparks, drawn over the board with what was under them saved,
     // and lifted off again on the next frame.
     void redrawOverlay();
     double scale() const;
@@ -82,6 +84,7 @@ private:
     GameTimer& Timer2;
     GameTimer& Timer3;
     GameTimer& StarTimer;
+    GameTimer& UfoTimer;  // the saucers drifting over the board
     tictactoe::Board board_;
     tictactoe::Question question_;
     tictactoe::Verdict verdict_;
@@ -102,6 +105,12 @@ private:
     };
     std::array<Spark, 160> sparks_;
     int nextBurst_ = 0;
+    struct Saucer {
+        double x = 0, y = 0, speed = 0, phase = 0;  // the middle of its path, its pace
+        FieldSprite sprite;
+    };
+    std::array<Saucer, 2> saucers_;
+    QImage saucerPicture_;
 };
 
 }  // namespace wm
