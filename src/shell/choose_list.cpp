@@ -86,23 +86,10 @@ ListSummary SummariseLists(const std::vector<std::string>& lines, bool all,
 ChooseList::ChooseList(QWidget* parent) : Backdrop("images/wm-back.jpg", parent) {
     setObjectName("ChooseList");
     setWindowTitle("Choose a list");
-    auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(0, 0, 0, 0);
-    auto* panel = new Panel(this);
-    auto* row = new QHBoxLayout;
-    row->addStretch(1);
-    row->addWidget(panel, 4);
-    row->addStretch(1);
-    outer->addStretch(1);
-    outer->addLayout(row, 10);
-    outer->addStretch(1);
-
-    auto* layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(40, 30, 40, 30);
-    layout->setSpacing(14);
-    auto* game = MakeHeading(toQ(Shared().CurrentGame), panel, 26);
-    game->setAlignment(Qt::AlignCenter);
-    layout->addWidget(game);
+    QVBoxLayout* layout = CentredPanel(
+        this, {.side = 1, .width = 4, .height = 10, .marginX = 40, .marginY = 30, .spacing = 14},
+        toQ(Shared().CurrentGame));
+    QWidget* panel = layout->parentWidget();
     Label1 = new QLabel("Choose the word list you want to use", panel);
     Label1->setObjectName("Label1");
     Label1->setFont(ScreenFont(16, true));

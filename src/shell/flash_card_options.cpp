@@ -20,22 +20,8 @@ FlashCardOptions::FlashCardOptions(QWidget* parent) : Backdrop("images/wm-back.j
     SharedState& s = Shared();
     s.ListChanged = kTrue;
 
-    auto* outer = new QVBoxLayout(this);
-    auto* panel = new Panel(this);
-    auto* row0 = new QHBoxLayout;
-    row0->addStretch(1);
-    row0->addWidget(panel, 3);
-    row0->addStretch(1);
-    outer->addStretch(1);
-    outer->addLayout(row0, 3);
-    outer->addStretch(1);
-
-    auto* layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(36, 26, 36, 26);
-    layout->setSpacing(16);
-    auto* heading = MakeHeading("Flash Card Options", panel, 26);
-    heading->setAlignment(Qt::AlignCenter);
-    layout->addWidget(heading);
+    QVBoxLayout* layout = CentredPanel(this, PanelShape{}, "Flash Card Options");
+    QWidget* panel = layout->parentWidget();
 
     auto* order = new QGroupBox("Card Order", panel);
     order->setFont(ScreenFont(13, true));

@@ -31,23 +31,9 @@ GameOptions::GameOptions(QWidget* parent) : Backdrop("images/wm-back.jpg", paren
     const GameCard& card = card_ ? *card_ : kNone;
     const OptionsRow& row = card.options;
 
-    auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(0, 0, 0, 0);
-    auto* panel = new Panel(this);
-    auto* row0 = new QHBoxLayout;
-    row0->addStretch(1);
-    row0->addWidget(panel, 12);
-    row0->addStretch(1);
-    outer->addStretch(1);
-    outer->addLayout(row0, 14);
-    outer->addStretch(1);
-
-    auto* layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(36, 26, 36, 26);
-    layout->setSpacing(12);
-    auto* heading = MakeHeading("How to Play " + game, panel, 26);
-    heading->setAlignment(Qt::AlignCenter);
-    layout->addWidget(heading);
+    QVBoxLayout* layout = CentredPanel(this, {.side = 1, .width = 12, .height = 14, .spacing = 12},
+                                       "How to Play " + game);
+    QWidget* panel = layout->parentWidget();
 
     auto* columns = new QHBoxLayout;
     columns->setSpacing(24);

@@ -22,22 +22,8 @@ void AskEndProgram() {
 QuizOptions::QuizOptions(QWidget* parent) : Backdrop("images/wm-back.jpg", parent) {
     setObjectName("QuizOptions");
     setWindowTitle("Quiz Options");
-    auto* outer = new QVBoxLayout(this);
-    auto* panel = new Panel(this);
-    auto* row0 = new QHBoxLayout;
-    row0->addStretch(1);
-    row0->addWidget(panel, 3);
-    row0->addStretch(1);
-    outer->addStretch(1);
-    outer->addLayout(row0, 3);
-    outer->addStretch(1);
-
-    auto* layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(36, 26, 36, 26);
-    layout->setSpacing(16);
-    auto* heading = MakeHeading("Quiz Options", panel, 26);
-    heading->setAlignment(Qt::AlignCenter);
-    layout->addWidget(heading);
+    QVBoxLayout* layout = CentredPanel(this, PanelShape{}, "Quiz Options");
+    QWidget* panel = layout->parentWidget();
 
     auto* kinds = new QGroupBox("What do you want to be quizzed on?", panel);
     kinds->setFont(ScreenFont(13, true));

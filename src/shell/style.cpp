@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include "platform/screen_metrics.h"
 #include "platform/services.h"
@@ -199,6 +200,30 @@ QLabel* MakeHeading(const QString& text, QWidget* parent, int points) {
     l->setStyleSheet("color: #1f3f6a;");
     l->setWordWrap(true);
     return l;
+}
+
+QVBoxLayout* CentredPanel(QWidget* screen, const PanelShape& shape, const QString& heading,
+                          QWidget* top) {
+    auto* outer = new QVBoxLayout(screen);
+    outer->setContentsMargins(0, 0, 0, 0);
+    if (top) outer->addWidget(top);
+    auto* panel = new Panel(screen);
+    auto* row = new QHBoxLayout;
+    row->addStretch(shape.side);
+    row->addWidget(panel, shape.width);
+    row->addStretch(shape.side);
+    outer->addStretch(1);
+    outer->addLayout(row, shape.height);
+    outer->addStretch(1);
+    auto* layout = new QVBoxLayout(panel);
+    layout->setContentsMargins(shape.marginX, shape.marginY, shape.marginX, shape.marginY);
+    layout->setSpacing(shape.spacing);
+    if (!heading.isEmpty()) {
+        auto* title = MakeHeading(heading, panel, 26);
+        title->setAlignment(Qt::AlignCenter);
+        layout->addWidget(title);
+    }
+    return layout;
 }
 
 }  // namespace wm

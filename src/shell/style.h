@@ -10,6 +10,7 @@ class QLabel;
 class QPushButton;
 class QGroupBox;
 class QLayout;
+class QVBoxLayout;
 
 namespace wm {
 
@@ -76,5 +77,21 @@ NavigationRow MakeNavigationRow(QWidget* parent, const QString& backText,
                                 const QString& onwardText);
 // A heading label in the program's title colour.
 QLabel* MakeHeading(const QString& text, QWidget* parent, int points = 22);
+
+// How a screen's card sits on its backdrop: stretch shares beside it and across it, then above
+// and below together against `height`; its inner margins and the spacing of its controls.
+struct PanelShape {
+    int side = 1;
+    int width = 3;
+    int height = 3;
+    int marginX = 36;
+    int marginY = 26;
+    int spacing = 16;
+};
+// Lays a Panel in the middle of `screen`, with `top` (a toolbar) above it when given, and
+// returns the panel's layout, already holding a centred heading when `heading` is not empty.
+// The panel is the layout's parentWidget().
+QVBoxLayout* CentredPanel(QWidget* screen, const PanelShape& shape, const QString& heading = {},
+                          QWidget* top = nullptr);
 
 }  // namespace wm

@@ -45,9 +45,6 @@ const char* kTakenName =
 
 Manager::Manager(QWidget* parent) : Backdrop("images/wm-back.jpg", parent) {
     setWindowTitle("Teacher Management");
-    auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(0, 0, 0, 0);
-
     Toolbar1 = new QToolBar(this);
     Toolbar1->setObjectName("Toolbar1");
     Toolbar1->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -62,23 +59,11 @@ Manager::Manager(QWidget* parent) : Backdrop("images/wm-back.jpg", parent) {
         AboutForm form(this);
         RunModal(form);
     });
-    outer->addWidget(Toolbar1);
 
-    auto* panelRow = new QHBoxLayout;
-    auto* panel = new Panel(this);
-    panelRow->addStretch(2);
-    panelRow->addWidget(panel, 8);
-    panelRow->addStretch(2);
-    outer->addStretch(1);
-    outer->addLayout(panelRow, 12);
-    outer->addStretch(1);
-
-    auto* layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(40, 28, 40, 28);
-    layout->setSpacing(14);
-    auto* heading = MakeHeading("Teacher Management", panel, 26);
-    heading->setAlignment(Qt::AlignCenter);
-    layout->addWidget(heading);
+    QVBoxLayout* layout = CentredPanel(
+        this, {.side = 2, .width = 8, .height = 12, .marginX = 40, .marginY = 28, .spacing = 14},
+        "Teacher Management", Toolbar1);
+    QWidget* panel = layout->parentWidget();
 
     auto* tabs = new QHBoxLayout;
     tabs->setSpacing(8);

@@ -13,7 +13,7 @@ void RegisterTeacherScreens() {
     RegisterScreen("EditList", [] { return new EditList; });
     // The prompt is a modal box over the title, not a screen: it opens the manager itself and
     // leaves the title in place when the password is wrong.
-    RegisterScreen("PasswordForm", [] -> QWidget* {
+    RegisterScreen("PasswordForm", []() -> QWidget* {
         OpenTeacherGate(CurrentScreen());
         return nullptr;
     });

@@ -50,21 +50,8 @@ void Beep() {
 }
 
 QVBoxLayout* CentrePanel(Backdrop* screen, int share, QWidget* top) {
-    auto* outer = new QVBoxLayout(screen);
-    outer->setContentsMargins(0, 0, 0, 0);
-    if (top) outer->addWidget(top);
-    auto* panel = new Panel(screen);
-    auto* row = new QHBoxLayout;
-    row->addStretch(10 - share);
-    row->addWidget(panel, share * 2);
-    row->addStretch(10 - share);
-    outer->addStretch(1);
-    outer->addLayout(row, 14);
-    outer->addStretch(1);
-    auto* layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(36, 26, 36, 26);
-    layout->setSpacing(12);
-    return layout;
+    return CentredPanel(
+        screen, {.side = 10 - share, .width = share * 2, .height = 14, .spacing = 12}, {}, top);
 }
 
 QVBoxLayout* DialogBody(QDialog* dialog, const QString& heading) {
