@@ -1,6 +1,6 @@
 // One tick of Letter Drop's fall and of Mini Golf's ball on a 1920x1080 screen: the rules, the
 // sprites erased and drawn on the field, and the changed rectangles painted, scaled.
-#include <benchmark/benchmark.h>
+#include "qt_bench.h"
 
 #include <QApplication>
 
@@ -45,11 +45,7 @@ void BM_LetterDropTick(benchmark::State& state) {
         QApplication::processEvents();
     }
 }
-BENCHMARK(BM_LetterDropTick)
-    ->MeasureProcessCPUTime()
-    ->Unit(benchmark::kMicrosecond)
-    ->Repetitions(5)
-    ->ReportAggregatesOnly();
+WM_TICK_BENCHMARK(BM_LetterDropTick);
 
 void BM_MiniGolfTick(benchmark::State& state) {
     Prepare(10);
@@ -67,25 +63,17 @@ void BM_MiniGolfTick(benchmark::State& state) {
         QApplication::processEvents();
     }
 }
-BENCHMARK(BM_MiniGolfTick)
-    ->MeasureProcessCPUTime()
-    ->Unit(benchmark::kMicrosecond)
-    ->Repetitions(5)
-    ->ReportAggregatesOnly();
+WM_TICK_BENCHMARK(BM_MiniGolfTick);
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
     ScriptedDialogs dialogs;
     RecordingSound sound;
     RecordingMusic music;
-    services() = {&dialogs, &sound, &music};
-    Ticker::get().setManual(true);  // only the benchmark moves the games
-    ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return bench::RunInQt(argc, argv, [&] {
+        services() = {&dialogs, &sound, &music};
+        Ticker::get().setManual(true);  // only the benchmark moves the games
+        ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
+    });
 }

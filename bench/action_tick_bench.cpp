@@ -1,6 +1,6 @@
 // One tick of each sprite action game on its busiest field at 1920x1080, drawing included: the
 // tick's block copies and the repaint of what it changed, scaled to the screen.
-#include <benchmark/benchmark.h>
+#include "qt_bench.h"
 
 #include <QApplication>
 
@@ -84,7 +84,7 @@ void BM_CrunchManTick(benchmark::State& state) {
     }
     delete game;
 }
-BENCHMARK(BM_CrunchManTick)->Unit(benchmark::kMicrosecond)->Repetitions(5)->ReportAggregatesOnly();
+WM_TICK_BENCHMARK(BM_CrunchManTick);
 
 void BM_FroggyTick(benchmark::State& state) {
     Prepare(9);
@@ -97,7 +97,7 @@ void BM_FroggyTick(benchmark::State& state) {
     }
     delete game;
 }
-BENCHMARK(BM_FroggyTick)->Unit(benchmark::kMicrosecond)->Repetitions(5)->ReportAggregatesOnly();
+WM_TICK_BENCHMARK(BM_FroggyTick);
 
 void BM_AsteroidZapTick(benchmark::State& state) {
     Prepare(15);
@@ -119,10 +119,7 @@ void BM_AsteroidZapTick(benchmark::State& state) {
     }
     delete game;
 }
-BENCHMARK(BM_AsteroidZapTick)
-    ->Unit(benchmark::kMicrosecond)
-    ->Repetitions(5)
-    ->ReportAggregatesOnly();
+WM_TICK_BENCHMARK(BM_AsteroidZapTick);
 
 void BM_WordZapTick(benchmark::State& state) {
     Prepare(8);
@@ -142,15 +139,10 @@ void BM_WordZapTick(benchmark::State& state) {
     }
     delete game;
 }
-BENCHMARK(BM_WordZapTick)->Unit(benchmark::kMicrosecond)->Repetitions(5)->ReportAggregatesOnly();
+WM_TICK_BENCHMARK(BM_WordZapTick);
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return bench::RunInQt(argc, argv);
 }

@@ -2,7 +2,7 @@
 // restored from what was under it, one physics step, the rectangle under the new place saved,
 // the disk drawn through its mask, and the dirty rectangles pushed and painted, scaled, onto a
 // 1920 x 1080 screen. The pins are never redrawn.
-#include <benchmark/benchmark.h>
+#include "qt_bench.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -79,25 +79,13 @@ void PachinkoTickAllDisks(benchmark::State& state) {
             if (step(d, rng)) d = dropDisk(40 + i * 110);
             sprites[size_t(i)].draw(field, where(d), picture, mask);
         }
-        const QList<QRect> pushed = field.flush();
-        QPainter p(&screen);
-        field.render(p, pushed);
-        benchmark::DoNotOptimize(screen.constBits());
+        bench::PushFrame(field, screen);
     }
 }
-BENCHMARK(PachinkoTickAllDisks)
-    ->MeasureProcessCPUTime()
-    ->Unit(benchmark::kMicrosecond)
-    ->Repetitions(5)
-    ->ReportAggregatesOnly();
+WM_TICK_BENCHMARK(PachinkoTickAllDisks);
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return bench::RunInQt(argc, argv);
 }

@@ -1,6 +1,6 @@
 // One tick of a block-copy game: 60 sprites erased, moved, saved under and drawn masked, the
 // dirty rectangles pushed and painted, scaled, onto a 1920x1080 screen.
-#include <benchmark/benchmark.h>
+#include "qt_bench.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -66,25 +66,13 @@ void BM_PlayFieldTick(benchmark::State& state) {
             if (m.at.y() < 0 || m.at.y() > 448) m.step.ry() = -m.step.y();
             m.sprite.draw(field, m.at, m.picture, m.mask);
         }
-        const QList<QRect> pushed = field.flush();
-        QPainter p(&screen);
-        field.render(p, pushed);
-        benchmark::DoNotOptimize(screen.constBits());
+        bench::PushFrame(field, screen);
     }
 }
-BENCHMARK(BM_PlayFieldTick)
-    ->MeasureProcessCPUTime()
-    ->Unit(benchmark::kMicrosecond)
-    ->Repetitions(5)
-    ->ReportAggregatesOnly();
+WM_TICK_BENCHMARK(BM_PlayFieldTick);
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return bench::RunInQt(argc, argv);
 }
