@@ -8,6 +8,7 @@
 #include "platform/music.h"
 #include "platform/services.h"
 #include "platform/sound.h"
+#include "shell/catalogue.h"
 #include "shell/screens.h"
 #include "shell/style.h"
 #include "teacher/teacher_kit.h"
@@ -30,6 +31,7 @@ int main(int argc, char** argv) {
     wm::RegisterBuiltInScenes();
     wm::RegisterShellScreens();
     wm::RegisterTeacherScreens();
+    wm::OfferOnlyBuiltGames(true);
     wm::OpenScreen("BlackBack");
     const int rc = app.exec();
     music.close();

@@ -70,6 +70,12 @@ struct GameCard {
 const std::vector<GameCard>& Catalogue();
 // By name, compared without regard to case; nullptr when unknown.
 const GameCard* FindCard(std::string_view name);
+// Whether the title, its score browser and the teacher's show/hide list offer a game. Every
+// card is offered unless OfferOnlyBuiltGames(true), which the program sets, so that a game with
+// no screen in this build has no button that leads nowhere; its shown or hidden state in the
+// display file is kept for the build that has it.
+bool IsOffered(std::string_view name);
+void OfferOnlyBuiltGames(bool only);
 // Gives the card of `name` its screen and assets; false when no card has that name.
 bool AttachGame(std::string_view name, std::function<QWidget*()> make,
                 std::vector<std::string> assets);

@@ -479,6 +479,19 @@ const GameCard* FindCard(std::string_view name) {
     return nullptr;
 }
 
+namespace {
+bool onlyBuilt = false;
+}  // namespace
+
+bool IsOffered(std::string_view name) {
+    const GameCard* card = FindCard(name);
+    return !onlyBuilt || (card && card->built());
+}
+
+void OfferOnlyBuiltGames(bool only) {
+    onlyBuilt = only;
+}
+
 bool AttachGame(std::string_view name, std::function<QWidget*()> make,
                 std::vector<std::string> assets) {
     for (GameCard& card : Cards()) {

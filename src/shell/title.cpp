@@ -122,7 +122,7 @@ bool Title::startUp() {
     HoldList.clear();
     for (int i = 1; i <= s.GameCount; ++i) {
         const std::string& name = s.GameNames[i];
-        if (!display_.isHidden(name)) HoldList << toQ(name);
+        if (!display_.isHidden(name) && IsOffered(name)) HoldList << toQ(name);
     }
     s.VisibleGameCount = static_cast<int>(HoldList.size());
     for (int i = 0; i < HoldList.size() && i + 1 < static_cast<int>(s.VisibleGames.size()); ++i)

@@ -14,6 +14,7 @@
 #include "platform/dialogs.h"
 #include "platform/services.h"
 #include "platform/text.h"
+#include "shell/catalogue.h"
 #include "shell/style.h"
 #include "teacher/teacher_kit.h"
 
@@ -98,6 +99,7 @@ EnableDisable::EnableDisable(QWidget* parent) : QDialog(parent) {
     const SharedState& s = Shared();
     const DisplaySettings d = ReadDisplaySettings(AppFilePath(kDisplayFileName));
     for (int i = 1; i <= s.GameCount; ++i) {
+        if (!IsOffered(s.GameNames[i])) continue;
         auto* item = new QListWidgetItem(toQ(s.GameNames[i]), List1);
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(d.isHidden(s.GameNames[i]) ? Qt::Unchecked : Qt::Checked);
@@ -114,9 +116,14 @@ void EnableDisable::apply() {
     DisplaySettings d = Option1[2]->isChecked()   ? DisplaySettings::SmallIcons()
                         : Option1[1]->isChecked() ? DisplaySettings::MediumIcons()
                                                   : DisplaySettings::LargeIcons();
-    for (int i = 0; i < List1->count(); ++i) {
-        if (List1->item(i)->checkState() != Qt::Checked)
-            d.hidden.push_back(fromQ(List1->item(i)->text()));
+    // In catalogue order; a game not offered here keeps the state the file gave it.
+    const SharedState& s = Shared();
+    const DisplaySettings before = ReadDisplaySettings(AppFilePath(kDisplayFileName));
+    for (int i = 1, row = 0; i <= s.GameCount; ++i) {
+        const std::string& name = s.GameNames[i];
+        const bool hidden = IsOffered(name) ? List1->item(row++)->checkState() != Qt::Checked
+                                            : before.isHidden(name);
+        if (hidden) d.hidden.push_back(name);
     }
     if (Guarded([&] { WriteDisplaySettings(AppFilePath(kDisplayFileName), d); })) accept();
 }

@@ -116,12 +116,19 @@ TEST(EligibilityRows, EveryGameHasItsRow) {
         seen.insert(card->name);
         const EligibilityRow& e = card->eligibility;
         EXPECT_EQ(e.wordsOnly, row.wordsOnly);
-        if (row.wordsOnly != W::Allowed) EXPECT_EQ(e.wordsOnlyText, row.wordsOnlyText);
-        if (row.wordsOnly == W::Warn || row.wordsOnly == W::WarnIfOption)
+        if (row.wordsOnly != W::Allowed) {
+            EXPECT_EQ(e.wordsOnlyText, row.wordsOnlyText);
+        }
+        if (row.wordsOnly == W::Warn || row.wordsOnly == W::WarnIfOption) {
             EXPECT_EQ(e.keepOption, row.keep);
+        }
         EXPECT_EQ(e.count, row.count);
-        if (row.count == C::Below) EXPECT_EQ(e.minWords, row.minimum);
-        if (row.count != C::None) EXPECT_EQ(e.countText, row.countText);
+        if (row.count == C::Below) {
+            EXPECT_EQ(e.minWords, row.minimum);
+        }
+        if (row.count != C::None) {
+            EXPECT_EQ(e.countText, row.countText);
+        }
         EXPECT_EQ(e.opens, row.opens);
     }
     EXPECT_EQ(seen.size(), 42u);

@@ -9,6 +9,8 @@
 
 #include "core/category_file.h"
 #include "core/display_file.h"
+#include "platform/text.h"
+#include "shell/catalogue.h"
 #include "shell/title.h"
 #include "teacher/categories.h"
 #include "teacher/manager.h"
@@ -55,6 +57,7 @@ private slots:
     void categoriesCancelAndCloseBoxLeaveTheFile();
     void lockHeldByAnotherProcess();
     void visibilityCountsFromTheNextStart();
+    void gamesNotInThisBuildAreNotOfferedAndKeepTheirState();
     void soundDefaultCountsFromTheNextStart();
 };
 
@@ -200,4 +203,35 @@ void TeacherOptionsTest::soundDefaultCountsFromTheNextStart() {
 }
 
 QTEST_MAIN(TeacherOptionsTest)
+void TeacherOptionsTest::gamesNotInThisBuildAreNotOfferedAndKeepTheirState() {
+    TeacherFixture f;
+    const std::string display = f.path("wmgdisplay.dat").toStdString();
+    DisplaySettings file;
+    file.hidden = {"Flying Cow"};  // a game this build has no screen for
+    WriteDisplaySettings(display, file);
+    OfferOnlyBuiltGames(true);
+    struct Restore {
+        ~Restore() { OfferOnlyBuiltGames(false); }
+    } restore;
+    QStringList built;
+    for (const GameCard& card : Catalogue())
+        if (card.built()) built << toQ(card.name);
+
+    // The title and its score browser: the built games only, in catalogue order.
+    OpenScreen("Title");
+    QVERIFY(built.size() >= 24 && built.size() < Shared().GameCount);
+    QCOMPARE(Shared().VisibleGameCount, built.size());
+    for (int i = 0; i < built.size(); ++i) QCOMPARE(toQ(Shared().VisibleGames[i + 1]), built[i]);
+
+    // The show/hide list offers the same; the others keep what the file says, in their place.
+    EnableDisable e;
+    QCOMPARE(e.games()->count(), built.size());
+    QCOMPARE(e.games()->item(0)->text(), built[0]);
+    e.games()->item(0)->setCheckState(Qt::Unchecked);
+    f.dialogs.answerYes();
+    e.apply();
+    QCOMPARE(ReadDisplaySettings(display).hidden,
+             (std::vector<std::string>{"Flying Cow", fromQ(built[0])}));
+}
+
 #include "teacher_options_test.moc"
