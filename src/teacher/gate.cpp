@@ -40,7 +40,7 @@ PasswordForm::PasswordForm(QWidget* parent) : QDialog(parent) {
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(ok, &QPushButton::clicked, this, &PasswordForm::confirm);
     readable_ = Guarded([&] { stored_ = ReadSettings(Shared().AppPath).password(); });
-    WidenToScreen(this, 0.3);
+    WidenToScreen(this, 0.4);
 }
 
 void PasswordForm::warnAboutFactoryPassword() {

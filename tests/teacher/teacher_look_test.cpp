@@ -3,6 +3,8 @@
 #include <QLabel>
 #include <QLayout>
 #include <QPushButton>
+#include <QAction>
+#include <QToolBar>
 #include <QtTest>
 #include <functional>
 
@@ -41,6 +43,11 @@ void CheckFits(QWidget* w, const QString& what) {
         if (!b->isVisible()) continue;
         QVERIFY2(b->fontMetrics().horizontalAdvance(b->text()) <= b->width(),
                  qPrintable(what + ": " + b->text()));
+    }
+    // Every toolbar key has its picture.
+    for (QToolBar* bar : w->findChildren<QToolBar*>()) {
+        for (QAction* a : bar->actions())
+            QVERIFY2(!a->icon().isNull(), qPrintable(what + ": " + a->text()));
     }
 }
 

@@ -1,4 +1,5 @@
-// The title toolbar's icons: small, bold and friendly, on a transparent ground.
+// The toolbars' icons, the title's and the list editors': small, bold and friendly, on a
+// transparent ground.
 #include <QPainter>
 #include <QPainterPath>
 
@@ -80,12 +81,99 @@ void quit(QPainter& p) {
     gloss(p, arrow, 100, 0.5);
 }
 
+// A sheet of paper with lines of writing, the ground of the list editors' icons.
+void page(QPainter& p) {
+    QPainterPath sheet = polygon({{14, 8}, {58, 8}, {74, 24}, {74, 88}, {14, 88}});
+    fillShape(p, sheet, QColor(0xfb, 0xfb, 0xf4), 3);
+    fillShape(p, polygon({{58, 8}, {58, 24}, {74, 24}}), QColor(0xd8, 0xdc, 0xe4), 2.5);
+    for (int y = 34; y <= 74; y += 10)
+        line(p, QPointF(24, y), QPointF(62, y), QColor(0x9d, 0xb4, 0xd8), 3);
+}
+
+void badge(QPainter& p, const QColor& colour, const QString& sign) {
+    ball(p, QPointF(68, 68), 22, colour, 3);
+    outlinedText(p, centredText(sign, boldFont(40), QPointF(68, 69)), Qt::white,
+                 darker(colour, 0.45), 2);
+}
+
+void addWord(QPainter& p) {
+    page(p);
+    badge(p, QColor(0x3c, 0xb3, 0x71), QStringLiteral("+"));
+}
+
+void deleteWord(QPainter& p) {
+    page(p);
+    badge(p, QColor(0xe0, 0x3a, 0x3a), QString(QChar(0x2212)));  // a minus sign
+}
+
+void editWord(QPainter& p) {
+    page(p);
+    // A pencil laid across the page, point down to the left.
+    p.save();
+    p.translate(52, 52);
+    p.rotate(-45);
+    const QColor yellow(0xf4, 0xc0, 0x2a);
+    fillShape(p, roundRect(QRectF(-10, -32, 20, 50), 3), yellow, 3);
+    gloss(p, roundRect(QRectF(-10, -32, 20, 50), 3), 110, 0.5);
+    fillShape(p, roundRect(QRectF(-10, -42, 20, 12), 4), QColor(0xf2, 0x8a, 0xa8), 3);
+    fillShape(p, polygon({{-10, 18}, {10, 18}, {0, 38}}), QColor(0xf1, 0xd3, 0xa5), 3);
+    fillShape(p, polygon({{-4, 30}, {4, 30}, {0, 38}}), QColor(0x33, 0x33, 0x33), 1.5);
+    p.restore();
+}
+
+void renameList(QPainter& p) {
+    // A name tag on a string, lettered "Aa".
+    QPainterPath tag = polygon({{30, 20}, {84, 20}, {84, 76}, {30, 76}, {10, 48}});
+    fillShape(p, tag, QColor(0xff, 0xd8, 0x6b), 3.5);
+    gloss(p, tag, 100, 0.45);
+    ball(p, QPointF(26, 48), 5, Qt::white, 2.5);
+    outlinedText(p, centredText(QStringLiteral("Aa"), boldFont(34), QPointF(58, 49)),
+                 QColor(0x3d, 0x7f, 0xd6), QColor(0x1d, 0x3f, 0x7a), 1.5);
+}
+
+void save(QPainter& p) {
+    // A disk with its label and shutter.
+    const QColor blue(0x3d, 0x7f, 0xd6);
+    QPainterPath disk = polygon({{12, 12}, {74, 12}, {86, 24}, {86, 86}, {12, 86}});
+    fillShape(p, disk, blue, 3.5);
+    gloss(p, disk, 90, 0.4);
+    fillShape(p, roundRect(QRectF(28, 12, 38, 26), 2), QColor(0xd8, 0xdc, 0xe4), 3);
+    fillShape(p, roundRect(QRectF(52, 16, 9, 18), 1.5), darker(blue, 0.3), 1.5);
+    fillShape(p, roundRect(QRectF(22, 50, 54, 36), 3), QColor(0xfb, 0xfb, 0xf4), 3);
+    for (int y = 60; y <= 76; y += 8)
+        line(p, QPointF(30, y), QPointF(68, y), QColor(0x9d, 0xb4, 0xd8), 3);
+}
+
+void foreign(QPainter& p) {
+    // A globe with an accented letter before it.
+    const QColor sea(0x3d, 0x9f, 0xe0);
+    ball(p, QPointF(42, 42), 32, sea, 3.5);
+    p.save();
+    p.setClipPath(ellipse(QPointF(42, 42), 31, 31));
+    QPainterPath land;
+    land.moveTo(22, 22);
+    land.cubicTo(34, 14, 46, 20, 42, 32);
+    land.cubicTo(38, 44, 24, 40, 20, 52);
+    land.cubicTo(14, 44, 14, 30, 22, 22);
+    land.moveTo(52, 46);
+    land.cubicTo(64, 40, 76, 50, 70, 62);
+    land.cubicTo(64, 72, 52, 70, 50, 60);
+    land.closeSubpath();
+    fillShape(p, land, QColor(0x4c, 0xb0, 0x4c), 2);
+    p.restore();
+    fillShape(p, roundRect(QRectF(50, 50, 40, 40), 8), QColor(0xfb, 0xfb, 0xf4), 3);
+    outlinedText(p, centredText(QString(QChar(0x00F1)), boldFont(34), QPointF(70, 70)),
+                 QColor(0xe0, 0x3a, 0x3a), QColor(0x7a, 0x1f, 0x1f), 1.5);
+}
+
 }  // namespace
 
 const std::vector<QString>& toolbarIconNames() {
-    static const std::vector<QString> names = {QStringLiteral("teacher"), QStringLiteral("scores"),
-                                               QStringLiteral("info"), QStringLiteral("help"),
-                                               QStringLiteral("quit")};
+    static const std::vector<QString> names = {
+        QStringLiteral("teacher"), QStringLiteral("scores"), QStringLiteral("info"),
+        QStringLiteral("help"),    QStringLiteral("quit"),   QStringLiteral("add"),
+        QStringLiteral("delete"),  QStringLiteral("edit"),   QStringLiteral("rename"),
+        QStringLiteral("save"),    QStringLiteral("foreign")};
     return names;
 }
 
@@ -103,6 +191,18 @@ QImage renderToolbarIcon(const QString& name) {
         help(p);
     else if (name == QLatin1String("quit"))
         quit(p);
+    else if (name == QLatin1String("add"))
+        addWord(p);
+    else if (name == QLatin1String("delete"))
+        deleteWord(p);
+    else if (name == QLatin1String("edit"))
+        editWord(p);
+    else if (name == QLatin1String("rename"))
+        renameList(p);
+    else if (name == QLatin1String("save"))
+        save(p);
+    else if (name == QLatin1String("foreign"))
+        foreign(p);
     return image;
 }
 
