@@ -1,5 +1,6 @@
 #include "games/show/wheel_of_money/wheel_screen.h"
 
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -462,8 +463,20 @@ void GameShowForm::layOut() {
     const QSize wheelSize(int((kWheelW + 2 * kPadX) * k), int((kWheelH + 2 * kPadY) * k));
     WheelFrame->setGeometry((W - wheelSize.width()) / 2, (H - wheelSize.height()) / 2 - H / 40,
                             wheelSize.width(), wheelSize.height());
+    // One type size for every plate, small enough that the longest caption fits inside its
+    // border at this scale.
+    QFont plateFont = WheelLabel[0]->font();
+    const int room = int(kPlateW * k) - 14;
+    for (int points = ScreenFont(13, true).pointSize(); points > 6; --points) {
+        plateFont.setPointSize(points);
+        int widest = 0;
+        for (const auto& slot : wheel::kWheel)
+            widest = std::max(widest, QFontMetrics(plateFont).horizontalAdvance(slot.caption));
+        if (widest <= room) break;
+    }
     for (int i = 0; i < wheel::kSlots; ++i) {
         const auto& slot = wheel::kWheel[i];
+        WheelLabel[i]->setFont(plateFont);
         // The plates stand where the design puts them, shifted in from the frame's border.
         const double ox = kPadX, oy = kPadY;
         WheelLabel[i]->setGeometry(int((slot.left + ox) * k), int((slot.top + oy) * k),
