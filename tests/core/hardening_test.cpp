@@ -23,11 +23,12 @@ TEST(DisplayFile, HugeOrFractionalCountsKeepThePreset) {
         int wantColumns;  // 4 and 3: the Large Icons preset was kept
         int wantRows;
     };
+    const std::string nines(400, '9');  // outlives the table that points into it
     const Case cases[] = {
         {"99999999999", "3", 4, 3}, {"5", "-99999999999", 4, 3},
         {"1e400", "3", 1, 3},       {"21", "3", 4, 3},
         {"20.9", "20", 20, 20},     {"1", "1", 1, 1},
-        {"0.99", "2", 4, 3},        {std::string(400, '9').c_str(), "2", 4, 3},
+        {"0.99", "2", 4, 3},        {nines.c_str(), "2", 4, 3},
     };
     TempFolder dir;
     for (const Case& c : cases) {

@@ -9,6 +9,7 @@
 
 #include "core/rng.h"
 #include "core/shared_state.h"
+#include "games/show/svg_picture.h"
 #include "platform/dialogs.h"
 #include "platform/screen_metrics.h"
 #include "platform/services.h"
@@ -109,16 +110,7 @@ Plachinko::Plachinko(QWidget* parent)
     {
         QPainter p(&disk_);
         p.setRenderHint(QPainter::Antialiasing);
-        QRadialGradient g(QPointF(kDiskSize * 0.35, kDiskSize * 0.35), kDiskSize * 0.7);
-        g.setColorAt(0, QColor(255, 250, 200));
-        g.setColorAt(0.5, QColor(250, 200, 40));
-        g.setColorAt(1, QColor(190, 120, 0));
-        p.setBrush(g);
-        p.setPen(QPen(QColor(140, 80, 0), 2));
-        p.drawEllipse(QRectF(1, 1, kDiskSize, kDiskSize));
-        p.setBrush(Qt::NoBrush);
-        p.setPen(QPen(QColor(255, 255, 255, 160), 2));
-        p.drawEllipse(QRectF(kDiskSize * 0.25, kDiskSize * 0.25, kDiskSize * 0.5, kDiskSize * 0.5));
+        show::PaintSvg(p, "images/pachinko-disk.svg", QRectF(1, 1, kDiskSize, kDiskSize));
     }
     diskPicture_ = PictureOf(disk_);
     diskMask_ = MaskOf(disk_);

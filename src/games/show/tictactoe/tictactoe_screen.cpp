@@ -38,23 +38,14 @@ double sparkRnd() {
     return std::uniform_real_distribution<double>(0, 1)(sparkDice());
 }
 
+// A square's mark, rendered once from its drawing; with the drawing missing the square stays
+// empty, and the game plays on.
 QImage markSprite(bool x) {
     QImage img(kCell, kCell, QImage::Format_ARGB32_Premultiplied);
     img.fill(Qt::transparent);
     QPainter p(&img);
     p.setRenderHint(QPainter::Antialiasing);
-    const double m = kCell * 0.2;
-    const QColor c = x ? kXColour : kOColour;
-    for (int pass = 0; pass < 2; ++pass) {
-        p.setPen(QPen(pass ? c : c.darker(170), pass ? 18 : 24, Qt::SolidLine, Qt::RoundCap));
-        p.setBrush(Qt::NoBrush);
-        if (x) {
-            p.drawLine(QPointF(m, m), QPointF(kCell - m, kCell - m));
-            p.drawLine(QPointF(kCell - m, m), QPointF(m, kCell - m));
-        } else {
-            p.drawEllipse(QRectF(m, m, kCell - 2 * m, kCell - 2 * m));
-        }
-    }
+    show::PaintSvg(p, x ? "images/ttt-x.svg" : "images/ttt-o.svg", QRectF(img.rect()));
     return img;
 }
 }  // namespace
