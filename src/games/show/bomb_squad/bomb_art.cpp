@@ -149,6 +149,14 @@ public:
 };
 }  // namespace
 
+QString labelStyle(const QColor& c) {
+    const bool light = 0.299 * c.red() + 0.587 * c.green() + 0.114 * c.blue() > 160;
+    return QString(
+               "QLabel { color: %1; background: %2; border: 3px solid %3; border-radius: 10px;"
+               " padding: 2px 8px; }")
+        .arg(light ? "#111" : "white", c.name(), c.darker(160).name());
+}
+
 void registerScenes() {
     static const bool once = [] {
         RegisterScene("bomb", [] { return std::make_unique<BombScene>(); });

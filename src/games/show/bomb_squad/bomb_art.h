@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QPointF>
 #include <QRectF>
+#include <QString>
 #include <array>
 
 class QPainter;
@@ -21,6 +22,9 @@ void paintBomb(QPainter& p, const QRectF& r, int seconds, QColor clockColour);
 // curled apart around its middle.
 void paintWire(QPainter& p, QPointF a, QPointF via, QPointF b, const QColor& colour, double width,
                bool cut);
+
+// The style of a word or definition label in a wire's colour, its text dark or light to suit.
+QString labelStyle(const QColor& colour);
 
 // Registers the "bomb" scene once: a puff of smoke, stars and a "BOOM!" in comic letters.
 void registerScenes();

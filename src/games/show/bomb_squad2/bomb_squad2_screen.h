@@ -1,57 +1,39 @@
-// Bomb Squad 2: wire each word to its definition before the clock runs out.
+// Bomb Squad 2: carry a wire from each word to its definition before the clock runs out; a wire
+// brought to the wrong definition sets the bomb off.
 #pragma once
 
-#include <QLabel>
-#include <QVector>
-
+#include "games/show/bomb_squad/bomb_board.h"
 #include "games/show/bomb_squad2/bomb_squad2_rules.h"
-#include "shell/game_frame.h"
 
 namespace wm {
 
-class Movie;
-
-class BombSquad2 : public QWidget {
+class BombSquad2 : public BombBoard {
     Q_OBJECT
 public:
     explicit BombSquad2(QWidget* parent = nullptr);
 
-    GameFrame& frame() { return frame_; }
     const bombsquad2::Board& board() const { return board_; }
-    QVector<QLabel*> wordLabels() const { return WordLabel; }
-    QVector<QLabel*> defLabels() const { return DefLabel; }
-    QLabel* timeLabel() const { return TimeLabel; }
-    Movie* bombMovie() const { return BombMovie; }
-    bool exploding() const { return exploding_; }
-    void SetupGame();
+    void SetupGame() override;
 
 protected:
-    void paintEvent(QPaintEvent*) override;
+    bool tickClock() override { return bombsquad2::tick(board_); }
+    int secondsLeft() const override { return board_.secondsLeft; }
+    QString tickSound() const override;
+    QString lostText() const override;
+    bool dealt() const override { return board_.ready; }
+    int rows() const override { return int(board_.words.size()); }
+    void paintWires(QPainter& p, double width) override;
+    void Explode() override;
     void mousePressEvent(QMouseEvent* e) override;
     void mouseMoveEvent(QMouseEvent* e) override;
-    void resizeEvent(QResizeEvent*) override;
 
 private:
-    void layOut();
-    QRectF bombRect() const;
     QPointF wordEnd(int i) const;
     QPointF defEnd(int j) const;
-    void Explode();
-    void shake();
 
-    QVector<QLabel*> WordLabel;
-    QVector<QLabel*> DefLabel;
-    QLabel* TimeLabel;
-    Movie* BombMovie;
-    GameFrame frame_;
-    GameTimer& Timer1;
-    GameTimer& Timer2;
     bombsquad2::Board board_;
     std::vector<int> wiredTo_;  // per word label, the DefLabel its wire is fixed to, -1 loose
     QPoint mouse_;
-    bool exploding_ = false;
-    bool clockGreen_ = false;
-    int ShakeTicks = 0;
 };
 
 }  // namespace wm
