@@ -1,17 +1,12 @@
 #include "games/puzzles/blind_tiles/blind_tiles_screen.h"
 
-#include <QKeyEvent>
 #include <QLinearGradient>
-#include <QMouseEvent>
 #include <QPainter>
-#include <QTimer>
 #include <QVBoxLayout>
 #include <cmath>
 
 #include "core/rng.h"
 #include "core/shared_state.h"
-#include "platform/dialogs.h"
-#include "platform/screen_metrics.h"
 #include "platform/services.h"
 #include "platform/sound.h"
 #include "platform/text.h"
@@ -25,25 +20,23 @@ constexpr int kCols = blind_tiles::kCols;
 constexpr int kRows = blind_tiles::kRows;
 constexpr double kTileShare = 0.94;  // of the pitch; the rest is the gap between tiles
 
-// The face of a tile: ivory when blank, the selection's and the solved colours otherwise.
-QColor faceColour(cross::TileColour c) {
-    switch (c) {
-        case cross::TileColour::Pink:
-            return QColor(255, 192, 192);
-        case cross::TileColour::Yellow:
-            return QColor(255, 255, 192);
-        case cross::TileColour::Green:
-            return QColor(192, 255, 192);
-        case cross::TileColour::White:
-            break;
-    }
-    return QColor(255, 255, 255);
-}
-
-GameMenuNames menuNames() {
-    GameMenuNames menu;
-    menu.foreignKey = "blind tiles";
-    return menu;
+CrossFormLook look() {
+    CrossFormLook l;
+    l.name = "BlindTilesForm";
+    l.title = "Blind Tiles!";
+    l.backdrop = "images/blind-tiles-back.svg";
+    l.music = "vivaldi.mid";
+    l.foreignKey = "blind tiles";
+    l.score = "Score: 0";
+    l.helpText =
+        "Type the word that fits, using Backspace to fix a mistake. \"Give Answer\" fills it in, "
+        "but you lose 1000 points!";
+    l.helpColours = "color: white; background: rgba(60, 35, 15, 200);";
+    l.hintText =
+        "Click a tile, then type the word from the list that fits there. Click it again to switch "
+        "between across and down.";
+    l.hintColours = "color: #3b2410; background: rgba(255, 248, 232, 220);";
+    return l;
 }
 
 QString entryStyle(bool solved) {
@@ -57,39 +50,14 @@ QString entryStyle(bool solved) {
 
 // ---- the tiles ----
 
-BlindTilesBoard::BlindTilesBoard(QWidget* parent) : QWidget(parent) {
+BlindTilesBoard::BlindTilesBoard(QWidget* parent) : CrossGrid(parent, kCols, kRows, 0.0) {
     setObjectName("Tiles");
 }
 
-void BlindTilesBoard::setBoard(const cross::PlayBoard* board) {
-    board_ = board;
-    update();
-}
-
-double BlindTilesBoard::pitch() const {
-    return std::min(width() / double(kCols), height() / double(kRows));
-}
-
-QPoint BlindTilesBoard::origin() const {
-    const double s = pitch();
-    return {int((width() - s * kCols) / 2), int((height() - s * kRows) / 2)};
-}
-
 QRect BlindTilesBoard::tileRect(int i) const {
-    const double s = pitch();
-    const QPoint o = origin();
-    const int c = i % kCols, r = i / kCols;
-    const int side = int(s * kTileShare);
-    return {o.x() + int(std::lround(c * s)), o.y() + int(std::lround(r * s)), side, side};
-}
-
-int BlindTilesBoard::tileAt(QPoint p) const {
-    const double s = pitch();
-    const QPoint o = origin();
-    if (s <= 0 || p.x() < o.x() || p.y() < o.y()) return -1;
-    const int c = int((p.x() - o.x()) / s), r = int((p.y() - o.y()) / s);
-    if (c >= kCols || r >= kRows) return -1;
-    return r * kCols + c;
+    const QPointF a = corner(i);
+    const int side = int(pitch() * kTileShare);
+    return {int(std::lround(a.x())), int(std::lround(a.y())), side, side};
 }
 
 void BlindTilesBoard::paintEvent(QPaintEvent*) {
@@ -114,7 +82,8 @@ void BlindTilesBoard::paintEvent(QPaintEvent*) {
         p.drawRoundedRect(r.translated(0, depth * 0.6), radius, radius);
         // The face, lighter at the top like a rounded top.
         const QRectF face = r.adjusted(0, 0, 0, -depth * 0.4);
-        const QColor c = faceColour(board_->colour[i]);
+        // Ivory when blank, the selection's and the solved colours otherwise.
+        const QColor c = CellColour(board_->colour[i], QColor(255, 255, 255));
         QLinearGradient g(face.topLeft(), face.bottomLeft());
         g.setColorAt(0, c.lighter(104));
         g.setColorAt(1, c.darker(112));
@@ -131,55 +100,23 @@ void BlindTilesBoard::paintEvent(QPaintEvent*) {
     }
 }
 
-void BlindTilesBoard::mousePressEvent(QMouseEvent* e) {
-    const int i = tileAt(e->position().toPoint());
-    if (board_ && i >= 0 && i < board_->cells() && board_->visible[i]) emit tileClicked(i);
-}
-
 // ---- the screen ----
 
-BlindTilesForm::BlindTilesForm(QWidget* parent)
-    : Backdrop("images/blind-tiles-back.svg", parent),
-      frame_(this, menuNames(), [this] { NewGame(); }),
-      Timer1(frame_.timer(
-          "Timer1", 1, [this] { frame_.startMusic(); }, true)),
-      FlashTimer(frame_.timer("FlashTimer", 10, [this] {
-          cross::flashTick(bt_.board);
-          if (!bt_.board.flashing) FlashTimer.stop();
-          board_->update();
-      })) {
-    setObjectName("BlindTilesForm");
-    setWindowTitle("Blind Tiles!");
-    setFocusPolicy(Qt::StrongFocus);
-    frame_.setMusic(MusicKind::Own, "vivaldi.mid");
-    frame_.setForeign([this](const QString& c) {
-        const std::string ch = fromQ(c);
-        if (!ch.empty()) typeKey(static_cast<unsigned char>(ch[0]));
-    });
-
+BlindTilesForm::BlindTilesForm(QWidget* parent) : CrossForm(parent, look()) {
     board_ = new BlindTilesBoard(this);
-    connect(board_, &BlindTilesBoard::tileClicked, this, &BlindTilesForm::clickTile);
+    board_->lower();
+    connect(board_, &CrossGrid::cellClicked, this, &BlindTilesForm::clickTile);
 
-    Label2 = new QLabel("Score: 0", this);
-    Label2->setObjectName("Label2");
-    Label2->setFont(ScreenFont(20, true));
-    Label2->setAlignment(Qt::AlignCenter);
-    Label2->setStyleSheet(
-        "color: #c8102e; background: #ffe94d; border: 3px solid #c8102e; border-radius: 12px;"
-        " padding: 4px 14px;");
-
-    Frame2 = new QGroupBox("Words to use:", this);
-    Frame2->setObjectName("Frame2");
-    Frame2->setFont(ScreenFont(14, true));
-    Frame2->setStyleSheet(
+    auto* panel = new QGroupBox("Words to use:", this);
+    panel->setStyleSheet(
         "QGroupBox { color: #3b2410; background: rgba(255, 248, 232, 235);"
         " border: 3px solid #8a5a2b; border-radius: 14px; margin-top: 22px; padding: 10px; }"
         " QGroupBox::title { subcontrol-origin: margin; left: 14px; padding: 0 6px; }");
-    auto* list = new QVBoxLayout(Frame2);
+    auto* list = new QVBoxLayout(panel);
     list->setContentsMargins(14, 20, 14, 14);
     list->setSpacing(8);
     for (int i = 0; i < blind_tiles::kPanelLines; ++i) {
-        auto* l = new QLabel(Frame2);
+        auto* l = new QLabel(panel);
         l->setObjectName(QString("ClueLabel%1").arg(i));
         l->setFont(ScreenFont(15, true));
         l->setStyleSheet(entryStyle(false));
@@ -188,40 +125,7 @@ BlindTilesForm::BlindTilesForm(QWidget* parent)
         ClueLabel.push_back(l);
     }
     list->addStretch(1);
-
-    Label3 = new QLabel(
-        "Type the word that fits, using Backspace to fix a mistake. \"Give Answer\" fills it in, "
-        "but you lose 1000 points!",
-        this);
-    Label3->setObjectName("Label3");
-    Label3->setWordWrap(true);
-    Label3->setFont(ScreenFont(12));
-    Label3->setStyleSheet(
-        "color: white; background: rgba(60, 35, 15, 200); border-radius: 10px; padding: 8px;");
-
-    Command1 = MakeButton("Give Answer", this);
-    Command1->setObjectName("Command1");
-    // Keys belong to the answer: the button is for the mouse.
-    Command1->setFocusPolicy(Qt::NoFocus);
-    connect(Command1, &QPushButton::clicked, this, &BlindTilesForm::giveAnswer);
-
-    Label1 = new QLabel(
-        "Click a tile, then type the word from the list that fits there. Click it again to switch "
-        "between across and down.",
-        this);
-    Label1->setObjectName("Label1");
-    Label1->setWordWrap(true);
-    Label1->setFont(ScreenFont(12, true));
-    Label1->setStyleSheet(
-        "color: #3b2410; background: rgba(255, 248, 232, 220); border-radius: 10px; padding: 8px;");
-
-    Command1->hide();
-    Label3->hide();
-    resize(ScreenMetrics::screenSize());
-    // The music's timer runs once after opening; the first round's start must not stop it.
-    frame_.keepOnRestart("Timer1");
-    Timer1.start();
-    QTimer::singleShot(0, &frame_, [this] { frame_.newGame(); });
+    finishSetUp(board_, panel);
 }
 
 void BlindTilesForm::NewGame() {
@@ -248,8 +152,7 @@ void BlindTilesForm::showState() {
     Label2->setText(toQ(bt_.scoreText));
     for (int i = 0; i < int(bt_.entrySolved.size()) && i < ClueLabel.size(); ++i)
         ClueLabel[i]->setStyleSheet(entryStyle(bt_.entrySolved[i]));
-    Command1->setVisible(bt_.board.helpShown);
-    Label3->setVisible(bt_.board.helpShown);
+    showHelp(bt_.board.helpShown);
 }
 
 void BlindTilesForm::clickTile(int i) {
@@ -277,55 +180,18 @@ void BlindTilesForm::afterWord(blind_tiles::Outcome outcome, bool typed) {
     // The game's end stops the flash at once.
     if (outcome == blind_tiles::Outcome::GameEnds) FlashTimer.stop();
     showState();
-    if (outcome == blind_tiles::Outcome::GameEnds) endOfGame();
+    if (outcome == blind_tiles::Outcome::GameEnds) endOfGame(bt_.GameWon);
 }
-
-void BlindTilesForm::endOfGame() {
-    if (!cross::endGame(Shared(), bt_.GameWon)) {
-        sound().effect("ooh.wav");
-        dialogs().message(cross::kLoseText, cross::kLoseTitle);
-        frame_.quit();
-        return;
-    }
-    sound().effect("cheer.wav");
-    frame_.wonGame();
-}
-
-void BlindTilesForm::keyPressEvent(QKeyEvent* e) {
-    if (e->key() == Qt::Key_Backspace) {
-        typeKey(cross::kBackspace);
-        return;
-    }
-    const std::string text = fromQ(e->text());
-    if (text.empty() || e->key() == Qt::Key_Escape) {
-        Backdrop::keyPressEvent(e);
-        return;
-    }
-    typeKey(static_cast<unsigned char>(text[0]));
-}
-
 void BlindTilesForm::resizeEvent(QResizeEvent*) {
     const int w = width(), h = height();
-    const int top = frame_.menuHeight() + h / 60;
-    const int gap = w / 60;
     const int side = std::max(w * 26 / 100, 280);
-    const int boardW = w - side - 3 * gap, boardH = h - top - gap;
-    const double pitch = std::min(boardW / double(kCols), boardH / double(kRows));
+    const QRect room = boardRoom(side);
+    const double pitch = std::min(room.width() / double(kCols), room.height() / double(kRows));
     const int bw = int(pitch * kCols) + 8, bh = int(pitch * kRows) + 8;
-    board_->setGeometry(gap + (boardW - bw) / 2, top + (boardH - bh) / 2, bw, bh);
-
-    const int x = w - side - gap, colW = side;
-    int y = top;
-    Label2->setGeometry(x, y, colW, Label2->sizeHint().height() + 6);
-    y += Label2->height() + gap;
+    board_->setGeometry(room.left() + (room.width() - bw) / 2,
+                        room.top() + (room.height() - bh) / 2, bw, bh);
     const int listH = std::min(h * 45 / 100, 60 + 7 * (ClueLabel[0]->sizeHint().height() + 8));
-    Frame2->setGeometry(x, y, colW, listH);
-    y += listH + gap;
-    Label3->setGeometry(x, y, colW, Label3->heightForWidth(colW) + 4);
-    y += Label3->height() + gap;
-    Command1->setGeometry(x + colW / 8, y, colW * 3 / 4, Command1->minimumHeight());
-    const int l1h = Label1->heightForWidth(colW) + 4;
-    Label1->setGeometry(x, h - gap - l1h, colW, l1h);
+    layOutColumn(w - side - room.left(), side, listH);
 }
 
 WM_REGISTER_GAME("Blind Tiles", BlindTilesForm, "images/blind-tiles-back.svg", "sounds/gong.wav",

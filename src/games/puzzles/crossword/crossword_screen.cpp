@@ -1,16 +1,12 @@
 #include "games/puzzles/crossword/crossword_screen.h"
 
-#include <QKeyEvent>
-#include <QMouseEvent>
+#include <QEvent>
 #include <QPainter>
-#include <QTimer>
 #include <QVBoxLayout>
 #include <cmath>
 
 #include "core/rng.h"
 #include "core/shared_state.h"
-#include "platform/dialogs.h"
-#include "platform/screen_metrics.h"
 #include "platform/services.h"
 #include "platform/sound.h"
 #include "platform/text.h"
@@ -23,72 +19,46 @@ namespace {
 constexpr int kCols = crossword::kCols;
 constexpr int kRows = crossword::kRows;
 
-QColor cellColour(cross::TileColour c) {
-    switch (c) {
-        case cross::TileColour::Pink:
-            return QColor(255, 192, 192);
-        case cross::TileColour::Yellow:
-            return QColor(255, 255, 192);
-        case cross::TileColour::Green:
-            return QColor(192, 255, 192);
-        case cross::TileColour::White:
-            break;
-    }
-    return Qt::white;
-}
-
-GameMenuNames menuNames() {
-    GameMenuNames menu;
-    menu.foreignKey = "crossword";
-    return menu;
-}
-
 const char* kPanelStyle =
     "QGroupBox { color: #2b2118; background: rgba(255, 252, 240, 235); border: 2px solid #5b4a36;"
     " border-radius: 12px; margin-top: 22px; padding: 10px; }"
     " QGroupBox::title { subcontrol-origin: margin; left: 14px; padding: 0 6px; }";
 
+CrossFormLook look() {
+    CrossFormLook l;
+    l.name = "CrosswordForm";
+    l.title = "Crossword";
+    l.backdrop = "images/crossword-back.svg";
+    l.music = "entertainer.mid";
+    l.foreignKey = "crossword";
+    l.score = "Score: 0000";
+    l.helpText =
+        "Type the word, using Backspace to fix a mistake. Stuck? \"Give Answer\" fills it in, "
+        "but you lose 1000 points!";
+    l.helpColours = "color: white; background: rgba(30, 40, 70, 190);";
+    l.hintText =
+        "Click a box in the puzzle to see the clue for its word, then type the word. Click the "
+        "same box again to switch between across and down.";
+    l.hintColours = "color: #2b2118; background: rgba(255, 252, 240, 220);";
+    return l;
+}
+
 }  // namespace
 
 // ---- the board ----
 
-CrosswordBoard::CrosswordBoard(QWidget* parent) : QWidget(parent) {
+// A margin of half a cell all round, for the paper's edge.
+CrosswordBoard::CrosswordBoard(QWidget* parent) : CrossGrid(parent, kCols, kRows, 1.0) {
     setObjectName("Board");
     setAttribute(Qt::WA_OpaquePaintEvent, false);
 }
 
-void CrosswordBoard::setBoard(const cross::PlayBoard* board) {
-    board_ = board;
-    update();
-}
-
-double CrosswordBoard::cellSize() const {
-    // A margin of half a cell all round, for the paper's edge.
-    return std::min(width() / (kCols + 1.0), height() / (kRows + 1.0));
-}
-
-QPoint CrosswordBoard::origin() const {
-    const double s = cellSize();
-    return {int((width() - s * kCols) / 2), int((height() - s * kRows) / 2)};
-}
-
 QRect CrosswordBoard::cellRect(int i) const {
-    const double s = cellSize();
-    const QPoint o = origin();
-    const int c = i % kCols, r = i / kCols;
-    const int x0 = o.x() + int(std::lround(c * s)), y0 = o.y() + int(std::lround(r * s));
-    const int x1 = o.x() + int(std::lround((c + 1) * s)),
-              y1 = o.y() + int(std::lround((r + 1) * s));
+    const double s = pitch();
+    const QPointF a = corner(i);
+    const int x0 = int(std::lround(a.x())), y0 = int(std::lround(a.y()));
+    const int x1 = int(std::lround(a.x() + s)), y1 = int(std::lround(a.y() + s));
     return {x0, y0, x1 - x0 + 1, y1 - y0 + 1};  // one pixel more, so the borders overlap
-}
-
-int CrosswordBoard::cellAt(QPoint p) const {
-    const double s = cellSize();
-    const QPoint o = origin();
-    if (s <= 0 || p.x() < o.x() || p.y() < o.y()) return -1;
-    const int c = int((p.x() - o.x()) / s), r = int((p.y() - o.y()) / s);
-    if (c >= kCols || r >= kRows) return -1;
-    return r * kCols + c;
 }
 
 void CrosswordBoard::paintEvent(QPaintEvent*) {
@@ -104,7 +74,7 @@ void CrosswordBoard::paintEvent(QPaintEvent*) {
     p.drawRoundedRect(sheet, 6, 6);
     if (!board_ || board_->visible.empty()) return;
 
-    const double s = cellSize();
+    const double s = pitch();
     QFont letter("DejaVu Serif");
     letter.setBold(true);
     letter.setPixelSize(std::max(8, int(s * 0.54)));
@@ -116,7 +86,7 @@ void CrosswordBoard::paintEvent(QPaintEvent*) {
     for (int i = 0; i < board_->cells(); ++i) {
         if (!board_->visible[i]) continue;
         const QRect r = cellRect(i);
-        p.fillRect(r, cellColour(board_->colour[i]));
+        p.fillRect(r, CellColour(board_->colour[i], Qt::white));
         p.setPen(QPen(QColor(20, 20, 20), pen));
         p.setBrush(Qt::NoBrush);
         p.drawRect(r.adjusted(0, 0, -1, -1));
@@ -139,87 +109,30 @@ void CrosswordBoard::paintEvent(QPaintEvent*) {
     }
 }
 
-void CrosswordBoard::mousePressEvent(QMouseEvent* e) {
-    const int i = cellAt(e->position().toPoint());
-    // Hidden cells are no part of any word and take no clicks.
-    if (board_ && i >= 0 && i < board_->cells() && board_->visible[i]) emit cellClicked(i);
-}
-
 // ---- the screen ----
 
 CrosswordForm::CrosswordForm(QWidget* parent)
-    : Backdrop("images/crossword-back.svg", parent),
-      frame_(this, menuNames(), [this] { NewGame(); }),
-      Timer1(frame_.timer(
-          "Timer1", 1, [this] { frame_.startMusic(); }, true)),
+    : CrossForm(parent, look()),
       Timer2(frame_.timer(
-          "Timer2", 1, [this] { layOut(); }, true)),
-      FlashTimer(frame_.timer("FlashTimer", 10, [this] {
-          cross::flashTick(cw_.board);
-          if (!cw_.board.flashing) FlashTimer.stop();
-          board_->update();
-      })) {
-    setObjectName("CrosswordForm");
-    setWindowTitle("Crossword");
-    setFocusPolicy(Qt::StrongFocus);
-    frame_.setMusic(MusicKind::Own, "entertainer.mid");
-    frame_.setForeign([this](const QString& c) {
-        const std::string ch = fromQ(c);
-        if (!ch.empty()) typeKey(static_cast<unsigned char>(ch[0]));
-    });
-
+          "Timer2", 1, [this] { layOut(); }, true)) {
     board_ = new CrosswordBoard(this);
-    connect(board_, &CrosswordBoard::cellClicked, this, &CrosswordForm::clickCell);
+    board_->lower();
+    connect(board_, &CrossGrid::cellClicked, this, &CrosswordForm::clickCell);
 
-    Label2 = new QLabel("Score: 0000", this);
-    Label2->setObjectName("Label2");
-    Label2->setFont(ScreenFont(20, true));
-    Label2->setAlignment(Qt::AlignCenter);
-    Label2->setStyleSheet(
-        "color: #c8102e; background: #ffe94d; border: 3px solid #c8102e; border-radius: 12px;"
-        " padding: 4px 14px;");
-
-    Frame2 = new QGroupBox("Clue:", this);
-    Frame2->setObjectName("Frame2");
-    Frame2->setFont(ScreenFont(14, true));
-    Frame2->setStyleSheet(kPanelStyle);
-    ClueLabel = new QLabel(Frame2);
+    auto* panel = new QGroupBox("Clue:", this);
+    panel->setStyleSheet(kPanelStyle);
+    ClueLabel = new QLabel(panel);
     ClueLabel->setObjectName("ClueLabel");
     ClueLabel->setWordWrap(true);
     ClueLabel->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     ClueLabel->setFont(ScreenFont(15));
     ClueLabel->setStyleSheet("color: #1d1d1d; background: transparent; border: none;");
-    auto* clueLayout = new QVBoxLayout(Frame2);
+    auto* clueLayout = new QVBoxLayout(panel);
     clueLayout->setContentsMargins(12, 18, 12, 12);
     clueLayout->addWidget(ClueLabel);
-
-    Label3 = new QLabel(
-        "Type the word, using Backspace to fix a mistake. Stuck? \"Give Answer\" fills it in, "
-        "but you lose 1000 points!",
-        this);
-    Label3->setObjectName("Label3");
-    Label3->setWordWrap(true);
-    Label3->setFont(ScreenFont(12));
-    Label3->setStyleSheet(
-        "color: white; background: rgba(30, 40, 70, 190); border-radius: 10px; padding: 8px;");
-
-    // The button takes no focus and gives the answer on a mouse click only, so a space or Enter
-    // typed as part of an answer never gives it away.
-    Command1 = MakeButton("Give Answer", this);
-    Command1->setObjectName("Command1");
-    Command1->setFocusPolicy(Qt::NoFocus);
+    ClueLabel->setText(toQ(crossword::kClickPrompt));
+    // Give Answer reads its own presses, for the key guard.
     Command1->installEventFilter(this);
-    connect(Command1, &QPushButton::clicked, this, &CrosswordForm::giveAnswer);
-
-    Label1 = new QLabel(
-        "Click a box in the puzzle to see the clue for its word, then type the word. Click the "
-        "same box again to switch between across and down.",
-        this);
-    Label1->setObjectName("Label1");
-    Label1->setWordWrap(true);
-    Label1->setFont(ScreenFont(12, true));
-    Label1->setStyleSheet(
-        "color: #2b2118; background: rgba(255, 252, 240, 220); border-radius: 10px; padding: 8px;");
 
     Frame1 = new QWidget(this);
     Frame1->setObjectName("Frame1");
@@ -235,15 +148,7 @@ CrosswordForm::CrosswordForm(QWidget* parent)
     auto* waitLayout = new QVBoxLayout(Frame1);
     waitLayout->setContentsMargins(24, 16, 24, 16);
     waitLayout->addWidget(Label4);
-
-    ClueLabel->setText(toQ(crossword::kClickPrompt));
-    Command1->hide();
-    Label3->hide();
-    resize(ScreenMetrics::screenSize());
-    // The music's timer runs once after opening; the first round's start must not stop it.
-    frame_.keepOnRestart("Timer1");
-    Timer1.start();  // the music, once, shortly after the screen opens
-    QTimer::singleShot(0, &frame_, [this] { frame_.newGame(); });
+    finishSetUp(board_, panel);
 }
 
 void CrosswordForm::NewGame() {
@@ -258,8 +163,7 @@ void CrosswordForm::NewGame() {
     cw_.board = cross::PlayBoard{};
     board_->setBoard(&cw_.board);
     ClueLabel->setText(toQ(crossword::kClickPrompt));
-    Command1->hide();
-    Label3->hide();
+    showHelp(false);
     Frame1->show();
     Frame1->raise();
     // The wait panel is drawn before the layout runs.
@@ -280,8 +184,7 @@ void CrosswordForm::showState() {
     board_->setBoard(&cw_.board);
     Label2->setText(toQ(cw_.scoreText));
     ClueLabel->setText(toQ(cw_.clue));
-    Command1->setVisible(cw_.board.helpShown);
-    Label3->setVisible(cw_.board.helpShown);
+    showHelp(cw_.board.helpShown);
 }
 
 void CrosswordForm::clickCell(int i) {
@@ -300,7 +203,7 @@ void CrosswordForm::giveAnswer() {
     sound().effect("gbell.wav");
     const crossword::Outcome outcome = crossword::giveAnswer(Shared(), cw_, TheRng());
     showState();
-    if (outcome == crossword::Outcome::GameEnds) endOfGame();
+    if (outcome == crossword::Outcome::GameEnds) endOfGame(cw_.GameWon);
 }
 
 void CrosswordForm::wordSolved(crossword::Outcome outcome) {
@@ -310,31 +213,7 @@ void CrosswordForm::wordSolved(crossword::Outcome outcome) {
     }
     showState();
     // The last word ends the game at once, while its flash runs.
-    if (outcome == crossword::Outcome::GameEnds) endOfGame();
-}
-
-void CrosswordForm::endOfGame() {
-    if (!cross::endGame(Shared(), cw_.GameWon)) {
-        sound().effect("ooh.wav");
-        dialogs().message(cross::kLoseText, cross::kLoseTitle);
-        frame_.quit();
-        return;
-    }
-    sound().effect("cheer.wav");
-    frame_.wonGame();
-}
-
-void CrosswordForm::keyPressEvent(QKeyEvent* e) {
-    if (e->key() == Qt::Key_Backspace) {
-        typeKey(cross::kBackspace);
-        return;
-    }
-    const std::string text = fromQ(e->text());
-    if (text.empty() || e->key() == Qt::Key_Escape) {
-        Backdrop::keyPressEvent(e);
-        return;
-    }
-    typeKey(static_cast<unsigned char>(text[0]));
+    if (outcome == crossword::Outcome::GameEnds) endOfGame(cw_.GameWon);
 }
 
 bool CrosswordForm::eventFilter(QObject* watched, QEvent* event) {
@@ -342,33 +221,19 @@ bool CrosswordForm::eventFilter(QObject* watched, QEvent* event) {
         if (event->type() == QEvent::KeyPress) crossword::buttonKeyDown(cw_);
         if (event->type() == QEvent::MouseButtonPress) crossword::buttonMouseDown(cw_);
     }
-    return Backdrop::eventFilter(watched, event);
+    return CrossForm::eventFilter(watched, event);
 }
 
 void CrosswordForm::resizeEvent(QResizeEvent*) {
     const int w = width(), h = height();
-    const int top = frame_.menuHeight() + h / 60;
-    const int gap = w / 60;
     // The board takes the left two thirds, as large as the height allows.
-    const int side = std::max(w * 27 / 100, 300);
-    const int boardW = w - side - 3 * gap;
-    const int boardH = h - top - gap;
-    const double cell = std::min(boardW / (kCols + 1.0), boardH / (kRows + 1.0));
+    const QRect room = boardRoom(std::max(w * 27 / 100, 300));
+    const double cell = std::min(room.width() / (kCols + 1.0), room.height() / (kRows + 1.0));
     const int bw = int(cell * (kCols + 1)), bh = int(cell * (kRows + 1));
-    board_->setGeometry(gap, top + (boardH - bh) / 2, bw, bh);
-
-    const int x = gap + bw + gap, colW = w - x - gap;
-    int y = top;
-    Label2->setGeometry(x, y, colW, Label2->sizeHint().height() + 6);
-    y += Label2->height() + gap;
-    const int clueH = h * 30 / 100;
-    Frame2->setGeometry(x, y, colW, clueH);
-    y += clueH + gap;
-    Label3->setGeometry(x, y, colW, Label3->heightForWidth(colW) + 4);
-    y += Label3->height() + gap;
-    Command1->setGeometry(x + colW / 8, y, colW * 3 / 4, Command1->minimumHeight());
-    const int l1h = Label1->heightForWidth(colW) + 4;
-    Label1->setGeometry(x, h - gap - l1h, colW, l1h);
+    board_->setGeometry(room.left(), room.top() + (room.height() - bh) / 2, bw, bh);
+    // The column starts right after the board and takes the rest of the width.
+    const int x = room.left() + bw + room.left();
+    layOutColumn(x, w - x - room.left(), h * 30 / 100);
 
     const int fw = bw * 3 / 5, fh = std::max(h / 6, Label4->heightForWidth(fw - 48) + 40);
     Frame1->setGeometry(board_->x() + (bw - fw) / 2, board_->y() + (bh - fh) / 2, fw, fh);

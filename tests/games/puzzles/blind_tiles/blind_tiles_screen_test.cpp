@@ -4,7 +4,7 @@
 #include <QtTest>
 
 #include "core/strings.h"
-#include "game_road.h"
+#include "cross_road.h"
 #include "games/puzzles/blind_tiles/blind_tiles_screen.h"
 #include "platform/text.h"
 
@@ -12,34 +12,6 @@ using namespace wm;
 using namespace wm::test;
 
 namespace {
-
-// The list first, then the options screen with its slider and sound set, then the game.
-QWidget* ThroughOptions(ChooseList* chooser, const QString& list, int difficulty, bool soundOn) {
-    if (!chooser || SelectList(chooser, list) < 0) return nullptr;
-    chooser->continueOn();
-    Pump();
-    auto* options = Showing<GameOptions>();
-    if (!options) return CurrentScreen();
-    options->SpeedBar->setValue(difficulty);
-    (soundOn ? options->SoundONOp : options->SoundOFFOp)->setChecked(true);
-    options->continueOn();
-    Pump();
-    return CurrentScreen();
-}
-
-struct WordPlace {
-    int index, direction, cell;
-};
-
-std::vector<WordPlace> PlacedWords(const BlindTilesForm* game) {
-    std::vector<WordPlace> out;
-    const auto& b = game->state().board;
-    for (int i = 0; i < b.cells(); ++i)
-        for (int d : {cross::kAcross, cross::kDown})
-            if (int w = b.layout.wordAt(i % b.cols + 1, i / b.cols + 1, d))
-                out.push_back({w, d, i});
-    return out;
-}
 
 bool SelectWord(BlindTilesForm* game, const WordPlace& w) {
     const QPoint at = game->board()->tileRect(w.cell).center();
@@ -98,7 +70,7 @@ void BlindTilesScreenTest::roadToAWinTheTableAndAnotherRound() {
     SharedState& s = Shared();
     QCOMPARE(fx.music.opened, appFile("sounds/vivaldi.mid"));
     QCOMPARE(game->findChild<QLabel*>("Label2")->text(), "Score: 0");
-    const auto words = PlacedWords(game);
+    const auto words = PlacedWords(game->state().board);
     QCOMPARE(int(words.size()), int(s.PuzzleWordCount));
     // The panel lists the words in the order they were placed, all pink.
     const QStringList entries = ShownEntries(game);
@@ -139,7 +111,7 @@ void BlindTilesScreenTest::roadToAWinTheTableAndAnotherRound() {
     QCOMPARE(Showing<BlindTilesForm>(), game);
     QCOMPARE(int(s.Difficulty), 6);
     QCOMPARE(s.Score, 0.0);
-    QVERIFY(!PlacedWords(game).empty());
+    QVERIFY(!PlacedWords(game->state().board).empty());
     QVERIFY(!EntryYellow(game->clueLabels()[0]));
     QCOMPARE(fx.music.plays, 1);
     QVERIFY(TriggerMenu(game, "Return"));
@@ -157,7 +129,7 @@ void BlindTilesScreenTest::twinWordsWrongSlotAndGiveAnswerToANegativeScore() {
     SharedState& s = Shared();
     QCOMPARE(int(s.PuzzleWordCount), 5);
     QCOMPARE(ShownEntries(game).count("garden"), 2);
-    auto words = PlacedWords(game);
+    auto words = PlacedWords(game->state().board);
     QCOMPARE(int(words.size()), 5);
 
     // Another word of the list typed into a slot is wrong: the pink goes, nothing is solved.

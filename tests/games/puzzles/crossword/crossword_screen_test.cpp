@@ -4,7 +4,7 @@
 #include <QtTest>
 
 #include "core/strings.h"
-#include "game_road.h"
+#include "cross_road.h"
 #include "games/puzzles/crossword/crossword_screen.h"
 #include "platform/text.h"
 
@@ -34,33 +34,6 @@ bool SelectWord(CrosswordForm* game, int index, int direction, int cell) {
         if (dirOk && b.SelWord == index) return true;
     }
     return false;
-}
-
-// The list first, then the options screen with its slider and sound set, then the game.
-QWidget* ThroughOptions(ChooseList* chooser, const QString& list, int difficulty, bool soundOn) {
-    if (!chooser || SelectList(chooser, list) < 0) return nullptr;
-    chooser->continueOn();
-    Pump();
-    auto* options = Showing<GameOptions>();
-    if (!options) return CurrentScreen();
-    options->SpeedBar->setValue(difficulty);
-    (soundOn ? options->SoundONOp : options->SoundOFFOp)->setChecked(true);
-    options->continueOn();
-    Pump();
-    return CurrentScreen();
-}
-
-struct WordPlace {
-    int index, direction, cell;
-};
-std::vector<WordPlace> PlacedWords(const CrosswordForm* game) {
-    std::vector<WordPlace> out;
-    const auto& b = game->state().board;
-    for (int i = 0; i < b.cells(); ++i)
-        for (int d : {cross::kAcross, cross::kDown})
-            if (int w = b.layout.wordAt(i % b.cols + 1, i / b.cols + 1, d))
-                out.push_back({w, d, i});
-    return out;
 }
 
 CrosswordForm* OpenCrossword(ShellFixture& fx, bool soundOn) {
@@ -101,7 +74,7 @@ void CrosswordScreenTest::roadToAWinAndTheTable() {
     QCOMPARE(game->findChild<QLabel*>("ClueLabel")->text(),
              "Click a word in the puzzle to see the clue.");
 
-    const auto words = PlacedWords(game);
+    const auto words = PlacedWords(game->state().board);
     QCOMPARE(int(words.size()), int(s.PuzzleWordCount));
     QVERIFY(words.size() >= 2);
     auto* command1 = game->findChild<QPushButton*>("Command1");
@@ -154,7 +127,7 @@ void CrosswordScreenTest::giveAnswerEverywhereLosesWithoutASound() {
     QVERIFY(game);
     QVERIFY(fx.music.opened.isEmpty());  // no music with the sound off
     auto* command1 = game->findChild<QPushButton*>("Command1");
-    const auto words = PlacedWords(game);
+    const auto words = PlacedWords(game->state().board);
     for (const auto& w : words) {
         QVERIFY(SelectWord(game, w.index, w.direction, w.cell));
         const double before = Shared().Score;
@@ -197,11 +170,11 @@ void CrosswordScreenTest::firstRoundKeepsTheScoreAndRestartWaitsForTheLayout() {
     Shot(game, "crossword-wait");
     Pump(20);
     QVERIFY(!frame1->isVisible());
-    QVERIFY(!PlacedWords(game).empty());
+    QVERIFY(!PlacedWords(game->state().board).empty());
     QCOMPARE(fx.music.plays, 1);  // the music is not opened twice
 
     game->resize(1920, 1080);
-    const auto w = PlacedWords(game).front();
+    const auto w = PlacedWords(game->state().board).front();
     QVERIFY(SelectWord(game, w.index, w.direction, w.cell));
     QTest::keyClicks(game, toQ(Shared().Words[w.index]).left(2));
     Shot(game, "crossword-1920x1080");
@@ -216,7 +189,7 @@ void CrosswordScreenTest::keyOnTheButtonNeverGivesTheAnswer() {
     SetRng(&rng);
     auto* game = OpenCrossword(fx, true);
     QVERIFY(game);
-    const auto w = PlacedWords(game).front();
+    const auto w = PlacedWords(game->state().board).front();
     QVERIFY(SelectWord(game, w.index, w.direction, w.cell));
     auto* command1 = game->findChild<QPushButton*>("Command1");
     const short left = Shared().PuzzleWordCount;
