@@ -1,5 +1,6 @@
 #include "games/show/spell_crush/spell_crush_screen.h"
 
+#include <QFontMetrics>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -270,15 +271,21 @@ void SpellCrushGame::layOut() {
     beamY_ = Label1->geometry().bottom() + h / 25;
 
     // The row of words: each centred in its quarter, all as wide as the widest word, never
-    // wider than a fifth and a half of the screen, so that the row fits.
-    QFont f = ScreenFont(26, true);
-    int widest = 0;
-    for (QLabel* l : WordLabel) {
-        l->setFont(f);
-        widest = std::max(widest, l->fontMetrics().horizontalAdvance(l->text()) + 40);
-    }
-    const int labelW = std::min(widest, int(w / 5.5));
-    const int labelH = WordLabel[0]->fontMetrics().height() + 28;
+    // wider than a fifth and a half of the screen, so that the row fits; a long word takes a
+    // smaller type rather than losing its ends.
+    const QFont full = ScreenFont(26, true);
+    const int cap = int(w / 5.5);
+    const auto widestAt = [this](const QFont& font) {
+        const QFontMetrics m(font);
+        int widest = 0;
+        for (QLabel* l : WordLabel) widest = std::max(widest, m.horizontalAdvance(l->text()) + 40);
+        return widest;
+    };
+    QFont f = full;
+    while (widestAt(f) > cap && f.pointSize() > 8) f.setPointSize(f.pointSize() - 1);
+    for (QLabel* l : WordLabel) l->setFont(f);
+    const int labelW = std::min(widestAt(f), cap);
+    const int labelH = QFontMetrics(full).height() + 28;
     const int rowY = int(kWordsY * u + (h - kStageH * u) / 2);
     for (int i = 0; i < spellcrush::kWords; ++i) {
         QLabel* l = WordLabel[i];

@@ -1,5 +1,6 @@
 // Spell Crush on its screen: from the title to a won game and the table, a wrong word, clicks
 // while the safe travels, the sounds gated by SoundOn, and the game that scores nothing.
+#include <QFontMetrics>
 #include <QtTest>
 
 #include "core/score_table.h"
@@ -28,6 +29,7 @@ private slots:
     void fromTheTitleToAWin();
     void wrongWordAndBusyClicks();
     void nothingScoredEndsWithAdvice();
+    void longWordsKeepTheirEnds();
 };
 
 void SpellCrushScreenTest::fromTheTitleToAWin() {
@@ -114,6 +116,26 @@ void SpellCrushScreenTest::nothingScoredEndsWithAdvice() {
              "and learn your vocab words, then come back and try again later...");
     QVERIFY(Showing<Title>() != nullptr);
     QVERIFY(!fx.sound.played.contains("cymbals.wav"));
+}
+
+void SpellCrushScreenTest::longWordsKeepTheirEnds() {
+    ShellFixture fx;
+    WriteOneList(fx, "Long Words",
+                 {{"photosynthesis", "a"},
+                  {"constellations", "b"},
+                  {"precipitation", "c"},
+                  {"archaeologists", "d"},
+                  {"thermodynamics", "e"}});
+    auto* chooser = ChooserFor("Spell Crush", 5, false, false);
+    auto* game = qobject_cast<SpellCrushGame*>(ContinueWithList(chooser, "Long Words"));
+    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+    Pump();
+    for (int i = 0; i < spellcrush::kWords; ++i) {
+        const QLabel* l = game->word(i);
+        QVERIFY2(QFontMetrics(l->font()).horizontalAdvance(l->text()) <= l->contentsRect().width(),
+                 qPrintable(l->text()));
+    }
+    Shot(game, "spell-crush-long");
 }
 
 QTEST_MAIN(SpellCrushScreenTest)
