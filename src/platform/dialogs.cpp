@@ -127,12 +127,17 @@ QString QtDialogs::openFile(const QString& title, const QString& filter, const Q
     return chosen.isEmpty() ? QString() : chosen.first();
 }
 
+void ScriptedDialogs::record(const QString& kind, const QString& text, const QString& title) {
+    shown.push_back({kind, text, title});
+    if (whileOpen) whileOpen(shown.back());
+}
+
 void ScriptedDialogs::message(const QString& text, const QString& title) {
-    shown.push_back({QStringLiteral("message"), text, title});
+    record(QStringLiteral("message"), text, title);
 }
 
 bool ScriptedDialogs::yesNo(const QString& text, const QString& title) {
-    shown.push_back({QStringLiteral("yesNo"), text, title});
+    record(QStringLiteral("yesNo"), text, title);
     if (yesNoAnswers.empty()) return otherwiseYes ? otherwiseYes(text) : false;
     const bool answer = yesNoAnswers.front();
     yesNoAnswers.pop_front();
@@ -141,7 +146,7 @@ bool ScriptedDialogs::yesNo(const QString& text, const QString& title) {
 
 std::optional<QString> ScriptedDialogs::input(const QString& prompt, const QString& title,
                                               const QString& initial) {
-    shown.push_back({QStringLiteral("input"), prompt, title});
+    record(QStringLiteral("input"), prompt, title);
     if (inputAnswers.empty()) return std::nullopt;
     const bool cancelled = !inputAnswers.front().has_value();
     QString text = cancelled ? QString() : *inputAnswers.front();
@@ -152,7 +157,7 @@ std::optional<QString> ScriptedDialogs::input(const QString& prompt, const QStri
 
 QString ScriptedDialogs::openFile(const QString& title, const QString& filter,
                                   const QString& folder) {
-    shown.push_back({QStringLiteral("openFile"), title, title});
+    record(QStringLiteral("openFile"), title, title);
     if (fileAnswers.empty()) return {};
     QString answer = std::move(fileAnswers.front());
     fileAnswers.pop_front();

@@ -70,6 +70,12 @@ public:
     std::deque<std::optional<QString>> inputAnswers;
     std::deque<QString> fileAnswers;
     std::vector<Shown> shown;
+    // Runs while a box stands open, before it is answered: a test moves the clock here to see
+    // what goes on behind the box.
+    std::function<void(const Shown&)> whileOpen;
+
+private:
+    void record(const QString& kind, const QString& text, const QString& title);
 };
 
 }  // namespace wm

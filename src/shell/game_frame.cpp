@@ -165,6 +165,11 @@ void GameFrame::stopTimers() {
     for (auto& [name, t] : timers_) t->stop();
 }
 
+void GameFrame::stopTimersForEnd() {
+    for (auto& [name, t] : timers_)
+        if (!runOnAtEnd_.count(name)) t->stop();
+}
+
 void GameFrame::newGame() {
     if (leaving_) return;
     for (auto& [name, t] : timers_)
@@ -242,7 +247,7 @@ void GameFrame::refuse(const QString& text, const QString& title) {
 
 bool GameFrame::askTryAgain(const QString& text, const QString& title) {
     if (leaving_) return false;
-    stopTimers();
+    stopTimersForEnd();
     const bool again = dialogs().yesNo(text, title);
     if (again) {
         newGame();
@@ -254,7 +259,7 @@ bool GameFrame::askTryAgain(const QString& text, const QString& title) {
 
 void GameFrame::wonGame(const EndTexts& texts) {
     if (leaving_) return;
-    stopTimers();
+    stopTimersForEnd();
     SharedState& s = Shared();
     if (texts.wholeScore) s.Score = static_cast<double>(Int(s.Score));
     const int rank = PlaceHighScore(screen_, NumText(s.Score), texts.smallestFirst);

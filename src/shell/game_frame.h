@@ -88,6 +88,9 @@ public:
     // A timer that Restart leaves running (a countdown that runs on unseen, where the game is
     // designed so); Quit and the end of a game still stop it.
     void keepOnRestart(const QString& name) { keptOnRestart_.insert(name); }
+    // A timer that runs on behind the end boxes (a flash, a winning line, sparks the pupil
+    // should still see while a box asks to try again). The next game and Quit stop it.
+    void runOnThroughEnd(const QString& name) { runOnAtEnd_.insert(name); }
 
     // The round in hand. newGame() starts the next one; a continuation made by later() in an
     // earlier round is dropped, so a Restart never receives the last round's animation end.
@@ -117,6 +120,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // The end of a game: every timer stops but those named to run on behind the end boxes.
+    void stopTimersForEnd();
     void addEntry(Entry which, const QString& text, const QString& name,
                   std::function<void()> action);
 
@@ -127,6 +132,7 @@ private:
     std::map<Entry, QAction*> entries_;
     std::map<QString, GameTimer*> timers_;
     std::set<QString> keptOnRestart_;
+    std::set<QString> runOnAtEnd_;
     int round_ = 0;
     bool leaving_ = false;
     bool escapeQuits_ = true;

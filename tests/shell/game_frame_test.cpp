@@ -48,6 +48,7 @@ private slots:
     void paletteMovesCurrentGameToTheKey();
     void escapeLeavesOnceAndStopsEverything();
     void timersStopAsOneAndRunOnTheTestClock();
+    void namedTimersRunOnBehindTheEndBoxes();
     void restartDropsTheLastRoundsContinuations();
     void refusalTellsThenLeaves();
     void musicByKind();
@@ -140,6 +141,41 @@ void GameFrameTest::timersStopAsOneAndRunOnTheTestClock() {
     QVERIFY(game->frame.findTimer("Timer1")->isActive());
     game->frame.quit();
     QVERIFY(!game->frame.findTimer("Timer1")->isActive());
+}
+
+void GameFrameTest::namedTimersRunOnBehindTheEndBoxes() {
+    ShellFixture fx;
+    TinyGame* game = OpenTiny();
+    int flash = 0, clock = 0;
+    GameTimer& flasher = game->frame.timer("FlashTimer", 100, [&] { ++flash; });
+    GameTimer& clocker = game->frame.timer("Timer1", 100, [&] { ++clock; });
+    game->frame.runOnThroughEnd("FlashTimer");
+    Shared().CurrentGame = "Scramble";
+    WinDriver driver({"AB"});
+    SetModalHook(std::ref(driver));
+    // Each box stands for half a second: the flash goes on, the game's clock has stopped.
+    fx.dialogs.whileOpen = [](const ScriptedDialogs::Shown&) { Pump(500); };
+    for (bool won : {false, true}) {
+        flash = clock = 0;
+        flasher.start();
+        clocker.start();
+        fx.dialogs.answerYes(true);  // try again
+        if (won) {
+            Shared().Score = 0;
+            game->frame.wonGame();
+        } else {
+            game->frame.askTryAgain("Again?");
+        }
+        QCOMPARE(clock, 0);
+        QVERIFY2(flash >= 5, qPrintable(QString::number(flash)));
+        // The next game stops it.
+        QVERIFY(!flasher.isActive());
+    }
+    flasher.start();
+    fx.dialogs.answerYes(false);  // no: back to the title, everything stops
+    game->frame.askTryAgain("Again?");
+    QVERIFY(!flasher.isActive());
+    QVERIFY(Showing<Title>() != nullptr);
 }
 
 void GameFrameTest::restartDropsTheLastRoundsContinuations() {

@@ -88,6 +88,8 @@ CrossForm::CrossForm(QWidget* parent, const CrossFormLook& look)
           grid_->update();
       })) {
     setObjectName(look.name);
+    // The last word found flashes on to green behind the end boxes.
+    frame_.runOnThroughEnd("FlashTimer");
     setWindowTitle(look.title);
     setFocusPolicy(Qt::StrongFocus);
     frame_.setMusic(MusicKind::Own, look.music);

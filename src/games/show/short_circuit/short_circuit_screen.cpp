@@ -41,6 +41,8 @@ ShortCircuit::ShortCircuit(QWidget* parent)
           "Timer2", 3000, [this] { score(); }, true)),
       Timer4(frame_.timer("Timer4", 500, [this] { ++circuit_.halfSeconds; })) {
     setObjectName("ShortCircuit");
+    // The shorted column goes on flashing behind the try-again box.
+    frame_.runOnThroughEnd("Timer1");
     setWindowTitle("Short Circuit");
     for (int i = 0; i < shortcircuit::kColumns * shortcircuit::kRows; ++i) {
         auto* l = new QLabel(this);

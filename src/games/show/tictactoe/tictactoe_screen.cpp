@@ -95,6 +95,9 @@ TicTacToe::TicTacToe(QWidget* parent)
           redrawOverlay();
       })) {
     setObjectName("TicTacToe");
+    // The winning line keeps changing colour, the sparks fall and the saucers wander on
+    // while the end boxes stand.
+    for (const char* name : {"Timer3", "StarTimer", "UfoTimer"}) frame_.runOnThroughEnd(name);
     setWindowTitle("Tic-Tac-Toe");
     sprites_ = {markSprite(true), markSprite(false)};
     for (int age = 0; age < 45; ++age) {

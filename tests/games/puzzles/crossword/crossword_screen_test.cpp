@@ -75,6 +75,7 @@ void CrosswordScreenTest::roadToAWinAndTheTable() {
              "Click a word in the puzzle to see the clue.");
 
     const auto words = PlacedWords(game->state().board);
+    auto lastColour = cross::TileColour::White;
     QCOMPARE(int(words.size()), int(s.PuzzleWordCount));
     QVERIFY(words.size() >= 2);
     auto* command1 = game->findChild<QPushButton*>("Command1");
@@ -93,6 +94,14 @@ void CrosswordScreenTest::roadToAWinAndTheTable() {
             QTest::keyClicks(game, word.right(1));
             Shot(game, "crossword-1280x800");
         } else {
+            if (n + 1 == words.size()) {
+                // Behind the end box the last word flashes on to green.
+                fx.dialogs.whileOpen = [&, cell = w.cell](const ScriptedDialogs::Shown& box) {
+                    if (box.kind != "yesNo") return;
+                    Pump(16 * 12);
+                    lastColour = game->state().board.colour[cell];
+                };
+            }
             QTest::keyClicks(game, word);
         }
         if (n + 1 < words.size()) {
@@ -112,6 +121,7 @@ void CrosswordScreenTest::roadToAWinAndTheTable() {
     QVERIFY(fx.sound.played.contains("cheer.wav"));
     QCOMPARE(driver.tables.size(), 1);
     QVERIFY(driver.tables[0].contains("WIN"));
+    QCOMPARE(lastColour, cross::TileColour::Green);
     const QString score = QString::number(qint64(s.Score));
     QVERIFY(s.Score >= 251.0 * 2 * 4);
     QVERIFY(fx.dialogs.saw("You got a high score of " + score + "! Would you like to try again?"));

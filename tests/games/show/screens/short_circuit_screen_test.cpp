@@ -94,7 +94,19 @@ void ShortCircuitScreenTest::wrongLetterShortsTheCircuit() {
     QCOMPARE(c.rightRow[0], 0);  // at level 2 the right letter is on top
     const std::string word = c.word;
     fx.dialogs.answerYes(false);
+    // Behind the try-again box the shorted column flashes on, red and back, every 300 ms.
+    QStringList looks;
+    fx.dialogs.whileOpen = [&](const ScriptedDialogs::Shown&) {
+        for (int i = 0; i < 4; ++i) {
+            Pump(300);
+            looks << game->letter(0, 1)->styleSheet();
+        }
+    };
     clickLetter(game, 0, 1);
+    QCOMPARE(looks.size(), 4);
+    QVERIFY(looks[0] != looks[1]);
+    QCOMPARE(looks[0], looks[2]);
+    QCOMPARE(looks[1], looks[3]);
     QCOMPARE(fx.sound.played.mid(fx.sound.played.size() - 2),
              QStringList({"zap.wav", "loser3.wav"}));
     QCOMPARE(fx.dialogs.last(),

@@ -151,7 +151,17 @@ void TicTacToeScreenTest::computerOpensAndWinsWhileTheClockRunsOut() {
     QCOMPARE(game->board().at(2, 3), int(tictactoe::Computer));
     QCOMPARE(game->board().at(2, 1), int(tictactoe::Computer));
     QCOMPARE(game->info()->text(), "Computer wins the game!");
+    // The winning line, the sparks and the saucers go on moving behind the loser's box.
+    int changes = 0;
+    fx.dialogs.whileOpen = [&](const ScriptedDialogs::Shown&) {
+        for (int i = 0; i < 5; ++i) {
+            const QImage before = game->field()->surface().copy();
+            Pump(60);
+            changes += game->field()->surface() != before;
+        }
+    };
     Pump(1000);
+    QCOMPARE(changes, 5);
     QCOMPARE(fx.dialogs.last(),
              "Oops! The computer beat you that time! Would you like to give it another try?");
     QVERIFY(fx.sound.played.contains("loser3.wav"));
