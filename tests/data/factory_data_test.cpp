@@ -236,15 +236,6 @@ TEST(FactoryLanguages, FourLanguagesInThreeLineRecords) {
     }
 }
 
-TEST(FactoryHelp, IndexPageAndStyleSheet) {
-    const std::string page = ReadBytes(DataFile("wm-help/wmindex.htm"));
-    EXPECT_NE(page.find("<meta charset=\"utf-8\">"), std::string::npos);
-    EXPECT_NE(page.find("href=\"wmhelp.css\""), std::string::npos);
-    EXPECT_TRUE(FileExists(DataFile("wm-help/wmhelp.css")));
-    EXPECT_NE(page.find("mapleton"), std::string::npos);
-    EXPECT_NE(page.find("Teacher Management"), std::string::npos);
-}
-
 // The build's copy step for the display file: a teacher's live file is never replaced.
 TEST(FactoryInstall, DisplayFileIsCopiedOnlyWhenMissing) {
     test::TempFolder app;
