@@ -245,7 +245,7 @@ void FlashCardForm::resizeEvent(QResizeEvent*) {
     MovieBox->setGeometry(covered->geometry().adjusted(-w / 80, -h / 80, w / 80, h / 80));
     const int rowY = TheDefinition->geometry().bottom() + h / 25;
     const int bh = Gimme->minimumHeight(), bw = w / 5;
-    for (QPushButton* b : {Label2, backlabel}) b->setIconSize(QSize(bh / 3, bh / 3));
+    for (QPushButton* b : {Label2, backlabel}) b->setIconSize(QSize(bh / 2, bh / 2));
     Frame2->setGeometry(x, rowY, bw, bh);
     backlabel->setGeometry(0, 0, bw, bh);
     Gimme->setGeometry((w - bw) / 2, rowY, bw, bh);
