@@ -181,6 +181,22 @@ TEST(AsteroidWall, SinksByDifficultyUntilTheShip) {
     EXPECT_FALSE(r.blasts.empty());
 }
 
+TEST(AsteroidWall, TheEndBlastsGoRoundTheShipUpTo1000TwipsEitherWay) {
+    for (const double roll : {0.0, 0.9999}) {
+        Round r = Wall("CAT", "QCATXXXXXXXXXXXXXXXX");
+        ScriptedRng rng(roll);
+        r.rocks[5].bottom = r.g.shipTop() - r.g.shipH;
+        ASSERT_EQ(tick(r, 1, rng).ending, Ending::ShipDestroyed);
+        const int cx = r.shipX + r.g.shipW / 2, cy = r.g.shipTop() + r.g.shipH / 2;
+        const int off = roll == 0.0 ? -1000 : 999;
+        ASSERT_FALSE(r.blasts.empty());
+        for (const Blast& b : r.blasts) {
+            EXPECT_EQ(b.x, cx + off);
+            EXPECT_EQ(b.y, cy + off);
+        }
+    }
+}
+
 TEST(AsteroidShip, StaysUnderTheRow) {
     Round r = Wall("CAT", "QCATXXXXXXXXXXXXXXXX");
     r.leftHeld = true;

@@ -157,6 +157,24 @@ void BombSquadScreenTest::pressesCutTheWireDrawnUnderThem() {
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     QCOMPARE(game->size(), screen);
     QCOMPARE(int(game->deal().wires.size()), 8);
+    // The board: words at the left edge, definitions against the right one, each pair level and
+    // the rows evenly spaced below the menu; the bomb's clock in the middle.
+    const auto words = game->wordLabels(), defs = game->defLabels();
+    for (int i = 0; i < 8; ++i) {
+        const QRect w = words[i]->geometry(), d = defs[i]->geometry();
+        QVERIFY(w.left() < screen.width() / 40);
+        QVERIFY(d.right() > screen.width() * 39 / 40);
+        QVERIFY(qAbs(w.center().y() - d.center().y()) <= 1);
+        QVERIFY(w.top() >= game->frame().menuHeight() && w.bottom() < screen.height());
+        if (i >= 2) {
+            const int step =
+                words[i]->geometry().center().y() - words[i - 1]->geometry().center().y();
+            const int before =
+                words[i - 1]->geometry().center().y() - words[i - 2]->geometry().center().y();
+            QVERIFY(qAbs(step - before) <= 1 && step > w.height());
+        }
+    }
+    QVERIFY(qAbs(game->timeLabel()->geometry().center().x() - screen.width() / 2) <= 1);
     Shot(game, QString("bomb-squad-eight-%1").arg(screen.width()));
 
     // The wires bow towards the bomb: a press anywhere along a drawn wire cuts that wire and no
@@ -166,8 +184,10 @@ void BombSquadScreenTest::pressesCutTheWireDrawnUnderThem() {
         QCOMPARE(points.size(), 6);
         for (const QPoint& at : points) {
             queueAllBad(fx);
+            const int seeded = fx.rng.randomizeCount;
             game->frame().newGame();
             QCOMPARE(fx.rng.pending(), std::size_t(0));
+            QCOMPARE(fx.rng.randomizeCount, seeded + 1);  // reseeded for each deal
             clickAt(game, at);
             for (int j = 0; j < 8; ++j)
                 QVERIFY2(game->deal().wires[j].cut == (j == i),
@@ -204,6 +224,9 @@ void BombSquadScreenTest::lossesByWireAndByClock() {
     clickAt(game, game->wireMiddle(good));
     QVERIFY(game->exploding());
     QVERIFY(game->bombMovie()->isVisible());
+    // Centred across, and large enough to fill the middle of the screen.
+    QVERIFY(qAbs(game->bombMovie()->geometry().center().x() - game->width() / 2) <= 1);
+    QVERIFY(game->bombMovie()->width() >= game->width() / 3);
     QVERIFY(!game->timeLabel()->isVisible());
     QCOMPARE(fx.sound.played.count("2.wav"), 1);
     // The blast takes the bomb and its clock only: the labels and the wires stay.
@@ -220,8 +243,10 @@ void BombSquadScreenTest::lossesByWireAndByClock() {
              "You cut the wrong wire and set the bomb off! You lose. Would you like to give it "
              "another try?");
     QCOMPARE(Shared().Score, 777.0);
-    // Yes dealt again: now the clock runs out.
+    // Yes dealt again, the clock back in view: now it runs out.
     QVERIFY(!game->exploding());
+    QVERIFY(game->timeLabel()->isVisible());
+    QVERIFY(!game->bombMovie()->isVisible());
     QCOMPARE(game->timeLabel()->text(), "30");
     fx.dialogs.answerYes(false);
     Pump(30000);

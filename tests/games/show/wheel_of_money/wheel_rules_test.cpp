@@ -188,6 +188,21 @@ TEST(MiniGames, RightAnswerPaysThePrize) {
     EXPECT_EQ(w.frame, Frame::None);
 }
 
+TEST(MiniGames, DefinitionMatchRedrawsOnlyTheQuestionWord) {
+    SharedState s = Animals(2);
+    ScriptedRng setup;
+    WheelState w = On(4, s, setup);
+    ScriptedRng rng;
+    rng.pick(1, 500).pick(3, 5).pick(1, 4);  // the prize, lion, the right choice first
+    // The wrong choices: lion again (drawn anew), zebra; otter; otter once more (kept).
+    rng.pick(3, 5).pick(1, 5).pick(2, 5).pick(2, 5);
+    StartSlot(s, w, rng);
+    EXPECT_EQ(w.question, "\"lion\"");
+    EXPECT_EQ(w.RightChoice, 0);
+    EXPECT_EQ(w.choices, (std::array<std::string, kChoices>{"a big cat", "a striped horse",
+                                                            "a river swimmer", "a river swimmer"}));
+}
+
 TEST(MiniGames, SpellItUsesALaterRuleForEachWrongLabel) {
     SharedState s = ListOf({{"feather", "a bird's covering"}, {"a", "b"}, {"c", "d"}, {"e", "f"}});
     ScriptedRng setup;
