@@ -407,14 +407,16 @@ std::vector<GameCard> BuildCatalogue() {
         "to win!"));
 
     cards.push_back(Card(
-        "Bomb Squad", AtLeast(Elig(WO::Refuse, kMsgM1, "BombSquad"), 6, MsgN(6)), Slider(2, 10, 5),
+        // Both bomb games start at three wires: a six-word list, which the chooser accepts, can
+        // always deal them.
+        "Bomb Squad", AtLeast(Elig(WO::Refuse, kMsgM1, "BombSquad"), 6, MsgN(6)), Slider(2, 10, 2),
         "You are part of a special unit that has been called in to diffuse a bomb! Use the mouse "
         "to cut the wires that connect the words and definitions that DON'T MATCH. Cut them all "
         "before the timer runs out to diffuse the bomb..."));
 
     cards.push_back(Card(
         "Bomb Squad 2", AtLeast(Elig(WO::Refuse, kMsgM1, "BombSquad2"), 6, MsgN(6)),
-        Slider(2, 10, 5),
+        Slider(2, 10, 2),
         "You are part of a special unit that has been called in to diffuse a bomb! Use the mouse "
         "to wire the words to their matching definitions. Click on a word to connect a wire, then "
         "click on the matching definition to secure the wire. Connect all the wires before the "

@@ -162,6 +162,9 @@ TEST(Catalogue, OptionsRowsMatchTheOptionsTable) {
         {"HangMan", 1, 3, 2, OptionFrame::Hidden},
         {"Crunch Man", 2, 14, 7, OptionFrame::Hidden},
         {"Wheel of Money", 2, 10, 6, OptionFrame::Hidden},
+        // Three wires at the start: a six-word list can always deal them.
+        {"Bomb Squad", 2, 10, 2, OptionFrame::Hidden},
+        {"Bomb Squad 2", 2, 10, 2, OptionFrame::Hidden},
     };
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);

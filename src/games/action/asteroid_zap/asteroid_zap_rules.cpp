@@ -141,7 +141,9 @@ TickEvents tick(Round& r, int difficulty, Rng& rng) {
         s.y -= 10;
         s.toggle ^= 1;
         Rock& target = r.rocks[s.column];
-        if (target.alive && !target.exploding && target.shown && s.y <= target.bottom / kTwips) {
+        // A letter stays alive while it explodes: a shot into the blast is absorbed, and the
+        // blast starts again.
+        if (target.alive && s.y <= target.bottom / kTwips) {
             s.flying = false;
             e.hit = s.column;
             const bool fine = hitLetter(r, s.column, rng);

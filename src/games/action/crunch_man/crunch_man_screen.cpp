@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QTimer>
 
 #include "core/rng.h"
@@ -45,6 +46,28 @@ QImage standIn(QSize size, QColor colour) {
     p.setPen(Qt::NoPen);
     p.drawEllipse(QRectF(2, 2, size.width() - 4, size.height() - 4));
     return image;
+}
+
+// A board letter in the 30-pixel bold type, centred on its ink inside its label. A letter wider
+// than the label (W, M) is narrowed to fit rather than cut off at the sides: the label is all
+// that is erased when the letter is eaten.
+void paintLetter(QPainter& p, const QRect& box, char c, const QColor& colour) {
+    QFont font("DejaVu Sans");
+    font.setBold(true);
+    font.setPixelSize(30);
+    QPainterPath path;
+    path.addText(0, 0, font, QString(QChar::fromLatin1(c)));
+    const QRectF ink = path.boundingRect();
+    if (ink.isEmpty()) return;
+    const QRectF room = QRectF(box).adjusted(1.5, 1.5, -1.5, -1.5);
+    p.save();
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setClipRect(box);
+    p.translate(room.center());
+    p.scale(std::min(1.0, room.width() / ink.width()), std::min(1.0, room.height() / ink.height()));
+    p.translate(-ink.center());
+    p.fillPath(path, colour);
+    p.restore();
 }
 
 // The sprites are copied as blocks: their black backs are part of them.
@@ -195,12 +218,10 @@ void CrunchManGame::drawLabel(int k, bool withBack) {
     const crunch::Letter& l = round_.labels[k];
     const QRect r = labelRect(k);
     if (!l.visible) return;
-    QFont font("DejaVu Sans");
-    font.setBold(true);
-    font.setPixelSize(30);
     if (withBack) field_->fill(r, Qt::black);
-    field_->drawText(r, Qt::AlignCenter, QString(QChar::fromLatin1(l.text)), font,
-                     l.red ? kRed : kYellow);
+    QPainter p(&field_->surface());
+    paintLetter(p, r, l.text, l.red ? kRed : kYellow);
+    field_->markDirty(r);
 }
 
 void CrunchManGame::keyPressEvent(QKeyEvent* event) {

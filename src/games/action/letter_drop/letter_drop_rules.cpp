@@ -4,7 +4,19 @@
 
 namespace wm::letter_drop {
 
-bool Game::setup(SharedState& s, Rng& rng) {
+namespace {
+// Blanks, apostrophes and hyphens stand on their tiles from the start and are never dropped.
+bool dropped(char c) {
+    return c != ' ' && c != '\'' && c != '-';
+}
+bool hasLetterToDrop(const std::string& word) {
+    for (char c : word)
+        if (dropped(c)) return true;
+    return false;
+}
+}  // namespace
+
+Setup Game::setup(SharedState& s, Rng& rng) {
     rng.Randomize();
     word_.clear();
     len_ = 0;
@@ -17,17 +29,21 @@ bool Game::setup(SharedState& s, Rng& rng) {
     s.Score = 0;
     s.GameSpeed = static_cast<short>(s.Difficulty);
     toTop();
-    // At most twice WordCount draws: a list of long words must not hang the game.
-    bool found = false;
+    // At most twice WordCount draws: a list of long words must not hang the game. A word of
+    // blanks and hyphens only would be a won game with nothing to play: another is drawn.
+    bool found = false, letterless = false;
     for (int tries = 0; tries < 2 * s.WordCount && !found; ++tries) {
         const int k = int(Int(rng.Rnd() * s.WordCount + 1));
-        if (Len(s.Words[k]) <= kTiles) {
-            s.TheWord = s.Words[k];
-            s.TheMeaning = s.Meanings[k];
-            found = true;
+        if (Len(s.Words[k]) > kTiles) continue;
+        if (!hasLetterToDrop(s.Words[k])) {
+            letterless = true;
+            continue;
         }
+        s.TheWord = s.Words[k];
+        s.TheMeaning = s.Meanings[k];
+        found = true;
     }
-    if (!found) return false;
+    if (!found) return letterless ? Setup::NoLetters : Setup::TooLong;
     s.TheWord = UCase(s.TheWord);
     word_ = s.TheWord;
     len_ = Len(word_);
@@ -35,14 +51,14 @@ bool Game::setup(SharedState& s, Rng& rng) {
     for (int i = 0; i < len_; ++i) {
         const char c = word_[i];
         table_[i] = c;
-        if (c == ' ' || c == '\'' || c == '-') {
+        if (!dropped(c)) {
             table_[i] = 0;
             shows_[i] = c != ' ';  // apostrophes and hyphens stand on their tiles from the start
             --lettersLeft_;
         }
     }
-    if (lettersLeft_ > 0) nextLetter(rng);
-    return true;
+    nextLetter(rng);
+    return Setup::Ready;
 }
 
 int Game::tileLeft(int i) const {

@@ -25,9 +25,14 @@ constexpr int kHintAfter = 3;  // misses over this turn the hint on
 constexpr const char* kTooLong =
     "The words on this vocabulary list are too long for this game. Please choose another list or "
     "another game.";
+constexpr const char* kNoLetters =
+    "The words on this vocabulary list are either too long for this game or have no letters to "
+    "drop. Please choose another list or another game.";
 constexpr const char* kReady = "Click <OK> when you are ready to begin";
 
 enum class Landing { None, Right, Wrong, Won };
+// The outcome of a setup: a word to play, or why the list cannot be used.
+enum class Setup { Ready, TooLong, NoLetters };
 
 struct Keys {
     bool left = false, right = false, down = false;
@@ -35,8 +40,8 @@ struct Keys {
 
 class Game {
 public:
-    // Setup and the word choice. False when no word of the list fits (the list is unusable).
-    bool setup(SharedState& s, Rng& rng);
+    // Setup and the word choice: a word that fits the tiles and has a letter to drop.
+    Setup setup(SharedState& s, Rng& rng);
     // One fall step; a landing is tested and acted on.
     Landing tick(SharedState& s, const Keys& keys, Rng& rng);
     // A release of the Down arrow: a small reward for dropping fast, shown at the next update.

@@ -83,10 +83,6 @@ LetterFall::LetterFall(QWidget* parent)
           "Timer2", 1,
           [this] {
               dialogs().message(kReady, "Letter Drop!");
-              if (game_.lettersLeft() <= 0) {  // nothing to drop: the word stands complete
-                  win();
-                  return;
-              }
               Timer1.start();
               Timer4.start();
               setFocus();
@@ -133,9 +129,10 @@ void LetterFall::SetupGame() {
     keys_->clear();
     dissolve_ = 0;
     won_ = false;
-    if (!game_.setup(s, TheRng())) {
+    const Setup setup = game_.setup(s, TheRng());
+    if (setup != Setup::Ready) {
         for (auto* t : Letter) t->hide();
-        frame_.refuse(kTooLong, "Letter Drop!");
+        frame_.refuse(setup == Setup::TooLong ? kTooLong : kNoLetters, "Letter Drop!");
         return;
     }
     Label1->setText(toQ("Definition:  " + s.TheMeaning));

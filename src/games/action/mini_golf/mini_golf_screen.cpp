@@ -267,8 +267,9 @@ void MiniGolf::ballTick() {
         return;
     }
     Timer1.stop();
-    showScore();
     if (step.right) {
+        // Only the right hole shows the score; the cost of a wrong one shows with the next.
+        showScore();
         sound().effect("applause.wav");
         NextWord();
         return;

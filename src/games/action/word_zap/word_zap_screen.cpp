@@ -236,7 +236,8 @@ void Zap::clickAt(const QPoint& at) {
             sound().effect("crumble.wav");
             for (int t = 0; t < zap::kTargets; ++t) drawTarget(t);
         }
-        scoreText_ = toQ(zap::scoreCaption(gallery_.score));
+        // The caption changes only on a hit; a penalty shows with the next one.
+        if (click != zap::Click::Wrong) scoreText_ = toQ(zap::scoreCaption(gallery_.score));
         if (click == zap::Click::Hit) defText_ = toQ(zap::definitionText(s, gallery_));
         drawStars();
         drawPanel();
@@ -249,9 +250,6 @@ void Zap::clickAt(const QPoint& at) {
     if (at.y() >= int(0.82 * field_->logicalSize().height())) return;
     sound().effect("shotmiss.wav");
     zap::clickBehind(gallery_);
-    scoreText_ = toQ(zap::scoreCaption(gallery_.score));
-    drawPanel();
-    field_->flush();
 }
 
 void Zap::eraseStars() {

@@ -78,11 +78,10 @@ void CrosswordBoard::paintEvent(QPaintEvent*) {
     QFont letter("DejaVu Serif");
     letter.setBold(true);
     letter.setPixelSize(std::max(8, int(s * 0.54)));
-    QFont number("DejaVu Sans");
-    number.setPixelSize(std::max(6, int(s * 0.28)));
     p.setRenderHint(QPainter::Antialiasing, false);
     const int pen = std::max(1, int(s / 16));
-    int clueNumber = 0;
+    // No clue numbers in the corners: a word is picked by clicking it and its clue shows beside
+    // the board, so numbers would point at nothing and only crowd the small cells.
     for (int i = 0; i < board_->cells(); ++i) {
         if (!board_->visible[i]) continue;
         const QRect r = cellRect(i);
@@ -90,21 +89,10 @@ void CrosswordBoard::paintEvent(QPaintEvent*) {
         p.setPen(QPen(QColor(20, 20, 20), pen));
         p.setBrush(Qt::NoBrush);
         p.drawRect(r.adjusted(0, 0, -1, -1));
-        // Word starts are numbered in reading order, as on a printed puzzle.
-        const int col = i % kCols + 1, row = i / kCols + 1;
-        if (board_->layout.wordAt(col, row, cross::kAcross) ||
-            board_->layout.wordAt(col, row, cross::kDown)) {
-            p.setFont(number);
-            p.setPen(QColor(40, 40, 40));
-            p.drawText(r.adjusted(pen + 2, pen, 0, 0), Qt::AlignLeft | Qt::AlignTop,
-                       QString::number(++clueNumber));
-        }
         if (board_->caption[i]) {
             p.setFont(letter);
             p.setPen(QColor(15, 25, 60));
-            // Below the corner number, as a pencilled letter sits.
-            p.drawText(r.adjusted(int(s * 0.08), int(s * 0.2), 0, 0), Qt::AlignCenter,
-                       toQ(std::string(1, board_->caption[i])));
+            p.drawText(r, Qt::AlignCenter, toQ(std::string(1, board_->caption[i])));
         }
     }
 }

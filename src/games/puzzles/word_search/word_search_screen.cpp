@@ -144,7 +144,7 @@ WordSearchForm::WordSearchForm(QWidget* parent)
 
 // Restart, High Scores and Quit act only while Timer1 runs. The end of a game stops it and a new
 // round does not start it again, so after "try again" they stay idle until that game is over.
-// Deliberate; Escape still leaves.
+// Deliberate; Escape, which acts as Quit, is idle with them.
 void WordSearchForm::setTimer1(bool on) {
     if (on) {
         Timer1.start();
@@ -153,6 +153,7 @@ void WordSearchForm::setTimer1(bool on) {
     }
     for (auto e : {GameFrame::Entry::Restart, GameFrame::Entry::Scores, GameFrame::Entry::Quit})
         if (QAction* a = frame_.entry(e)) a->setEnabled(on);
+    frame_.setEscapeQuits(on);
 }
 
 void WordSearchForm::NewGame() {

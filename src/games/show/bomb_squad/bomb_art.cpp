@@ -69,6 +69,12 @@ void paintBomb(QPainter& p, const QRectF& r, int seconds, QColor clockColour) {
     p.restore();
 }
 
+QPainterPath wirePath(QPointF a, QPointF via, QPointF b) {
+    QPainterPath path(a);
+    path.quadTo(via, b);
+    return path;
+}
+
 void paintWire(QPainter& p, QPointF a, QPointF via, QPointF b, const QColor& colour, double width,
                bool cut) {
     p.save();
@@ -82,9 +88,7 @@ void paintWire(QPainter& p, QPointF a, QPointF via, QPointF b, const QColor& col
         p.drawPath(path);
     };
     if (!cut) {
-        QPainterPath path(a);
-        path.quadTo(via, b);
-        stroke(path);
+        stroke(wirePath(a, via, b));
     } else {
         // Two halves with a gap at the middle, the ends drooping like snipped wire.
         const double gap = width * 3;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPainterPath>
 #include <QPointF>
 #include <QRectF>
 #include <QString>
@@ -17,6 +18,10 @@ const std::array<QColor, 8>& wireColours();
 
 // The bomb in `r` with `seconds` on its clock face.
 void paintBomb(QPainter& p, const QRectF& r, int seconds, QColor clockColour);
+
+// The line of a whole wire from `a` to `b`, bowed through `via`: what is drawn, and what a click
+// is matched against.
+QPainterPath wirePath(QPointF a, QPointF via, QPointF b);
 
 // A wire from `a` to `b` bowed through `via`; with `cut`, drawn in two halves with the ends
 // curled apart around its middle.

@@ -1,5 +1,6 @@
 #include "games/show/bomb_squad/bomb_board.h"
 
+#include <QAction>
 #include <QPainter>
 #include <QTimer>
 
@@ -7,6 +8,7 @@
 #include "core/shared_state.h"
 #include "games/show/bomb_squad/bomb_art.h"
 #include "games/show/bomb_squad/bomb_squad_rules.h"
+#include "platform/dialogs.h"
 #include "platform/movie.h"
 #include "platform/screen_metrics.h"
 #include "platform/services.h"
@@ -59,6 +61,15 @@ BombBoard::BombBoard(QWidget* parent, const QString& name, const QString& title)
     BombMovie = new Movie(this);
     BombMovie->setObjectName("BombMovie");
     BombMovie->hide();
+    // Restart asks first, then deals again.
+    QAction* restart = frame_.entry(GameFrame::Entry::Restart);
+    restart->disconnect();
+    connect(restart, &QAction::triggered, this, [this] {
+        if (frame_.leaving()) return;
+        frame_.stopTimers();
+        dialogs().message("Click OK to reset the game");
+        frame_.newGame();
+    });
     resize(ScreenMetrics::screenSize());
     QTimer::singleShot(0, &frame_, [this] { frame_.newGame(); });
 }
@@ -106,9 +117,11 @@ void BombBoard::layOut() {
 void BombBoard::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.fillRect(rect(), exploding_ ? Qt::white : Qt::black);
-    if (exploding_ || !dealt()) return;
-    bombart::paintBomb(p, bombRect(), secondsLeft(),
-                       clockGreen_ ? QColor(0, 255, 0) : QColor(255, 60, 60));
+    if (!dealt()) return;
+    // The blast takes the bomb and its clock; the labels and wires stay where they were.
+    if (!exploding_)
+        bombart::paintBomb(p, bombRect(), secondsLeft(),
+                           clockGreen_ ? QColor(0, 255, 0) : QColor(255, 60, 60));
     paintWires(p, std::max(4.0, height() / 110.0));
 }
 
@@ -126,8 +139,6 @@ void BombBoard::Explode() {
     Timer1.stop();
     exploding_ = true;
     TimeLabel->hide();
-    for (auto* l : WordLabel) l->hide();
-    for (auto* l : DefLabel) l->hide();
     BombMovie->move((width() - BombMovie->width()) / 2,
                     std::max(0, int(bombRect().top() - height() * 0.09)));
     BombMovie->load("bomb");

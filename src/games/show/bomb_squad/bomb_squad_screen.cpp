@@ -1,13 +1,13 @@
 #include "games/show/bomb_squad/bomb_squad_screen.h"
 
-#include <QAction>
 #include <QMouseEvent>
 #include <QPainter>
+#include <algorithm>
+#include <cmath>
 
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "games/show/bomb_squad/bomb_art.h"
-#include "platform/dialogs.h"
 #include "platform/services.h"
 #include "platform/sound.h"
 #include "platform/text.h"
@@ -18,15 +18,6 @@ namespace wm {
 
 BombSquad::BombSquad(QWidget* parent) : BombBoard(parent, "BombSquad", "Bomb Squad") {
     setAutoFillBackground(false);
-    // Restart asks first, then deals again.
-    QAction* restart = frame_.entry(GameFrame::Entry::Restart);
-    restart->disconnect();
-    connect(restart, &QAction::triggered, this, [this] {
-        if (frame_.leaving()) return;
-        frame_.stopTimers();
-        dialogs().message("Click OK to reset the game");
-        frame_.newGame();
-    });
 }
 
 void BombSquad::SetupGame() {
@@ -63,22 +54,57 @@ QPointF BombSquad::wireVia(int i) const {
     return {b.center().x(), b.center().y() + (mid - b.center().y()) * 0.55};
 }
 
+QPointF BombSquad::wireStart(int i) const {
+    return {double(WordLabel[i]->geometry().right()), WordLabel[i]->geometry().center().y() + 0.0};
+}
+
+QPointF BombSquad::wireEnd(int i) const {
+    return {double(DefLabel[i]->geometry().left()), DefLabel[i]->geometry().center().y() + 0.0};
+}
+
+QPainterPath BombSquad::wirePath(int i) const {
+    return bombart::wirePath(wireStart(i), wireVia(i), wireEnd(i));
+}
+
 QPoint BombSquad::wireMiddle(int i) const {
-    const QPointF a(WordLabel[i]->geometry().right(), WordLabel[i]->geometry().center().y());
-    const QPointF b(DefLabel[i]->geometry().left(), DefLabel[i]->geometry().center().y());
-    const QPointF v = wireVia(i);
-    return QPointF(0.25 * a.x() + 0.5 * v.x() + 0.25 * b.x(),
-                   0.25 * a.y() + 0.5 * v.y() + 0.25 * b.y())
-        .toPoint();
+    return wirePath(i).pointAtPercent(0.5).toPoint();
+}
+
+namespace {
+double distanceToSegment(QPointF p, QPointF a, QPointF b) {
+    const QPointF ab = b - a;
+    const double len2 = QPointF::dotProduct(ab, ab);
+    const double t = len2 > 0 ? std::clamp(QPointF::dotProduct(p - a, ab) / len2, 0.0, 1.0) : 0;
+    const QPointF d = p - (a + t * ab);
+    return std::sqrt(QPointF::dotProduct(d, d));
+}
+}  // namespace
+
+int BombSquad::wireAt(QPointF at) const {
+    // The wires bow towards the bomb, so a press is matched to the drawn line, not to the row of
+    // the labels. A child's click may land a little off the line; the nearest wire wins.
+    const double reach = std::max(16.0, height() / 40.0);
+    int best = -1;
+    double bestDistance = reach;
+    for (int i = 0; i < int(deal_.wires.size()); ++i) {
+        for (const QPolygonF& line : wirePath(i).toSubpathPolygons()) {
+            for (int k = 1; k < line.size(); ++k) {
+                const double d = distanceToSegment(at, line[k - 1], line[k]);
+                if (d <= bestDistance) {
+                    bestDistance = d;
+                    best = i;
+                }
+            }
+        }
+    }
+    return best;
 }
 
 void BombSquad::paintWires(QPainter& p, double width) {
     const auto& colours = bombart::wireColours();
-    for (int i = 0; i < int(deal_.wires.size()); ++i) {
-        const QPointF a(WordLabel[i]->geometry().right(), WordLabel[i]->geometry().center().y());
-        const QPointF e(DefLabel[i]->geometry().left(), DefLabel[i]->geometry().center().y());
-        bombart::paintWire(p, a, wireVia(i), e, colours[i], width, deal_.wires[i].cut);
-    }
+    for (int i = 0; i < int(deal_.wires.size()); ++i)
+        bombart::paintWire(p, wireStart(i), wireVia(i), wireEnd(i), colours[i], width,
+                           deal_.wires[i].cut);
 }
 
 void BombSquad::mousePressEvent(QMouseEvent* e) {
@@ -89,16 +115,7 @@ void BombSquad::TryCut(QPoint at) {
     if (exploding() || !Timer1.isActive() || deal_.wires.empty()) return;
     if (at.x() <= WordLabel[0]->geometry().right() || at.x() >= DefLabel[0]->geometry().left())
         return;
-    const int n = deal_.wires.size();
-    int hit = -1;
-    for (int i = 0; i < n; ++i) {
-        // The row band of each wire: half-way to its neighbours.
-        const int mid = WordLabel[i]->geometry().center().y();
-        const int up = i > 0 ? (mid + WordLabel[i - 1]->geometry().center().y()) / 2 : 0;
-        const int down =
-            i + 1 < n ? (mid + WordLabel[i + 1]->geometry().center().y()) / 2 : height();
-        if (at.y() >= up && at.y() < down) hit = i;
-    }
+    const int hit = wireAt(at);
     if (hit < 0 || deal_.wires[hit].cut) return;
     sound().effect("snip.wav");
     const auto result = bombsquad::cut(deal_, hit);

@@ -1,6 +1,8 @@
 // Bomb Squad: cut every wire whose word and definition do not match before the clock runs out.
 #pragma once
 
+#include <QPainterPath>
+
 #include "games/show/bomb_squad/bomb_board.h"
 #include "games/show/bomb_squad/bomb_squad_rules.h"
 
@@ -14,6 +16,8 @@ public:
     const bombsquad::Deal& deal() const { return deal_; }
     // The point in the middle of wire i, where a press cuts it.
     QPoint wireMiddle(int i) const;
+    // The wire drawn under a press at `at`, or -1: the nearest within a child's reach.
+    int wireAt(QPointF at) const;
     void SetupGame() override;
 
 protected:
@@ -27,7 +31,10 @@ protected:
     void mousePressEvent(QMouseEvent* e) override;
 
 private:
+    QPointF wireStart(int i) const;
     QPointF wireVia(int i) const;
+    QPointF wireEnd(int i) const;
+    QPainterPath wirePath(int i) const;
     void TryCut(QPoint at);
 
     bombsquad::Deal deal_;

@@ -6,6 +6,7 @@
 
 #include "core/rng.h"
 #include "core/shared_state.h"
+#include "core/strings.h"
 
 namespace wm::pachinko {
 
@@ -79,9 +80,7 @@ std::string scoredText(int value) {
     return "You scored " + std::to_string(value) + " points!";
 }
 std::string scoreLine(double score) {
-    char buf[32];
-    std::snprintf(buf, sizeof buf, "%08lld", static_cast<long long>(score));
-    return std::string("Score: ") + buf;
+    return "Score: " + NumText(score);
 }
 
 std::array<int, kSlotCount> scrambleValues(Rng& rng) {

@@ -67,6 +67,8 @@ inline constexpr char kReady[] =
 std::string tryingText(int question);
 std::string earnedText(int disks);
 std::string scoredText(int value);
+// The score line of the board: the zeros until the first disk lands, then the plain number.
+inline constexpr char kScoreStart[] = "Score: 00000000";
 std::string scoreLine(double score);
 
 // --- Slot values ---

@@ -129,6 +129,7 @@ void Plachinko::SetupGame() {
     SlotValue.fill(0);
     boardShown_ = false;
     locked_ = false;
+    scored_ = false;
     sprites_ = {};
     field_->hide();
     Label1->hide();
@@ -318,7 +319,11 @@ void Plachinko::paintLabels(QPainter& p) const {
         p.drawText(rects[size_t(s)], Qt::AlignCenter, QString::number(SlotValue[s]));
     f.setPixelSize(20);
     p.setFont(f);
-    p.drawText(rects.back(), Qt::AlignRight | Qt::AlignVCenter, toQ(scoreLine(Shared().Score)));
+    p.drawText(rects.back(), Qt::AlignRight | Qt::AlignVCenter, scoreText());
+}
+
+QString Plachinko::scoreText() const {
+    return scored_ ? toQ(scoreLine(Shared().Score)) : QString(kScoreStart);
 }
 
 QImage Plachinko::boardPicture() const {
@@ -399,7 +404,8 @@ void Plachinko::mouseReleaseEvent(QMouseEvent* e) {
 void Plachinko::tick() {
     if (Falling && fallingDisk_ >= 0) {
         const bool done = step(fall_, TheRng());
-        if (fall_.touched) sound().effect("bleep2.wav");
+        // A pin's bleep never cuts into a sound already playing.
+        if (fall_.touched) sound().effect("bleep2.wav", SoundMode::NoInterrupt);
         at_[fallingDisk_] = QPointF(kBoardLeft + fall_.x, kBoardTop + fall_.y);
         if (done) {
             ScoreDisk();
@@ -414,6 +420,7 @@ void Plachinko::ScoreDisk() {
     const int v = SlotValue[slotOf(fall_)];
     SharedState& s = Shared();
     s.Score += v;
+    scored_ = true;
     sound().effect("dingling.wav");
     labelsDirty_ = true;
     redraw();

@@ -26,6 +26,8 @@ public:
     int disksEarned() const { return DisksEarned; }
     const std::array<int, pachinko::kSlotCount>& slotValues() const { return SlotValue; }
     bool valuesLocked() const { return locked_; }
+    // The score line at the lower right of the board.
+    QString scoreText() const;
     bool falling() const { return Falling; }
     QLabel* lockLabel() const { return Label1; }
     // The board as it is shown, at the game's own resolution, and what it shows with no disk
@@ -90,6 +92,7 @@ private:
     int DisksEarned = 0;
     bool boardShown_ = false;
     bool locked_ = false;
+    bool scored_ = false;  // a disk has landed: the line shows the score itself
     std::array<int, pachinko::kSlotCount> SlotValue{};
     std::array<QPointF, pachinko::kMaxDisks> rest_{};  // design pixels
     std::array<QPointF, pachinko::kMaxDisks> at_{};

@@ -122,6 +122,8 @@ bool Typing(Kind k) {
     return k == Kind::Scramble || k == Kind::TypeIt || k == Kind::FillIn;
 }
 
+// Shows the button; whether it can be pressed is left as it is, so that a countdown left over
+// from before a Restart never frees it while the intro still plays.
 void FinishQuestion(WheelState& w) {
     w.Command1 = kSpinAgain;
     w.NextAction = Action::ToWheel;
@@ -130,7 +132,6 @@ void FinishQuestion(WheelState& w) {
         w.Command1 = kContinue;
     }
     w.commandShown = true;
-    w.commandEnabled = true;
 }
 
 Verdict Win(SharedState& s, WheelState& w) {
@@ -147,8 +148,10 @@ Verdict Win(SharedState& s, WheelState& w) {
 SlotStart NoWordFits(WheelState& w) {
     w.frame = Frame::None;
     w.timer4 = false;
-    w.Label1 = "None of the words on this list can be used for " + w.HeadLabel +
-               " so this spin is over. Spin again for another game!";
+    w.Label1 = "None of the words on this list can be used for " + w.HeadLabel;
+    // No spin is left to offer after the last one.
+    w.Label1 += w.SpinsLeft > 0 ? " This spin is over. Spin again for another game!"
+                                : " That was your last spin.";
     FinishQuestion(w);
     w.directShown = true;
     SlotStart out;
@@ -161,10 +164,21 @@ void ClearTiles(WheelState& w) {
     w.TileMarked.fill(false);
 }
 
-// Too Many and Letter Change take a word of at most 21 letters; 0 when the list has none.
-int DrawShortWord(const SharedState& s, WheelState& w, Rng& rng) {
+// Letter Change swaps two letters that differ (case aside): a word needs two such letters.
+bool TwoDifferentLetters(const std::string& word) {
+    const std::string upper = UCase(word);
+    return upper.find_first_not_of(upper.empty() ? ' ' : upper[0]) != std::string::npos;
+}
+
+// Too Many and Letter Change take a word of at most 21 letters, Letter Change one with two
+// different letters; 0 when the list has none.
+int DrawTileWord(const SharedState& s, WheelState& w, Rng& rng) {
+    const auto fits = [&](const std::string& word) {
+        return Len(word) <= kMaxTileWord &&
+               (w.kind != Kind::LetterChange || TwoDifferentLetters(word));
+    };
     for (int i = 0; i < kMaxDraws; ++i) {
-        if (Len(WordAt(s, w.QuestionWord)) <= kMaxTileWord) return w.QuestionWord;
+        if (fits(WordAt(s, w.QuestionWord))) return w.QuestionWord;
         w.QuestionWord = DrawWord(s, rng);
     }
     return 0;
@@ -200,6 +214,9 @@ void SetupGame(SharedState& s, WheelState& w, Rng& rng) {
     w.SpinsLeft = kSpins;
     w.Spinning = false;
     w.WheelPos = 0;
+    // A Restart during the flash must not leave the first plate red or its marker lit.
+    w.FlashCount = 0;
+    w.flashRed = false;
     s.Score = 0;
     w.Command1 = "Click here to go to the wheel...";
     w.HeadLabel = "Wheel of Money!";
@@ -430,7 +447,7 @@ SlotStart StartSlot(SharedState& s, WheelState& w, Rng& rng) {
         }
         case Kind::TooMany:
         case Kind::LetterChange: {
-            if (DrawShortWord(s, w, rng) == 0) return NoWordFits(w);
+            if (DrawTileWord(s, w, rng) == 0) return NoWordFits(w);
             w.word = WordAt(s, w.QuestionWord);
             const int L = Len(w.word);
             ClearTiles(w);
@@ -463,7 +480,12 @@ SlotStart StartSlot(SharedState& s, WheelState& w, Rng& rng) {
                     a = draw();
                     b = draw();
                 }
-                if (UCase(Mid(w.word, a, 1)) == UCase(Mid(w.word, b, 1))) return NoWordFits(w);
+                if (UCase(Mid(w.word, a, 1)) == UCase(Mid(w.word, b, 1))) {
+                    // A stuck generator: the first letter and the first that differs from it.
+                    a = 1;
+                    b = 2;
+                    while (b < L && UCase(Mid(w.word, a, 1)) == UCase(Mid(w.word, b, 1))) ++b;
+                }
                 w.SwapFirst = a;
                 w.SwapSecond = b;
                 for (int p = 1; p <= L; ++p) {

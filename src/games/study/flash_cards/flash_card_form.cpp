@@ -47,6 +47,22 @@ void fitText(QLabel* l, int designed, bool bold) {
     }
     l->setFont(f);
 }
+// A white arrow head for the card buttons, pointing right or left; drawn, so that the button's
+// text stays the card's own words.
+QIcon arrowIcon(bool right) {
+    const int size = 64;
+    QPixmap pix(size, size);
+    pix.fill(Qt::transparent);
+    QPainter p(&pix);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(Qt::NoPen);
+    p.setBrush(Qt::white);
+    // The back of the head and its point, mirrored for the left arrow.
+    const double back = right ? size * 0.22 : size * 0.78, tip = right ? size * 0.82 : size * 0.18;
+    p.drawPolygon(QPolygonF{QPointF(back, size * 0.14), QPointF(tip, size / 2.0),
+                            QPointF(back, size * 0.86)});
+    return QIcon(pix);
+}
 }  // namespace
 
 FlashCardForm::FlashCardForm(QWidget* parent)
@@ -78,12 +94,15 @@ FlashCardForm::FlashCardForm(QWidget* parent)
 
     Frame1 = new QFrame(this);
     Frame1->setObjectName("Frame1");
-    Label2 = MakeButton(QString("Next Card  %1").arg(QChar(0x25B6)), Frame1);
+    Label2 = MakeButton("Next Card", Frame1);
+    Label2->setIcon(arrowIcon(true));
+    Label2->setLayoutDirection(Qt::RightToLeft);  // the arrow after the words
     Label2->setObjectName("Label2");
     connect(Label2, &QPushButton::clicked, this, &FlashCardForm::nextCard);
     Frame2 = new QFrame(this);
     Frame2->setObjectName("Frame2");
-    backlabel = MakeButton(QString("%1  Previous Card").arg(QChar(0x25C0)), Frame2);
+    backlabel = MakeButton("Previous Card", Frame2);
+    backlabel->setIcon(arrowIcon(false));
     backlabel->setObjectName("backlabel");
     connect(backlabel, &QPushButton::clicked, this, &FlashCardForm::previousCard);
     Frame2->hide();
@@ -226,6 +245,7 @@ void FlashCardForm::resizeEvent(QResizeEvent*) {
     MovieBox->setGeometry(covered->geometry().adjusted(-w / 80, -h / 80, w / 80, h / 80));
     const int rowY = TheDefinition->geometry().bottom() + h / 25;
     const int bh = Gimme->minimumHeight(), bw = w / 5;
+    for (QPushButton* b : {Label2, backlabel}) b->setIconSize(QSize(bh / 2, bh / 2));
     Frame2->setGeometry(x, rowY, bw, bh);
     backlabel->setGeometry(0, 0, bw, bh);
     Gimme->setGeometry((w - bw) / 2, rowY, bw, bh);

@@ -83,9 +83,10 @@ Quiz::Quiz(QWidget* parent)
     setObjectName("Quiz");
     setWindowTitle("Quiz");
     setFocusPolicy(Qt::StrongFocus);
-    // The quiz has Restart and Quit only.
+    // The quiz has Restart and Quit only, and no Escape: a stray key must not throw away a run.
     frame_.entry(GameFrame::Entry::Scores)->setVisible(false);
     frame_.entry(GameFrame::Entry::HowTo)->setVisible(false);
+    frame_.setEscapeQuits(false);
 
     Direct = new QLabel(this);
     Direct->setObjectName("Direct");

@@ -1,5 +1,6 @@
 // Word Zap on its screen: from the title through a timed round of hits to the initials the game
-// writes itself and the table, and a careless round that ends below zero.
+// writes itself and the table, and a careless round that ends below zero; the score caption
+// changes only on a hit.
 #include <QtTest>
 
 #include "core/score_table.h"
@@ -68,9 +69,11 @@ void WordZapScreenTest::roadToTheInitialsAndTheTable() {
     Shot(game, "word-zap");
     Click(game, game->targetRect(RightTarget(game)));  // the last of the round: a new deal
     QCOMPARE(game->gallery().definition, 1);
+    QCOMPARE(game->scoreText(), "Score: 2385");
     Click(game, QRect(game->field()->logicalSize().width() / 2, 20, 4, 4));  // the sky
     QCOMPARE(game->gallery().score, 1190.0 + 1000 - 5 + 200 - 100);
     QCOMPARE(fx.sound.played.last(), "shotmiss.wav");
+    QCOMPARE(game->scoreText(), "Score: 2385");  // a miss shows with the next hit
 
     WinDriver driver({"ZAP"});
     SetModalHook(std::ref(driver));
@@ -102,12 +105,22 @@ void WordZapScreenTest::carelessRoundEndsBelowZero() {
     Click(game, game->targetRect(other));
     QCOMPARE(game->gallery().score, -500.0);
     QVERIFY(game->gallery().targets[other].black);
+    QCOMPARE(game->scoreText(), "Score:  0000");  // the wrong target shows with the next hit
+    Pump(16 * 20);
+    Click(game, game->targetRect(RightTarget(game)));
+    QCOMPARE(game->gallery().score, -500.0 + 1000 - 20 + 200);
+    QCOMPARE(game->scoreText(), "Score: 680");
+    // Shots into the sky cost 100 each and leave the caption be.
+    for (int n = 0; n < 8; ++n)
+        Click(game, QRect(game->field()->logicalSize().width() / 2, 20, 4, 4));
+    QCOMPARE(game->gallery().score, -120.0);
+    QCOMPARE(game->scoreText(), "Score: 680");
     fx.dialogs.answerYes();
     const int round = game->frame().round();
     for (int n = 0; n < 62 && game->frame().round() == round; ++n) Pump(1000);
-    QVERIFY(
-        fx.dialogs.saw("Oops! You scored -500! Try to be more careful what you shoot next "
-                       "time! Would you like to try again?"));
+    QVERIFY2(fx.dialogs.saw("Oops! You scored -120! Try to be more careful what you shoot next "
+                            "time! Would you like to try again?"),
+             qPrintable(fx.dialogs.texts().join(" | ")));
     QCOMPARE(fx.dialogs.shown.back().title, "Not so great...");
     QVERIFY(game->readyShown());  // Yes: a new game waits for the start again
     QVERIFY(!QFile::exists(fx.path("scores/Word Zap.dat")) ||

@@ -40,7 +40,7 @@ TEST(LetterDropRules, WordChoiceUpperCasesAndSetsTheTiles) {
     ScriptedRng rng(0.5);
     rng.pick(1, 2).pick(2, 2).pick(1, 11);  // a long word is passed over
     Game g;
-    ASSERT_TRUE(g.setup(s, rng));
+    ASSERT_EQ(g.setup(s, rng), Setup::Ready);
     EXPECT_EQ(s.TheWord, "ROCK'N ROLL");
     EXPECT_EQ(s.TheMeaning, "meaning of rock'n roll");
     EXPECT_EQ(s.GameSpeed, 90);
@@ -58,26 +58,42 @@ TEST(LetterDropRules, FourteenLettersFillEveryTileAndFifteenAreRefused) {
     SharedState s = List({"ABCDEFGHIJKLMN"});
     ScriptedRng rng(0.1);
     Game g;
-    ASSERT_TRUE(g.setup(s, rng));
+    ASSERT_EQ(g.setup(s, rng), Setup::Ready);
     for (int i = 0; i < kTiles; ++i) EXPECT_TRUE(g.tileVisible(i)) << i;
     EXPECT_GE(g.tileLeft(0), 0);
     EXPECT_LE(g.tileLeft(kTiles - 1) + kTileW, kFieldW);
 
     SharedState longOnly = List({"ABCDEFGHIJKLMNO", "PQRSTUVWXYZABCDE", "LONGLONGLONGLONG"});
     ScriptedRng r2(0.3);
-    EXPECT_FALSE(g.setup(longOnly, r2));
+    EXPECT_EQ(g.setup(longOnly, r2), Setup::TooLong);
     EXPECT_EQ(r2.draws, 6);  // twice WordCount draws, then the list is given up
 }
 
-TEST(LetterDropRules, HyphensAndBlanksOnlyLeaveNothingToDrop) {
-    SharedState s = List({"- -"});
+TEST(LetterDropRules, AWordWithNothingToDropIsPassedOverForAnother) {
+    // Hyphens, apostrophes and blanks stand on their tiles: such a word is no game.
+    SharedState s = List({"- -", "a-b"});
     ScriptedRng rng(0.2);
+    rng.pick(1, 2).pick(2, 2);
     Game g;
-    ASSERT_TRUE(g.setup(s, rng));
-    EXPECT_EQ(g.lettersLeft(), 0);
-    EXPECT_TRUE(g.tileShows(0));
-    EXPECT_FALSE(g.tileVisible(1));
-    EXPECT_EQ(g.tick(s, {}, rng), Landing::None);  // nothing falls
+    ASSERT_EQ(g.setup(s, rng), Setup::Ready);
+    EXPECT_EQ(s.TheWord, "A-B");
+    EXPECT_EQ(s.TheMeaning, "meaning of a-b");
+    EXPECT_EQ(g.lettersLeft(), 2);
+    EXPECT_TRUE(g.tileShows(1));
+    EXPECT_NE(g.falling(), 0);
+
+    // None to drop on the whole list: said so after twice WordCount draws.
+    SharedState none = List({"- -", "' -", " "});
+    ScriptedRng r2(0.5);
+    EXPECT_EQ(g.setup(none, r2), Setup::NoLetters);
+    EXPECT_EQ(r2.draws, 6);
+    EXPECT_EQ(g.tick(none, {}, r2), Landing::None);  // nothing falls, nothing is won
+
+    // Long words and letterless ones: the letterless are what the pupil could have had.
+    SharedState mixed = List({"ABCDEFGHIJKLMNOP", "--"});
+    ScriptedRng r3(0.0);
+    r3.pick(1, 2).pick(2, 2).pick(1, 2).pick(1, 2);
+    EXPECT_EQ(g.setup(mixed, r3), Setup::NoLetters);
 }
 
 TEST(LetterDropRules, LandingTestAtTheTileEdges) {
@@ -90,7 +106,7 @@ TEST(LetterDropRules, LandingTestAtTheTileEdges) {
         SharedState s = List({"QZ"});
         ScriptedRng rng(0.0);  // the Q falls first
         Game g;
-        ASSERT_TRUE(g.setup(s, rng));
+        ASSERT_EQ(g.setup(s, rng), Setup::Ready);
         ASSERT_EQ(g.falling(), 'Q');
         const int x = g.tileLeft(0) + c.offset - kTileW / 2;
         const Landing l = DropAt(g, s, x, rng);
@@ -105,7 +121,7 @@ TEST(LetterDropRules, ALetterOnAFilledTileOrTheWrongOneIsAMiss) {
     SharedState s = List({"AA"});
     ScriptedRng rng(0.0);
     Game g;
-    ASSERT_TRUE(g.setup(s, rng));
+    ASSERT_EQ(g.setup(s, rng), Setup::Ready);
     ASSERT_EQ(DropAt(g, s, g.tileLeft(0), rng), Landing::Right);
     EXPECT_EQ(s.Score, 90 * 5);
     // The second A on the tile that already shows its letter.
@@ -120,7 +136,7 @@ TEST(LetterDropRules, KeysMoveByTheStepAndStopAtTheEdges) {
     SharedState s = List({"AB"}, 90);
     ScriptedRng rng(0.0);
     Game g;
-    ASSERT_TRUE(g.setup(s, rng));
+    ASSERT_EQ(g.setup(s, rng), Setup::Ready);
     const int step = 90 / 2 + 70;
     g.place(1000, kTopY);
     g.tick(s, {false, true, false}, rng);
@@ -145,7 +161,7 @@ TEST(LetterDropRules, SpeedRisesOnEveryRightLandingOnceFewerThanFiveAreLeft) {
     SharedState s = List({"ABCDEFG"}, 60);
     ScriptedRng rng(0.0);
     Game g;
-    ASSERT_TRUE(g.setup(s, rng));
+    ASSERT_EQ(g.setup(s, rng), Setup::Ready);
     std::vector<int> speeds;
     double score = 0;
     while (g.lettersLeft() > 0) {
@@ -162,7 +178,7 @@ TEST(LetterDropRules, FourMissesTurnTheHintOnAndOneRightLandingTurnsItOff) {
     SharedState s = List({"ABA"});
     ScriptedRng rng(0.0);
     Game g;
-    ASSERT_TRUE(g.setup(s, rng));
+    ASSERT_EQ(g.setup(s, rng), Setup::Ready);
     ASSERT_EQ(g.falling(), 'A');
     const int away = g.tileLeft(1);  // the B's tile
     for (int miss = 1; miss <= 4; ++miss) {

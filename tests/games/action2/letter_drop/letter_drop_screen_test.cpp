@@ -1,6 +1,6 @@
 // Letter Drop on its screen: from the title, letters steered with held keys onto their tiles, a
 // wrong landing that crumbles, the win to the table; a list of long words refused; a word with
-// nothing to drop.
+// nothing to drop passed over, and a list of such words refused.
 #include <QtTest>
 
 #include "game_road.h"
@@ -15,7 +15,7 @@ class LetterDropScreenTest : public QObject {
 private slots:
     void steerEveryLetterHomeToTheTable();
     void longWordsAreRefused();
-    void nothingToDropWinsAtOnceWithoutTheDefinition();
+    void aWordWithNothingToDropIsNeverPlayed();
     void closingTheScreenEndsTheProgram();
 };
 
@@ -126,23 +126,32 @@ void LetterDropScreenTest::longWordsAreRefused() {
     QVERIFY(Showing<Title>());
 }
 
-void LetterDropScreenTest::nothingToDropWinsAtOnceWithoutTheDefinition() {
+void LetterDropScreenTest::aWordWithNothingToDropIsNeverPlayed() {
     ShellFixture fx;
-    WriteOneList(fx, "Dashes", {{"- -", "only dashes"}});
-    auto* chooser = ChooserFor("Letter Drop", 90, false);
-    fx.dialogs.answerYes(false);
-    WinDriver driver;
-    SetModalHook(std::ref(driver));
-    QVERIFY(SelectList(chooser, "Dashes") >= 0);
-    chooser->continueOn();
-    QApplication::processEvents();  // the game is up; its clock has not moved
-    auto* game = Showing<LetterFall>();
+    // The dashes come up first and are passed over for a word with letters.
+    WriteOneList(fx, "Dashes", {{"- -", "only dashes"}, {"ox", "a strong animal"}});
+    fx.rng.pick(1, 2).pick(2, 2);
+    auto* game =
+        qobject_cast<LetterFall*>(ContinueWithList(ChooserFor("Letter Drop", 90, false), "Dashes"));
     QVERIFY(game);
     QVERIFY(!game->definition()->isVisible());
     Pump();
-    QCOMPARE(fx.dialogs.texts().filter("Click").size(), 1);
-    QVERIFY(fx.dialogs.saw("You got a high score of 0! Would you like to try again?"));
-    QVERIFY(fx.sound.played.isEmpty());
+    QCOMPARE(game->game().word(), "OX");
+    QCOMPARE(game->game().lettersLeft(), 2);
+    QCOMPARE(fx.dialogs.texts(), QStringList{"Click <OK> when you are ready to begin"});
+    QTest::keyClick(game, Qt::Key_Escape);
+    Pump();
+    QVERIFY(Showing<Title>());
+
+    // A list with nothing to drop says so and goes back to the title: no game, no score.
+    fx.dialogs.shown.clear();
+    WriteOneList(fx, "Dashes", {{"- -", "only dashes"}, {"'-'", "marks"}});
+    ContinueWithList(ChooserFor("Letter Drop", 90, true), "Dashes");
+    Pump();
+    QCOMPARE(fx.dialogs.texts(),
+             QStringList{"The words on this vocabulary list are either too long for this game or "
+                         "have no letters to drop. Please choose another list or another game."});
+    QCOMPARE(fx.dialogs.shown.back().title, "Letter Drop!");
     Pump();
     QVERIFY(Showing<Title>());
 }

@@ -1,5 +1,6 @@
 // Mini Golf on its screen: from the title, a putt into the right hole, the clock to the table;
-// and a putt into a wrong hole, the label's hint, and the ending that never reaches the table.
+// and a putt into a wrong hole, the label's hint, the score caption that waits for the right
+// hole, and the ending that never reaches the table.
 #include <QtTest>
 
 #include <cmath>
@@ -127,7 +128,8 @@ void MiniGolfScreenTest::wrongHoleEndsBelowZeroWithoutTheTable() {
     Putt(g, wrong);
     RollToRest(g);
     QCOMPARE(s.Score, -1000.0);
-    QCOMPARE(g->scoreLabel()->text(), QString("Score: -1000"));
+    // The caption changes only at the right hole: the cost shows with the next one.
+    QCOMPARE(g->scoreLabel()->text(), QString("Score: 00000"));
     QVERIFY(g->oopsLabel()->isVisible());
     QCOMPARE(g->oopsLabel()->text(), QString(kOops));
     QVERIFY(!g->ballShown());
@@ -142,6 +144,13 @@ void MiniGolfScreenTest::wrongHoleEndsBelowZeroWithoutTheTable() {
     QVERIFY(!g->oopsLabel()->isVisible());
     QVERIFY(g->ballShown());
     QCOMPARE(s.Score, -1000.0);
+    QCOMPARE(g->scoreLabel()->text(), QString("Score: 00000"));
+    // One stroke into the right hole: 500 at level 1 and a bonus of 100, after the 1000 lost.
+    Putt(g, g->course().rightHole());
+    RollToRest(g);
+    QCOMPARE(fx.sound.played.count("applause.wav"), 1);
+    QCOMPARE(s.Score, -400.0);
+    QCOMPARE(g->scoreLabel()->text(), QString("Score: -400"));
 
     WinDriver driver;
     SetModalHook(std::ref(driver));
@@ -149,11 +158,11 @@ void MiniGolfScreenTest::wrongHoleEndsBelowZeroWithoutTheTable() {
     for (int t = 0; t < 100 && Showing<MiniGolf>(); ++t) Pump(1000);
     QVERIFY(fx.dialogs.saw(kTimeUp));
     QCOMPARE(fx.dialogs.last(),
-             QString("Oops! You scored -1000! Try to be more careful next time! Would you like to "
+             QString("Oops! You scored -400! Try to be more careful next time! Would you like to "
                      "try again?"));
     QCOMPARE(fx.dialogs.shown.back().title, QString(kNotSoGreat));
     QVERIFY(driver.tables.isEmpty());
-    QVERIFY(!fx.read("scores/Mini Golf.dat").contains("1000"));
+    QVERIFY(!fx.read("scores/Mini Golf.dat").contains("400"));
     QVERIFY(Showing<Title>());
 }
 

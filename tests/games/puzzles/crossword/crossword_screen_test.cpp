@@ -1,6 +1,6 @@
 // Crossword on its screen: the road from the title to a win and the table, the road to a
 // negative score through Give Answer, the wait panel and Restart, the key guard on the button,
-// and a list that cannot be laid out.
+// a list that cannot be laid out, and blank cells with no stray numbers.
 #include <QtTest>
 
 #include "core/strings.h"
@@ -54,6 +54,7 @@ private slots:
     void firstRoundKeepsTheScoreAndRestartWaitsForTheLayout();
     void keyOnTheButtonNeverGivesTheAnswer();
     void listThatCannotCrossGoesBackToTheTitle();
+    void emptyCellsShowNoNumbers();
 };
 
 void CrosswordScreenTest::roadToAWinAndTheTable() {
@@ -222,6 +223,33 @@ void CrosswordScreenTest::listThatCannotCrossGoesBackToTheTitle() {
     QVERIFY(fx.dialogs.saw("Crossword creation failed. Please try another word list."));
     QVERIFY(Showing<Title>());
     QCOMPARE(int(Shared().Difficulty), 2);
+}
+
+void CrosswordScreenTest::emptyCellsShowNoNumbers() {
+    // The clues are read by clicking a word, never by a number: an empty white cell is blank
+    // inside its border, word starts included.
+    ShellFixture fx;
+    SeededRng rng(11);
+    SetRng(&rng);
+    auto* game = OpenCrossword(fx, false);
+    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+    const QImage shot = game->board()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const auto& b = game->state().board;
+    int checked = 0;
+    for (const WordPlace& w : PlacedWords(b)) {
+        QCOMPARE(b.colour[w.cell], cross::TileColour::White);
+        const QRect inside = game->board()->cellRect(w.cell).adjusted(4, 4, -4, -4);
+        for (int y = inside.top(); y <= inside.bottom(); ++y)
+            for (int x = inside.left(); x <= inside.right(); ++x)
+                QVERIFY2(shot.pixel(x, y) == qRgb(255, 255, 255),
+                         qPrintable(QString("ink at %1,%2 in the first cell of word %3")
+                                        .arg(x)
+                                        .arg(y)
+                                        .arg(w.index)));
+        ++checked;
+    }
+    QVERIFY(checked >= 2);
+    SetRng(nullptr);
 }
 
 QTEST_MAIN(CrosswordScreenTest)

@@ -278,7 +278,13 @@ void WordSearchScreenTest::menuIdleAfterTryAgain() {
         QCOMPARE(Showing<WordSearchForm>(), game);
     }
     QVERIFY(game->findChild<QAction*>("mnuHowTo")->isEnabled());
-    QTest::keyClick(game, Qt::Key_Escape);  // Escape still leaves
+    QTest::keyClick(game, Qt::Key_Escape);  // Escape acts as Quit: idle too
+    Pump();
+    QCOMPARE(Showing<WordSearchForm>(), game);
+    // The end of that game leaves as usual.
+    fx.dialogs.answerYes(false);
+    QVERIFY(FindAskedWord(game));
+    PumpThroughEnd(game, fx.dialogs);
     Pump();
     QVERIFY(Showing<Title>());
     SetRng(nullptr);

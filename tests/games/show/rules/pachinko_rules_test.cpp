@@ -117,7 +117,9 @@ TEST(PachinkoSlots, ValuesRichestAtTheEdgesAndTheDropZone) {
     EXPECT_FALSE(inDropZone(100, 300)) << "among the pins";
     EXPECT_FALSE(inDropZone(-30, -40)) << "outside the walls";
     EXPECT_FALSE(inDropZone(kBoardWidth - kDiskSize + 1, -40));
-    EXPECT_EQ(scoreLine(1234), "Score: 00001234");
+    EXPECT_EQ(kScoreStart, std::string("Score: 00000000"));  // before the first disk
+    EXPECT_EQ(scoreLine(1234), "Score: 1234");               // after: no leading zeros
+    EXPECT_EQ(scoreLine(15), "Score: 15");
 }
 
 TEST(PachinkoQuestions, FiveWordsAreEachAskedOnceWithFiveDistinctAnswers) {

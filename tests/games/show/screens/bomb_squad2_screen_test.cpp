@@ -1,5 +1,6 @@
 // Bomb Squad 2 on its screen: wiring every word to the table; a wrong definition and the clock
-// each to its own loser's box; the beeps turning high under ten seconds.
+// each to its own loser's box, the labels standing through the blast; the beeps turning high
+// under ten seconds; Restart's box.
 #include <QtTest>
 
 #include <cmath>
@@ -99,11 +100,23 @@ void BombSquad2ScreenTest::wrongDefinitionAndTimeOut() {
     clickOn(game, game->defLabels()[(defOf(game, 0) + 1) % 8]);
     QVERIFY(game->exploding());
     QVERIFY(game->bombMovie()->isVisible());
+    QVERIFY(!game->timeLabel()->isVisible());
+    // The blast takes the bomb and its clock only: the words and definitions stay.
+    for (int i = 0; i < 8; ++i) {
+        QVERIFY(game->wordLabels()[i]->isVisible());
+        QVERIFY(game->defLabels()[i]->isVisible());
+    }
     Pump(2000);
     QCOMPARE(fx.dialogs.last(),
              "You connected the wrong wire and set the bomb off! You lose. Would you like to give "
              "it another try?");
     QVERIFY(!game->exploding());
+    // Restart asks first, then deals again with a full clock.
+    Pump(3000);
+    QCOMPARE(game->timeLabel()->text(), "12");
+    QVERIFY(TriggerMenu(game, "RS"));
+    QCOMPARE(fx.dialogs.last(), "Click OK to reset the game");
+    QCOMPARE(game->timeLabel()->text(), "15");
     fx.dialogs.answerYes(false);
     Pump(15000);
     Pump(2000);

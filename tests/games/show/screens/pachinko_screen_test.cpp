@@ -74,6 +74,7 @@ void PachinkoScreenTest::earnDropAndScore() {
     QTest::keyClick(game, Qt::Key_Space);  // twice: the values stand
     Pump(100);
     QCOMPARE(game->slotValues(), locked);
+    QCOMPARE(game->scoreText(), "Score: 00000000");
     Shot(game, "pachinko-board");
 
     // Released outside the zone the disk goes home and can be picked up again.
@@ -100,9 +101,16 @@ void PachinkoScreenTest::earnDropAndScore() {
         QVERIFY(!game->falling());
         const QString scored = fx.dialogs.texts().filter("You scored ").last();
         expected += scored.section(' ', 2, 2).toDouble();
-        if (d < 2) QCOMPARE(Shared().Score, expected);
+        if (d < 2) {
+            QCOMPARE(Shared().Score, expected);
+            QCOMPARE(game->scoreText(), "Score: " + QString::number(expected));
+        }
     }
+    // The pins bleep without cutting a sound already playing.
     QVERIFY(fx.sound.played.contains("bleep2.wav"));
+    for (int i = 0; i < fx.sound.played.size(); ++i)
+        if (fx.sound.played[i] == "bleep2.wav")
+            QVERIFY(fx.sound.modes[i] == SoundMode::NoInterrupt);
     QCOMPARE(fx.sound.played.count("dingling.wav"), 3);
     QCOMPARE(Shared().Score, expected);
     QCOMPARE(driver.tables.size(), 1);

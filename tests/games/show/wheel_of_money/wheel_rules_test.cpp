@@ -77,6 +77,19 @@ TEST(Wheel, OnlyASpinningWheelStopsAndTwentyFlashesEndOnTheStartColour) {
     while (!Flash(w)) ++flashes;
     EXPECT_EQ(flashes + 1, 20);
     EXPECT_FALSE(w.flashRed);
+
+    // A Restart in the middle of the flash starts from a blue first plate with no marker lit.
+    WheelState x;
+    SetupGame(s, x, rng);
+    AnimationEnded(x);
+    ClickCommand(x);
+    StopWheel(x);
+    Flash(x);
+    ASSERT_TRUE(x.flashRed);
+    SetupGame(s, x, rng);
+    EXPECT_FALSE(x.flashRed);
+    EXPECT_EQ(x.FlashCount, 0);
+    EXPECT_EQ(x.WheelPos, 0);
 }
 
 TEST(Mystery, ThiefLeavesANegativeTotalAndFortuneBringsItBack) {
@@ -173,6 +186,21 @@ TEST(MiniGames, RightAnswerPaysThePrize) {
     EXPECT_EQ(w.Label1, "Great job! $20.00 has been added to your winnings!");
     EXPECT_FALSE(w.timer4);
     EXPECT_EQ(w.frame, Frame::None);
+}
+
+TEST(MiniGames, DefinitionMatchRedrawsOnlyTheQuestionWord) {
+    SharedState s = Animals(2);
+    ScriptedRng setup;
+    WheelState w = On(4, s, setup);
+    ScriptedRng rng;
+    rng.pick(1, 500).pick(3, 5).pick(1, 4);  // the prize, lion, the right choice first
+    // The wrong choices: lion again (drawn anew), zebra; otter; otter once more (kept).
+    rng.pick(3, 5).pick(1, 5).pick(2, 5).pick(2, 5);
+    StartSlot(s, w, rng);
+    EXPECT_EQ(w.question, "\"lion\"");
+    EXPECT_EQ(w.RightChoice, 0);
+    EXPECT_EQ(w.choices, (std::array<std::string, kChoices>{"a big cat", "a striped horse",
+                                                            "a river swimmer", "a river swimmer"}));
 }
 
 TEST(MiniGames, SpellItUsesALaterRuleForEachWrongLabel) {
@@ -288,9 +316,49 @@ TEST(MiniGames, WordsTooLongOrOfOneLetterEndTheSpinInsteadOfHanging) {
     EXPECT_EQ(w.NextAction, Action::ToWheel);
     EXPECT_EQ(w.SpinsLeft, 9);
 
-    SharedState same = ListOf({{"aaa", "x"}, {"bbb", "y"}, {"ccc", "z"}, {"ddd", "w"}});
+    SharedState same = ListOf({{"aaa", "x"}, {"bbb", "y"}, {"ccc", "z"}, {"Dd", "w"}});
     WheelState v = On(6, same, setup);
-    EXPECT_FALSE(StartSlot(same, v, rng).refusal.empty());
+    EXPECT_EQ(StartSlot(same, v, rng).refusal,
+              "None of the words on this list can be used for Letter Change! This spin is over. "
+              "Spin again for another game!");
+    EXPECT_EQ(v.Command1, "Click here give the wheel another spin...");
+
+    // On the last spin nothing offers another.
+    WheelState last = On(6, same, setup);
+    last.SpinsLeft = 1;
+    StartSlot(same, last, rng);
+    EXPECT_EQ(last.Label1,
+              "None of the words on this list can be used for Letter Change! That was your last "
+              "spin.");
+    EXPECT_EQ(last.Command1, "Click here to continue...");
+    EXPECT_EQ(last.NextAction, Action::EndGame);
+}
+
+TEST(MiniGames, LetterChangePassesOverAWordWithOneLetterForOneWithTwo) {
+    // "a" and "Aa" have no two letters to swap; "Otter" has.
+    SharedState s = ListOf({{"a", "x"}, {"Aa", "y"}, {"Otter", "a river swimmer"}, {"d", "z"}});
+    ScriptedRng setup;
+    WheelState w = On(6, s, setup);
+    ScriptedRng rng;
+    rng.pick(1, 500).pick(1, 4).pick(2, 4).pick(3, 4);  // the prize, then a, Aa and Otter
+    rng.pick(1, 5).pick(5, 5);
+    const SlotStart st = StartSlot(s, w, rng);
+    EXPECT_TRUE(st.refusal.empty());
+    EXPECT_EQ(w.word, "Otter");
+    EXPECT_EQ(w.question, "a river swimmer");
+    EXPECT_EQ((std::vector<std::string>(w.tiles.begin(), w.tiles.begin() + 5)),
+              (std::vector<std::string>{"r", "t", "t", "e", "O"}));
+    EXPECT_EQ(w.NextAction, Action::Letters);
+
+    // A generator stuck on one place still swaps two different letters.
+    SharedState t = ListOf({{"ooze", "mud"}, {"b", "x"}, {"c", "y"}, {"d", "z"}});
+    WheelState v = On(6, t, setup);
+    ScriptedRng stuck(0.0);
+    EXPECT_TRUE(StartSlot(t, v, stuck).refusal.empty());
+    EXPECT_EQ(v.SwapFirst, 1);
+    EXPECT_EQ(v.SwapSecond, 3);
+    EXPECT_EQ((std::vector<std::string>(v.tiles.begin(), v.tiles.begin() + 4)),
+              (std::vector<std::string>{"z", "o", "o", "e"}));
 }
 
 TEST(Clock, TimeOutNamesTheWordOnlyForTheLetterGamesAndRestartLeavesItRunning) {
@@ -311,6 +379,11 @@ TEST(Clock, TimeOutNamesTheWordOnlyForTheLetterGamesAndRestartLeavesItRunning) {
     EXPECT_EQ(w.Label1, "Oops! Your time ran out! Try to be a little faster next time!");
     EXPECT_EQ(w.NextAction, Action::ToWheel);
     EXPECT_EQ(w.SpinsLeft, 10);
+    // The intro still plays: the button shows but cannot be pressed until it ends.
+    EXPECT_TRUE(w.commandShown);
+    EXPECT_FALSE(w.commandEnabled);
+    AnimationEnded(w);
+    EXPECT_TRUE(w.commandEnabled);
 
     WheelState x = On(6, s, setup);
     ScriptedRng again(0.1);

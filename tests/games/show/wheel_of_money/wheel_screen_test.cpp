@@ -1,5 +1,6 @@
 // The show on its screen: a whole game of ten spins through all ten mini-games to the table,
-// the thief and the fortune with their animations, and the game that ends in the red.
+// the thief and the fortune with their animations, the game that ends in the red, and Restarts
+// in the flash and in a mini-game.
 #include <QLineEdit>
 #include <QtTest>
 
@@ -78,6 +79,7 @@ private slots:
     void tenSpinsThroughEveryMiniGameToTheTable();
     void thiefAndFortune();
     void aGameInTheRedEndsWithAdvice();
+    void restartLeavesNoFreeButtonNorRedPlate();
 };
 
 void WheelScreenTest::tenSpinsThroughEveryMiniGameToTheTable() {
@@ -179,6 +181,54 @@ void WheelScreenTest::aGameInTheRedEndsWithAdvice() {
              "Hmmm... maybe a bit more practice is needed before you're ready for this game. Go "
              "and learn your vocab words, then come back and try again later...");
     QVERIFY(Showing<Title>() != nullptr);
+}
+
+void WheelScreenTest::restartLeavesNoFreeButtonNorRedPlate() {
+    ShellFixture fx;
+    auto* game = qobject_cast<GameShowForm*>(
+        ContinueWithList(ChooserFor("Wheel of Money", 10, true), "Human Body ("));
+    QVERIFY(game);
+    Pump();
+    fx.rng.setFallback(0.1);
+    auto* scramble = game->findChild<QLabel*>("WheelLabel0");
+    QVERIFY(scramble);
+    const QString blue = scramble->styleSheet();
+
+    // A Restart during the flash: the next wheel shows "Scramble!" in blue, not red.
+    UntilButton(game);
+    game->clickCommand();
+    for (int i = 0; i < 200 && game->state().WheelPos != 4; ++i) Pump(16);
+    QTest::keyClick(game, Qt::Key_S);
+    Pump(50);
+    QVERIFY(game->state().flashRed);
+    QVERIFY(TriggerMenu(game, "RS"));
+    UntilButton(game);
+    game->clickCommand();
+    QVERIFY(game->state().Spinning);
+    QCOMPARE(scramble->styleSheet(), blue);
+
+    // A Restart inside a mini-game of three seconds: its countdown runs on and ends during the
+    // intro, and the big button stays locked until the intro is over.
+    for (int i = 0; i < 200 && game->state().WheelPos != 4; ++i) Pump(16);
+    QTest::keyClick(game, Qt::Key_S);
+    Pump(1100);
+    game->clickCommand();  // Definition Match, three seconds at level 10
+    QCOMPARE(game->state().frame, wheel::Frame::Choice);
+    Pump(1000);
+    QVERIFY(TriggerMenu(game, "RS"));
+    Pump(200);
+    QVERIFY(game->movieScreen()->isPlaying());
+    Pump(2000);
+    QCOMPARE(game->state().Label1, "Oops! Your time ran out! Try to be a little faster next time!");
+    for (int i = 0; i < 10 && game->movieScreen()->isPlaying(); ++i) {
+        QVERIFY(game->command()->isVisible());
+        QVERIFY(!game->command()->isEnabled());
+        Pump(100);
+    }
+    UntilButton(game);
+    QVERIFY(!game->movieScreen()->isVisible());
+    QVERIFY(game->command()->isEnabled());
+    QCOMPARE(scramble->styleSheet(), blue);
 }
 
 QTEST_MAIN(WheelScreenTest)

@@ -176,6 +176,11 @@ void FlashCardScreenTest::alphabeticalWithButtonsAndScrollBar() {
         ShellFixture fx;
         auto* cards = OpenCards(fx, 1, "A", false);
         QVERIFY(cards);
+        // The buttons say what they do; their arrows are pictures beside the words.
+        QCOMPARE(cards->Label2->text(), "Next Card");
+        QCOMPARE(cards->backlabel->text(), "Previous Card");
+        QVERIFY(!cards->Label2->icon().isNull());
+        QVERIFY(!cards->backlabel->icon().isNull());
         QStringList seen{word(cards)};
         while (!cards->Frame1->isHidden()) {
             QTest::mouseClick(cards->Label2, Qt::LeftButton);

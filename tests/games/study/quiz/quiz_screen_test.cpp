@@ -1,5 +1,6 @@
 // The quiz on its screens: the options screen and its Escape, a whole run of three questions
-// with one wrong answer through the results box back to the title, Restart in the middle of the
+// with one wrong answer through the results box back to the title (Escape on the way does
+// nothing), Restart in the middle of the
 // feedback, sound gated by SoundOn, and the layout with long meanings at two screen sizes.
 #include <QtTest>
 
@@ -114,6 +115,17 @@ void QuizScreenTest::wholeQuizWithOneWrongAnswer() {
     QVERIFY(quiz->findChild<QAction*>("RS"));
     QVERIFY(!quiz->findChild<QAction*>("HS")->isVisible());
     QVERIFY(!quiz->findChild<QAction*>("mnuHowTo")->isVisible());
+    // Escape on the quiz itself does nothing: the run goes on, no box asks.
+    const QPointer<Quiz> stays(quiz);
+    QTest::keyClick(quiz, Qt::Key_Escape);
+    Pump();
+    QVERIFY(stays);
+    QTest::keyClick(quiz->answers()[0], Qt::Key_Escape);
+    Pump();
+    QVERIFY(stays);
+    QCOMPARE(Showing<Quiz>(), quiz);
+    QVERIFY(fx.dialogs.shown.empty());
+    QCOMPARE(remaining->text(), "2");
 
     // 1: right.
     const int right1 = quiz->run().CorrectChoice - 1;
