@@ -101,7 +101,12 @@ TEST(SoundRecipe, RangesDrawPerCopyAndFollowTheSeed) {
     // Three copies of one fixed voice would sound as one; drawn copies do not.
     const auto one = sound("sound length=1\nvoice freq=200 len=0.8 amp=0.1");
     const auto three = sound("sound length=1\nvoice count=3 freq=200 len=0.8 amp=0.1");
-    EXPECT_EQ(one, three);  // normalised to the same peak
+    // Normalised to the same peak: the same sound, but for the last bit of rounding.
+    ASSERT_EQ(one.size(), three.size());
+    int apart = 0;
+    for (std::size_t i = 0; i < one.size(); ++i)
+        apart = std::max(apart, std::abs(int(one[i]) - int(three[i])));
+    EXPECT_LE(apart, 1);
     EXPECT_NE(one, sound(crowd.arg(3).arg(5)));
 }
 

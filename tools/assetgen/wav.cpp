@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <vector>
 
 namespace wm::assetgen {
 
@@ -61,6 +62,23 @@ std::vector<std::pair<double, double>> harmonics(int count, double tilt) {
 Synth::Synth(double seconds)
     : buffer_(static_cast<size_t>(std::max(0.0, seconds) * kSampleRate), 0.0f) {}
 
+namespace {
+// A sine from a table with linear steps between entries: far inside what a 16-bit sample can
+// tell, and several times quicker than std::sin, which the many partials of the effects call
+// millions of times. `phase` is in [0, 2 pi).
+double tableSin(double phase) {
+    constexpr int kSize = 4096;
+    static const std::vector<double> table = [] {
+        std::vector<double> t(kSize + 1);
+        for (int i = 0; i <= kSize; ++i) t[i] = std::sin(kTwoPi * i / kSize);
+        return t;
+    }();
+    const double x = phase * (kSize / kTwoPi);
+    const int i = std::min(static_cast<int>(x), kSize - 1);
+    return table[i] + (table[i + 1] - table[i]) * (x - i);
+}
+}  // namespace
+
 void Synth::tone(const Tone& t) {
     const int first = static_cast<int>(t.start * kSampleRate);
     const int count = static_cast<int>(t.length * kSampleRate);
@@ -81,13 +99,14 @@ void Synth::tone(const Tone& t) {
         if (t.bend) semis += t.bend(time);
         const double f = t.freq * std::exp(glide * u) * std::pow(2.0, semis / 12);
         double v = 0;
-        for (size_t k = 0; k < t.partials.size(); ++k) {
+        // Partial k fades as exp(-brightDecay * k * time): one exp a sample, raised by steps.
+        const double fade = t.brightDecay > 0 ? std::exp(-t.brightDecay * time) : 1.0;
+        double faded = 1.0;
+        for (size_t k = 0; k < t.partials.size(); ++k, faded *= fade) {
             const auto [ratio, amp] = t.partials[k];
-            phase[k] += kTwoPi * f * ratio / kSampleRate;
-            if (f * ratio >= nyquist) continue;
-            double a = amp;
-            if (t.brightDecay > 0) a *= std::exp(-t.brightDecay * static_cast<double>(k) * time);
-            v += a * std::sin(phase[k]);
+            phase[k] = std::fmod(phase[k] + kTwoPi * f * ratio / kSampleRate, kTwoPi);
+            if (f * ratio >= nyquist || amp * faded < 1e-5) continue;
+            v += amp * faded * tableSin(phase[k]);
         }
         double level = t.amp * envelope(time, t.length, t.attack, t.decay, t.release);
         if (t.swell) level *= t.swell(u);
