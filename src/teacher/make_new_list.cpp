@@ -110,8 +110,12 @@ void MakeNewList::refreshLabels() {
 }
 
 bool MakeNewList::tryAdd() {
-    const std::string w = fromQ(TheWord->text());
-    const std::string m = fromQ(TheMeaning->text());
+    const std::optional<std::string> word = StorableText(TheWord->text(), TheWord);
+    if (!word) return false;
+    const std::optional<std::string> meaning = StorableText(TheMeaning->text(), TheMeaning);
+    if (!meaning) return false;
+    const std::string& w = *word;
+    const std::string& m = *meaning;
     const PairCheck check = CheckPair(pairs_, w, m, wordsOnly_);
     if (check.clash != Clash::None) {
         dialogs().message(toQ(check.message));
@@ -121,7 +125,7 @@ bool MakeNewList::tryAdd() {
         return false;
     }
     pairs_.emplace_back(w, m);
-    WordList1->addItem(TheWord->text());
+    WordList1->addItem(toQ(w));
     TheWord->clear();
     TheMeaning->setText(wordsOnly_ ? kWordsOnlyMarker : "");
     refreshLabels();
@@ -202,9 +206,11 @@ void MakeNewList::renameList() {
     std::optional<QString> typed = dialogs().input("What would you like to name this list?",
                                                    "Change Vocabulary List Name", toQ(name_));
     if (!typed) return;
+    const std::optional<std::string> storable = StorableText(*typed);
+    if (!storable) return;
     std::string refusal;
     if (!Guarded([&] {
-            refusal = RenameRefusal(name_, fromQ(*typed),
+            refusal = RenameRefusal(name_, *storable,
                                     [](const std::string& n) { return NameExists(ListPath(), n); });
         }))
         return;
@@ -212,7 +218,7 @@ void MakeNewList::renameList() {
         dialogs().message(toQ(refusal));
         return;
     }
-    name_ = Trim(fromQ(*typed));
+    name_ = Trim(*storable);
     Shared().CurrentListName = name_;
     nameLabel_->setText(toQ(name_));
     setWindowTitle(toQ(name_));
