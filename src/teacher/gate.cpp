@@ -124,7 +124,9 @@ void ChangePassword::confirm() {
     Command1->hide();
     Command2->hide();
     Command3->show();
+    // Done takes the keyboard from the hidden boxes: Enter closes the box.
     Command3->setDefault(true);
+    Command3->setFocus();
     Success->show();
     Beep();
 }

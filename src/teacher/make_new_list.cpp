@@ -90,6 +90,9 @@ MakeNewList::MakeNewList(QWidget* parent) : Backdrop("images/wm-back.jpg", paren
     connect(TheMeaning, &QLineEdit::returnPressed, this, &MakeNewList::meaningEntered);
     connect(WordList1, &QListWidget::itemDoubleClicked, this, &MakeNewList::editWord);
     refreshLabels();
+    // The screen takes the focus as it is shown; it passes it on to the word, so the teacher
+    // can type (and press Enter) at once.
+    setFocusProxy(TheWord);
     TheWord->setFocus();
 }
 
@@ -199,6 +202,9 @@ void MakeNewList::editWord() {
     pairs_.erase(pairs_.begin() + row);
     delete WordList1->takeItem(row);
     refreshLabels();
+    // The screen takes the focus as it is shown; it passes it on to the word, so the teacher
+    // can type (and press Enter) at once.
+    setFocusProxy(TheWord);
     TheWord->setFocus();
 }
 

@@ -107,9 +107,9 @@ std::optional<std::string> StorableText(const QString& typed, QLineEdit* box) {
 
 std::optional<std::string> StorablePassword(const QString& typed, QLineEdit* box) {
     if (FitsCodePage(typed)) return fromQ(typed);
-    return Refused(QString("The new password %1. Please choose a password without them.")
-                       .arg(kCannotStore),
-                   box);
+    return Refused(
+        QString("The new password %1. Please choose a password without them.").arg(kCannotStore),
+        box);
 }
 
 void EnterMovesOn(const QList<QLineEdit*>& boxes) {

@@ -9,6 +9,7 @@
 #include <QtTest>
 
 #include "core/category_file.h"
+#include "platform/text.h"
 #include "teacher/build_list_form.h"
 #include "teacher/categories.h"
 #include "teacher/create_list.h"
@@ -28,8 +29,8 @@ using namespace wm::test;
 
 namespace {
 
-const QStringList kLists = {"Animals", "cat",   "a pet", "dog",       "a loyal pet",
-                            "<New List>", "Trees", "oak", "a big tree"};
+const QStringList kLists = {"Animals",    "cat",   "a pet", "dog",       "a loyal pet",
+                            "<New List>", "Trees", "oak",   "a big tree"};
 const QString kAcute = QString(QChar(0x0301));  // a combining accent, as sent apart
 const char* kCannotStore =
     "has characters this program cannot store (it keeps Western European letters only)";
@@ -62,7 +63,7 @@ EditList* OpenEditor(const QString& list) {
 
 MakeNewList* OpenMaker(const QString& name, bool wordsOnly = false) {
     SharedState& s = Shared();
-    s.NewListName = name.toStdString();
+    s.NewListName = fromQ(name);
     s.WordsOnly = wordsOnly ? kTrue : kFalse;
     s.ListLanguage.clear();
     return qobject_cast<MakeNewList*>(OpenScreen("MakeNewList"));
@@ -117,10 +118,10 @@ void TeacherTypingTest::everyBoxPressesItsOkOnEnter() {
 void TeacherTypingTest::addWordByKeys_data() {
     QTest::addColumn<bool>("wordsOnly");
     QTest::addColumn<QStringList>("lines");
-    QTest::newRow("with definitions") << false << QStringList{"cat", "a pet", "dog", "a loyal pet",
-                                                              "owl", "a wise bird"};
-    QTest::newRow("words only") << true << QStringList{"cat", "-----", "dog", "-----", "owl",
-                                                       "-----"};
+    QTest::newRow("with definitions")
+        << false << QStringList{"cat", "a pet", "dog", "a loyal pet", "owl", "a wise bird"};
+    QTest::newRow("words only") << true
+                                << QStringList{"cat", "-----", "dog", "-----", "owl", "-----"};
 }
 
 // Enter in the word moves on to the definition; Enter there is OK, which beeps and stays while a
@@ -168,6 +169,7 @@ void TeacherTypingTest::editWordByKeys() {
     f.then<WordBox>([&](WordBox& box) {
         QCOMPARE(box.objectName(), "EditWord");
         QCOMPARE(Focused(&box), box.word());
+        QTest::keyClick(box.word(), Qt::Key_End);
         Type(&box, "s");
         Enter(&box);
         QVERIFY(box.isVisible());
@@ -351,15 +353,15 @@ void TeacherTypingTest::accentTypedApartIsStoredComposed() {
     QCOMPARE(create.result(), int(QDialog::Accepted));
     QCOMPARE(Shared().NewListName, "caf\xE9");
 
-    MakeNewList* m = OpenMaker(QString::fromStdString(Shared().NewListName));
+    MakeNewList* m = OpenMaker(toQ(Shared().NewListName));
     m->word()->setText(creme);
     m->meaning()->setText(cafe + " au lait");
     m->addWord();
     QCOMPARE(m->words()->item(0)->text(), QString::fromUtf8("crème"));
     f.dialogs.answerYes();
     m->saveAndQuit();
-    QCOMPARE(f.lists(),
-             f.crlf(kLists) + QByteArray("<New List>\r\ncaf\xE9\r\ncr\xE8me\r\ncaf\xE9 au lait\r\n"));
+    QCOMPARE(f.lists(), f.crlf(kLists) +
+                            QByteArray("<New List>\r\ncaf\xE9\r\ncr\xE8me\r\ncaf\xE9 au lait\r\n"));
 
     EditList* edit = OpenEditor("Animals");
     f.then<WordBox>([&](WordBox& box) {
@@ -372,8 +374,9 @@ void TeacherTypingTest::accentTypedApartIsStoredComposed() {
     edit->renameList();
     f.dialogs.answerYes();
     edit->saveAndQuit();
-    QVERIFY(f.lists().endsWith("<New List>\r\nAnim\xE0ux\r\ncat\r\na pet\r\ndog\r\na loyal pet\r\n"
-                               "v\xE9lo\r\na bike\r\n"));
+    QVERIFY(
+        f.lists().endsWith("<New List>\r\nAnim\xE0ux\r\ncat\r\na pet\r\ndog\r\na loyal pet\r\n"
+                           "v\xE9lo\r\na bike\r\n"));
 
     {
         Categories c;
