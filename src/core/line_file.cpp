@@ -140,9 +140,8 @@ void WriteBytesAtomic(const std::string& path, const std::string& bytes) {
     struct stat old {};
     if (::stat(target.c_str(), &old) == 0) {
         if (::fchmod(fd, old.st_mode & 07777) != 0) fail("written", errno);
-        if (::fchown(fd, static_cast<uid_t>(-1), old.st_gid) != 0) {
-            // A teacher outside that group cannot hand the file to it; the file stays theirs.
-        }
+        // A teacher outside that group cannot hand the file to it; it then stays in theirs.
+        [[maybe_unused]] const int grouped = ::fchown(fd, static_cast<uid_t>(-1), old.st_gid);
     } else if (::fchmod(fd, FreshFileMode()) != 0) {
         fail("written", errno);
     }

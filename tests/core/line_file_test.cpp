@@ -95,11 +95,29 @@ TEST(LineFile, FailedWriteKeepsTheOldFileAndLeavesNoTemporary) {
     small.rlim_cur = 64;
     auto* oldHandler = std::signal(SIGXFSZ, SIG_IGN);
     ::setrlimit(RLIMIT_FSIZE, &small);
-    EXPECT_THROW(WriteLinesAtomic(dir.file("a.dat"), {std::string(1000, 'x')}), FileError);
+    std::string message;
+    try {
+        WriteLinesAtomic(dir.file("a.dat"), {std::string(1000, 'x')});
+    } catch (const FileError& e) {
+        message = e.what();
+    }
     ::setrlimit(RLIMIT_FSIZE, &before);
     std::signal(SIGXFSZ, oldHandler);
+    EXPECT_EQ(message, "The file " + dir.file("a.dat") + " cannot be written: File too large");
     EXPECT_EQ(dir.read("a.dat"), "keep\r\n");
     EXPECT_EQ(FilesIn(dir), std::vector<std::string>{"a.dat"});
+    // A folder standing at the name: all is written, and the rename fails.
+    std::filesystem::create_directories(dir.file("b.dat/inside"));
+    try {
+        WriteLinesAtomic(dir.file("b.dat"), {"x"});
+        ADD_FAILURE() << "no error";
+    } catch (const FileError& e) {
+        EXPECT_EQ(std::string(e.what()).rfind(
+                      "The file " + dir.file("b.dat") + " cannot be replaced: ", 0),
+                  0u)
+            << e.what();
+    }
+    EXPECT_EQ(FilesIn(dir), (std::vector<std::string>{"a.dat", "b.dat"}));
     // A folder that is not there names the file.
     try {
         WriteLinesAtomic(dir.file("gone/b.dat"), {"x"});
