@@ -23,7 +23,9 @@ bool IsLocked(const std::string& folderFilePath) {
 }
 
 std::vector<std::string> ReadCategoryLines(const std::string& folderFilePath) {
-    // Readers are never blocked by the lock: they read the .lok name instead.
+    // Readers are never blocked by the lock: they read the .lok name instead. The test is on
+    // the name, so a path to a file not named exactly folders.dat always reads its .lok name,
+    // present or not. Deliberately kept: the editor refuses such a file rather than save over it.
     std::string path = folderFilePath;
     if (IsLocked(folderFilePath)) path = LockName(folderFilePath);
     if (!FileExists(path)) return {};
@@ -61,7 +63,19 @@ std::vector<std::string> CollectLists(const std::vector<std::string>& lines,
     return kept;
 }
 
+std::string CategoryEditRefusal(const std::string& folderFilePath) {
+    if (!FileExists(folderFilePath) || FileNameOf(folderFilePath) == kFolderFileName) return {};
+    return "The category file " + folderFilePath + " cannot be edited, because it is not named " +
+           kFolderFileName +
+           ": its categories cannot be read safely while it is locked. Rename it to " +
+           kFolderFileName +
+           " (and change its path in the settings file to match), then try again. The file has "
+           "not been changed.";
+}
+
 void LockCategories(const std::string& folderFilePath) {
+    const std::string refusal = CategoryEditRefusal(folderFilePath);
+    if (!refusal.empty()) throw FileError(folderFilePath, refusal);
     if (FileExists(folderFilePath)) RenameFile(folderFilePath, LockName(folderFilePath));
 }
 
@@ -72,6 +86,8 @@ void UnlockCategories(const std::string& folderFilePath) {
 
 void SaveAndUnlockCategories(const std::string& folderFilePath,
                              const std::vector<std::string>& lines) {
+    const std::string refusal = CategoryEditRefusal(folderFilePath);
+    if (!refusal.empty()) throw FileError(folderFilePath, refusal);
     const std::string lok = LockName(folderFilePath);
     WriteLinesAtomic(lok, lines);
     RenameFile(lok, folderFilePath);

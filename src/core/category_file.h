@@ -21,9 +21,16 @@ std::vector<std::string> CategoryNames(const std::vector<std::string>& lines);
 std::vector<std::string> CollectLists(const std::vector<std::string>& lines,
                                       const std::string& category);
 bool IsLocked(const std::string& folderFilePath);  // not under its own name
+// Why the category editor may not take this file, or "" when it may. The editor reads like
+// every reader and then saves over the file at the path; a file not named folders.dat is read
+// under its .lok name, so its own categories were never read and a save would wipe them.
+std::string CategoryEditRefusal(const std::string& folderFilePath);
+// Renames the file to its .lok name. Throws FileError, renaming nothing, when the editor may
+// not take the file (see CategoryEditRefusal).
 void LockCategories(const std::string& folderFilePath);
 void UnlockCategories(const std::string& folderFilePath);
-// Writes the lines to the .lok name and renames it back.
+// Writes the lines to the .lok name and renames it back. Throws FileError, writing nothing,
+// over a file the editor may not take.
 void SaveAndUnlockCategories(const std::string& folderFilePath,
                              const std::vector<std::string>& lines);
 // Removes every line equal to `name`, only when the file is present and not locked.

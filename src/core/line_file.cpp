@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -83,34 +85,87 @@ std::string JoinLines(const std::vector<std::string>& lines) {
     return out;
 }
 
+namespace {
+
+[[noreturn]] void WriteFailed(const std::string& path, const char* how, int err) {
+    throw FileError(path, "The file " + path + " cannot be " + how + ": " + std::strerror(err));
+}
+
+// A save killed half-way leaves its temporary file. One that has not been touched for an hour
+// is no save in progress, from here or from another installation sharing the folder.
+void RemoveStaleTemporaries(const std::string& folder, const std::string& name) {
+    const std::string prefix = "." + name + ".";
+    const auto stale = fs::file_time_type::clock::now() - std::chrono::hours(1);
+    std::error_code ec;
+    for (fs::directory_iterator it(folder, ec), end; !ec && it != end; it.increment(ec)) {
+        const std::string entry = it->path().filename().string();
+        if (entry.size() != prefix.size() + 6 || entry.compare(0, prefix.size(), prefix) != 0)
+            continue;
+        std::error_code timeEc;
+        const auto written = fs::last_write_time(it->path(), timeEc);
+        if (!timeEc && written < stale && it->is_regular_file(timeEc))
+            fs::remove(it->path(), timeEc);
+    }
+}
+
+// The mode a file made afresh gets from open(): 0666 less the umask.
+mode_t FreshFileMode() {
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return 0666 & ~mask;
+}
+
+}  // namespace
+
 void WriteBytesAtomic(const std::string& path, const std::string& bytes) {
-    const std::string temp = JoinPath(FolderOf(path), "." + FileNameOf(path) + ".tmp");
-    int fd = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
-    if (fd < 0) {
-        throw FileError(path, "The file " + path + " cannot be written: " + std::strerror(errno));
+    // A linked name stays a link: the file it points at is the one replaced.
+    std::string target = path;
+    std::error_code ec;
+    if (fs::is_symlink(path, ec)) {
+        const fs::path real = fs::canonical(path, ec);
+        if (!ec) target = real.string();
+    }
+    // A name of its own for every save: two installations saving the shared list file at the
+    // same moment each write their own temporary file, and the last rename wins whole.
+    std::string temp = JoinPath(FolderOf(target), "." + FileNameOf(target) + ".XXXXXX");
+    int fd = ::mkostemp(temp.data(), O_CLOEXEC);
+    if (fd < 0) WriteFailed(path, "written", errno);
+    auto fail = [&](const char* how, int err) {
+        if (fd >= 0) ::close(fd);
+        ::unlink(temp.c_str());
+        WriteFailed(path, how, err);
+    };
+    // The new file keeps the old one's permissions and group, so a list file shared with a
+    // group stays writable for the group.
+    struct stat old {};
+    if (::stat(target.c_str(), &old) == 0) {
+        if (::fchmod(fd, old.st_mode & 07777) != 0) fail("written", errno);
+        // A teacher outside that group cannot hand the file to it; it then stays in theirs.
+        [[maybe_unused]] const int grouped = ::fchown(fd, static_cast<uid_t>(-1), old.st_gid);
+    } else if (::fchmod(fd, FreshFileMode()) != 0) {
+        fail("written", errno);
     }
     std::size_t done = 0;
     while (done < bytes.size()) {
         ssize_t n = ::write(fd, bytes.data() + done, bytes.size() - done);
         if (n < 0) {
             if (errno == EINTR) continue;
-            int err = errno;
-            ::close(fd);
-            ::unlink(temp.c_str());
-            throw FileError(path, "The file " + path + " cannot be written: " + std::strerror(err));
+            fail("written", errno);
         }
         done += static_cast<std::size_t>(n);
     }
-    if (::fsync(fd) != 0 || ::close(fd) != 0) {
-        int err = errno;
-        ::unlink(temp.c_str());
-        throw FileError(path, "The file " + path + " cannot be written: " + std::strerror(err));
+    if (::fsync(fd) != 0) fail("written", errno);
+    const int closed = ::close(fd);
+    fd = -1;
+    if (closed != 0) fail("written", errno);
+    if (::rename(temp.c_str(), target.c_str()) != 0) fail("replaced", errno);
+    // The rename itself reaches the disk with the folder.
+    int dir = ::open(FolderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (dir >= 0) {
+        ::fsync(dir);
+        ::close(dir);
     }
-    if (::rename(temp.c_str(), path.c_str()) != 0) {
-        int err = errno;
-        ::unlink(temp.c_str());
-        throw FileError(path, "The file " + path + " cannot be replaced: " + std::strerror(err));
-    }
+    RemoveStaleTemporaries(FolderOf(target), FileNameOf(target));
 }
 
 void WriteLinesAtomic(const std::string& path, const std::vector<std::string>& lines) {

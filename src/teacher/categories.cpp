@@ -60,6 +60,11 @@ Categories::Categories(QWidget* parent) : QDialog(parent) {
     connect(List2, &QListWidget::itemChanged, this, &Categories::boxChanged);
 
     std::vector<std::string> names;
+    if (const std::string refusal = CategoryEditRefusal(FolderPath()); !refusal.empty()) {
+        // Categories that were not read are never written over.
+        dialogs().message(toQ(refusal), "Categories");
+        return;
+    }
     locked_ = Guarded([&] {
         for (const auto& l : ReadCategoryLines(FolderPath())) {
             const std::string t = Trim(l);
@@ -174,7 +179,9 @@ void Categories::boxChanged(QListWidgetItem* item) {
 void Categories::addCategory() {
     std::optional<QString> typed = dialogs().input("Type the name for your new category:");
     if (!typed || typed->trimmed().isEmpty()) return;
-    HoldLIst.push_back("^" + fromQ(*typed));
+    const std::optional<std::string> storable = StorableText(*typed);
+    if (!storable) return;
+    HoldLIst.push_back("^" + *storable);
     fillCategories();
     {
         QSignalBlocker block(List1);
@@ -206,6 +213,8 @@ void Categories::deleteCategory() {
 }
 
 void Categories::save() {
+    // Categories that could not be read are not saved over the file.
+    if (!locked_) return;
     if (!dialogs().yesNo("Are you ready to save your changes and close this screen?")) return;
     if (!Guarded([&] { SaveAndUnlockCategories(FolderPath(), HoldLIst); })) return;
     locked_ = false;

@@ -91,11 +91,13 @@ void CreateList::confirm() {
             "selection box...");
         return;
     }
-    const std::string typed = fromQ(NewName->text());
-    if (Trim(typed).empty()) {
+    if (Trim(fromQ(NewName->text())).empty()) {
         dialogs().message("Type a name for your list before you continue...");
         return;
     }
+    const std::optional<std::string> storable = StorableText(NewName->text(), NewName);
+    if (!storable) return;
+    const std::string typed = *storable;
     bool taken = false;
     if (!Guarded([&] { taken = NameExists(ListPath(), typed); })) return;
     if (taken) {

@@ -35,6 +35,8 @@ DeleteList::DeleteList(QWidget* parent) : QDialog(parent) {
     Command1 = NamedButton("Command1", "Delete", this, true);
     No = NamedButton("No", "No", this);
     Yes = NamedButton("Yes", "Yes", this, true);
+    // Enter asks to delete; it never answers the question itself, which stays a click.
+    Command1->setDefault(true);
     row->addWidget(Command2);
     row->addWidget(No);
     row->addStretch();

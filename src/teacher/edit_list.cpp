@@ -160,9 +160,11 @@ void EditList::renameList() {
     std::optional<QString> typed = dialogs().input("What would you like to name this list?",
                                                    "Change Vocabulary List Name", toQ(plain));
     if (!typed) return;
+    const std::optional<std::string> storable = StorableText(*typed);
+    if (!storable) return;
     std::string refusal;
     if (!Guarded([&] {
-            refusal = RenameRefusal(plain, fromQ(*typed),
+            refusal = RenameRefusal(plain, *storable,
                                     [](const std::string& n) { return NameExists(ListPath(), n); });
         }))
         return;
@@ -173,7 +175,7 @@ void EditList::renameList() {
     // A foreign list keeps its language; the new name is only written by the save.
     const std::string prefix =
         caption_.size() > 4 && HasPrefix(caption_) ? caption_.substr(0, 3) : "";
-    caption_ = prefix + Trim(fromQ(*typed));
+    caption_ = prefix + Trim(*storable);
     nameLabel_->setText(toQ(caption_));
     setWindowTitle(toQ(caption_));
     dialogs().message("List name changed successfully.");

@@ -88,6 +88,7 @@ ChangePassword::ChangePassword(QWidget* parent) : QDialog(parent) {
     Command1 = NamedButton("Command1", "Change Password", this, true);
     Command3 = NamedButton("Command3", "Done", this, true);
     Command3->hide();
+    Command1->setDefault(true);
     row->addWidget(Command2);
     row->addStretch();
     row->addWidget(Command1);
@@ -96,6 +97,8 @@ ChangePassword::ChangePassword(QWidget* parent) : QDialog(parent) {
     connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
     connect(Command3, &QPushButton::clicked, this, &QDialog::accept);
     connect(Command1, &QPushButton::clicked, this, &ChangePassword::confirm);
+    EnterMovesOn({Text1[0], Text1[1], Text1[2]});
+    Text1[0]->setFocus();
     WidenToScreen(this, 0.4);
 }
 
@@ -105,10 +108,14 @@ void ChangePassword::confirm() {
     const std::string again = fromQ(Text1[2]->text());
     std::string stored;
     if (!Guarded([&] { stored = ReadSettings(Shared().AppPath).password(); })) return;
-    if (old.empty() || fresh.empty() || again.empty() || fresh != again || old != stored) {
+    // A character the file cannot hold never matches what it holds.
+    const bool oldFits = FitsCodePage(Text1[0]->text());
+    if (old.empty() || fresh.empty() || again.empty() || fresh != again || old != stored ||
+        !oldFits) {
         dialogs().message("One or more fields contains incorrect information. Please try again.");
         return;
     }
+    if (!StorablePassword(Text1[1]->text(), Text1[1])) return;
     if (!Guarded([&] { RewriteSettingsLine(Shared().AppPath, kPasswordLine, fresh); })) return;
     for (int i = 0; i < 3; ++i) {
         Text1[i]->hide();
@@ -117,6 +124,9 @@ void ChangePassword::confirm() {
     Command1->hide();
     Command2->hide();
     Command3->show();
+    // Done takes the keyboard from the hidden boxes: Enter closes the box.
+    Command3->setDefault(true);
+    Command3->setFocus();
     Success->show();
     Beep();
 }

@@ -6,6 +6,8 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
+#include "platform/text.h"
+
 namespace wm {
 
 namespace {
@@ -32,14 +34,6 @@ QString Decode(const QByteArray& bytes) {
     // Not UTF-8: the files this program writes itself are Windows-1252.
     QStringDecoder cp1252("windows-1252");
     return cp1252(bytes);
-}
-
-bool FitsCodePage(const QString& text) {
-    // A character the code page lacks does not survive the trip there and back.
-    QStringEncoder encode("windows-1252");
-    const QByteArray bytes = encode(text);
-    QStringDecoder decode("windows-1252");
-    return !encode.hasError() && QString(decode(bytes)) == text;
 }
 
 // Line breaks inside a quoted field cannot live in a line-based list.

@@ -90,6 +90,9 @@ MakeNewList::MakeNewList(QWidget* parent) : Backdrop("images/wm-back.jpg", paren
     connect(TheMeaning, &QLineEdit::returnPressed, this, &MakeNewList::meaningEntered);
     connect(WordList1, &QListWidget::itemDoubleClicked, this, &MakeNewList::editWord);
     refreshLabels();
+    // The screen takes the focus as it is shown; it passes it on to the word, so the teacher
+    // can type (and press Enter) at once.
+    setFocusProxy(TheWord);
     TheWord->setFocus();
 }
 
@@ -110,8 +113,12 @@ void MakeNewList::refreshLabels() {
 }
 
 bool MakeNewList::tryAdd() {
-    const std::string w = fromQ(TheWord->text());
-    const std::string m = fromQ(TheMeaning->text());
+    const std::optional<std::string> word = StorableText(TheWord->text(), TheWord);
+    if (!word) return false;
+    const std::optional<std::string> meaning = StorableText(TheMeaning->text(), TheMeaning);
+    if (!meaning) return false;
+    const std::string& w = *word;
+    const std::string& m = *meaning;
     const PairCheck check = CheckPair(pairs_, w, m, wordsOnly_);
     if (check.clash != Clash::None) {
         dialogs().message(toQ(check.message));
@@ -121,7 +128,7 @@ bool MakeNewList::tryAdd() {
         return false;
     }
     pairs_.emplace_back(w, m);
-    WordList1->addItem(TheWord->text());
+    WordList1->addItem(toQ(w));
     TheWord->clear();
     TheMeaning->setText(wordsOnly_ ? kWordsOnlyMarker : "");
     refreshLabels();
@@ -195,6 +202,9 @@ void MakeNewList::editWord() {
     pairs_.erase(pairs_.begin() + row);
     delete WordList1->takeItem(row);
     refreshLabels();
+    // The screen takes the focus as it is shown; it passes it on to the word, so the teacher
+    // can type (and press Enter) at once.
+    setFocusProxy(TheWord);
     TheWord->setFocus();
 }
 
@@ -202,9 +212,11 @@ void MakeNewList::renameList() {
     std::optional<QString> typed = dialogs().input("What would you like to name this list?",
                                                    "Change Vocabulary List Name", toQ(name_));
     if (!typed) return;
+    const std::optional<std::string> storable = StorableText(*typed);
+    if (!storable) return;
     std::string refusal;
     if (!Guarded([&] {
-            refusal = RenameRefusal(name_, fromQ(*typed),
+            refusal = RenameRefusal(name_, *storable,
                                     [](const std::string& n) { return NameExists(ListPath(), n); });
         }))
         return;
@@ -212,7 +224,7 @@ void MakeNewList::renameList() {
         dialogs().message(toQ(refusal));
         return;
     }
-    name_ = Trim(fromQ(*typed));
+    name_ = Trim(*storable);
     Shared().CurrentListName = name_;
     nameLabel_->setText(toQ(name_));
     setWindowTitle(toQ(name_));

@@ -202,13 +202,15 @@ void Manager::buildList() {
         std::optional<QString> name =
             dialogs().input("Type in the name for your new vocabulary list.");
         if (!name || Trim(fromQ(*name)).empty()) return;
+        const std::optional<std::string> storable = StorableText(*name);
+        if (!storable) continue;
         bool taken = false;
-        if (!Guarded([&] { taken = NameExists(ListPath(), fromQ(*name)); })) return;
+        if (!Guarded([&] { taken = NameExists(ListPath(), *storable); })) return;
         if (taken) {
             dialogs().message(kTakenName);
             continue;
         }
-        s.NewListName = fromQ(*name);
+        s.NewListName = *storable;
         break;
     }
     BuildListForm form(this);
@@ -217,6 +219,11 @@ void Manager::buildList() {
 
 void Manager::categories() {
     const std::string folder = FolderPath();
+    // A file the editor cannot take is said so at once, not taken for another teacher's lock.
+    if (const std::string refusal = CategoryEditRefusal(folder); !refusal.empty()) {
+        dialogs().message(toQ(refusal), "Categories");
+        return;
+    }
     if (IsLocked(folder)) {
         if (!dialogs().yesNo(
                 "The categories list is currently being edited by another user. Please try again "
@@ -296,10 +303,21 @@ void Manager::linkListFile() {
     const QString chosen =
         dialogs().openFile(title, "Vocabulary List Files (thelists.dat)", toQ(Shared().AppPath));
     if (chosen.isEmpty()) return;
+    const QString native = QDir::toNativeSeparators(chosen);
+    // The settings file holds the path in its own code page; a path it cannot hold would
+    // point nowhere at the next start.
+    if (!FitsCodePage(native)) {
+        dialogs().message("The file " + native +
+                              " cannot be linked: its name or folder has characters this program "
+                              "cannot store (it keeps Western European letters only). Move the "
+                              "file to a folder with a plainer name, then try again.",
+                          title);
+        return;
+    }
     if (!dialogs().yesNo("Are you sure you want to link to this Vocabulary List File?",
                          "Use this file?"))
         return;
-    const std::string path = fromQ(QDir::toNativeSeparators(chosen));
+    const std::string path = fromQ(native);
     if (!Guarded([&] { RewriteSettingsLine(Shared().AppPath, kListPathLine, path); })) return;
     Shared().ListFilePath = path;
     dialogs().message("Link successful.");

@@ -103,7 +103,9 @@ void MergeForm::confirm() {
     }
     std::optional<QString> typed = dialogs().input("Enter a name for the new list:");
     if (!typed || typed->isEmpty()) return;
-    const std::string name = fromQ(*typed);
+    const std::optional<std::string> storable = StorableText(*typed);
+    if (!storable) return;
+    const std::string name = *storable;
     bool taken = false;
     if (!Guarded([&] { taken = NameExists(ListPath(), name); })) return;
     if (taken) {

@@ -2,13 +2,16 @@
 // turns a file failure into a message naming the file.
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <functional>
+#include <optional>
 #include <string>
 
 class QBoxLayout;
 class QDialog;
 class QLabel;
+class QLineEdit;
 class QListWidget;
 class QPushButton;
 class QVBoxLayout;
@@ -27,6 +30,17 @@ std::string AppFilePath(const char* name);
 bool Guarded(const std::function<void()>& work);
 void Beep();
 
+// Typed text as the files store it. Text with characters the files cannot hold is refused
+// where it is typed: the teacher is told which characters, and `box` (when given) is chosen
+// again for the correction. Nothing comes back then.
+std::optional<std::string> StorableText(const QString& typed, QLineEdit* box = nullptr);
+// The same for a password: the message does not repeat what was typed.
+std::optional<std::string> StorablePassword(const QString& typed, QLineEdit* box);
+
+// Enter in each box but the last moves on to the next shown box; in the last one, or when the
+// boxes after it are hidden, it reaches the box's default button.
+void EnterMovesOn(const QList<QLineEdit*>& boxes);
+
 // A white panel in the middle of a screen, `share` tenths of its width, under an optional
 // toolbar; returns the panel's layout.
 QVBoxLayout* CentrePanel(Backdrop* screen, int share = 6, QWidget* top = nullptr);
@@ -36,6 +50,8 @@ QVBoxLayout* DialogBody(QDialog* dialog, const QString& heading);
 void SizeToScreen(QDialog* dialog, double width, double height);
 // A short box: a share of the display wide, as tall as its contents.
 void WidenToScreen(QDialog* dialog, double width);
+// In a dialog the primary button is the default one: Enter in any field presses it, never
+// Cancel (the first button of a box is Cancel, and Qt would make that the default otherwise).
 QPushButton* NamedButton(const QString& name, const QString& text, QWidget* parent,
                          bool primary = false);
 QLabel* NamedLabel(const QString& name, const QString& text, QWidget* parent, int points = 13,

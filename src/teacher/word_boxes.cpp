@@ -55,10 +55,10 @@ WordBox::WordBox(Kind kind, QWidget* parent) : QDialog(parent), kind_(kind) {
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(ok, &QPushButton::clicked, this, &WordBox::confirm);
     connect(palette, &QPushButton::clicked, this, &WordBox::foreign);
-    if (kind == Add) {
-        connect(word_, &QLineEdit::returnPressed, this, [this] { meaning_->setFocus(); });
-        connect(meaning_, &QLineEdit::returnPressed, this, &WordBox::confirm);
-    }
+    // Enter in the word moves on to the definition; Enter there is OK. With the definition
+    // hidden (a words-only list) Enter in the word is OK.
+    EnterMovesOn({word_, meaning_});
+    word_->setFocus();
     WidenToScreen(this, 0.4);
 }
 
@@ -68,8 +68,12 @@ void WordBox::confirm() {
         Beep();
         return;
     }
-    s.TheWord = fromQ(word_->text());
-    s.TheMeaning = fromQ(meaning_->text());
+    const std::optional<std::string> word = StorableText(word_->text(), word_);
+    if (!word) return;
+    const std::optional<std::string> meaning = StorableText(meaning_->text(), meaning_);
+    if (!meaning) return;
+    s.TheWord = *word;
+    s.TheMeaning = *meaning;
     accept();
 }
 

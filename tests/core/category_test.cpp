@@ -50,3 +50,38 @@ TEST(Categories, RemoveListTakesEveryMatchingLine) {
     EXPECT_EQ(LockName("/a/b/folders.dat"), "/a/b/folders.lok");
     EXPECT_TRUE(ReadCategoryLines(dir.file("missing.dat")).empty());
 }
+
+// A path to a file not named folders.dat: readers read its .lok name (kept so), so the editor
+// would read nothing and save that over the real file. Locking and saving refuse, naming it.
+TEST(Categories, AFileOfAnotherNameIsNeverWrittenOver) {
+    TempFolder dir;
+    const std::string path = dir.file("cats.dat");
+    dir.writeLines("cats.dat", {"^Zoo", "Animals"});
+    EXPECT_TRUE(ReadCategoryLines(path).empty());
+    dir.writeLines("cats.lok", {"^Old"});
+    EXPECT_EQ(ReadCategoryLines(path), (Lines{"^Old"}));
+    const std::string refusal = CategoryEditRefusal(path);
+    EXPECT_NE(refusal.find(path), std::string::npos);
+    EXPECT_NE(refusal.find("not named folders.dat"), std::string::npos);
+    for (auto write : {+[](const std::string& p) { LockCategories(p); },
+                       +[](const std::string& p) { SaveAndUnlockCategories(p, {}); }}) {
+        try {
+            write(path);
+            ADD_FAILURE() << "no refusal";
+        } catch (const FileError& e) {
+            EXPECT_EQ(e.path(), path);
+            EXPECT_EQ(e.what(), refusal);
+        }
+        EXPECT_EQ(dir.read("cats.dat"), "^Zoo\r\nAnimals\r\n");
+        EXPECT_EQ(dir.read("cats.lok"), "^Old\r\n");
+    }
+    // With no file at the path there is nothing to wipe: the first save makes it.
+    const std::string fresh = dir.file("groups.dat");
+    EXPECT_EQ(CategoryEditRefusal(fresh), "");
+    LockCategories(fresh);
+    SaveAndUnlockCategories(fresh, {"^New"});
+    EXPECT_EQ(dir.read("groups.dat"), "^New\r\n");
+    EXPECT_EQ(CategoryEditRefusal(dir.file("folders.dat")), "");
+    dir.writeLines("folders.dat", {"^A"});
+    EXPECT_EQ(CategoryEditRefusal(dir.file("folders.dat")), "");
+}

@@ -1,6 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <csignal>
 #include <filesystem>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "core/line_file.h"
 #include "core/strings.h"
@@ -8,6 +15,16 @@
 
 using namespace wm;
 using wm::test::TempFolder;
+
+namespace {
+std::vector<std::string> FilesIn(const TempFolder& dir) {
+    std::vector<std::string> names;
+    for (auto& e : std::filesystem::directory_iterator(dir.path()))
+        names.push_back(e.path().filename().string());
+    std::sort(names.begin(), names.end());
+    return names;
+}
+}  // namespace
 
 TEST(LineFile, RoundTripIsByteForByte) {
     TempFolder dir;
@@ -68,13 +85,134 @@ TEST(LineFile, AtomicRewriteLeavesNoTemporaryAndReplacesWhole) {
     EXPECT_EQ(files, 1);
 }
 
-TEST(LineFile, FailedWriteKeepsTheOldFile) {
+TEST(LineFile, FailedWriteKeepsTheOldFileAndLeavesNoTemporary) {
     TempFolder dir;
     dir.write("a.dat", "keep\r\n");
-    // A folder in the way of the temporary file makes the write fail before the rename.
-    std::filesystem::create_directory(dir.file(".a.dat.tmp"));
-    EXPECT_THROW(WriteLinesAtomic(dir.file("a.dat"), {"lost"}), FileError);
+    // A file size limit makes the write itself fail, after the temporary file was made.
+    struct rlimit before {};
+    ::getrlimit(RLIMIT_FSIZE, &before);
+    struct rlimit small = before;
+    small.rlim_cur = 64;
+    auto* oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    std::string message;
+    try {
+        WriteLinesAtomic(dir.file("a.dat"), {std::string(1000, 'x')});
+    } catch (const FileError& e) {
+        message = e.what();
+    }
+    ::setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, oldHandler);
+    EXPECT_EQ(message, "The file " + dir.file("a.dat") + " cannot be written: File too large");
     EXPECT_EQ(dir.read("a.dat"), "keep\r\n");
+    EXPECT_EQ(FilesIn(dir), std::vector<std::string>{"a.dat"});
+    // A folder standing at the name: all is written, and the rename fails.
+    std::filesystem::create_directories(dir.file("b.dat/inside"));
+    try {
+        WriteLinesAtomic(dir.file("b.dat"), {"x"});
+        ADD_FAILURE() << "no error";
+    } catch (const FileError& e) {
+        EXPECT_EQ(std::string(e.what()).rfind(
+                      "The file " + dir.file("b.dat") + " cannot be replaced: ", 0),
+                  0u)
+            << e.what();
+    }
+    EXPECT_EQ(FilesIn(dir), (std::vector<std::string>{"a.dat", "b.dat"}));
+    // A folder that is not there names the file.
+    try {
+        WriteLinesAtomic(dir.file("gone/b.dat"), {"x"});
+        FAIL() << "no error";
+    } catch (const FileError& e) {
+        EXPECT_EQ(e.path(), dir.file("gone/b.dat"));
+    }
+}
+
+TEST(LineFile, RewriteKeepsPermissionsAndGroup) {
+    TempFolder dir;
+    const std::string path = dir.file("thelists.dat");
+    dir.write("thelists.dat", "old\r\n");
+    // A list file the teacher shares with a group: group-writable, in that group.
+    ASSERT_EQ(::chmod(path.c_str(), 0664), 0);
+    const gid_t group = ::geteuid() == 0 ? gid_t(4242) : ::getegid();
+    ASSERT_EQ(::chown(path.c_str(), uid_t(-1), group), 0);
+    WriteLinesAtomic(path, {"new"});
+    struct stat st {};
+    ASSERT_EQ(::stat(path.c_str(), &st), 0);
+    EXPECT_EQ(st.st_mode & 07777, 0664u);
+    EXPECT_EQ(st.st_gid, group);
+    // A read-only file stays read-only for those it was read-only for.
+    ASSERT_EQ(::chmod(path.c_str(), 0440), 0);
+    AppendLinesAtomic(path, {"more"});
+    ASSERT_EQ(::stat(path.c_str(), &st), 0);
+    EXPECT_EQ(st.st_mode & 07777, 0440u);
+    EXPECT_EQ(dir.read("thelists.dat"), "new\r\nmore\r\n");
+    // A file made afresh gets what any new file gets: 0666 less the umask.
+    const mode_t mask = ::umask(027);
+    WriteLinesAtomic(dir.file("fresh.dat"), {"x"});
+    ::umask(mask);
+    ASSERT_EQ(::stat(dir.file("fresh.dat").c_str(), &st), 0);
+    EXPECT_EQ(st.st_mode & 07777, 0640u);
+}
+
+TEST(LineFile, RewriteThroughALinkReplacesTheFileItPointsAt) {
+    TempFolder dir;
+    std::filesystem::create_directory(dir.file("shared"));
+    dir.write("shared/thelists.dat", "old\r\n");
+    std::filesystem::create_symlink(dir.file("shared/thelists.dat"), dir.file("thelists.dat"));
+    WriteLinesAtomic(dir.file("thelists.dat"), {"new"});
+    EXPECT_TRUE(std::filesystem::is_symlink(dir.file("thelists.dat")));
+    EXPECT_EQ(dir.read("shared/thelists.dat"), "new\r\n");
+}
+
+// Two installations save the one shared list file at the same moment, over and over, while a
+// third reads it: every read finds one of the two saves whole, never a mixture or a cut.
+TEST(LineFile, TwoWritersAtOnceNeverTearTheFile) {
+    TempFolder dir;
+    const std::string path = dir.file("thelists.dat");
+    std::vector<std::string> linesA, linesB;
+    for (int i = 0; i < 3000; ++i) linesA.push_back("alpha word " + std::to_string(i));
+    for (int i = 0; i < 2000; ++i) linesB.push_back("beta definition " + std::to_string(i));
+    const std::string a = JoinLines(linesA);
+    const std::string b = JoinLines(linesB);
+    WriteBytesAtomic(path, a);
+    constexpr int kSaves = 150;
+    pid_t writers[2];
+    for (int w = 0; w < 2; ++w) {
+        writers[w] = ::fork();
+        ASSERT_GE(writers[w], 0);
+        if (writers[w] == 0) {
+            // A save that fails is counted, and the writer goes on saving.
+            int failed = 0;
+            for (int i = 0; i < kSaves; ++i) {
+                try {
+                    WriteLinesAtomic(path, w ? linesB : linesA);
+                } catch (const FileError&) {
+                    ++failed;
+                }
+            }
+            ::_exit(std::min(failed, 100));
+        }
+    }
+    int reads = 0, torn = 0, running = 2;
+    int status[2] = {0, 0};
+    bool ended[2] = {false, false};
+    while (running > 0) {
+        const std::string seen = ReadBytes(path);
+        ++reads;
+        if (seen != a && seen != b) ++torn;
+        for (int w = 0; w < 2; ++w) {
+            if (!ended[w] && ::waitpid(writers[w], &status[w], WNOHANG) == writers[w]) {
+                ended[w] = true;
+                --running;
+            }
+        }
+    }
+    EXPECT_EQ(torn, 0) << "of " << reads << " reads";
+    for (int w = 0; w < 2; ++w) {
+        EXPECT_TRUE(WIFEXITED(status[w])) << "writer " << w;
+        EXPECT_EQ(WEXITSTATUS(status[w]), 0) << "failed saves of writer " << w;
+    }
+    EXPECT_EQ(FilesIn(dir), std::vector<std::string>{"thelists.dat"});
 }
 
 TEST(LineFile, AppendAddsAnEndToAnUnfinishedLastLine) {

@@ -103,6 +103,31 @@ private slots:
         QCOMPARE(toQ(""), QString());
     }
 
+    void textTypedApartIsComposed() {
+        // A letter and a combining accent become the one letter of the code page.
+        const QString cafe = QString("cafe") + QChar(0x0301);
+        QCOMPARE(fromQ(cafe), std::string("caf\xE9"));
+        QCOMPARE(fromQ(QString("A") + QChar(0x030A) + "ngstr" + QChar(0x00F6) + "m"),
+                 std::string("\xC5ngstr\xF6m"));
+        QVERIFY(FitsCodePage(cafe));
+        QCOMPARE(OutsideCodePage(cafe), QString());
+        // An accent with no composed letter stays apart and does not fit.
+        const QString q = QString("q") + QChar(0x0301);
+        QVERIFY(!FitsCodePage(q));
+        QCOMPARE(OutsideCodePage(q), QString(QChar(0x0301)));
+        QCOMPARE(fromQ(q), std::string("q?"));
+        // Every character the files know fits; outside ones are named once each, in order.
+        std::string all;
+        for (int b = 32; b <= 255; ++b) {
+            // The five bytes the code page leaves without a character.
+            if (b != 0x81 && b != 0x8D && b != 0x8F && b != 0x90 && b != 0x9D) all += char(b);
+        }
+        QVERIFY(FitsCodePage(toQ(all)));
+        QVERIFY(FitsCodePage(QString()));
+        QCOMPARE(OutsideCodePage(QString::fromUtf8("a😀bΩc😀Ω")), QString::fromUtf8("😀Ω"));
+        QVERIFY(!FitsCodePage(QString::fromUtf8("€ ok Ω")));
+    }
+
     void scriptedDialogsRecordAndAnswer() {
         ScriptedDialogs d;
         d.answerYes(true)

@@ -7,6 +7,7 @@
 #include <chrono>
 #include <csignal>
 #include <filesystem>
+#include <fstream>
 #include <random>
 #include <thread>
 
@@ -71,9 +72,25 @@ TEST(KilledSave, FileIsAlwaysTheOldOrTheNew) {
         WriteAllLines(path, oldLines);
     }
     EXPECT_GT(sawOld + sawNew, 0);
-    // A killed save leaves at most its one temporary file behind, which the next save reuses.
-    EXPECT_LE(std::distance(std::filesystem::directory_iterator(folder),
-                            std::filesystem::directory_iterator()),
-              2);
+    // A killed save leaves its hidden temporary file behind. A save removes those an hour old,
+    // and leaves younger ones: they may be another installation's save under way.
+    auto count = [&] {
+        return std::distance(std::filesystem::directory_iterator(folder),
+                             std::filesystem::directory_iterator());
+    };
+    const auto left = count();
+    const auto old = std::filesystem::file_time_type::clock::now() - std::chrono::minutes(61);
+    const auto young = std::filesystem::file_time_type::clock::now() - std::chrono::minutes(59);
+    int n = 0;
+    for (const auto& e : std::filesystem::directory_iterator(folder)) {
+        if (e.path().filename() != "thelists.dat")
+            std::filesystem::last_write_time(e.path(), n++ % 2 ? old : young);
+    }
+    // Another file of that shape but of another name stays too.
+    std::ofstream(folder / ".folders.dat.abcdef") << "x";
+    std::filesystem::last_write_time(folder / ".folders.dat.abcdef", old);
+    WriteAllLines(path, oldLines);
+    EXPECT_EQ(count(), left - n / 2 + 1) << n << " left by killed saves";
+    EXPECT_TRUE(std::filesystem::exists(folder / ".folders.dat.abcdef"));
     std::filesystem::remove_all(folder);
 }

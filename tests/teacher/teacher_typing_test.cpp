@@ -1,0 +1,461 @@
+// What the teacher types, key by key: Enter moves on through a box and then presses its OK,
+// never Cancel; text the list file cannot hold is refused where it is typed, and letters typed
+// with a separate accent are stored as the one accented letter. Also the category file the
+// editor may not take.
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QtTest>
+
+#include "core/category_file.h"
+#include "platform/text.h"
+#include "teacher/build_list_form.h"
+#include "teacher/categories.h"
+#include "teacher/create_list.h"
+#include "teacher/delete_list.h"
+#include "teacher/edit_choose_list.h"
+#include "teacher/edit_list.h"
+#include "teacher/gate.h"
+#include "teacher/make_new_list.h"
+#include "teacher/manager.h"
+#include "teacher/merge_form.h"
+#include "teacher/program_options.h"
+#include "teacher/word_boxes.h"
+#include "teacher_fixture.h"
+
+using namespace wm;
+using namespace wm::test;
+
+namespace {
+
+const QStringList kLists = {"Animals",    "cat",   "a pet", "dog",       "a loyal pet",
+                            "<New List>", "Trees", "oak",   "a big tree"};
+const QString kAcute = QString(QChar(0x0301));  // a combining accent, as sent apart
+const char* kCannotStore =
+    "has characters this program cannot store (it keeps Western European letters only)";
+
+// The widget that has the keyboard in `window`.
+QWidget* Focused(QWidget* window) {
+    QApplication::processEvents();
+    QWidget* w = QApplication::focusWidget();
+    if (!w || w->window() != window) w = window->focusWidget();
+    return w ? w : window;
+}
+
+void Type(QWidget* window, const QString& text) {
+    QTest::keyClicks(Focused(window), text);
+}
+
+void Enter(QWidget* window) {
+    QTest::keyClick(Focused(window), Qt::Key_Return);
+}
+
+QString Refusal(const QString& typed, const QString& characters) {
+    return QString("The text \"%1\" %2: %3. Please type it without them.")
+        .arg(typed, kCannotStore, characters);
+}
+
+EditList* OpenEditor(const QString& list) {
+    Shared().CurrentListName = list.toStdString();
+    return qobject_cast<EditList*>(OpenScreen("EditList"));
+}
+
+MakeNewList* OpenMaker(const QString& name, bool wordsOnly = false) {
+    SharedState& s = Shared();
+    s.NewListName = fromQ(name);
+    s.WordsOnly = wordsOnly ? kTrue : kFalse;
+    s.ListLanguage.clear();
+    return qobject_cast<MakeNewList*>(OpenScreen("MakeNewList"));
+}
+
+}  // namespace
+
+class TeacherTypingTest : public QObject {
+    Q_OBJECT
+private slots:
+    void everyBoxPressesItsOkOnEnter();
+    void addWordByKeys_data();
+    void addWordByKeys();
+    void editWordByKeys();
+    void changePasswordByKeys();
+    void newListByKeys();
+    void textTheFileCannotHold_data();
+    void textTheFileCannotHold();
+    void accentTypedApartIsStoredComposed();
+    void passwordTheFileCannotHold();
+    void categoryFileNotNamedFoldersDat();
+};
+
+// No box lets Enter fall to Cancel: each has a default button, and it is not the way out.
+void TeacherTypingTest::everyBoxPressesItsOkOnEnter() {
+    TeacherFixture f(kLists);
+    Shared().CurrentListName = "Animals";
+    QList<QPair<QDialog*, QString>> boxes = {
+        {new WordBox(WordBox::Add), "OK"},
+        {new WordBox(WordBox::Edit), "OK"},
+        {new ChangePassword, "Change Password"},
+        {new PasswordForm, "OK"},
+        {new CreateList, "OK"},
+        {new EditChooseList, "Edit List"},
+        {new DeleteList, "Delete"},
+        {new MergeForm, "OK"},
+        {new BuildListForm, "Save"},
+        {new Categories, "Save"},
+        {new SoundOptions, "Save"},
+        {new EnableDisable, "Apply"},
+    };
+    for (auto& [box, okText] : boxes) {
+        QStringList defaults;
+        for (QPushButton* b : box->findChildren<QPushButton*>()) {
+            if (b->isDefault()) defaults << b->text();
+        }
+        QCOMPARE(defaults, QStringList{okText});
+        delete box;
+    }
+}
+
+void TeacherTypingTest::addWordByKeys_data() {
+    QTest::addColumn<bool>("wordsOnly");
+    QTest::addColumn<QStringList>("lines");
+    QTest::newRow("with definitions")
+        << false << QStringList{"cat", "a pet", "dog", "a loyal pet", "owl", "a wise bird"};
+    QTest::newRow("words only") << true
+                                << QStringList{"cat", "-----", "dog", "-----", "owl", "-----"};
+}
+
+// Enter in the word moves on to the definition; Enter there is OK, which beeps and stays while a
+// box is empty. A words-only list has no definition box: Enter in the word is OK.
+void TeacherTypingTest::addWordByKeys() {
+    QFETCH(bool, wordsOnly);
+    QFETCH(QStringList, lines);
+    QStringList file = {"Trees", "oak", "a big tree", "<New List>", "Animals"};
+    for (int i = 0; i < 4; ++i) file << lines[i];
+    TeacherFixture f(file);
+    EditList* edit = OpenEditor("Animals");
+    QVERIFY(edit);
+    f.then<WordBox>([&](WordBox& box) {
+        QCOMPARE(box.objectName(), "AddWord");
+        Enter(&box);  // empty word: moves on (or, words-only, beeps and stays)
+        QVERIFY(box.isVisible());
+        QCOMPARE(Focused(&box), wordsOnly ? box.word() : box.meaning());
+        if (!wordsOnly) {
+            Enter(&box);  // both empty: beeps and stays
+            QVERIFY(box.isVisible());
+            box.word()->setFocus();
+        }
+        Type(&box, "owl");
+        Enter(&box);
+        if (!wordsOnly) {
+            QVERIFY(box.isVisible());
+            QCOMPARE(Focused(&box), box.meaning());
+            QCOMPARE(box.word()->text(), "owl");
+            Type(&box, "a wise bird");
+            Enter(&box);
+        }
+        QCOMPARE(box.result(), int(QDialog::Accepted));
+    });
+    edit->addWord();
+    QCOMPARE(edit->totalText(), "Total Words In This List: 3");
+    f.dialogs.answerYes();
+    edit->saveAndQuit();
+    QCOMPARE(f.lists(), f.crlf(file.mid(0, 3) + QStringList{"<New List>", "Animals"} + lines));
+}
+
+void TeacherTypingTest::editWordByKeys() {
+    TeacherFixture f(kLists);
+    EditList* edit = OpenEditor("Animals");
+    edit->select(0);
+    f.then<WordBox>([&](WordBox& box) {
+        QCOMPARE(box.objectName(), "EditWord");
+        QCOMPARE(Focused(&box), box.word());
+        QTest::keyClick(box.word(), Qt::Key_End);
+        Type(&box, "s");
+        Enter(&box);
+        QVERIFY(box.isVisible());
+        QCOMPARE(Focused(&box), box.meaning());
+        box.meaning()->setText("small pets");
+        Enter(&box);
+        QCOMPARE(box.result(), int(QDialog::Accepted));
+    });
+    edit->editWord();
+    QCOMPARE(edit->words()->item(0)->text(), "cats");
+    QCOMPARE(edit->definition(), "small pets");
+}
+
+void TeacherTypingTest::changePasswordByKeys() {
+    TeacherFixture f;
+    ChangePassword box;
+    box.show();
+    QCOMPARE(Focused(&box), box.field(0));
+    Type(&box, "mapleton");
+    Enter(&box);
+    QCOMPARE(Focused(&box), box.field(1));
+    Type(&box, "owl");
+    Enter(&box);
+    QCOMPARE(Focused(&box), box.field(2));
+    QVERIFY(f.dialogs.shown.empty());
+    Type(&box, "owl");
+    Enter(&box);  // the last box: Change Password
+    QVERIFY(f.dialogs.shown.empty());
+    QVERIFY(!box.success()->isHidden());
+    QVERIFY(f.read("wmdata.dat").contains("\r\nowl\r\n"));
+    Enter(&box);  // now Done
+    QCOMPARE(box.result(), int(QDialog::Accepted));
+}
+
+// The new-list screens: the name box takes Enter as OK; the word and definition boxes of the
+// list being made move on and add.
+void TeacherTypingTest::newListByKeys() {
+    TeacherFixture f(kLists);
+    CreateList create;
+    create.show();
+    create.name()->setFocus();
+    Type(&create, "Birds");
+    Enter(&create);
+    QCOMPARE(create.result(), int(QDialog::Accepted));
+    QCOMPARE(Shared().NewListName, "Birds");
+
+    MakeNewList* m = OpenMaker("Birds");
+    QCOMPARE(Focused(m), m->word());
+    Enter(m);
+    QCOMPARE(f.dialogs.last(), "You need to type a word!");
+    Type(m, "owl");
+    Enter(m);
+    QCOMPARE(Focused(m), m->meaning());
+    Enter(m);
+    QCOMPARE(f.dialogs.last(), "You need to type a definition!");
+    Type(m, "a wise bird");
+    Enter(m);
+    QCOMPARE(m->words()->count(), 1);
+    QCOMPARE(Focused(m), m->word());
+    QCOMPARE(m->meaning()->text(), "");
+    // With the definition already there, Enter in the word adds the pair.
+    m->meaning()->setText("lays eggs");
+    m->word()->setFocus();
+    Type(m, "hen");
+    Enter(m);
+    QCOMPARE(m->words()->count(), 2);
+    QCOMPARE(m->totalText(), "Total words in this list: 2");
+}
+
+void TeacherTypingTest::textTheFileCannotHold_data() {
+    QTest::addColumn<QString>("where");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("characters");
+    const QString greek = QString::fromUtf8("Ωmega");
+    const QString mixed = QString::fromUtf8("Жук и жаба 😀");
+    const QString q = "q" + kAcute;  // no letter q with an acute: it stays two characters
+    for (const char* where : {"new word", "new definition", "add box", "edit box", "new rename",
+                              "edit rename", "create", "category", "merge", "build"}) {
+        QTest::newRow(qPrintable(QString(where) + ", greek")) << where << greek << "Ω";
+    }
+    QTest::newRow("new word, each character once")
+        << "new word" << mixed << QString::fromUtf8("Ж у к и ж а б 😀");
+    QTest::newRow("add box, a lone accent") << "add box" << q << QString(QChar(0x25CC)) + kAcute;
+}
+
+// Each place that takes typed text refuses what the file cannot hold, says which characters,
+// and keeps the file as it was.
+void TeacherTypingTest::textTheFileCannotHold() {
+    QFETCH(QString, where);
+    QFETCH(QString, typed);
+    QFETCH(QString, characters);
+    TeacherFixture f(kLists);
+    const QByteArray lists = f.lists();
+    const QByteArray folders = f.read("folders.dat");
+    const QString message = Refusal(typed, characters);
+    if (where == "new word" || where == "new definition") {
+        MakeNewList* m = OpenMaker("Birds");
+        m->word()->setText(where == "new word" ? typed : "owl");
+        m->meaning()->setText(where == "new word" ? "a bird" : typed);
+        m->addWord();
+        QCOMPARE(f.dialogs.last(), message);
+        QCOMPARE(m->words()->count(), 0);
+        QCOMPARE(Focused(m), where == "new word" ? m->word() : m->meaning());
+    } else if (where == "add box" || where == "edit box") {
+        EditList* edit = OpenEditor("Animals");
+        edit->select(0);
+        f.then<WordBox>([&](WordBox& box) {
+            box.word()->setText(typed);
+            box.meaning()->setText("a bird");
+            box.confirm();
+            QCOMPARE(f.dialogs.last(), message);
+            QVERIFY(box.isVisible());
+            QCOMPARE(Focused(&box), box.word());
+            box.reject();
+        });
+        where == "add box" ? edit->addWord() : edit->editWord();
+        QCOMPARE(edit->words()->count(), 2);
+        QCOMPARE(edit->words()->item(0)->text(), "cat");
+    } else if (where == "new rename" || where == "edit rename") {
+        QWidget* screen = nullptr;
+        if (where == "new rename") {
+            MakeNewList* m = OpenMaker("Birds");
+            f.dialogs.answerInput(typed);
+            m->renameList();
+            QCOMPARE(m->caption(), "Birds");
+            screen = m;
+        } else {
+            EditList* e = OpenEditor("Animals");
+            f.dialogs.answerInput(typed);
+            e->renameList();
+            QCOMPARE(e->caption(), "Animals");
+            screen = e;
+        }
+        QVERIFY(screen);
+        QCOMPARE(f.dialogs.last(), message);
+    } else if (where == "create") {
+        CreateList c;
+        c.name()->setText(typed);
+        c.confirm();
+        QCOMPARE(f.dialogs.last(), message);
+        QCOMPARE(c.result(), int(QDialog::Rejected));
+    } else if (where == "category") {
+        {
+            Categories c;
+            f.dialogs.answerInput(typed);
+            c.addCategory();
+            QCOMPARE(f.dialogs.last(), message);
+            QCOMPARE(c.categories()->count(), 0);
+            f.dialogs.answerYes();
+            c.save();
+        }
+        QCOMPARE(f.read("folders.dat"), folders);
+    } else if (where == "merge") {
+        MergeForm merge;
+        merge.lists()->selectAll();
+        f.dialogs.answerYes().answerInput(typed);
+        merge.confirm();
+        QCOMPARE(f.dialogs.last(), message);
+        QCOMPARE(merge.result(), int(QDialog::Rejected));
+    } else if (where == "build") {
+        // The name is asked for again, as for a taken one.
+        Manager m;
+        f.dialogs.answerInput(typed).answerInput(std::nullopt);
+        m.command("Create List from Existing Lists");
+        QCOMPARE(f.dialogs.texts().mid(1, 2),
+                 (QStringList{message, "Type in the name for your new vocabulary list."}));
+        QVERIFY(!f.opened.contains("BuildListForm"));
+    }
+    QCOMPARE(f.lists(), lists);
+}
+
+// "e" followed by a combining acute, as some keyboards send it, is the one byte of "é" in the
+// file: in words, definitions, list names and categories alike.
+void TeacherTypingTest::accentTypedApartIsStoredComposed() {
+    const QString cafe = "cafe" + kAcute;
+    const QString creme = "cre" + QString(QChar(0x0300)) + "me";  // crème
+    TeacherFixture f(kLists);
+    CreateList create;
+    create.name()->setText(cafe);
+    create.confirm();
+    QCOMPARE(create.result(), int(QDialog::Accepted));
+    QCOMPARE(Shared().NewListName, "caf\xE9");
+
+    MakeNewList* m = OpenMaker(toQ(Shared().NewListName));
+    m->word()->setText(creme);
+    m->meaning()->setText(cafe + " au lait");
+    m->addWord();
+    QCOMPARE(m->words()->item(0)->text(), QString::fromUtf8("crème"));
+    f.dialogs.answerYes();
+    m->saveAndQuit();
+    QCOMPARE(f.lists(), f.crlf(kLists) +
+                            QByteArray("<New List>\r\ncaf\xE9\r\ncr\xE8me\r\ncaf\xE9 au lait\r\n"));
+
+    EditList* edit = OpenEditor("Animals");
+    f.then<WordBox>([&](WordBox& box) {
+        box.word()->setText("ve" + kAcute + "lo");
+        box.meaning()->setText("a bike");
+        box.confirm();
+    });
+    edit->addWord();
+    f.dialogs.answerInput("Anim" + QString("a") + QChar(0x0300) + "ux");
+    edit->renameList();
+    f.dialogs.answerYes();
+    edit->saveAndQuit();
+    QVERIFY(
+        f.lists().endsWith("<New List>\r\nAnim\xE0ux\r\ncat\r\na pet\r\ndog\r\na loyal pet\r\n"
+                           "v\xE9lo\r\na bike\r\n"));
+
+    {
+        Categories c;
+        f.dialogs.answerInput(cafe);
+        c.addCategory();
+        f.dialogs.answerYes();
+        c.save();
+    }
+    QCOMPARE(f.read("folders.dat"), QByteArray("^caf\xE9\r\n"));
+}
+
+void TeacherTypingTest::passwordTheFileCannotHold() {
+    TeacherFixture f;
+    const QByteArray before = f.read("wmdata.dat");
+    {
+        ChangePassword box;
+        const QString russian = QString::fromUtf8("пароль");
+        box.field(0)->setText("mapleton");
+        box.field(1)->setText(russian);
+        box.field(2)->setText(russian);
+        box.confirm();
+        // The message does not show the password.
+        QCOMPARE(f.dialogs.last(), QString("The new password ") + kCannotStore +
+                                       ". Please choose a password without them.");
+        QCOMPARE(f.read("wmdata.dat"), before);
+        QVERIFY(box.success()->isHidden());
+        // An old password the file cannot hold is not the stored one, even where the stored
+        // one holds the "?" an older save made of such a character.
+        RewriteSettingsLine(Shared().AppPath, kPasswordLine, "maple?");
+        box.field(0)->setText(QString::fromUtf8("mapleΩ"));
+        box.field(1)->setText("owl");
+        box.field(2)->setText("owl");
+        box.confirm();
+        QCOMPARE(f.dialogs.last(),
+                 "One or more fields contains incorrect information. Please try again.");
+        QVERIFY(f.read("wmdata.dat").contains("\r\nmaple?\r\n"));
+        RewriteSettingsLine(Shared().AppPath, kPasswordLine, "mapleton");
+    }
+    ChangePassword box;
+    box.field(0)->setText("mapleton");
+    box.field(1)->setText("pa" + QString("u") + QChar(0x0308) + "se");  // päuse, typed apart
+    box.field(2)->setText(QString::fromUtf8("paüse"));
+    box.confirm();
+    QVERIFY(!box.success()->isHidden());
+    QVERIFY(f.read("wmdata.dat").contains("\r\npa\xFCse\r\n"));
+}
+
+// The settings may name a category file of another name. Readers then read its .lok name (kept
+// so), which the editor would take for the categories and save over the real file: it refuses.
+void TeacherTypingTest::categoryFileNotNamedFoldersDat() {
+    TeacherFixture f(kLists);
+    f.writeLines("cats.dat", {"^Zoo", "Animals"});
+    const QByteArray before = f.read("cats.dat");
+    Shared().FolderFilePath = f.path("cats.dat").toStdString();
+    const QString refusal =
+        "The category file " + f.path("cats.dat") +
+        " cannot be edited, because it is not named folders.dat: its categories cannot be read "
+        "safely while it is locked. Rename it to folders.dat (and change its path in the "
+        "settings file to match), then try again. The file has not been changed.";
+    Manager m;
+    m.command("List Categories");
+    QCOMPARE(f.dialogs.texts(), QStringList{refusal});
+    QCOMPARE(f.dialogs.shown.back().title, "Categories");
+    QVERIFY(!f.opened.contains("Categories"));
+    // Opened all the same, the box holds nothing and its save writes nothing.
+    {
+        Categories c;
+        QVERIFY(!c.loaded());
+        QCOMPARE(f.dialogs.last(), refusal);
+        f.dialogs.answerYes();
+        c.save();
+    }
+    QCOMPARE(f.read("cats.dat"), before);
+    QVERIFY(!f.exists("cats.lok"));
+    // The kept reading: the .lok name, whatever the file of the path holds.
+    QVERIFY(ReadCategoryLines(Shared().FolderFilePath).empty());
+    f.writeLines("cats.lok", {"^Old"});
+    QCOMPARE(ReadCategoryLines(Shared().FolderFilePath), std::vector<std::string>{"^Old"});
+}
+
+QTEST_MAIN(TeacherTypingTest)
+#include "teacher_typing_test.moc"
