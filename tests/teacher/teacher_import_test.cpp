@@ -1,6 +1,8 @@
 // Lists from other programs' files and back: the corpus of real-world shapes is read exactly,
 // every bad file is refused with a message and leaves the list file byte-identical, and an
 // exported list reads back as it was.
+#include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRadioButton>
@@ -32,11 +34,18 @@ private slots:
     void corpusReadsExactly_data();
     void corpusReadsExactly();
     void csvQuotesAcrossLines();
+    void separatorFromTheLines_data();
+    void separatorFromTheLines();
+    void headingsOffered_data();
+    void headingsOffered();
+    void previewTakesTheHeadingBack();
+    void languagesOfForeignLists();
     void badFilesChangeNothing_data();
     void badFilesChangeNothing();
     void importAppendsThroughTheManager();
     void importNameChecksAndWordsOnly();
     void exportRoundTrips();
+    void foreignListExportsItsLanguages();
 };
 
 void TeacherImportTest::corpusReadsExactly_data() {
@@ -60,6 +69,60 @@ void TeacherImportTest::corpusReadsExactly_data() {
         << "KVTML" << Pairs({{"spoon", "cuillère"}, {"fork", "fourchette"}}) << "Kitchen Words";
     QTest::newRow("words only") << "wordsonly.csv"
                                 << "CSV" << Pairs({{"rhythm", ""}, {"necessary", ""}}) << "";
+    QTest::newRow("one column: a words-only list") << "onecolumn.csv"
+                                                   << "CSV"
+                                                   << Pairs({{"cat", ""}, {"dog", ""}, {"owl", ""}})
+                                                   << "";
+    QTest::newRow("kvtml: only a translation's own text, not its conjugations or comparisons")
+        << "conjugations.kvtml"
+        << "KVTML" << Pairs({{"être", "to be"}, {"grand", "big"}, {"faire", "to do"}})
+        << "French Verbs and Adjectives";
+    QTest::newRow("semicolons, Windows-1252, a heading in German")
+        << "semicolons.csv"
+        << "CSV"
+        << Pairs({{"la casa", "house, home"},
+                  {"el pájaro", "bird"},
+                  {"uno; una", "one"},
+                  {"medio", "0,5 (one half)"},
+                  {"el año", "year"}})
+        << "";
+    QTest::newRow("a words-only list as exported") << "exported-words.csv"
+                                                   << "CSV"
+                                                   << Pairs({{"rhythm", ""},
+                                                             {"necessary", ""},
+                                                             {"committee, the", ""},
+                                                             {"résumé", ""}})
+                                                   << "";
+    const auto unicode = Pairs({{"der Löffel", "spoon"},
+                                {"die Straße", "street"},
+                                {"die Gabel, -n", "fork"},
+                                {"grün", "green"}});
+    QTest::newRow("UTF-16 little-endian") << "unicode-le.txt"
+                                          << "tab separated text" << unicode << "";
+    QTest::newRow("UTF-16 big-endian") << "unicode-be.txt"
+                                       << "tab separated text" << unicode << "";
+    QTest::newRow("a title above a blank line")
+        << "titled.txt"
+        << "tab separated text"
+        << Pairs({{"le chien", "dog, hound"}, {"le chat", "cat"}, {"l'oiseau", "bird"}})
+        << "French vocabulary, unit 3";
+    QTest::newRow("a blank first line") << "blank-first.tsv"
+                                        << "tab separated text"
+                                        << Pairs({{"rojo", "red"},
+                                                  {"verde", "green, the colour of grass"},
+                                                  {"azul", "blue"}})
+                                        << "";
+    QTest::newRow("a heading of language names")
+        << "heading.csv"
+        << "CSV" << Pairs({{"el perro", "dog"}, {"el gato", "cat"}}) << "";
+    QTest::newRow("words starting with # among headers and comments")
+        << "hashes.tsv"
+        << "tab separated text"
+        << Pairs({{"#", "number sign"},
+                  {"%", "per cent"},
+                  {"#1", "number one, the winner"},
+                  {"&", "and"}})
+        << "";
 }
 
 void TeacherImportTest::corpusReadsExactly() {
@@ -83,6 +146,158 @@ void TeacherImportTest::csvQuotesAcrossLines() {
     QCOMPARE(rows[1], (QStringList{"last", "x,y"}));
 }
 
+void TeacherImportTest::separatorFromTheLines_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("separator");
+    QTest::newRow("tabs, commas in the definitions") << "a\tb, c\nd\te, f\n" << "\t";
+    QTest::newRow("semicolons, decimal commas") << "a;0,5\nb;1,5\nc;2\n" << ";";
+    QTest::newRow("commas, a stray semicolon") << "a,b;c\nd,e\nf,g\n" << ",";
+    QTest::newRow("quoted semicolons do not count") << "\"x;y\",z\n\"p;q\",r\n" << ",";
+    QTest::newRow("a title line with a comma above tabs")
+        << "Unit 3, animals\n\ncat\tchat\ndog\tchien\n"
+        << "\t";
+    QTest::newRow("headers and comments are not counted")
+        << "#separator:tab\n#columns:a,b,c\n# one, two, three\nx;y\nz;w\n"
+        << ";";
+    QTest::newRow("one column") << "cat\ndog\n" << ",";
+    QTest::newRow("empty") << "" << ",";
+    // Only the first 20 lines are read.
+    QTest::newRow("twenty lines decide") << QString("a;b\n").repeated(20) + QString("a\tb\n").repeated(30)
+                                         << ";";
+}
+
+void TeacherImportTest::separatorFromTheLines() {
+    QFETCH(QString, text);
+    QFETCH(QString, separator);
+    QCOMPARE(QString(DetectSeparator(text)), separator);
+}
+
+void TeacherImportTest::headingsOffered_data() {
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QList<TextPair>>("heading");
+    QTest::addColumn<bool>("skipped");
+    QTest::newRow("language names") << "heading.csv" << Pairs({{"Spanish", "English"}}) << true;
+    QTest::newRow("language names in German")
+        << "semicolons.csv" << Pairs({{"Spanisch", "Englisch"}}) << true;
+    QTest::newRow("a title") << "titled.txt" << Pairs({{"French vocabulary, unit 3", ""}}) << true;
+    QTest::newRow("a plain first pair") << "cards.tsv" << Pairs({{"perro", "dog"}}) << false;
+    QTest::newRow("a plain first word") << "onecolumn.csv" << Pairs({{"cat", ""}}) << false;
+    QTest::newRow("no headings in kvtml") << "languages.kvtml" << Pairs({}) << false;
+}
+
+void TeacherImportTest::headingsOffered() {
+    QFETCH(QString, file);
+    QFETCH(QList<TextPair>, heading);
+    QFETCH(bool, skipped);
+    QFile f(Corpus(file));
+    QVERIFY(f.open(QIODevice::ReadOnly));
+    const ImportedList list = ParseVocabularyFile(f.readAll(), file);
+    QCOMPARE(list.headingRows, heading);
+    QCOMPARE(list.headingSkipped, skipped);
+    QCOMPARE(list.choose(skipped), list.pairs);
+    if (heading.isEmpty()) return;
+    QCOMPARE(list.choose(!skipped), skipped ? heading + list.pairs : list.pairs.mid(1));
+
+    // Headings made of heading words, numbered sides, plurals; not words of a list.
+    auto first = [](const QByteArray& bytes) {
+        const ImportedList l = ParseVocabularyFile(bytes, "x.csv");
+        return std::make_pair(l.headingSkipped, l.pairs.value(0).first);
+    };
+    QCOMPARE(first("Words,Definitions\ncat,a pet\n"), std::make_pair(true, QString("cat")));
+    QCOMPARE(first("Side 1,Side 2\ncat,a pet\n"), std::make_pair(true, QString("cat")));
+    QCOMPARE(first("English word,French meaning\ncat,chat\n"),
+             std::make_pair(true, QString("cat")));
+    QCOMPARE(first("Term,\ncat,a pet\n"), std::make_pair(true, QString("cat")));
+    QCOMPARE(first("word1,meaning 1\ncat,a pet\n"), std::make_pair(false, QString("word1")));
+    QCOMPARE(first("1,2\ncat,a pet\n"), std::make_pair(false, QString("1")));
+    QCOMPARE(first("Word,a unit of language\ncat,a pet\n"),
+             std::make_pair(false, QString("Word")));
+    QCOMPARE(first("s,a letter\ncat,a pet\n"), std::make_pair(false, QString("s")));
+    // Up to three leading rows: a title, a subtitle, the headings.
+    QCOMPARE(first("Unit 3\nAnimals\nWord,Meaning\nWord,Meaning\ncat,a pet\n"),
+             std::make_pair(true, QString("Word")));
+}
+
+void TeacherImportTest::previewTakesTheHeadingBack() {
+    TeacherFixture f({"No Lists"});
+    f.dialogs.fileAnswers.push_back(Corpus("heading.csv"));
+    f.then<ImportPreview>([](ImportPreview& p) {
+        QVERIFY(p.heading());
+        QCOMPARE(p.heading()->text(), "First line is a heading");
+        QVERIFY(p.heading()->isChecked());
+        QCOMPARE(p.summary(), "2 words found in heading.csv (CSV).");
+        QCOMPARE(p.table()->horizontalHeaderItem(0)->text(), "Spanish");
+        QCOMPARE(p.table()->horizontalHeaderItem(1)->text(), "English");
+        QCOMPARE(p.table()->item(0, 0)->text(), "el perro");
+        Shot(&p, "import-preview-heading");
+        p.heading()->setChecked(false);
+        QCOMPARE(p.summary(), "3 words found in heading.csv (CSV).");
+        QCOMPARE(p.table()->rowCount(), 3);
+        QCOMPARE(p.table()->horizontalHeaderItem(0)->text(), "Word");
+        QCOMPARE(p.table()->item(0, 1)->text(), "English");
+        p.name()->setText("Animales");
+        p.confirm();
+    });
+    Manager m;
+    m.command("Import List...");
+    QCOMPARE(f.dialogs.last(), "The list \"Animales\" has been imported with 3 words.");
+    QCOMPARE(f.lists(), QByteArray("Animales\r\nSpanish\r\nEnglish\r\nel perro\r\ndog\r\n"
+                                   "el gato\r\ncat\r\n"));
+
+    // A title taken back as a word has no definition: said, and the box stays open.
+    const QByteArray before = f.lists();
+    f.dialogs.fileAnswers.push_back(Corpus("titled.txt"));
+    f.then<ImportPreview>([&](ImportPreview& p) {
+        QCOMPARE(p.name()->text(), "French vocabulary, unit 3");
+        QCOMPARE(p.table()->horizontalHeaderItem(1)->text(), "Definition");
+        p.heading()->setChecked(false);
+        p.confirm();
+        QCOMPARE(f.dialogs.last(),
+                 "The word \"French vocabulary, unit 3\" has no definition. Give every word a "
+                 "definition, or none at all for a words-only list. Nothing was imported.");
+        QVERIFY(p.isVisible() || p.result() != QDialog::Accepted);
+        p.reject();
+    });
+    m.command("Import List...");
+    QCOMPARE(f.lists(), before);
+
+    // More than ten words: the rest are counted below the table, and follow the box.
+    QStringList rows{"Word,Definition"};
+    for (int i = 1; i <= 10; ++i) rows << QString("w%1,d%1").arg(i);
+    f.writeLines("eleven.csv", rows);
+    f.dialogs.fileAnswers.push_back(f.path("eleven.csv"));
+    f.then<ImportPreview>([](ImportPreview& p) {
+        auto* more = p.findChild<QLabel*>("More");
+        QVERIFY(more->isHidden());
+        QCOMPARE(p.table()->rowCount(), 10);
+        p.heading()->setChecked(false);
+        QVERIFY(!more->isHidden());
+        QCOMPARE(more->text(), "...and 1 more.");
+        QCOMPARE(p.table()->item(9, 0)->text(), "w9");
+        p.reject();
+    });
+    m.command("Import List...");
+
+    // KVTML has no heading lines to offer.
+    f.dialogs.fileAnswers.push_back(Corpus("languages.kvtml"));
+    f.then<ImportPreview>([](ImportPreview& p) {
+        QVERIFY(!p.heading());
+        QVERIFY(!p.findChild<QCheckBox*>());
+        p.reject();
+    });
+    m.command("Import List...");
+}
+
+void TeacherImportTest::languagesOfForeignLists() {
+    QCOMPARE(LanguageName("Spanish - English words, Spanish meanings"), "Spanish");
+    QCOMPARE(LanguageName("  Latin  "), "Latin");
+    QCOMPARE(LanguageName("Serbo-Croatian - words"), "Serbo-Croatian");
+    const QList<std::pair<QString, QString>> locales = {
+        {"English", "en"}, {"spanish", "es"}, {"FRENCH", "fr"}, {"German", "de"},
+        {"Italian", "it"}, {"Portuguese", "pt"}, {"Latin", "la"}, {"Klingon", ""}, {"", ""}};
+    for (const auto& [name, locale] : locales) QCOMPARE(LocaleOf(name), locale);
+}
+
 void TeacherImportTest::badFilesChangeNothing_data() {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("message");
@@ -93,16 +308,21 @@ void TeacherImportTest::badFilesChangeNothing_data() {
     QTest::newRow("binary") << "picture.png"
                             << "The file picture.png is not a text file. Choose a CSV, tab "
                                "separated or KVTML file.";
-    QTest::newRow("one column")
-        << "onecolumn.csv"
-        << "The file onecolumn.csv has only one column. Put each word and its definition side by "
-           "side, separated by a comma or a tab.";
+    QTest::newRow("the older KVTML")
+        << "old.kvtml"
+        << "The file old.kvtml is in the older KVTML 1 format, which is not supported. Open it in "
+           "a vocabulary trainer, save it as KVTML 2, and import that file.";
     QTest::newRow("outside the code page")
         << "outside.csv"
         << "The text \"水\" has characters this program cannot store (it keeps Western European "
            "letters only). Nothing was imported.";
-    QTest::newRow("broken xml") << "broken.kvtml"
-                                << "This is not a KVTML file";
+    QTest::newRow("broken xml")
+        << "broken.kvtml"
+        << "The file broken.kvtml is not a KVTML file that can be read (Premature end of "
+           "document).";
+    QTest::newRow("xml, not kvtml") << "notes.xml"
+                                    << "The file notes.xml is not a KVTML file that can be "
+                                       "read (it has no kvtml element).";
     QTest::newRow("a word twice")
         << "twice.csv"
         << "The word \"CAT\" appears twice in twice.csv. Nothing was imported.";
@@ -226,6 +446,57 @@ void TeacherImportTest::exportRoundTrips() {
     ImportedList words = exportAs("Spelling", true, f.path("spelling.kvtml"));
     QCOMPARE(words.pairs, Pairs({{"rhythm", ""}}));
     QVERIFY(!f.read("spelling.kvtml").contains("-----"));
+    QVERIFY(f.read("spelling.kvtml").contains("<name>Word</name>"));
+    QVERIFY(!f.read("spelling.kvtml").contains("<name>Definition</name>"));
+    // A words-only list in CSV is one column, and comes back as a words-only list.
+    ImportedList spelling = exportAs("Spelling", false, f.path("spelling.csv"));
+    QCOMPARE(f.read("spelling.csv"), QByteArray("\xEF\xBB\xBFrhythm\r\n"));
+    QCOMPARE(spelling.error, "");
+    QCOMPARE(spelling.pairs, Pairs({{"rhythm", ""}}));
+    QVERIFY(spelling.noDefinitions());
+}
+
+void TeacherImportTest::foreignListExportsItsLanguages() {
+    TeacherFixture f({"[S]Animales", "dog", "el perro", "cat", "el gato", "<New List>",
+                      "[Q]Quenya", "star", "elen", "<New List>", "Plain", "big", "large"});
+    auto exportKvtml = [&](const QString& list, const QString& target) {
+        const QString path = f.path(target);
+        f.then<ExportForm>([=](ExportForm& e) {
+            for (int i = 0; i < e.lists()->count(); ++i) {
+                if (e.lists()->item(i)->text() == list) e.lists()->setCurrentRow(i);
+            }
+            e.kvtml()->setChecked(true);
+            e.target()->setText(path);
+            e.confirm();
+        });
+        Manager m;
+        m.command("Export List...");
+        return QString::fromUtf8(f.read(target)).remove(' ').remove('\n');
+    };
+    const QString spanish = exportKvtml("Animales", "animales.kvtml");
+    QVERIFY2(spanish.contains("<identifiers><identifierid=\"0\"><name>English</name><locale>en"
+                              "</locale></identifier><identifierid=\"1\"><name>Spanish</name>"
+                              "<locale>es</locale></identifier></identifiers>"),
+             qPrintable(spanish));
+    QVERIFY(spanish.contains("<title>Animales</title>"));
+    QFile back(f.path("animales.kvtml"));
+    QVERIFY(back.open(QIODevice::ReadOnly));
+    QCOMPARE(ParseVocabularyFile(back.readAll(), "animales.kvtml").pairs,
+             Pairs({{"dog", "el perro"}, {"cat", "el gato"}}));
+    // A code the language file does not know: plain columns.
+    const QString unknown = exportKvtml("Quenya", "quenya.kvtml");
+    QVERIFY2(unknown.contains("<name>Word</name><locale>en</locale>") &&
+                 unknown.contains("<name>Definition</name><locale>en</locale>"),
+             qPrintable(unknown));
+    const QString plain = exportKvtml("Plain", "plain.kvtml");
+    QVERIFY(plain.contains("<name>Word</name><locale>en</locale>"));
+    QVERIFY(!plain.contains("English"));
+    // A language of the file whose locale is not known is named without one.
+    f.writeLines("flcodelist.dat", {"S", "Spanish - English words, Spanish meanings", "x", "Q",
+                                    "Quenya - English words, Quenya meanings", "y"});
+    const QString quenya = exportKvtml("Quenya", "quenya2.kvtml");
+    QVERIFY2(quenya.contains("<identifierid=\"1\"><name>Quenya</name></identifier>"),
+             qPrintable(quenya));
 }
 
 QTEST_MAIN(TeacherImportTest)
