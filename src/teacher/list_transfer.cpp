@@ -135,10 +135,9 @@ ImportedList FromRows(const QList<QStringList>& rows, const QString& format,
                       const QString& fileName) {
     ImportedList list;
     list.format = format;
-    int widest = 0;
-    for (const auto& r : rows) widest = std::max<int>(widest, r.size());
     QList<TextPair> all;
     QList<int> fields;
+    int pairsOverWords = 0;  // rows of two fields or more, less rows of one
     for (const QStringList& r : rows) {
         const QString word = OneLine(r.value(0));
         const QString def = OneLine(r.value(1));
@@ -150,18 +149,20 @@ ImportedList FromRows(const QList<QStringList>& rows, const QString& format,
         }
         all.append({word, def});
         fields.append(r.size());
+        pairsOverWords += r.size() > 1 ? 1 : -1;
     }
-    // A title (one field where the others have two) or a row of column headings leads many
+    // A title (one field where most rows have two) or a row of column headings leads many
     // files; up to three such rows are left out, and the teacher can take them back.
+    const bool titled = pairsOverWords > 0 && fields.value(0) == 1;
     int lead = 0;
     while (lead < std::min<int>(all.size(), 3) &&
-           ((widest > 1 && fields[lead] == 1) ||
+           ((pairsOverWords > 0 && fields[lead] == 1) ||
             (HeadingCell(all[lead].first) && HeadingCell(all[lead].second)))) {
         ++lead;
     }
     list.headingRows = all.mid(0, std::max(lead, 1));
     list.headingSkipped = lead > 0;
-    if (lead > 0 && widest > 1 && fields[0] == 1) list.suggestedName = all[0].first;
+    if (titled) list.suggestedName = all[0].first;
     list.pairs = all.mid(lead);
     return list;
 }

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QTableWidget>
 #include <QtTest>
@@ -34,6 +35,8 @@ private slots:
     void corpusReadsExactly_data();
     void corpusReadsExactly();
     void csvQuotesAcrossLines();
+    void smallFiles_data();
+    void smallFiles();
     void separatorFromTheLines_data();
     void separatorFromTheLines();
     void headingsOffered_data();
@@ -46,6 +49,7 @@ private slots:
     void importNameChecksAndWordsOnly();
     void exportRoundTrips();
     void foreignListExportsItsLanguages();
+    void boxesRefuseAndCancel();
 };
 
 void TeacherImportTest::corpusReadsExactly_data() {
@@ -146,6 +150,78 @@ void TeacherImportTest::csvQuotesAcrossLines() {
     QCOMPARE(rows[1], (QStringList{"last", "x,y"}));
 }
 
+void TeacherImportTest::smallFiles_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<QList<TextPair>>("pairs");
+    const QString notText = "The file f.txt is not a text file. Choose a CSV, tab separated or "
+                            "KVTML file.";
+    // One control character in twenty is still text; two are not.
+    QTest::newRow("5% control characters") << QByteArray("cat,a pe\x01t\ndog,a pet") << ""
+                                           << Pairs({{"cat", "a pe\x01t"}, {"dog", "a pet"}});
+    QTest::newRow("10% control characters")
+        << QByteArray("cat,a pe\x01t\ndog,a p\x02t") << notText << Pairs({});
+    QTest::newRow("a NUL") << QByteArray("cat,a pet\0", 10) << notText << Pairs({});
+    QTest::newRow("only a UTF-16 byte-order mark and a line end")
+        << QByteArray("\xFF\xFE\r\0\n\0", 6) << "The file f.txt is empty." << Pairs({});
+    QTest::newRow("UTF-32 with its byte-order mark")
+        << QByteArray("\xFF\xFE\0\0a\0\0\0,\0\0\0b\0\0\0", 16) << ""
+        << Pairs({{"a", "b"}});
+    QTest::newRow("old Mac line ends") << QByteArray("cat,a pet\rdog,a loyal pet\r") << ""
+                                       << Pairs({{"cat", "a pet"}, {"dog", "a loyal pet"}});
+    QTest::newRow("Windows-1252") << QByteArray("caf\xE9\tcoffee\n") << ""
+                                  << Pairs({{"café", "coffee"}});
+    QTest::newRow("a definition without its word")
+        << QByteArray("cat,a pet\n,a loyal pet\n")
+        << "The definition \"a loyal pet\" in f.txt has no word. Nothing was imported."
+        << Pairs({});
+    QTest::newRow("the separator line as a word")
+        << QByteArray("cat,a pet\n<New List>,x\n")
+        << "The file f.txt contains the text \"<New List>\", which cannot be used in a list. "
+           "Nothing was imported."
+        << Pairs({});
+    // Most rows are single words: the first is not taken for a title.
+    QTest::newRow("a comma in a words-only list")
+        << QByteArray("rhythm\nnecessary\nSmith, John\n")
+        << "The word \"rhythm\" has no definition. Give every word a definition, or none at all "
+           "for a words-only list. Nothing was imported."
+        << Pairs({});
+    QTest::newRow("a heading alone") << QByteArray("Word,Definition\n")
+                                     << "The file f.txt holds no words to import." << Pairs({});
+    QTest::newRow("kvtml: a definition without its word")
+        << QByteArray("<kvtml version=\"2.0\"><entries><entry id=\"0\"><translation id=\"1\">"
+                      "<text>chat</text></translation></entry></entries></kvtml>")
+        << "The definition \"chat\" in f.txt has no word. Nothing was imported." << Pairs({});
+    QTest::newRow("kvtml: version 1 in so many words")
+        << QByteArray("<?xml version=\"1.0\"?><kvtml version=\"1.0\"><entries><entry id=\"0\">"
+                      "<translation id=\"0\"><text>cat</text></translation></entry></entries>"
+                      "</kvtml>")
+        << "The file f.txt is in the older KVTML 1 format, which is not supported. Open it in a "
+           "vocabulary trainer, save it as KVTML 2, and import that file."
+        << Pairs({});
+    QTest::newRow("kvtml: ids padded, other languages and lessons left out")
+        << QByteArray("<kvtml version=\"2.0\"><lessons><entry id=\"0\"/></lessons><entries>"
+                      "<entry id=\"0\"><translation id=\" 1 \"><text> le  chat </text>"
+                      "</translation><translation id=\"2\"><text>Katze</text></translation>"
+                      "<translation id=\"0\"><text>cat</text></translation><comment>x</comment>"
+                      "</entry><note/></entries></kvtml>")
+        << "" << Pairs({{"cat", "le chat"}});
+    QTest::newRow("kvtml: well formed to the end")
+        << QByteArray("<kvtml version=\"2.0\"></kvtml><extra>")
+        << "The file f.txt is not a KVTML file that can be read (Extra content at end of "
+           "document)."
+        << Pairs({});
+}
+
+void TeacherImportTest::smallFiles() {
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, error);
+    QFETCH(QList<TextPair>, pairs);
+    const ImportedList list = ParseVocabularyFile(bytes, "f.txt");
+    QCOMPARE(list.error, error);
+    QCOMPARE(list.pairs, pairs);
+}
+
 void TeacherImportTest::separatorFromTheLines_data() {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("separator");
@@ -213,6 +289,24 @@ void TeacherImportTest::headingsOffered() {
     QCOMPARE(first("Word,a unit of language\ncat,a pet\n"),
              std::make_pair(false, QString("Word")));
     QCOMPARE(first("s,a letter\ncat,a pet\n"), std::make_pair(false, QString("s")));
+    const QStringList headings = {
+        "Word,Meaning",          "Term,Definition",       "Front,Back",
+        "Question,Answer",       "Vocabulary,Translation", "Vocab,Description",
+        "Spelling,Clue",         "Phrase,Expression",     "Prompt,Response",
+        "Card,Side",             "Foreign,Native",        "Language 1,Language 2",
+        "Unit,Lesson",           "Chapter,List",          "Week,Column",
+        "Word in French,Meaning of the word",             "Palabra,Significado",
+        "Palabra,Definición",    "Palabra,Traducción",    "Mot,Sens",
+        "Mot,Définition",        "Mot,Traduction",        "Wort,Bedeutung",
+        "Begriff,Übersetzung",   "Parola,Significato",    "Español,Inglés",
+        "Francés,Alemán",        "Italiano,Inglese",      "Français,Anglais",
+        "Allemand,Espagnol",     "Italien,Français",      "Deutsch,Englisch",
+        "Französisch,Spanisch",  "Italienisch,Deutsch",   "Spagnolo,Francese",
+        "Tedesco,Inglese",       "Welsh,English",         "Latin,English"};
+    for (const QString& h : headings) {
+        const ImportedList l = ParseVocabularyFile((h + "\ncat,a pet\n").toUtf8(), "h.csv");
+        QVERIFY2(l.headingSkipped && l.pairs.size() == 1, qPrintable(h));
+    }
     // Up to three leading rows: a title, a subtitle, the headings.
     QCOMPARE(first("Unit 3\nAnimals\nWord,Meaning\nWord,Meaning\ncat,a pet\n"),
              std::make_pair(true, QString("Word")));
@@ -293,9 +387,80 @@ void TeacherImportTest::languagesOfForeignLists() {
     QCOMPARE(LanguageName("  Latin  "), "Latin");
     QCOMPARE(LanguageName("Serbo-Croatian - words"), "Serbo-Croatian");
     const QList<std::pair<QString, QString>> locales = {
-        {"English", "en"}, {"spanish", "es"}, {"FRENCH", "fr"}, {"German", "de"},
-        {"Italian", "it"}, {"Portuguese", "pt"}, {"Latin", "la"}, {"Klingon", ""}, {"", ""}};
+        {"English", "en"},    {"spanish", "es"},    {"FRENCH", "fr"},       {"German", "de"},
+        {"Italian", "it"},    {"Portuguese", "pt"}, {"Dutch", "nl"},        {"Latin", "la"},
+        {"Swedish", "sv"},    {"Norwegian", "no"},  {"Danish", "da"},       {"Finnish", "fi"},
+        {"Icelandic", "is"},  {"Irish", "ga"},      {"Welsh", "cy"},        {"Gaelic", "gd"},
+        {"Catalan", "ca"},    {"Basque", "eu"},     {"Galician", "gl"},     {"Afrikaans", "af"},
+        {"Swahili", "sw"},    {"Indonesian", "id"}, {"Malay", "ms"},        {"Albanian", "sq"},
+        {"Estonian", "et"},   {"Faroese", "fo"},    {"Tagalog", "tl"},      {"Hawaiian", "haw"},
+        {"Maori", "mi"},      {"Esperanto", "eo"},  {"Romanian", "ro"},     {"Polish", "pl"},
+        {"Czech", "cs"},      {"Hungarian", "hu"},  {"Turkish", "tr"},      {"Greek", "el"},
+        {"Russian", "ru"},    {"Chinese", "zh"},    {"Mandarin", "zh"},     {"Japanese", "ja"},
+        {"Korean", "ko"},     {"Arabic", "ar"},     {"Hebrew", "he"},       {"Hindi", "hi"},
+        {"Vietnamese", "vi"}, {"Ukrainian", "uk"},  {"Luxembourgish", "lb"}, {"Klingon", ""},
+        {"", ""},             {"Span", ""}};
     for (const auto& [name, locale] : locales) QCOMPARE(LocaleOf(name), locale);
+}
+
+void TeacherImportTest::boxesRefuseAndCancel() {
+    TeacherFixture f;
+    const QByteArray before = f.lists();
+    Manager m;
+    // A file that cannot be opened.
+    f.dialogs.fileAnswers.push_back(f.path("gone.csv"));
+    m.command("Import List...");
+    QCOMPARE(f.dialogs.shown.back().text, "The file " + f.path("gone.csv") + " could not be opened.");
+    QCOMPARE(f.dialogs.shown.back().title, "Import List");
+    // No file chosen: nothing at all.
+    const auto shown = f.dialogs.shown.size();
+    m.command("Import List...");
+    QCOMPARE(f.dialogs.shown.size(), shown + 1);  // only the file box
+    QCOMPARE(f.dialogs.shown.back().kind, "openFile");
+    QCOMPARE(f.dialogs.shown.back().title, "Import List");
+    // A name the list file cannot store, then Cancel.
+    f.dialogs.fileAnswers.push_back(Corpus("cards.tsv"));
+    f.then<ImportPreview>([&](ImportPreview& p) {
+        QCOMPARE(p.table()->editTriggers(), QAbstractItemView::NoEditTriggers);
+        p.name()->setText("Animales \u6C34");
+        p.confirm();
+        QCOMPARE(f.dialogs.last(),
+                 "The list name has characters this program cannot store. Please choose another "
+                 "name.");
+        p.findChild<QPushButton*>("Command1")->click();
+    });
+    m.command("Import List...");
+    QCOMPARE(f.opened.last(), "ImportPreview");
+    QCOMPARE(f.lists(), before);
+
+    // Export: a list must be chosen, then a place; CSV unless KVTML is picked; Cancel leaves.
+    f.then<ExportForm>([&](ExportForm& e) {
+        QVERIFY(e.findChild<QRadioButton*>("Csv")->isChecked());
+        QVERIFY(!e.kvtml()->isChecked());
+        e.target()->setText(f.path("out.csv"));
+        e.confirm();
+        QCOMPARE(f.dialogs.last(), "You need to choose a list!");
+        e.lists()->setCurrentRow(0);
+        e.target()->setText("  ");
+        e.confirm();
+        QCOMPARE(f.dialogs.shown.back().text, "Choose where to save the file first.");
+        QCOMPARE(f.dialogs.shown.back().title, "Export List");
+        e.target()->setText(f.path("out.csv"));
+        e.findChild<QPushButton*>("Command1")->click();
+    });
+    m.command("Export List...");
+    QCOMPARE(f.opened.last(), "ExportForm");
+    QVERIFY(!f.exists("out.csv"));
+    // A place that cannot be written.
+    f.then<ExportForm>([&](ExportForm& e) {
+        e.lists()->setCurrentRow(0);
+        e.target()->setText(f.path("no/such/folder/out.csv"));
+        e.confirm();
+    });
+    m.command("Export List...");
+    QCOMPARE(f.dialogs.shown.back().text,
+             "The file " + f.path("no/such/folder/out.csv") + " could not be written.");
+    QCOMPARE(f.dialogs.shown.back().title, "Export List");
 }
 
 void TeacherImportTest::badFilesChangeNothing_data() {
@@ -488,6 +653,12 @@ void TeacherImportTest::foreignListExportsItsLanguages() {
     QVERIFY2(unknown.contains("<name>Word</name><locale>en</locale>") &&
                  unknown.contains("<name>Definition</name><locale>en</locale>"),
              qPrintable(unknown));
+    // "[S]a" is the plain name of four characters; "[S]ab" is the list "ab" in Spanish.
+    f.writeLines("thelists.dat", {"[S]a", "one", "uno", "<New List>", "[S]ab", "two", "dos"});
+    QVERIFY(exportKvtml("[S]a", "short.kvtml").contains("<name>Definition</name>"));
+    QVERIFY(exportKvtml("ab", "ab.kvtml").contains("<name>Spanish</name><locale>es</locale>"));
+    f.writeLines("thelists.dat", {"[S]Animales", "dog", "el perro", "<New List>", "[Q]Quenya",
+                                  "star", "elen", "<New List>", "Plain", "big", "large"});
     const QString plain = exportKvtml("Plain", "plain.kvtml");
     QVERIFY(plain.contains("<name>Word</name><locale>en</locale>"));
     QVERIFY(!plain.contains("English"));
