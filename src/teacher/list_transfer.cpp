@@ -15,14 +15,15 @@ namespace {
 const QString kSeparatorLine = "<New List>";
 const QString kMarker = "-----";
 
-// Decoded text with more than 5% control characters, or any NUL, is not a word list.
+// Decoded text (line ends as "\n") with more than 5% control characters, or any NUL, is not a
+// word list.
 bool LooksBinary(const QString& text) {
     const int n = std::min<int>(text.size(), 4096);
     int control = 0;
     for (int i = 0; i < n; ++i) {
         const char16_t c = text[i].unicode();
         if (c == 0) return true;
-        if (c < 32 && c != '\t' && c != '\r' && c != '\n') ++control;
+        if (c < 32 && c != '\t' && c != '\n') ++control;
     }
     return control * 20 > n;
 }
@@ -50,8 +51,7 @@ bool FitsCodePage(const QString& text) {
 }
 
 // Line breaks inside a quoted field cannot live in a line-based list.
-QString OneLine(QString s) {
-    s.replace("\r\n", " ").replace('\n', ' ').replace('\r', ' ');
+QString OneLine(const QString& s) {
     return s.simplified();
 }
 

@@ -181,11 +181,16 @@ void TeacherImportTest::smallFiles_data() {
            "Nothing was imported."
         << Pairs({});
     // Most rows are single words: the first is not taken for a title.
-    QTest::newRow("a comma in a words-only list")
-        << QByteArray("rhythm\nnecessary\nSmith, John\n")
+    QTest::newRow("commas in a words-only list")
+        << QByteArray("rhythm\nnecessary\nlemon\nSmith, John\nJones, Ann\n")
         << "The word \"rhythm\" has no definition. Give every word a definition, or none at all "
            "for a words-only list. Nothing was imported."
         << Pairs({});
+    QTest::newRow("most rows are pairs: two titles")
+        << QByteArray("Animals\nUnit 3\ncat,a pet\ndog,a loyal pet\nowl,a bird\n") << ""
+        << Pairs({{"cat", "a pet"}, {"dog", "a loyal pet"}, {"owl", "a bird"}});
+    QTest::newRow("tabs and line ends are text")
+        << QByteArray("a\tb\r\nc\td\r\n\r\n") << "" << Pairs({{"a", "b"}, {"c", "d"}});
     QTest::newRow("a heading alone") << QByteArray("Word,Definition\n")
                                      << "The file f.txt holds no words to import." << Pairs({});
     QTest::newRow("kvtml: a definition without its word")
@@ -237,9 +242,11 @@ void TeacherImportTest::separatorFromTheLines_data() {
         << ";";
     QTest::newRow("one column") << "cat\ndog\n" << ",";
     QTest::newRow("empty") << "" << ",";
-    // Only the first 20 lines are read.
-    QTest::newRow("twenty lines decide") << QString("a;b\n").repeated(20) + QString("a\tb\n").repeated(30)
-                                         << ";";
+    // Only the first 20 lines are read: ten and ten, a tie, which goes to the tab.
+    QTest::newRow("twenty lines decide")
+        << QString("a;b\n").repeated(10) + QString("a\tb\n").repeated(10) +
+               QString("a;b\n").repeated(5)
+        << "\t";
 }
 
 void TeacherImportTest::separatorFromTheLines() {
@@ -372,6 +379,17 @@ void TeacherImportTest::previewTakesTheHeadingBack() {
     });
     m.command("Import List...");
 
+    // A title, a subtitle and the headings: the last names the columns.
+    f.writeLines("three.csv", {"Unit 3", "Animals", "Word,Meaning", "cat,a pet", "dog,a loyal pet"});
+    f.dialogs.fileAnswers.push_back(f.path("three.csv"));
+    f.then<ImportPreview>([](ImportPreview& p) {
+        QCOMPARE(p.heading()->text(), "First 3 lines are headings");
+        QCOMPARE(p.table()->horizontalHeaderItem(1)->text(), "Meaning");
+        QCOMPARE(p.name()->text(), "Unit 3");
+        p.reject();
+    });
+    m.command("Import List...");
+
     // KVTML has no heading lines to offer.
     f.dialogs.fileAnswers.push_back(Corpus("languages.kvtml"));
     f.then<ImportPreview>([](ImportPreview& p) {
@@ -427,7 +445,12 @@ void TeacherImportTest::boxesRefuseAndCancel() {
         QCOMPARE(f.dialogs.last(),
                  "The list name has characters this program cannot store. Please choose another "
                  "name.");
+        for (const char* name : {"Summary", "Heading", "Preview", "More", "Label1", "NewName",
+                                 "Command2"})
+            QVERIFY2(p.findChild<QWidget*>(name), name);
+        QSignalSpy cancelled(&p, &QDialog::rejected);
         p.findChild<QPushButton*>("Command1")->click();
+        QCOMPARE(cancelled.count(), 1);
     });
     m.command("Import List...");
     QCOMPARE(f.opened.last(), "ImportPreview");
@@ -446,7 +469,13 @@ void TeacherImportTest::boxesRefuseAndCancel() {
         QCOMPARE(f.dialogs.shown.back().text, "Choose where to save the file first.");
         QCOMPARE(f.dialogs.shown.back().title, "Export List");
         e.target()->setText(f.path("out.csv"));
+        for (const char* name : {"Label1", "TheLists", "Csv", "Kvtml", "Target", "Browse",
+                                 "Command2"})
+            QVERIFY2(e.findChild<QWidget*>(name), name);
+        QVERIFY(e.lists()->isSortingEnabled());
+        QSignalSpy cancelled(&e, &QDialog::rejected);
         e.findChild<QPushButton*>("Command1")->click();
+        QCOMPARE(cancelled.count(), 1);
     });
     m.command("Export List...");
     QCOMPARE(f.opened.last(), "ExportForm");
@@ -607,6 +636,51 @@ void TeacherImportTest::exportRoundTrips() {
                             "cat,\"a pet, furry\"\r\n"));
     ImportedList kv = exportAs("Animals", true, f.path("animals.kvtml"));
     QCOMPARE(kv.pairs, animals);
+    QCOMPARE(QString::fromUtf8(f.read("animals.kvtml")),
+             "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+             "<!DOCTYPE kvtml PUBLIC \"kvtml2.dtd\" \"http://edu.kde.org/kvtml/kvtml2.dtd\">\n"
+             "<kvtml version=\"2.0\">\n"
+             " <information>\n"
+             "  <generator>Wordmere 1.01</generator>\n"
+             "  <title>Animals</title>\n"
+             " </information>\n"
+             " <identifiers>\n"
+             "  <identifier id=\"0\">\n"
+             "   <name>Word</name>\n"
+             "   <locale>en</locale>\n"
+             "  </identifier>\n"
+             "  <identifier id=\"1\">\n"
+             "   <name>Definition</name>\n"
+             "   <locale>en</locale>\n"
+             "  </identifier>\n"
+             " </identifiers>\n"
+             " <entries>\n"
+             "  <entry id=\"0\">\n"
+             "   <translation id=\"0\">\n"
+             "    <text>cat</text>\n"
+             "   </translation>\n"
+             "   <translation id=\"1\">\n"
+             "    <text>a pet, furry</text>\n"
+             "   </translation>\n"
+             "  </entry>\n"
+             "  <entry id=\"1\">\n"
+             "   <translation id=\"0\">\n"
+             "    <text>dog</text>\n"
+             "   </translation>\n"
+             "   <translation id=\"1\">\n"
+             "    <text>a &quot;loyal&quot; pet</text>\n"
+             "   </translation>\n"
+             "  </entry>\n"
+             " </entries>\n"
+             " <lessons>\n"
+             "  <container>\n"
+             "   <name>Animals</name>\n"
+             "   <inpractice>true</inpractice>\n"
+             "   <entry id=\"0\"/>\n"
+             "   <entry id=\"1\"/>\n"
+             "  </container>\n"
+             " </lessons>\n"
+             "</kvtml>\n");
     QCOMPARE(kv.suggestedName, "Animals");
     ImportedList words = exportAs("Spelling", true, f.path("spelling.kvtml"));
     QCOMPARE(words.pairs, Pairs({{"rhythm", ""}}));
