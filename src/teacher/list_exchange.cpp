@@ -1,5 +1,6 @@
 #include "teacher/list_exchange.h"
 
+#include <QCheckBox>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -14,6 +15,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include "core/language_codes.h"
 #include "core/list_file.h"
 #include "core/shared_state.h"
 #include "core/strings.h"
@@ -33,34 +35,32 @@ const char* kFilter = "Vocabulary files (*.csv *.tsv *.txt *.kvtml *.xml);;All f
 }  // namespace
 
 ImportPreview::ImportPreview(const ImportedList& list, const QString& fileName, QWidget* parent)
-    : QDialog(parent) {
+    : QDialog(parent), list_(list), fileName_(QFileInfo(fileName).fileName()) {
     setObjectName("ImportPreview");
     QVBoxLayout* layout = DialogBody(this, "Import List");
-    summary_ = NamedLabel("Summary",
-                          QString("%1 words found in %2 (%3).")
-                              .arg(list.pairs.size())
-                              .arg(QFileInfo(fileName).fileName(), list.format),
-                          this, 13, true);
+    summary_ = NamedLabel("Summary", "", this, 13, true);
     layout->addWidget(summary_);
-    const bool wordsOnly = list.noDefinitions();
-    table_ =
-        new QTableWidget(std::min<int>(kPreviewRows, list.pairs.size()), wordsOnly ? 1 : 2, this);
+    if (!list.headingRows.isEmpty()) {
+        const int lines = list.headingRows.size();
+        heading_ = new QCheckBox(lines == 1 ? QString("First line is a heading")
+                                            : QString("First %1 lines are headings").arg(lines),
+                                 this);
+        heading_->setObjectName("Heading");
+        heading_->setFont(ScreenFont(12));
+        heading_->setChecked(list.headingSkipped);
+        layout->addWidget(heading_);
+        connect(heading_, &QCheckBox::toggled, this, &ImportPreview::fill);
+    }
+    table_ = new QTableWidget(this);
     table_->setObjectName("Preview");
     table_->setFont(ScreenFont(12));
-    table_->setHorizontalHeaderLabels({"Word", "Definition"});
     table_->horizontalHeader()->setStretchLastSection(true);
     table_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     table_->verticalHeader()->hide();
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    for (int r = 0; r < table_->rowCount(); ++r) {
-        table_->setItem(r, 0, new QTableWidgetItem(list.pairs[r].first));
-        if (!wordsOnly) table_->setItem(r, 1, new QTableWidgetItem(list.pairs[r].second));
-    }
     layout->addWidget(table_, 1);
-    if (list.pairs.size() > kPreviewRows) {
-        layout->addWidget(NamedLabel(
-            "More", QString("...and %1 more.").arg(list.pairs.size() - kPreviewRows), this, 11));
-    }
+    more_ = NamedLabel("More", "", this, 11);
+    layout->addWidget(more_);
     layout->addWidget(NamedLabel("Label1", "Type in the name of your new list:", this, 13, true));
     name_ = new QLineEdit(this);
     name_->setObjectName("NewName");
@@ -78,7 +78,38 @@ ImportPreview::ImportPreview(const ImportedList& list, const QString& fileName, 
     layout->addLayout(row);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(ok, &QPushButton::clicked, this, &ImportPreview::confirm);
+    fill();
     SizeToScreen(this, 0.5, 0.75);
+}
+
+QList<TextPair> ImportPreview::words() const {
+    return heading_ ? list_.choose(heading_->isChecked()) : list_.pairs;
+}
+
+// The count, the first rows and the column titles, as the heading box stands.
+void ImportPreview::fill() {
+    const QList<TextPair> pairs = words();
+    summary_->setText(QString("%1 words found in %2 (%3).")
+                          .arg(pairs.size())
+                          .arg(fileName_, list_.format));
+    ImportedList shown;
+    shown.pairs = pairs;
+    const bool wordsOnly = shown.noDefinitions();
+    table_->clear();
+    table_->setColumnCount(wordsOnly ? 1 : 2);
+    table_->setRowCount(std::min<int>(kPreviewRows, pairs.size()));
+    // Skipped headings name the columns, as they did in the file.
+    const bool named = heading_ && heading_->isChecked() &&
+                       !list_.headingRows.last().second.isEmpty();
+    table_->setHorizontalHeaderLabels(
+        named ? QStringList{list_.headingRows.last().first, list_.headingRows.last().second}
+              : QStringList{"Word", "Definition"});
+    for (int r = 0; r < table_->rowCount(); ++r) {
+        table_->setItem(r, 0, new QTableWidgetItem(pairs[r].first));
+        if (!wordsOnly) table_->setItem(r, 1, new QTableWidgetItem(pairs[r].second));
+    }
+    more_->setText(QString("...and %1 more.").arg(pairs.size() - kPreviewRows));
+    more_->setVisible(pairs.size() > kPreviewRows);
 }
 
 QString ImportPreview::summary() const {
@@ -86,6 +117,11 @@ QString ImportPreview::summary() const {
 }
 
 void ImportPreview::confirm() {
+    const QString problem = CheckImport(words(), fileName_);
+    if (!problem.isEmpty()) {
+        dialogs().message(problem, "Import List");
+        return;
+    }
     const QString typed = name_->text();
     if (typed.trimmed().isEmpty()) {
         dialogs().message("Type a name for your list before you continue...");
@@ -130,9 +166,12 @@ void ImportList(QWidget* parent) {
         return;
     ImportPreview preview(list, path, parent);
     if (RunModal(preview) != QDialog::Accepted) return;
+    ImportedList chosen;
+    chosen.pairs = preview.words();
     std::vector<WordPair> pairs;
-    for (const auto& [w, d] : list.pairs) {
-        pairs.emplace_back(fromQ(w), wordsOnly ? std::string(kWordsOnlyMarker) : fromQ(d));
+    for (const auto& [w, d] : chosen.pairs) {
+        pairs.emplace_back(fromQ(w),
+                           chosen.noDefinitions() ? std::string(kWordsOnlyMarker) : fromQ(d));
     }
     const std::string name = fromQ(preview.name()->text());
     const bool ok = Guarded([&] {
@@ -222,8 +261,15 @@ void ExportForm::confirm() {
     const bool wordsOnly = !pairs.empty() && pairs.front().second == kWordsOnlyMarker;
     QList<TextPair> out;
     for (const auto& [w, d] : pairs) out.append({toQ(w), toQ(d)});
-    const QByteArray bytes =
-        kvtml_->isChecked() ? ExportKvtml(item->text(), out, wordsOnly) : ExportCsv(out, wordsOnly);
+    // A foreign list names its language, as the language file calls it.
+    QString language;
+    if (HasPrefix(stored) && stored.size() > 4) {
+        const auto codes = ReadLanguageCodes(AppFilePath(kLanguageFileName));
+        if (const LanguageCode* code = FindLanguage(codes, stored.substr(1, 1)))
+            language = LanguageName(toQ(code->first));
+    }
+    const QByteArray bytes = kvtml_->isChecked() ? ExportKvtml(item->text(), out, wordsOnly, language)
+                                                 : ExportCsv(out, wordsOnly);
     QSaveFile file(target_->text().trimmed());
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
         dialogs().message("The file " + target_->text() + " could not be written.", "Export List");

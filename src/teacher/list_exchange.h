@@ -5,6 +5,7 @@
 
 #include "teacher/list_transfer.h"
 
+class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -13,20 +14,29 @@ class QTableWidget;
 
 namespace wm {
 
-// Shows the first pairs and the count, and takes the new list's name.
+// Shows the first pairs and the count, offers to leave out a text file's heading lines, and
+// takes the new list's name.
 class ImportPreview : public QDialog {
     Q_OBJECT
 public:
     ImportPreview(const ImportedList& list, const QString& fileName, QWidget* parent = nullptr);
     QLineEdit* name() const { return name_; }
     QTableWidget* table() const { return table_; }
+    QCheckBox* heading() const { return heading_; }  // null for KVTML
     QString summary() const;
-    void confirm();  // the name checks of a new list
+    QList<TextPair> words() const;  // what the import takes, as the heading box says
+    void confirm();                 // the words and the name checks of a new list
 
 private:
+    void fill();
+
+    ImportedList list_;
+    QString fileName_;
     QLineEdit* name_;
     QTableWidget* table_;
     QLabel* summary_;
+    QLabel* more_;
+    QCheckBox* heading_ = nullptr;
 };
 
 class ExportForm : public QDialog {

@@ -1,5 +1,7 @@
 #include "teacher/list_transfer.h"
 
+#include <QMap>
+#include <QRegularExpression>
 #include <QSet>
 #include <QStringDecoder>
 #include <QStringEncoder>
@@ -15,19 +17,25 @@ namespace {
 const QString kSeparatorLine = "<New List>";
 const QString kMarker = "-----";
 
-bool LooksBinary(const QByteArray& bytes) {
-    const int n = std::min<int>(bytes.size(), 4096);
+// Decoded text (line ends as "\n") with more than 5% control characters, or any NUL, is not a
+// word list.
+bool LooksBinary(const QString& text) {
+    const int n = std::min<int>(text.size(), 4096);
     int control = 0;
     for (int i = 0; i < n; ++i) {
-        const unsigned char c = bytes[i];
+        const char16_t c = text[i].unicode();
         if (c == 0) return true;
-        if (c < 32 && c != '\t' && c != '\r' && c != '\n') ++control;
+        if (c < 32 && c != '\t' && c != '\n') ++control;
     }
-    return control * 20 > n;  // more than 5% control bytes
+    return control * 20 > n;
 }
 
 QString Decode(const QByteArray& bytes) {
-    if (bytes.startsWith("\xEF\xBB\xBF")) return QString::fromUtf8(bytes.mid(3));
+    // A byte-order mark names the encoding: spreadsheets save "Unicode text" as UTF-16.
+    if (const auto marked = QStringConverter::encodingForData(bytes)) {
+        QStringDecoder decode(*marked);
+        return decode(bytes);
+    }
     QStringDecoder utf8(QStringDecoder::Utf8);
     const QString text = utf8(bytes);
     if (!utf8.hasError()) return text;
@@ -37,82 +45,94 @@ QString Decode(const QByteArray& bytes) {
 }
 
 // Line breaks inside a quoted field cannot live in a line-based list.
-QString OneLine(QString s) {
-    s.replace("\r\n", " ").replace('\n', ' ').replace('\r', ' ');
+QString OneLine(const QString& s) {
     return s.simplified();
 }
 
-bool IsHeader(const QStringList& row) {
-    static const QSet<QString> words = {"word",     "words",   "term",      "front",
-                                        "question", "english", "vocabulary"};
-    static const QSet<QString> defs = {"definition", "definitions", "meaning",    "back",
-                                       "answer",     "translation", "description"};
-    return row.size() >= 2 && words.contains(row[0].trimmed().toLower()) &&
-           defs.contains(row[1].trimmed().toLower());
+// Languages by their English names, with their locale codes.
+struct Language {
+    const char* name;
+    const char* locale;
+};
+constexpr Language kLanguages[] = {
+    {"english", "en"},    {"spanish", "es"},    {"french", "fr"},     {"german", "de"},
+    {"italian", "it"},    {"portuguese", "pt"}, {"dutch", "nl"},      {"latin", "la"},
+    {"swedish", "sv"},    {"norwegian", "no"},  {"danish", "da"},     {"finnish", "fi"},
+    {"icelandic", "is"},  {"irish", "ga"},      {"welsh", "cy"},      {"gaelic", "gd"},
+    {"catalan", "ca"},    {"basque", "eu"},     {"galician", "gl"},   {"afrikaans", "af"},
+    {"swahili", "sw"},    {"indonesian", "id"}, {"malay", "ms"},      {"albanian", "sq"},
+    {"estonian", "et"},   {"faroese", "fo"},    {"tagalog", "tl"},    {"hawaiian", "haw"},
+    {"maori", "mi"},      {"esperanto", "eo"},  {"romanian", "ro"},   {"polish", "pl"},
+    {"czech", "cs"},      {"hungarian", "hu"},  {"turkish", "tr"},    {"greek", "el"},
+    {"russian", "ru"},    {"chinese", "zh"},    {"mandarin", "zh"},   {"japanese", "ja"},
+    {"korean", "ko"},     {"arabic", "ar"},     {"hebrew", "he"},     {"hindi", "hi"},
+    {"vietnamese", "vi"}, {"ukrainian", "uk"},  {"luxembourgish", "lb"},
+};
+
+// The words of column headings, and language names as their speakers write them.
+bool HeadingWord(const QString& token) {
+    static const QSet<QString> words = {
+        "word",        "term",        "front",     "back",       "question",    "answer",
+        "vocabulary",  "vocab",       "definition", "meaning",   "translation", "description",
+        "spelling",    "phrase",      "expression", "side",      "card",        "prompt",
+        "response",    "clue",        "language",  "foreign",    "native",      "unit",
+        "lesson",      "chapter",     "list",      "week",       "column",      "in",
+        "the",         "of",          "palabra",   "significado", "definición", "traducción",
+        "mot",         "sens",        "définition", "traduction", "wort",       "bedeutung",
+        "übersetzung", "begriff",     "parola",    "significato", "español",    "inglés",
+        "francés",     "alemán",      "italiano",  "français",   "anglais",     "allemand",
+        "espagnol",    "italien",     "deutsch",   "englisch",   "französisch", "spanisch",
+        "italienisch", "inglese",     "spagnolo",  "francese",   "tedesco"};
+    if (words.contains(token) || !LocaleOf(token).isEmpty()) return true;
+    // Plurals: "Words", "Definitions".
+    return token.endsWith('s') && token.size() > 1 && HeadingWord(token.chopped(1));
 }
 
-// The checks every format shares; fills `error` on the first problem.
-void Check(ImportedList& list, const QString& fileName) {
-    if (!list.error.isEmpty()) {
-        list.pairs.clear();
-        return;
+// A cell such as "Word", "Spanish", "Side 2" or "English meaning": heading words and numbers
+// only ("word1" is a word of a list).
+bool HeadingCell(const QString& cell) {
+    QString words;
+    for (const QChar c : cell.toLower()) words += c.isLetterOrNumber() ? c : QChar(' ');
+    bool any = false;
+    for (const QString& t : words.split(' ', Qt::SkipEmptyParts)) {
+        bool number = false;
+        t.toInt(&number);
+        if (!number && !HeadingWord(t)) return false;
+        any = any || !number;
     }
-    auto fail = [&](const QString& why) {
-        list.error = why;
-        list.pairs.clear();
-    };
-    if (list.pairs.isEmpty()) {
-        return fail("The file " + fileName + " holds no words to import.");
+    return any || cell.isEmpty();
+}
+
+// Headers of flash-card programs ("#separator:tab", "#columns:Front<tab>Back") and lines that
+// start with "#" and hold no pair are comments; "#<tab>number sign" is a word.
+bool IsComment(const QString& line, const QString& separators) {
+    static const QRegularExpression header("^#[A-Za-z][A-Za-z ]*:");
+    if (!line.startsWith('#')) return false;
+    for (const QChar s : separators) {
+        if (line.contains(s)) return header.match(line).hasMatch();
     }
-    if (list.pairs.size() > kImportLimit) {
-        return fail(QString("The file %1 holds %2 words. A list can hold at most %3 words; "
-                            "split the file and import it in parts.")
-                        .arg(fileName)
-                        .arg(list.pairs.size())
-                        .arg(kImportLimit));
+    return true;
+}
+
+// Fields of one line, quoted separators left out: enough to tell the separator.
+int FieldCount(const QString& line, QChar separator) {
+    int n = 1;
+    bool quoted = false;
+    for (const QChar c : line) {
+        if (c == '"') quoted = !quoted;
+        if (c == separator && !quoted) ++n;
     }
-    const bool wordsOnly = list.noDefinitions();
-    QSet<QString> seen;
-    for (const auto& [w, d] : list.pairs) {
-        for (const QString& text : {w, d}) {
-            if (!FitsCodePage(text)) {
-                return fail("The text \"" + text +
-                            "\" has characters this program cannot store (it keeps Western "
-                            "European letters only). Nothing was imported.");
-            }
-            if (text == kSeparatorLine) {
-                return fail("The file " + fileName + " contains the text \"<New List>\", which " +
-                            "cannot be used in a list. Nothing was imported.");
-            }
-        }
-        if (!wordsOnly && d.isEmpty()) {
-            return fail("The word \"" + w +
-                        "\" has no definition. Give every word a definition, or none at all for "
-                        "a words-only list. Nothing was imported.");
-        }
-        if (seen.contains(w.toLower())) {
-            return fail("The word \"" + w + "\" appears twice in " + fileName +
-                        ". Nothing was imported.");
-        }
-        seen.insert(w.toLower());
-    }
+    return n;
 }
 
 ImportedList FromRows(const QList<QStringList>& rows, const QString& format,
                       const QString& fileName) {
     ImportedList list;
     list.format = format;
-    int widest = 0;
-    for (const auto& r : rows) widest = std::max<int>(widest, r.size());
-    if (!rows.isEmpty() && widest < 2) {
-        list.error = "The file " + fileName +
-                     " has only one column. Put each word and its definition side by side, "
-                     "separated by a comma or a tab.";
-        return list;
-    }
-    for (int i = 0; i < rows.size(); ++i) {
-        const QStringList& r = rows[i];
-        if (i == 0 && IsHeader(r)) continue;
+    QList<TextPair> all;
+    QList<int> fields;
+    int pairsOverWords = 0;  // rows of two fields or more, less rows of one
+    for (const QStringList& r : rows) {
         const QString word = OneLine(r.value(0));
         const QString def = OneLine(r.value(1));
         if (word.isEmpty() && def.isEmpty()) continue;
@@ -121,8 +141,23 @@ ImportedList FromRows(const QList<QStringList>& rows, const QString& format,
                          " has no word. Nothing was imported.";
             return list;
         }
-        list.pairs.append({word, def});
+        all.append({word, def});
+        fields.append(r.size());
+        pairsOverWords += r.size() > 1 ? 1 : -1;
     }
+    // A title (one field where most rows have two) or a row of column headings leads many
+    // files; up to three such rows are left out, and the teacher can take them back.
+    const bool titled = pairsOverWords > 0 && fields.value(0) == 1;
+    int lead = 0;
+    while (lead < std::min<int>(all.size(), 3) &&
+           ((pairsOverWords > 0 && fields[lead] == 1) ||
+            (HeadingCell(all[lead].first) && HeadingCell(all[lead].second)))) {
+        ++lead;
+    }
+    list.headingRows = all.mid(0, std::max(lead, 1));
+    list.headingSkipped = lead > 0;
+    if (titled) list.suggestedName = all[0].first;
+    list.pairs = all.mid(lead);
     return list;
 }
 
@@ -133,6 +168,51 @@ bool ImportedList::noDefinitions() const {
         if (!p.second.isEmpty() && p.second != kMarker) return false;
     }
     return true;
+}
+
+QList<TextPair> ImportedList::choose(bool skipHeading) const {
+    if (skipHeading == headingSkipped) return pairs;
+    if (skipHeading) return pairs.mid(headingRows.size());
+    return headingRows + pairs;
+}
+
+QString CheckImport(const QList<TextPair>& pairs, const QString& fileName) {
+    if (pairs.isEmpty()) return "The file " + fileName + " holds no words to import.";
+    if (pairs.size() > kImportLimit) {
+        return QString("The file %1 holds %2 words. A list can hold at most %3 words; "
+                       "split the file and import it in parts.")
+            .arg(fileName)
+            .arg(pairs.size())
+            .arg(kImportLimit);
+    }
+    ImportedList list;
+    list.pairs = pairs;
+    const bool wordsOnly = list.noDefinitions();
+    QSet<QString> seen;
+    for (const auto& [w, d] : pairs) {
+        for (const QString& text : {w, d}) {
+            if (!FitsCodePage(text)) {
+                return "The text \"" + text +
+                       "\" has characters this program cannot store (it keeps Western European "
+                       "letters only). Nothing was imported.";
+            }
+            if (text == kSeparatorLine) {
+                return "The file " + fileName + " contains the text \"<New List>\", which " +
+                       "cannot be used in a list. Nothing was imported.";
+            }
+        }
+        if (!wordsOnly && d.isEmpty()) {
+            return "The word \"" + w +
+                   "\" has no definition. Give every word a definition, or none at all for a "
+                   "words-only list. Nothing was imported.";
+        }
+        if (seen.contains(w.toLower())) {
+            return "The word \"" + w + "\" appears twice in " + fileName +
+                   ". Nothing was imported.";
+        }
+        seen.insert(w.toLower());
+    }
+    return {};
 }
 
 QList<QStringList> ParseCsv(const QString& text, QChar separator) {
@@ -181,90 +261,147 @@ QList<QStringList> ParseCsv(const QString& text, QChar separator) {
     return rows;
 }
 
-ImportedList ParseKvtml(const QByteArray& bytes) {
+QChar DetectSeparator(const QString& text) {
+    // The separator that splits most of the first lines into the same number of fields; a
+    // title line or a comma in a definition does not sway it. Ties go to the rarer character.
+    QStringList lines;
+    for (const QString& line : text.split('\n')) {
+        if (lines.size() < 20 && !line.trimmed().isEmpty() && !IsComment(line, "\t;,"))
+            lines << line;
+    }
+    QChar best = ',';
+    int bestScore = 0;
+    for (const QChar separator : {QChar('\t'), QChar(';'), QChar(',')}) {
+        QMap<int, int> linesWith;  // field count -> lines
+        for (const QString& line : lines) ++linesWith[FieldCount(line, separator)];
+        linesWith.remove(1);
+        for (const int score : linesWith) {
+            if (score > bestScore) {
+                best = separator;
+                bestScore = score;
+            }
+        }
+    }
+    return best;
+}
+
+namespace {
+
+void ReadInformation(QXmlStreamReader& xml, ImportedList& list) {
+    while (xml.readNextStartElement()) {
+        if (xml.name() == QLatin1String("title"))
+            list.suggestedName = xml.readElementText(QXmlStreamReader::IncludeChildElements)
+                                     .simplified();
+        else
+            xml.skipCurrentElement();
+    }
+}
+
+// Only a translation's own <text>: conjugations, comparisons, examples and the like hold
+// texts of their own.
+QString TranslationText(QXmlStreamReader& xml) {
+    QString text;
+    while (xml.readNextStartElement()) {
+        if (xml.name() == QLatin1String("text"))
+            text = OneLine(xml.readElementText(QXmlStreamReader::IncludeChildElements));
+        else
+            xml.skipCurrentElement();
+    }
+    return text;
+}
+
+void ReadEntries(QXmlStreamReader& xml, ImportedList& list) {
+    while (xml.readNextStartElement()) {
+        if (xml.name() != QLatin1String("entry")) {
+            xml.skipCurrentElement();
+            continue;
+        }
+        QString word, def;
+        while (xml.readNextStartElement()) {
+            if (xml.name() != QLatin1String("translation")) {
+                xml.skipCurrentElement();
+                continue;
+            }
+            // The first two languages of the file: word, then definition.
+            const QString id = xml.attributes().value("id").toString().trimmed();
+            const QString text = TranslationText(xml);
+            if (id == "0") word = text;
+            if (id == "1") def = text;
+        }
+        if (!word.isEmpty() || !def.isEmpty()) list.pairs.append({word, def});
+    }
+}
+
+}  // namespace
+
+ImportedList ParseKvtml(const QByteArray& bytes, const QString& fileName) {
     ImportedList list;
     list.format = "KVTML";
     QXmlStreamReader xml(bytes);
-    QString title, word, def;
-    bool inEntry = false, inInformation = false;
-    int translation = -1;
-    bool sawRoot = false;
-    while (!xml.atEnd()) {
-        xml.readNext();
-        if (xml.isStartElement()) {
-            const auto name = xml.name();
-            if (name == QLatin1String("kvtml")) {
-                sawRoot = true;
-            } else if (name == QLatin1String("information")) {
-                inInformation = true;
-            } else if (inInformation && name == QLatin1String("title")) {
-                title = xml.readElementText().simplified();
-            } else if (name == QLatin1String("entry") && !inEntry &&
-                       xml.attributes().hasAttribute("id") && translation < 0) {
-                inEntry = true;
-                word.clear();
-                def.clear();
-            } else if (inEntry && name == QLatin1String("translation")) {
-                translation = xml.attributes().value("id").toInt();
-            } else if (inEntry && translation >= 0 && name == QLatin1String("text")) {
-                const QString t = OneLine(xml.readElementText());
-                // The first two languages of the file: word, then definition.
-                if (translation == 0) word = t;
-                if (translation == 1) def = t;
-            }
-        } else if (xml.isEndElement()) {
-            const auto name = xml.name();
-            if (name == QLatin1String("information")) inInformation = false;
-            if (name == QLatin1String("translation")) translation = -1;
-            if (name == QLatin1String("entry") && inEntry) {
-                inEntry = false;
-                if (!word.isEmpty() || !def.isEmpty()) list.pairs.append({word, def});
+    bool root = false, old = false;
+    if (xml.readNextStartElement() && xml.name() == QLatin1String("kvtml")) {
+        root = true;
+        // The first format had no version, or 1.x, and its entries were <e> elements.
+        old = xml.attributes().value("version").startsWith(u'1');
+        while (xml.readNextStartElement()) {
+            if (xml.name() == QLatin1String("information")) {
+                ReadInformation(xml, list);
+            } else if (xml.name() == QLatin1String("entries")) {
+                ReadEntries(xml, list);
+            } else {
+                old = old || xml.name() == QLatin1String("e");
+                xml.skipCurrentElement();
             }
         }
     }
-    if (xml.hasError() || !sawRoot) {
-        list.error = "This is not a KVTML file that can be read (" + xml.errorString() + ").";
-        list.pairs.clear();
+    while (!xml.atEnd()) xml.readNext();  // what follows must be well formed too
+    if (xml.hasError() || !root) {
+        list.error = "The file " + fileName + " is not a KVTML file that can be read (" +
+                     (root ? xml.errorString().remove(QRegularExpression("\\.$"))
+                           : QString("it has no kvtml element")) +
+                     ").";
+    } else if (old) {
+        list.error = "The file " + fileName +
+                     " is in the older KVTML 1 format, which is not supported. Open it in a "
+                     "vocabulary trainer, save it as KVTML 2, and import that file.";
     }
     for (const auto& [w, d] : list.pairs) {
-        if (w.isEmpty()) {
-            list.error = "The definition \"" + d + "\" has no word. Nothing was imported.";
-            list.pairs.clear();
-            break;
+        if (list.error.isEmpty() && w.isEmpty()) {
+            list.error = "The definition \"" + d + "\" in " + fileName +
+                         " has no word. Nothing was imported.";
         }
     }
-    list.suggestedName = title;
+    if (!list.error.isEmpty()) list.pairs.clear();
     return list;
 }
 
 ImportedList ParseVocabularyFile(const QByteArray& bytes, const QString& fileName) {
     ImportedList list;
-    if (bytes.trimmed().isEmpty() ||
-        QByteArray(bytes).replace("\xEF\xBB\xBF", "").trimmed().isEmpty()) {
-        list.error = "The file " + fileName + " is empty.";
-        return list;
-    }
-    if (LooksBinary(bytes)) {
+    // Every line end as "\n": the checks below go line by line.
+    const QString text = Decode(bytes).replace("\r\n", "\n").replace('\r', '\n');
+    if (LooksBinary(text)) {
         list.error = "The file " + fileName +
                      " is not a text file. Choose a CSV, tab separated or KVTML file.";
         return list;
     }
-    const QString text = Decode(bytes);
+    if (text.trimmed().isEmpty()) {
+        list.error = "The file " + fileName + " is empty.";
+        return list;
+    }
     const QString head = text.left(512).trimmed();
-    if (head.startsWith("<?xml") || head.startsWith("<kvtml") || head.contains("<kvtml")) {
-        list = ParseKvtml(bytes);
+    if (head.startsWith("<?xml") || head.contains("<kvtml")) {
+        list = ParseKvtml(bytes, fileName);
     } else {
-        // Lines starting with "#" are the headers some flash-card programs put on tab exports.
+        const QChar separator = DetectSeparator(text);
         QString body;
         for (const QString& line : text.split('\n')) {
-            if (!line.startsWith('#')) body += line + '\n';
+            if (!IsComment(line, separator)) body += line + '\n';
         }
-        const QString first = body.left(body.indexOf('\n'));
-        const bool tabs = first.contains('\t');
-        list = FromRows(ParseCsv(tabs ? body : text, tabs ? QChar('\t') : QChar(',')),
-                        tabs ? "tab separated text" : "CSV", fileName);
+        list = FromRows(ParseCsv(body, separator),
+                        separator == '\t' ? "tab separated text" : "CSV", fileName);
     }
-    Check(list, fileName);
+    if (list.error.isEmpty()) list.error = CheckImport(list.pairs, fileName);
+    if (!list.error.isEmpty()) list.pairs.clear();
     return list;
 }
 
@@ -283,7 +420,19 @@ QByteArray ExportCsv(const QList<TextPair>& pairs, bool wordsOnly) {
     return "\xEF\xBB\xBF" + out.toUtf8();
 }
 
-QByteArray ExportKvtml(const QString& title, const QList<TextPair>& pairs, bool wordsOnly) {
+QString LanguageName(const QString& line) {
+    return line.section(" - ", 0, 0).trimmed();
+}
+
+QString LocaleOf(const QString& language) {
+    for (const Language& l : kLanguages) {
+        if (language.compare(QLatin1String(l.name), Qt::CaseInsensitive) == 0) return l.locale;
+    }
+    return {};
+}
+
+QByteArray ExportKvtml(const QString& title, const QList<TextPair>& pairs, bool wordsOnly,
+                       const QString& language) {
     QByteArray bytes;
     QXmlStreamWriter xml(&bytes);
     xml.setAutoFormatting(true);
@@ -301,8 +450,15 @@ QByteArray ExportKvtml(const QString& title, const QList<TextPair>& pairs, bool 
     for (int i = 0; i < columns; ++i) {
         xml.writeStartElement("identifier");
         xml.writeAttribute("id", QString::number(i));
-        xml.writeTextElement("name", i == 0 ? "Word" : "Definition");
-        xml.writeTextElement("locale", "en");
+        if (language.isEmpty()) {
+            xml.writeTextElement("name", i == 0 ? "Word" : "Definition");
+            xml.writeTextElement("locale", "en");
+        } else {
+            // A foreign list holds English words and their translations.
+            const QString name = i == 0 ? "English" : language;
+            xml.writeTextElement("name", name);
+            if (!LocaleOf(name).isEmpty()) xml.writeTextElement("locale", LocaleOf(name));
+        }
         xml.writeEndElement();
     }
     xml.writeEndElement();

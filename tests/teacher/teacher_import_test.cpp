@@ -1,8 +1,11 @@
 // Lists from other programs' files and back: the corpus of real-world shapes is read exactly,
 // every bad file is refused with a message and leaves the list file byte-identical, and an
 // exported list reads back as it was.
+#include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QTableWidget>
 #include <QtTest>
@@ -32,11 +35,21 @@ private slots:
     void corpusReadsExactly_data();
     void corpusReadsExactly();
     void csvQuotesAcrossLines();
+    void smallFiles_data();
+    void smallFiles();
+    void separatorFromTheLines_data();
+    void separatorFromTheLines();
+    void headingsOffered_data();
+    void headingsOffered();
+    void previewTakesTheHeadingBack();
+    void languagesOfForeignLists();
     void badFilesChangeNothing_data();
     void badFilesChangeNothing();
     void importAppendsThroughTheManager();
     void importNameChecksAndWordsOnly();
     void exportRoundTrips();
+    void foreignListExportsItsLanguages();
+    void boxesRefuseAndCancel();
 };
 
 void TeacherImportTest::corpusReadsExactly_data() {
@@ -60,6 +73,60 @@ void TeacherImportTest::corpusReadsExactly_data() {
         << "KVTML" << Pairs({{"spoon", "cuillère"}, {"fork", "fourchette"}}) << "Kitchen Words";
     QTest::newRow("words only") << "wordsonly.csv"
                                 << "CSV" << Pairs({{"rhythm", ""}, {"necessary", ""}}) << "";
+    QTest::newRow("one column: a words-only list") << "onecolumn.csv"
+                                                   << "CSV"
+                                                   << Pairs({{"cat", ""}, {"dog", ""}, {"owl", ""}})
+                                                   << "";
+    QTest::newRow("kvtml: only a translation's own text, not its conjugations or comparisons")
+        << "conjugations.kvtml"
+        << "KVTML" << Pairs({{"être", "to be"}, {"grand", "big"}, {"faire", "to do"}})
+        << "French Verbs and Adjectives";
+    QTest::newRow("semicolons, Windows-1252, a heading in German")
+        << "semicolons.csv"
+        << "CSV"
+        << Pairs({{"la casa", "house, home"},
+                  {"el pájaro", "bird"},
+                  {"uno; una", "one"},
+                  {"medio", "0,5 (one half)"},
+                  {"el año", "year"}})
+        << "";
+    QTest::newRow("a words-only list as exported") << "exported-words.csv"
+                                                   << "CSV"
+                                                   << Pairs({{"rhythm", ""},
+                                                             {"necessary", ""},
+                                                             {"committee, the", ""},
+                                                             {"résumé", ""}})
+                                                   << "";
+    const auto unicode = Pairs({{"der Löffel", "spoon"},
+                                {"die Straße", "street"},
+                                {"die Gabel, -n", "fork"},
+                                {"grün", "green"}});
+    QTest::newRow("UTF-16 little-endian") << "unicode-le.txt"
+                                          << "tab separated text" << unicode << "";
+    QTest::newRow("UTF-16 big-endian") << "unicode-be.txt"
+                                       << "tab separated text" << unicode << "";
+    QTest::newRow("a title above a blank line")
+        << "titled.txt"
+        << "tab separated text"
+        << Pairs({{"le chien", "dog, hound"}, {"le chat", "cat"}, {"l'oiseau", "bird"}})
+        << "French vocabulary, unit 3";
+    QTest::newRow("a blank first line") << "blank-first.tsv"
+                                        << "tab separated text"
+                                        << Pairs({{"rojo", "red"},
+                                                  {"verde", "green, the colour of grass"},
+                                                  {"azul", "blue"}})
+                                        << "";
+    QTest::newRow("a heading of language names")
+        << "heading.csv"
+        << "CSV" << Pairs({{"el perro", "dog"}, {"el gato", "cat"}}) << "";
+    QTest::newRow("words starting with # among headers and comments")
+        << "hashes.tsv"
+        << "tab separated text"
+        << Pairs({{"#", "number sign"},
+                  {"%", "per cent"},
+                  {"#1", "number one, the winner"},
+                  {"&", "and"}})
+        << "";
 }
 
 void TeacherImportTest::corpusReadsExactly() {
@@ -83,6 +150,348 @@ void TeacherImportTest::csvQuotesAcrossLines() {
     QCOMPARE(rows[1], (QStringList{"last", "x,y"}));
 }
 
+void TeacherImportTest::smallFiles_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<QList<TextPair>>("pairs");
+    const QString notText = "The file f.txt is not a text file. Choose a CSV, tab separated or "
+                            "KVTML file.";
+    // One control character in twenty is still text; two are not.
+    QTest::newRow("5% control characters") << QByteArray("cat,a pe\x01t\ndog,a pet") << ""
+                                           << Pairs({{"cat", "a pe\x01t"}, {"dog", "a pet"}});
+    QTest::newRow("10% control characters")
+        << QByteArray("cat,a pe\x01t\ndog,a p\x02t") << notText << Pairs({});
+    QTest::newRow("a NUL") << QByteArray("cat,a pet\0", 10) << notText << Pairs({});
+    QTest::newRow("only a UTF-16 byte-order mark and a line end")
+        << QByteArray("\xFF\xFE\r\0\n\0", 6) << "The file f.txt is empty." << Pairs({});
+    QTest::newRow("UTF-32 with its byte-order mark")
+        << QByteArray("\xFF\xFE\0\0a\0\0\0,\0\0\0b\0\0\0", 16) << ""
+        << Pairs({{"a", "b"}});
+    QTest::newRow("old Mac line ends") << QByteArray("cat,a pet\rdog,a loyal pet\r") << ""
+                                       << Pairs({{"cat", "a pet"}, {"dog", "a loyal pet"}});
+    QTest::newRow("Windows-1252") << QByteArray("caf\xE9\tcoffee\n") << ""
+                                  << Pairs({{"café", "coffee"}});
+    QTest::newRow("a definition without its word")
+        << QByteArray("cat,a pet\n,a loyal pet\n")
+        << "The definition \"a loyal pet\" in f.txt has no word. Nothing was imported."
+        << Pairs({});
+    QTest::newRow("the separator line as a word")
+        << QByteArray("cat,a pet\n<New List>,x\n")
+        << "The file f.txt contains the text \"<New List>\", which cannot be used in a list. "
+           "Nothing was imported."
+        << Pairs({});
+    // Most rows are single words: the first is not taken for a title.
+    QTest::newRow("commas in a words-only list")
+        << QByteArray("rhythm\nnecessary\nlemon\nSmith, John\nJones, Ann\n")
+        << "The word \"rhythm\" has no definition. Give every word a definition, or none at all "
+           "for a words-only list. Nothing was imported."
+        << Pairs({});
+    QTest::newRow("most rows are pairs: two titles")
+        << QByteArray("Animals\nUnit 3\ncat,a pet\ndog,a loyal pet\nowl,a bird\n") << ""
+        << Pairs({{"cat", "a pet"}, {"dog", "a loyal pet"}, {"owl", "a bird"}});
+    QTest::newRow("tabs and line ends are text")
+        << QByteArray("a\tb\r\nc\td\r\n\r\n") << "" << Pairs({{"a", "b"}, {"c", "d"}});
+    QTest::newRow("a heading alone") << QByteArray("Word,Definition\n")
+                                     << "The file f.txt holds no words to import." << Pairs({});
+    QTest::newRow("kvtml: a definition without its word")
+        << QByteArray("<kvtml version=\"2.0\"><entries><entry id=\"0\"><translation id=\"1\">"
+                      "<text>chat</text></translation></entry></entries></kvtml>")
+        << "The definition \"chat\" in f.txt has no word. Nothing was imported." << Pairs({});
+    QTest::newRow("kvtml: version 1 in so many words")
+        << QByteArray("<?xml version=\"1.0\"?><kvtml version=\"1.0\"><entries><entry id=\"0\">"
+                      "<translation id=\"0\"><text>cat</text></translation></entry></entries>"
+                      "</kvtml>")
+        << "The file f.txt is in the older KVTML 1 format, which is not supported. Open it in a "
+           "vocabulary trainer, save it as KVTML 2, and import that file."
+        << Pairs({});
+    QTest::newRow("kvtml: ids padded, other languages and lessons left out")
+        << QByteArray("<kvtml version=\"2.0\"><lessons><entry id=\"0\"/></lessons><entries>"
+                      "<entry id=\"0\"><translation id=\" 1 \"><text> le  chat </text>"
+                      "</translation><translation id=\"2\"><text>Katze</text></translation>"
+                      "<translation id=\"0\"><text>cat</text></translation><comment>x</comment>"
+                      "</entry><note/></entries></kvtml>")
+        << "" << Pairs({{"cat", "le chat"}});
+    QTest::newRow("kvtml: well formed to the end")
+        << QByteArray("<kvtml version=\"2.0\"></kvtml><extra>")
+        << "The file f.txt is not a KVTML file that can be read (Extra content at end of "
+           "document)."
+        << Pairs({});
+}
+
+void TeacherImportTest::smallFiles() {
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, error);
+    QFETCH(QList<TextPair>, pairs);
+    const ImportedList list = ParseVocabularyFile(bytes, "f.txt");
+    QCOMPARE(list.error, error);
+    QCOMPARE(list.pairs, pairs);
+}
+
+void TeacherImportTest::separatorFromTheLines_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("separator");
+    QTest::newRow("tabs, commas in the definitions") << "a\tb, c\nd\te, f\n" << "\t";
+    QTest::newRow("semicolons, decimal commas") << "a;0,5\nb;1,5\nc;2\n" << ";";
+    QTest::newRow("commas, a stray semicolon") << "a,b;c\nd,e\nf,g\n" << ",";
+    QTest::newRow("quoted semicolons do not count") << "\"x;y\",z\n\"p;q\",r\n" << ",";
+    QTest::newRow("a title line with a comma above tabs")
+        << "Unit 3, animals\n\ncat\tchat\ndog\tchien\n"
+        << "\t";
+    QTest::newRow("headers and comments are not counted")
+        << "#separator:tab\n#columns:a,b,c\n# one, two, three\nx;y\nz;w\n"
+        << ";";
+    QTest::newRow("one column") << "cat\ndog\n" << ",";
+    QTest::newRow("empty") << "" << ",";
+    // Only the first 20 lines are read: ten and ten, a tie, which goes to the tab.
+    QTest::newRow("twenty lines decide")
+        << QString("a;b\n").repeated(10) + QString("a\tb\n").repeated(10) +
+               QString("a;b\n").repeated(5)
+        << "\t";
+}
+
+void TeacherImportTest::separatorFromTheLines() {
+    QFETCH(QString, text);
+    QFETCH(QString, separator);
+    QCOMPARE(QString(DetectSeparator(text)), separator);
+}
+
+void TeacherImportTest::headingsOffered_data() {
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QList<TextPair>>("heading");
+    QTest::addColumn<bool>("skipped");
+    QTest::newRow("language names") << "heading.csv" << Pairs({{"Spanish", "English"}}) << true;
+    QTest::newRow("language names in German")
+        << "semicolons.csv" << Pairs({{"Spanisch", "Englisch"}}) << true;
+    QTest::newRow("a title") << "titled.txt" << Pairs({{"French vocabulary, unit 3", ""}}) << true;
+    QTest::newRow("a plain first pair") << "cards.tsv" << Pairs({{"perro", "dog"}}) << false;
+    QTest::newRow("a plain first word") << "onecolumn.csv" << Pairs({{"cat", ""}}) << false;
+    QTest::newRow("no headings in kvtml") << "languages.kvtml" << Pairs({}) << false;
+}
+
+void TeacherImportTest::headingsOffered() {
+    QFETCH(QString, file);
+    QFETCH(QList<TextPair>, heading);
+    QFETCH(bool, skipped);
+    QFile f(Corpus(file));
+    QVERIFY(f.open(QIODevice::ReadOnly));
+    const ImportedList list = ParseVocabularyFile(f.readAll(), file);
+    QCOMPARE(list.headingRows, heading);
+    QCOMPARE(list.headingSkipped, skipped);
+    QCOMPARE(list.choose(skipped), list.pairs);
+    if (heading.isEmpty()) return;
+    QCOMPARE(list.choose(!skipped), skipped ? heading + list.pairs : list.pairs.mid(1));
+
+    // Headings made of heading words, numbered sides, plurals; not words of a list.
+    auto first = [](const QByteArray& bytes) {
+        const ImportedList l = ParseVocabularyFile(bytes, "x.csv");
+        return std::make_pair(l.headingSkipped, l.pairs.value(0).first);
+    };
+    QCOMPARE(first("Words,Definitions\ncat,a pet\n"), std::make_pair(true, QString("cat")));
+    QCOMPARE(first("Side 1,Side 2\ncat,a pet\n"), std::make_pair(true, QString("cat")));
+    QCOMPARE(first("English word,French meaning\ncat,chat\n"),
+             std::make_pair(true, QString("cat")));
+    QCOMPARE(first("Term,\ncat,a pet\n"), std::make_pair(true, QString("cat")));
+    QCOMPARE(first("word1,meaning 1\ncat,a pet\n"), std::make_pair(false, QString("word1")));
+    QCOMPARE(first("1,2\ncat,a pet\n"), std::make_pair(false, QString("1")));
+    QCOMPARE(first("Word,a unit of language\ncat,a pet\n"),
+             std::make_pair(false, QString("Word")));
+    QCOMPARE(first("s,a letter\ncat,a pet\n"), std::make_pair(false, QString("s")));
+    const QStringList headings = {
+        "Word,Meaning",          "Term,Definition",       "Front,Back",
+        "Question,Answer",       "Vocabulary,Translation", "Vocab,Description",
+        "Spelling,Clue",         "Phrase,Expression",     "Prompt,Response",
+        "Card,Side",             "Foreign,Native",        "Language 1,Language 2",
+        "Unit,Lesson",           "Chapter,List",          "Week,Column",
+        "Word in French,Meaning of the word",             "Palabra,Significado",
+        "Palabra,Definición",    "Palabra,Traducción",    "Mot,Sens",
+        "Mot,Définition",        "Mot,Traduction",        "Wort,Bedeutung",
+        "Begriff,Übersetzung",   "Parola,Significato",    "Español,Inglés",
+        "Francés,Alemán",        "Italiano,Inglese",      "Français,Anglais",
+        "Allemand,Espagnol",     "Italien,Français",      "Deutsch,Englisch",
+        "Französisch,Spanisch",  "Italienisch,Deutsch",   "Spagnolo,Francese",
+        "Tedesco,Inglese",       "Welsh,English",         "Latin,English"};
+    for (const QString& h : headings) {
+        const ImportedList l = ParseVocabularyFile((h + "\ncat,a pet\n").toUtf8(), "h.csv");
+        QVERIFY2(l.headingSkipped && l.pairs.size() == 1, qPrintable(h));
+    }
+    // Up to three leading rows: a title, a subtitle, the headings.
+    QCOMPARE(first("Unit 3\nAnimals\nWord,Meaning\nWord,Meaning\ncat,a pet\n"),
+             std::make_pair(true, QString("Word")));
+}
+
+void TeacherImportTest::previewTakesTheHeadingBack() {
+    TeacherFixture f({"No Lists"});
+    f.dialogs.fileAnswers.push_back(Corpus("heading.csv"));
+    f.then<ImportPreview>([](ImportPreview& p) {
+        QVERIFY(p.heading());
+        QCOMPARE(p.heading()->text(), "First line is a heading");
+        QVERIFY(p.heading()->isChecked());
+        QCOMPARE(p.summary(), "2 words found in heading.csv (CSV).");
+        QCOMPARE(p.table()->horizontalHeaderItem(0)->text(), "Spanish");
+        QCOMPARE(p.table()->horizontalHeaderItem(1)->text(), "English");
+        QCOMPARE(p.table()->item(0, 0)->text(), "el perro");
+        Shot(&p, "import-preview-heading");
+        p.heading()->setChecked(false);
+        QCOMPARE(p.summary(), "3 words found in heading.csv (CSV).");
+        QCOMPARE(p.table()->rowCount(), 3);
+        QCOMPARE(p.table()->horizontalHeaderItem(0)->text(), "Word");
+        QCOMPARE(p.table()->item(0, 1)->text(), "English");
+        p.name()->setText("Animales");
+        p.confirm();
+    });
+    Manager m;
+    m.command("Import List...");
+    QCOMPARE(f.dialogs.last(), "The list \"Animales\" has been imported with 3 words.");
+    QCOMPARE(f.lists(), QByteArray("Animales\r\nSpanish\r\nEnglish\r\nel perro\r\ndog\r\n"
+                                   "el gato\r\ncat\r\n"));
+
+    // A title taken back as a word has no definition: said, and the box stays open.
+    const QByteArray before = f.lists();
+    f.dialogs.fileAnswers.push_back(Corpus("titled.txt"));
+    f.then<ImportPreview>([&](ImportPreview& p) {
+        QCOMPARE(p.name()->text(), "French vocabulary, unit 3");
+        QCOMPARE(p.table()->horizontalHeaderItem(1)->text(), "Definition");
+        p.heading()->setChecked(false);
+        p.confirm();
+        QCOMPARE(f.dialogs.last(),
+                 "The word \"French vocabulary, unit 3\" has no definition. Give every word a "
+                 "definition, or none at all for a words-only list. Nothing was imported.");
+        QVERIFY(p.isVisible() || p.result() != QDialog::Accepted);
+        p.reject();
+    });
+    m.command("Import List...");
+    QCOMPARE(f.lists(), before);
+
+    // More than ten words: the rest are counted below the table, and follow the box.
+    QStringList rows{"Word,Definition"};
+    for (int i = 1; i <= 10; ++i) rows << QString("w%1,d%1").arg(i);
+    f.writeLines("eleven.csv", rows);
+    f.dialogs.fileAnswers.push_back(f.path("eleven.csv"));
+    f.then<ImportPreview>([](ImportPreview& p) {
+        auto* more = p.findChild<QLabel*>("More");
+        QVERIFY(more->isHidden());
+        QCOMPARE(p.table()->rowCount(), 10);
+        p.heading()->setChecked(false);
+        QVERIFY(!more->isHidden());
+        QCOMPARE(more->text(), "...and 1 more.");
+        QCOMPARE(p.table()->item(9, 0)->text(), "w9");
+        p.reject();
+    });
+    m.command("Import List...");
+
+    // A title, a subtitle and the headings: the last names the columns.
+    f.writeLines("three.csv", {"Unit 3", "Animals", "Word,Meaning", "cat,a pet", "dog,a loyal pet"});
+    f.dialogs.fileAnswers.push_back(f.path("three.csv"));
+    f.then<ImportPreview>([](ImportPreview& p) {
+        QCOMPARE(p.heading()->text(), "First 3 lines are headings");
+        QCOMPARE(p.table()->horizontalHeaderItem(1)->text(), "Meaning");
+        QCOMPARE(p.name()->text(), "Unit 3");
+        p.reject();
+    });
+    m.command("Import List...");
+
+    // KVTML has no heading lines to offer.
+    f.dialogs.fileAnswers.push_back(Corpus("languages.kvtml"));
+    f.then<ImportPreview>([](ImportPreview& p) {
+        QVERIFY(!p.heading());
+        QVERIFY(!p.findChild<QCheckBox*>());
+        p.reject();
+    });
+    m.command("Import List...");
+}
+
+void TeacherImportTest::languagesOfForeignLists() {
+    QCOMPARE(LanguageName("Spanish - English words, Spanish meanings"), "Spanish");
+    QCOMPARE(LanguageName("  Latin  "), "Latin");
+    QCOMPARE(LanguageName("Serbo-Croatian - words"), "Serbo-Croatian");
+    const QList<std::pair<QString, QString>> locales = {
+        {"English", "en"},    {"spanish", "es"},    {"FRENCH", "fr"},       {"German", "de"},
+        {"Italian", "it"},    {"Portuguese", "pt"}, {"Dutch", "nl"},        {"Latin", "la"},
+        {"Swedish", "sv"},    {"Norwegian", "no"},  {"Danish", "da"},       {"Finnish", "fi"},
+        {"Icelandic", "is"},  {"Irish", "ga"},      {"Welsh", "cy"},        {"Gaelic", "gd"},
+        {"Catalan", "ca"},    {"Basque", "eu"},     {"Galician", "gl"},     {"Afrikaans", "af"},
+        {"Swahili", "sw"},    {"Indonesian", "id"}, {"Malay", "ms"},        {"Albanian", "sq"},
+        {"Estonian", "et"},   {"Faroese", "fo"},    {"Tagalog", "tl"},      {"Hawaiian", "haw"},
+        {"Maori", "mi"},      {"Esperanto", "eo"},  {"Romanian", "ro"},     {"Polish", "pl"},
+        {"Czech", "cs"},      {"Hungarian", "hu"},  {"Turkish", "tr"},      {"Greek", "el"},
+        {"Russian", "ru"},    {"Chinese", "zh"},    {"Mandarin", "zh"},     {"Japanese", "ja"},
+        {"Korean", "ko"},     {"Arabic", "ar"},     {"Hebrew", "he"},       {"Hindi", "hi"},
+        {"Vietnamese", "vi"}, {"Ukrainian", "uk"},  {"Luxembourgish", "lb"}, {"Klingon", ""},
+        {"", ""},             {"Span", ""}};
+    for (const auto& [name, locale] : locales) QCOMPARE(LocaleOf(name), locale);
+}
+
+void TeacherImportTest::boxesRefuseAndCancel() {
+    TeacherFixture f;
+    const QByteArray before = f.lists();
+    Manager m;
+    // A file that cannot be opened.
+    f.dialogs.fileAnswers.push_back(f.path("gone.csv"));
+    m.command("Import List...");
+    QCOMPARE(f.dialogs.shown.back().text, "The file " + f.path("gone.csv") + " could not be opened.");
+    QCOMPARE(f.dialogs.shown.back().title, "Import List");
+    // No file chosen: nothing at all.
+    const auto shown = f.dialogs.shown.size();
+    m.command("Import List...");
+    QCOMPARE(f.dialogs.shown.size(), shown + 1);  // only the file box
+    QCOMPARE(f.dialogs.shown.back().kind, "openFile");
+    QCOMPARE(f.dialogs.shown.back().title, "Import List");
+    // A name the list file cannot store, then Cancel.
+    f.dialogs.fileAnswers.push_back(Corpus("cards.tsv"));
+    f.then<ImportPreview>([&](ImportPreview& p) {
+        QCOMPARE(p.table()->editTriggers(), QAbstractItemView::NoEditTriggers);
+        p.name()->setText("Animales \u6C34");
+        p.confirm();
+        QCOMPARE(f.dialogs.last(),
+                 "The list name has characters this program cannot store. Please choose another "
+                 "name.");
+        for (const char* name : {"Summary", "Heading", "Preview", "More", "Label1", "NewName",
+                                 "Command2"})
+            QVERIFY2(p.findChild<QWidget*>(name), name);
+        QSignalSpy cancelled(&p, &QDialog::rejected);
+        p.findChild<QPushButton*>("Command1")->click();
+        QCOMPARE(cancelled.count(), 1);
+    });
+    m.command("Import List...");
+    QCOMPARE(f.opened.last(), "ImportPreview");
+    QCOMPARE(f.lists(), before);
+
+    // Export: a list must be chosen, then a place; CSV unless KVTML is picked; Cancel leaves.
+    f.then<ExportForm>([&](ExportForm& e) {
+        QVERIFY(e.findChild<QRadioButton*>("Csv")->isChecked());
+        QVERIFY(!e.kvtml()->isChecked());
+        e.target()->setText(f.path("out.csv"));
+        e.confirm();
+        QCOMPARE(f.dialogs.last(), "You need to choose a list!");
+        e.lists()->setCurrentRow(0);
+        e.target()->setText("  ");
+        e.confirm();
+        QCOMPARE(f.dialogs.shown.back().text, "Choose where to save the file first.");
+        QCOMPARE(f.dialogs.shown.back().title, "Export List");
+        e.target()->setText(f.path("out.csv"));
+        for (const char* name : {"Label1", "TheLists", "Csv", "Kvtml", "Target", "Browse",
+                                 "Command2"})
+            QVERIFY2(e.findChild<QWidget*>(name), name);
+        QVERIFY(e.lists()->isSortingEnabled());
+        QSignalSpy cancelled(&e, &QDialog::rejected);
+        e.findChild<QPushButton*>("Command1")->click();
+        QCOMPARE(cancelled.count(), 1);
+    });
+    m.command("Export List...");
+    QCOMPARE(f.opened.last(), "ExportForm");
+    QVERIFY(!f.exists("out.csv"));
+    // A place that cannot be written.
+    f.then<ExportForm>([&](ExportForm& e) {
+        e.lists()->setCurrentRow(0);
+        e.target()->setText(f.path("no/such/folder/out.csv"));
+        e.confirm();
+    });
+    m.command("Export List...");
+    QCOMPARE(f.dialogs.shown.back().text,
+             "The file " + f.path("no/such/folder/out.csv") + " could not be written.");
+    QCOMPARE(f.dialogs.shown.back().title, "Export List");
+}
+
 void TeacherImportTest::badFilesChangeNothing_data() {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("message");
@@ -93,16 +502,21 @@ void TeacherImportTest::badFilesChangeNothing_data() {
     QTest::newRow("binary") << "picture.png"
                             << "The file picture.png is not a text file. Choose a CSV, tab "
                                "separated or KVTML file.";
-    QTest::newRow("one column")
-        << "onecolumn.csv"
-        << "The file onecolumn.csv has only one column. Put each word and its definition side by "
-           "side, separated by a comma or a tab.";
+    QTest::newRow("the older KVTML")
+        << "old.kvtml"
+        << "The file old.kvtml is in the older KVTML 1 format, which is not supported. Open it in "
+           "a vocabulary trainer, save it as KVTML 2, and import that file.";
     QTest::newRow("outside the code page")
         << "outside.csv"
         << "The text \"水\" has characters this program cannot store (it keeps Western European "
            "letters only). Nothing was imported.";
-    QTest::newRow("broken xml") << "broken.kvtml"
-                                << "This is not a KVTML file";
+    QTest::newRow("broken xml")
+        << "broken.kvtml"
+        << "The file broken.kvtml is not a KVTML file that can be read (Premature end of "
+           "document).";
+    QTest::newRow("xml, not kvtml") << "notes.xml"
+                                    << "The file notes.xml is not a KVTML file that can be "
+                                       "read (it has no kvtml element).";
     QTest::newRow("a word twice")
         << "twice.csv"
         << "The word \"CAT\" appears twice in twice.csv. Nothing was imported.";
@@ -222,10 +636,112 @@ void TeacherImportTest::exportRoundTrips() {
                             "cat,\"a pet, furry\"\r\n"));
     ImportedList kv = exportAs("Animals", true, f.path("animals.kvtml"));
     QCOMPARE(kv.pairs, animals);
+    QCOMPARE(QString::fromUtf8(f.read("animals.kvtml")),
+             "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+             "<!DOCTYPE kvtml PUBLIC \"kvtml2.dtd\" \"http://edu.kde.org/kvtml/kvtml2.dtd\">\n"
+             "<kvtml version=\"2.0\">\n"
+             " <information>\n"
+             "  <generator>Wordmere 1.01</generator>\n"
+             "  <title>Animals</title>\n"
+             " </information>\n"
+             " <identifiers>\n"
+             "  <identifier id=\"0\">\n"
+             "   <name>Word</name>\n"
+             "   <locale>en</locale>\n"
+             "  </identifier>\n"
+             "  <identifier id=\"1\">\n"
+             "   <name>Definition</name>\n"
+             "   <locale>en</locale>\n"
+             "  </identifier>\n"
+             " </identifiers>\n"
+             " <entries>\n"
+             "  <entry id=\"0\">\n"
+             "   <translation id=\"0\">\n"
+             "    <text>cat</text>\n"
+             "   </translation>\n"
+             "   <translation id=\"1\">\n"
+             "    <text>a pet, furry</text>\n"
+             "   </translation>\n"
+             "  </entry>\n"
+             "  <entry id=\"1\">\n"
+             "   <translation id=\"0\">\n"
+             "    <text>dog</text>\n"
+             "   </translation>\n"
+             "   <translation id=\"1\">\n"
+             "    <text>a &quot;loyal&quot; pet</text>\n"
+             "   </translation>\n"
+             "  </entry>\n"
+             " </entries>\n"
+             " <lessons>\n"
+             "  <container>\n"
+             "   <name>Animals</name>\n"
+             "   <inpractice>true</inpractice>\n"
+             "   <entry id=\"0\"/>\n"
+             "   <entry id=\"1\"/>\n"
+             "  </container>\n"
+             " </lessons>\n"
+             "</kvtml>\n");
     QCOMPARE(kv.suggestedName, "Animals");
     ImportedList words = exportAs("Spelling", true, f.path("spelling.kvtml"));
     QCOMPARE(words.pairs, Pairs({{"rhythm", ""}}));
     QVERIFY(!f.read("spelling.kvtml").contains("-----"));
+    QVERIFY(f.read("spelling.kvtml").contains("<name>Word</name>"));
+    QVERIFY(!f.read("spelling.kvtml").contains("<name>Definition</name>"));
+    // A words-only list in CSV is one column, and comes back as a words-only list.
+    ImportedList spelling = exportAs("Spelling", false, f.path("spelling.csv"));
+    QCOMPARE(f.read("spelling.csv"), QByteArray("\xEF\xBB\xBFrhythm\r\n"));
+    QCOMPARE(spelling.error, "");
+    QCOMPARE(spelling.pairs, Pairs({{"rhythm", ""}}));
+    QVERIFY(spelling.noDefinitions());
+}
+
+void TeacherImportTest::foreignListExportsItsLanguages() {
+    TeacherFixture f({"[S]Animales", "dog", "el perro", "cat", "el gato", "<New List>",
+                      "[Q]Quenya", "star", "elen", "<New List>", "Plain", "big", "large"});
+    auto exportKvtml = [&](const QString& list, const QString& target) {
+        const QString path = f.path(target);
+        f.then<ExportForm>([=](ExportForm& e) {
+            for (int i = 0; i < e.lists()->count(); ++i) {
+                if (e.lists()->item(i)->text() == list) e.lists()->setCurrentRow(i);
+            }
+            e.kvtml()->setChecked(true);
+            e.target()->setText(path);
+            e.confirm();
+        });
+        Manager m;
+        m.command("Export List...");
+        return QString::fromUtf8(f.read(target)).remove(' ').remove('\n');
+    };
+    const QString spanish = exportKvtml("Animales", "animales.kvtml");
+    QVERIFY2(spanish.contains("<identifiers><identifierid=\"0\"><name>English</name><locale>en"
+                              "</locale></identifier><identifierid=\"1\"><name>Spanish</name>"
+                              "<locale>es</locale></identifier></identifiers>"),
+             qPrintable(spanish));
+    QVERIFY(spanish.contains("<title>Animales</title>"));
+    QFile back(f.path("animales.kvtml"));
+    QVERIFY(back.open(QIODevice::ReadOnly));
+    QCOMPARE(ParseVocabularyFile(back.readAll(), "animales.kvtml").pairs,
+             Pairs({{"dog", "el perro"}, {"cat", "el gato"}}));
+    // A code the language file does not know: plain columns.
+    const QString unknown = exportKvtml("Quenya", "quenya.kvtml");
+    QVERIFY2(unknown.contains("<name>Word</name><locale>en</locale>") &&
+                 unknown.contains("<name>Definition</name><locale>en</locale>"),
+             qPrintable(unknown));
+    // "[S]a" is the plain name of four characters; "[S]ab" is the list "ab" in Spanish.
+    f.writeLines("thelists.dat", {"[S]a", "one", "uno", "<New List>", "[S]ab", "two", "dos"});
+    QVERIFY(exportKvtml("[S]a", "short.kvtml").contains("<name>Definition</name>"));
+    QVERIFY(exportKvtml("ab", "ab.kvtml").contains("<name>Spanish</name><locale>es</locale>"));
+    f.writeLines("thelists.dat", {"[S]Animales", "dog", "el perro", "<New List>", "[Q]Quenya",
+                                  "star", "elen", "<New List>", "Plain", "big", "large"});
+    const QString plain = exportKvtml("Plain", "plain.kvtml");
+    QVERIFY(plain.contains("<name>Word</name><locale>en</locale>"));
+    QVERIFY(!plain.contains("English"));
+    // A language of the file whose locale is not known is named without one.
+    f.writeLines("flcodelist.dat", {"S", "Spanish - English words, Spanish meanings", "x", "Q",
+                                    "Quenya - English words, Quenya meanings", "y"});
+    const QString quenya = exportKvtml("Quenya", "quenya2.kvtml");
+    QVERIFY2(quenya.contains("<identifierid=\"1\"><name>Quenya</name></identifier>"),
+             qPrintable(quenya));
 }
 
 QTEST_MAIN(TeacherImportTest)
