@@ -36,10 +36,10 @@ constexpr double kLostSecs = 3.0;    // up into the hatch and away
 constexpr double kPi = 3.14159265358979;
 
 const char* kPanelStyle =
-    "background: rgba(24, 18, 60, 190); border: 2px solid rgba(255, 214, 150, 200);"
+    "background: rgba(28, 20, 66, 228); border: 2px solid rgba(255, 214, 150, 200);"
     " border-radius: 14px;";
 const char* kHudStyle =
-    "QLabel { color: #fff3c4; background: rgba(24, 18, 60, 170); border: 2px solid"
+    "QLabel { color: #fff3c4; background: rgba(28, 20, 66, 200); border: 2px solid"
     " rgba(255, 214, 150, 170); border-radius: 12px; padding: 4px 14px; }";
 const char* kBoxStyle =
     "QLabel { color: #2b1d5c; background: #fffdf4; border: 3px solid #e88a3c;"
@@ -165,11 +165,10 @@ void CowForm::startWord(bool first) {
     ReadyLabel->setText(first ? "Get ready!"
                               : QString("Word %1 of %2").arg(game_.wordNumber()).arg(kWordsPerGame));
     ReadyLabel->show();
+    setPhase(Phase::Arrive);
     showWord();
     showKeys();
     showHud();
-    setPhase(Phase::Arrive);
-    resizeEvent(nullptr);
 }
 
 void CowForm::setPhase(Phase phase) {
