@@ -52,6 +52,7 @@ void CowPicture::resize(QSize size) {
         field_->render(&p, QRectF(0, 0, kStageW, kStageH));
     }
     cache_.clear();
+    beam_ = QPixmap();
 }
 
 QRectF CowPicture::spriteBounds(const QString& id) const {
@@ -106,57 +107,88 @@ void CowPicture::paintActors(QPainter& p, const Pose& pose) const {
     p.restore();
 }
 
+namespace {
+constexpr double kBeamTopW = 46, kBeamFootW = 135;
+constexpr double kBeamTop = kHoverY + 6, kBeamFoot = kGroundY + 10;
+const QColor kLight(215, 255, 160);
+// The beam as it stands under a hovering saucer, in stage units, pool of light included.
+const QRectF kBeamArea(kHoverX - kBeamFootW * 1.35 - 4, kBeamTop, kBeamFootW * 2.7 + 8,
+                       kBeamFoot + 26 - kBeamTop);
+}  // namespace
+
+// The cone of light with its rungs, drawn once for the screen's size and each count of rungs:
+// a frame only stretches it to the saucer's bob and blends it in.
+const QPixmap& CowPicture::beam(int rungs) const {
+    if (!beam_.isNull() && beamRungs_ == rungs) return beam_;
+    beamRungs_ = rungs;
+    const QSize px = (kBeamArea.size() * scale_).toSize().expandedTo(QSize(1, 1));
+    QImage img(px, QImage::Format_ARGB32_Premultiplied);
+    img.fill(Qt::transparent);
+    QPainter p(&img);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.scale(scale_, scale_);
+    p.translate(-kBeamArea.topLeft());
+    const double x = kHoverX, topW = kBeamTopW, footW = kBeamFootW;
+    const double topY = kBeamTop, footY = kBeamFoot;
+    QPolygonF glow, core;
+    glow << QPointF(x - topW * 1.5, topY) << QPointF(x + topW * 1.5, topY)
+         << QPointF(x + footW * 1.35, footY) << QPointF(x - footW * 1.35, footY);
+    core << QPointF(x - topW, topY) << QPointF(x + topW, topY) << QPointF(x + footW, footY)
+         << QPointF(x - footW, footY);
+    QLinearGradient outer(0, topY, 0, footY);
+    outer.setColorAt(0, withAlpha(kLight, 0.22));
+    outer.setColorAt(1, withAlpha(kLight, 0.06));
+    QLinearGradient inner(0, topY, 0, footY);
+    inner.setColorAt(0, withAlpha(kLight, 0.75));
+    inner.setColorAt(1, withAlpha(kLight, 0.32));
+    p.setPen(Qt::NoPen);
+    p.setBrush(outer);
+    p.drawPolygon(glow);
+    p.setBrush(inner);
+    p.drawPolygon(core);
+    // A pool of light on the grass.
+    QRadialGradient pool(QPointF(x, footY - 4), footW * 1.3);
+    pool.setColorAt(0, withAlpha(kLight, 0.5));
+    pool.setColorAt(1, withAlpha(kLight, 0));
+    p.setBrush(pool);
+    p.drawEllipse(QPointF(x, footY - 4), footW * 1.3, 22);
+    // The rungs: a bar of light at each height the cow can be lifted to.
+    for (int r = 1; r <= rungs; ++r) {
+        const double y = kGroundY - r * kTopLift / rungs;
+        const double w = lerp(topW, footW, (y - topY) / (footY - topY)) * 0.92;
+        p.setPen(QPen(withAlpha(QColor(250, 255, 220), 0.6), 4, Qt::SolidLine, Qt::RoundCap));
+        p.drawLine(QPointF(x - w, y), QPointF(x + w, y));
+    }
+    p.end();
+    beam_ = QPixmap::fromImage(img);
+    return beam_;
+}
+
 void CowPicture::paintBeam(QPainter& p, const Pose& pose) const {
     const double a = clamp01(pose.beam);
     if (a <= 0.01) return;
     const double flash = clamp01(pose.beamFlash);
-    const double topY = pose.saucerY + 6 * pose.saucerScale;
-    const double topW = 46 * pose.saucerScale, footW = 135;
-    const double footY = kGroundY + 10;
-    QPolygonF glow, core;
-    glow << QPointF(pose.saucerX - topW * 1.5, topY) << QPointF(pose.saucerX + topW * 1.5, topY)
-         << QPointF(pose.cowX + footW * 1.35, footY) << QPointF(pose.cowX - footW * 1.35, footY);
-    core << QPointF(pose.saucerX - topW, topY) << QPointF(pose.saucerX + topW, topY)
-         << QPointF(pose.cowX + footW, footY) << QPointF(pose.cowX - footW, footY);
-    QLinearGradient g(0, topY, 0, footY);
-    const QColor light(215, 255, 160);
-    g.setColorAt(0, withAlpha(light, (0.6 + 0.3 * flash) * a));
-    g.setColorAt(1, withAlpha(light, (0.22 + 0.3 * flash) * a));
-    QLinearGradient outer(0, topY, 0, footY);
-    outer.setColorAt(0, withAlpha(light, 0.22 * a));
-    outer.setColorAt(1, withAlpha(light, 0.06 * a));
-    p.setPen(Qt::NoPen);
-    p.setBrush(outer);
-    p.drawPolygon(glow);
-    p.setBrush(g);
-    p.drawPolygon(core);
-    // A pool of light on the grass.
-    QRadialGradient pool(QPointF(pose.cowX, footY - 4), footW * 1.3);
-    pool.setColorAt(0, withAlpha(light, 0.45 * a));
-    pool.setColorAt(1, withAlpha(light, 0));
-    p.setBrush(pool);
-    p.drawEllipse(QPointF(pose.cowX, footY - 4), footW * 1.3, 22);
-
-    // The rungs: a ring of light at each height the cow can be lifted to.
-    auto widthAt = [&](double y) { return lerp(topW, footW, (y - topY) / (footY - topY)); };
-    auto xAt = [&](double y) { return lerp(pose.saucerX, pose.cowX, (y - topY) / (footY - topY)); };
-    if (pose.rungs > 0) {
-        p.setBrush(Qt::NoBrush);
-        for (int r = 1; r <= pose.rungs; ++r) {
-            const double y = kGroundY - r * kTopLift / pose.rungs;
-            const double w = widthAt(y) * 0.92;
-            p.setPen(QPen(withAlpha(QColor(250, 255, 220), (0.35 + 0.4 * flash) * a), 3));
-            p.drawEllipse(QPointF(xAt(y), y), w, 7);
-        }
-    }
+    // Under the saucer as it sways and bobs: moved half its sway, its top at the hatch.
+    const double top = pose.saucerY + 6 * pose.saucerScale;
+    QRectF at = kBeamArea.translated((pose.saucerX - kHoverX) / 2, 0);
+    at.setTop(top);
+    p.save();
+    p.setRenderHint(QPainter::SmoothPixmapTransform, false);
+    p.setOpacity(a * (0.72 + 0.28 * flash));
+    const QPixmap& pm = beam(pose.rungs);
+    p.drawPixmap(at, pm, QRectF(pm.rect()));
+    p.restore();
     // Sparkles drifting up towards the hatch.
+    const double footY = kBeamFoot;
+    auto widthAt = [&](double y) { return lerp(kBeamTopW, kBeamFootW, (y - top) / (footY - top)); };
+    auto xAt = [&](double y) { return lerp(pose.saucerX, pose.cowX, (y - top) / (footY - top)); };
+    p.setPen(Qt::NoPen);
     for (int i = 0; i < 16; ++i) {
         double u = pose.time * 0.45 + hash01(i);
         u -= std::floor(u);
-        const double y = lerp(footY - 10, topY + 10, u);
+        const double y = lerp(footY - 10, top + 10, u);
         const double x = xAt(y) + (hash01(i + 40) - 0.5) * 1.6 * widthAt(y);
         const double s = 2.5 + 3 * hash01(i + 80);
-        p.setPen(Qt::NoPen);
         p.setBrush(withAlpha(QColor(255, 255, 235), a * std::sin(u * kPi)));
         p.drawEllipse(QPointF(x, y), s, s);
     }
@@ -257,7 +289,8 @@ QRect CowPicture::actorsRect(const Pose& pose) const {
     const double left = std::min(pose.saucerX - 100, pose.cowX - 240);
     const double right = std::max(pose.saucerX + 100, pose.cowX + 330);
     const double top = std::min(pose.saucerY, kGroundY - pose.cowLift - 360);
-    QRectF column(left, top, right - left, kGroundY + 40 - top);
+    // Clear of the panels under the grass line, which would otherwise repaint with it.
+    QRectF column(left, top, right - left, kGroundY + 30 - top);
     const QRectF stage = saucer.united(column);
     return toScreen_.mapRect(stage).toAlignedRect().adjusted(-3, -3, 3, 3);
 }

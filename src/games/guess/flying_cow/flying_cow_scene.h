@@ -61,6 +61,7 @@ public:
 private:
     QPixmap sprite(const QString& id, double scale) const;
     QRectF spriteBounds(const QString& id) const;
+    const QPixmap& beam(int rungs) const;
     void paintBeam(QPainter& p, const Pose& pose) const;
     void paintCow(QPainter& p, const Pose& pose) const;
     void paintSaucer(QPainter& p, const Pose& pose) const;
@@ -78,6 +79,8 @@ private:
         QRectF bounds;  // in the sprite drawing's units
     };
     mutable std::map<QString, Cached> cache_;
+    mutable QPixmap beam_;
+    mutable int beamRungs_ = -1;
 };
 
 }  // namespace wm::cow

@@ -422,7 +422,7 @@ void CowForm::showHud() {
 void CowForm::paintEvent(QPaintEvent* event) {
     QPainter p(this);
     picture_.paintField(p, event->rect());
-    p.setClipRegion(event->region());
+    p.setClipRect(event->rect());
     picture_.paintActors(p, pose_);
 }
 
