@@ -53,6 +53,8 @@ void CowPicture::resize(QSize size) {
     }
     cache_.clear();
     beam_ = QPixmap();
+    bubble_ = QPixmap();
+    points_ = QPixmap();
 }
 
 QRectF CowPicture::spriteBounds(const QString& id) const {
@@ -238,61 +240,124 @@ void CowPicture::paintSaucer(QPainter& p, const Pose& pose) const {
     p.restore();
 }
 
+namespace {
+// The moo bubble and the points, in stage units; drawn once into pixmaps, since text outlines
+// are dear to draw every frame.
+const QRectF kBubble(0, 0, 170, 74);
+const QPointF kBubbleTip(-16, 88);  // where its tail points, from the box's top left
+
+QImage LabelImage(const QSizeF& stageSize, double scale) {
+    QImage img((stageSize * scale).toSize().expandedTo(QSize(1, 1)),
+               QImage::Format_ARGB32_Premultiplied);
+    img.fill(Qt::transparent);
+    return img;
+}
+}  // namespace
+
+const QPixmap& CowPicture::bubble() const {
+    if (!bubble_.isNull()) return bubble_;
+    const QRectF area = kBubble.adjusted(kBubbleTip.x() - 4, -4, 4, kBubbleTip.y() - kBubble.height() + 4);
+    QImage img = LabelImage(area.size(), scale_);
+    QPainter p(&img);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.scale(scale_, scale_);
+    p.translate(-area.topLeft());
+    QPainterPath shape;
+    shape.addRoundedRect(kBubble, 30, 30);
+    QPainterPath tail;
+    tail.moveTo(kBubble.left() + 26, kBubble.bottom() - 6);
+    tail.lineTo(kBubbleTip);
+    tail.lineTo(kBubble.left() + 58, kBubble.bottom() - 6);
+    tail.closeSubpath();
+    shape = shape.united(tail);
+    p.setPen(QPen(QColor(60, 40, 90), 4));
+    p.setBrush(QColor(255, 255, 250));
+    p.drawPath(shape);
+    QFont f("DejaVu Sans");
+    f.setBold(true);
+    f.setPixelSize(40);
+    p.setFont(f);
+    p.setPen(QColor(214, 60, 110));
+    p.drawText(kBubble, Qt::AlignCenter, "MOO!");
+    p.end();
+    bubble_ = QPixmap::fromImage(img);
+    bubbleArea_ = area;
+    return bubble_;
+}
+
+const QPixmap& CowPicture::points(const QString& text) const {
+    if (pointsText_ == text && !points_.isNull()) return points_;
+    QFont f("DejaVu Sans");
+    f.setBold(true);
+    f.setPixelSize(56);
+    const QFontMetricsF fm(f);
+    const QRectF area(-fm.horizontalAdvance(text) / 2 - 8, -fm.ascent() - 8,
+                      fm.horizontalAdvance(text) + 16, fm.height() + 16);
+    QImage img = LabelImage(area.size(), scale_);
+    QPainter p(&img);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.scale(scale_, scale_);
+    p.translate(-area.topLeft());
+    QPainterPath path;
+    path.addText(area.left() + 8, 0, f, text);
+    p.setPen(QPen(QColor(90, 40, 0), 6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    p.drawPath(path);
+    p.fillPath(path, QColor(255, 226, 80));
+    p.end();
+    points_ = QPixmap::fromImage(img);
+    pointsText_ = text;
+    pointsArea_ = area;
+    return points_;
+}
+
 void CowPicture::paintLabels(QPainter& p, const Pose& pose) const {
     const double s = kCowScale * pose.cowScale;
     const QPointF head(pose.cowX + 150 * s, kGroundY - pose.cowLift - 190 * s);
     if (pose.bubble > 0.01 && pose.cowShown) {
+        // It grows out of the cow's mouth, its tail on the head.
+        const double grow = 0.6 + 0.4 * easeOut(pose.bubble * 1.5);
+        const QPixmap& pm = bubble();
+        const QPointF tip = head + QPointF(-6, 14);
+        const QPointF origin = tip - kBubbleTip * grow;
+        const QRectF at(origin + bubbleArea_.topLeft() * grow, bubbleArea_.size() * grow);
         p.save();
         p.setOpacity(clamp01(pose.bubble));
-        const double grow = 0.6 + 0.4 * easeOut(pose.bubble * 1.5);
-        const QRectF box(head.x() + 10, head.y() - 84 * grow, 170 * grow, 74 * grow);
-        QPainterPath bubble;
-        bubble.addRoundedRect(box, 30 * grow, 30 * grow);
-        QPainterPath tail;
-        tail.moveTo(box.left() + 26 * grow, box.bottom() - 6);
-        tail.lineTo(head.x() - 6, head.y() + 14);
-        tail.lineTo(box.left() + 58 * grow, box.bottom() - 6);
-        tail.closeSubpath();
-        bubble = bubble.united(tail);
-        p.setPen(QPen(QColor(60, 40, 90), 4));
-        p.setBrush(QColor(255, 255, 250));
-        p.drawPath(bubble);
-        QFont f("DejaVu Sans");
-        f.setBold(true);
-        f.setPixelSize(int(40 * grow));
-        p.setFont(f);
-        p.setPen(QColor(214, 60, 110));
-        p.drawText(box, Qt::AlignCenter, "MOO!");
+        p.drawPixmap(at, pm, QRectF(pm.rect()));
         p.restore();
     }
     if (pose.pointsAlpha > 0.01 && !pose.points.isEmpty()) {
-        QFont f("DejaVu Sans");
-        f.setBold(true);
-        f.setPixelSize(56);
-        QPainterPath text;
-        const double w = QFontMetricsF(f).horizontalAdvance(pose.points);
-        text.addText(pose.cowX - w / 2, kGroundY - 200 - pose.pointsRise, f, pose.points);
+        const QPixmap& pm = points(pose.points);
+        const QPointF base(pose.cowX, kGroundY - 200 - pose.pointsRise);
         p.save();
         p.setOpacity(clamp01(pose.pointsAlpha));
-        p.setPen(QPen(QColor(90, 40, 0), 6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        p.drawPath(text);
-        p.fillPath(text, QColor(255, 226, 80));
+        p.drawPixmap(QRectF(base + pointsArea_.topLeft(), pointsArea_.size()), pm,
+                     QRectF(pm.rect()));
         p.restore();
     }
 }
 
-QRect CowPicture::actorsRect(const Pose& pose) const {
+QRegion CowPicture::actorsRegion(const Pose& pose) const {
+    auto toScreen = [&](const QRectF& r) {
+        return QRegion(toScreen_.mapRect(r).toAlignedRect().adjusted(-3, -3, 3, 3));
+    };
     const double ss = pose.saucerScale;
-    QRectF saucer(pose.saucerX - 175 * ss - 40, pose.saucerY - 150 * ss - 40, 350 * ss + 80,
-                  200 * ss + 80);
-    // The beam, the cow, its bubble and the points over it.
-    const double left = std::min(pose.saucerX - 100, pose.cowX - 240);
-    const double right = std::max(pose.saucerX + 100, pose.cowX + 330);
-    const double top = std::min(pose.saucerY, kGroundY - pose.cowLift - 360);
-    // Clear of the panels under the grass line, which would otherwise repaint with it.
-    QRectF column(left, top, right - left, kGroundY + 30 - top);
-    const QRectF stage = saucer.united(column);
-    return toScreen_.mapRect(stage).toAlignedRect().adjusted(-3, -3, 3, 3);
+    QRegion region = toScreen(QRectF(pose.saucerX - 175 * ss - 40, pose.saucerY - 150 * ss - 40,
+                                     350 * ss + 80, 200 * ss + 80));
+    // The cow and its bubble; its shadow on the grass, clear of the panels under the grass line
+    // (they would repaint with it).
+    const double bottom = kGroundY + 30;
+    const double cowTop = kGroundY - pose.cowLift - 300;
+    region += toScreen(QRectF(pose.cowX - 135, cowTop, 440, bottom - cowTop));
+    if (pose.beam > 0.01) {
+        const double left = std::min(pose.saucerX - 100, pose.cowX - 195);
+        const double right = std::max(pose.saucerX + 100, pose.cowX + 195);
+        region += toScreen(QRectF(left, pose.saucerY, right - left, bottom - pose.saucerY));
+    }
+    if (pose.pointsAlpha > 0.01) {
+        const double y = kGroundY - 200 - pose.pointsRise;
+        region += toScreen(QRectF(pose.cowX - 150, y - 75, 300, 100));
+    }
+    return region;
 }
 
 }  // namespace wm::cow

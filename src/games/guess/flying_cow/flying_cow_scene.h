@@ -5,6 +5,7 @@
 
 #include <QPixmap>
 #include <QRect>
+#include <QRegion>
 #include <QSize>
 #include <QString>
 #include <QTransform>
@@ -55,8 +56,8 @@ public:
     double scale() const { return scale_; }
     void paintField(QPainter& p, const QRect& area) const;
     void paintActors(QPainter& p, const Pose& pose) const;
-    // The screen rectangle the actors of `pose` may touch.
-    QRect actorsRect(const Pose& pose) const;
+    // The part of the screen the actors of `pose` may touch.
+    QRegion actorsRegion(const Pose& pose) const;
 
 private:
     QPixmap sprite(const QString& id, double scale) const;
@@ -65,6 +66,8 @@ private:
     void paintBeam(QPainter& p, const Pose& pose) const;
     void paintCow(QPainter& p, const Pose& pose) const;
     void paintSaucer(QPainter& p, const Pose& pose) const;
+    const QPixmap& bubble() const;
+    const QPixmap& points(const QString& text) const;
     void paintLabels(QPainter& p, const Pose& pose) const;
     void drawSprite(QPainter& p, const QString& id, const QPointF& pivotInSprite) const;
 
@@ -81,6 +84,9 @@ private:
     mutable std::map<QString, Cached> cache_;
     mutable QPixmap beam_;
     mutable int beamRungs_ = -1;
+    mutable QPixmap bubble_, points_;
+    mutable QRectF bubbleArea_, pointsArea_;  // in stage units, around their anchors
+    mutable QString pointsText_;
 };
 
 }  // namespace wm::cow

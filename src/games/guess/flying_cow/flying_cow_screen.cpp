@@ -276,8 +276,8 @@ void CowForm::animate() {
             break;
     }
     pose_ = poseAt(now);
-    const QRect now_ = picture_.actorsRect(pose_);
-    update(drawn_.united(now_));
+    const QRegion now_ = picture_.actorsRegion(pose_);
+    update(drawn_ + now_);
     drawn_ = now_;
 }
 
@@ -421,8 +421,8 @@ void CowForm::showHud() {
 
 void CowForm::paintEvent(QPaintEvent* event) {
     QPainter p(this);
-    picture_.paintField(p, event->rect());
-    p.setClipRect(event->rect());
+    for (const QRect& r : event->region()) picture_.paintField(p, r);
+    p.setClipRegion(event->region());
     picture_.paintActors(p, pose_);
 }
 
@@ -519,7 +519,7 @@ void CowForm::resizeEvent(QResizeEvent*) {
     ReadyLabel->raise();
     placeBoxes();
     fitMeaning();
-    drawn_ = rect();
+    drawn_ = QRegion(rect());
     update();
 }
 

@@ -65,7 +65,7 @@ private:
     qint64 rungAt_ = 0;
     qint64 flashAt_ = -100000;
     double rungAtEnd_ = 0;  // where the cow was when the word was decided
-    QRect drawn_;           // the actors' rectangle painted last
+    QRegion drawn_;  // where the actors were painted last
 
     QLabel* WordLabel;   // "Word 1 of 5"
     QLabel* ScoreLabel;  // "Score: 0"
