@@ -151,11 +151,13 @@ std::vector<GameCard> BuildCatalogue() {
 
     cards.push_back(Card(
         "Flying Cow", Elig(WO::Allowed, "", "CowForm"), Slider(1, 9, 4),
-        "A twist on the classic HANGMAN game. Guess the hidden vocabulary word by typing one "
-        "letter "
-        "at a time. Every wrong letter lets the cow float a little higher into the sky! Fill in "
-        "every blank before the cow flies away to win. The higher the level, the fewer wrong "
-        "letters you are allowed."));
+        "A twist on the classic HANGMAN game. A cow is eating grass under a flying saucer! "
+        "Guess the hidden word by typing one letter at a time, or click the letter keys. Every "
+        "wrong letter lets the saucer's beam lift the cow one step higher. But if your letter "
+        "fills two or more blanks, the cow drops back down a step! Guess five words before the "
+        "cow is beamed up. Click Hint to see the meaning, but then that word is worth half the "
+        "points. The higher the level, the fewer wrong letters you are allowed and the more "
+        "points you get."));
 
     cards.push_back(Card(
         "Quiz", AtLeastDifficulty(Elig(WO::Refuse, kQuizRefusal, "Quiz"), kMsgE1), Slider(2, 8, 4),

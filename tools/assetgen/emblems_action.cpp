@@ -63,46 +63,54 @@ QPainterPath rock(QPointF c, double r, int seed) {
 }  // namespace
 
 void drawFlyingCow(QPainter& p) {
-    cloud(p, QPointF(70, 150), 40);
-    cloud(p, QPointF(272, 138), 30);
+    cloud(p, QPointF(58, 158), 34);
+    cloud(p, QPointF(296, 150), 28);
     const QColor white(252, 252, 250);
-    // The far wing, shaded.
-    auto wing = [&](QPointF root, double scale, const QColor& col) {
-        QPainterPath w;
-        w.moveTo(root);
-        w.cubicTo(root + QPointF(-10, -60) * scale, root + QPointF(-60, -90) * scale,
-                  root + QPointF(-100, -78) * scale);
-        w.quadTo(root + QPointF(-88, -56) * scale, root + QPointF(-96, -48) * scale);
-        w.quadTo(root + QPointF(-74, -36) * scale, root + QPointF(-80, -26) * scale);
-        w.quadTo(root + QPointF(-54, -20) * scale, root + QPointF(-56, -8) * scale);
-        w.quadTo(root + QPointF(-30, -8) * scale, root);
-        fillShape(p, w, col, 3);
-    };
-    wing(QPointF(168, 74), 0.85, QColor(210, 225, 245));
-    // Legs and tail behind the body.
-    for (double x : {100.0, 124.0, 172.0, 196.0}) {
-        fillShape(p, roundRect(QRectF(x - 8, 112, 16, 40), 7), white, 3);
-        fillShape(p, roundRect(QRectF(x - 8, 142, 16, 12), 4), QColor(90, 70, 60), 2.5);
+    // The saucer's beam, behind the cow.
+    QPainterPath beam;
+    beam.moveTo(134, 44);
+    beam.lineTo(182, 44);
+    beam.lineTo(246, 176);
+    beam.lineTo(70, 176);
+    beam.closeSubpath();
+    p.fillPath(beam, QColor(225, 255, 150, 130));
+    // The saucer: a glass dome with its green pilot, a silver disc, coloured lights.
+    fillShape(p, ellipse(QPointF(158, 26), 24, 21), QColor(170, 230, 248), 2.5);
+    ball(p, QPointF(158, 28), 9, QColor(140, 220, 90), 2);
+    p.fillPath(ellipse(QPointF(155, 27), 2.2, 3), kInk);
+    p.fillPath(ellipse(QPointF(162, 27), 2.2, 3), kInk);
+    fillShape(p, ellipse(QPointF(158, 40), 66, 15), QColor(205, 210, 226), 3);
+    const QColor lights[] = {QColor(255, 228, 92), QColor(255, 111, 174), QColor(111, 227, 255)};
+    for (int i = 0; i < 5; ++i)
+        p.fillPath(ellipse(QPointF(114 + i * 22, 45 + (i % 4 ? 1.5 : 0)), 4.5, 4.5), lights[i % 3]);
+    // The cow, lifted in the beam: legs dangling, tail hanging.
+    const QPointF lift(0, 16);
+    const double swing[] = {-14, 10, -8, 16};
+    const double hips[] = {100.0, 124.0, 172.0, 196.0};
+    for (int i = 0; i < 4; ++i) {
+        p.save();
+        p.translate(QPointF(hips[i], 112) + lift);
+        p.rotate(swing[i]);
+        fillShape(p, roundRect(QRectF(-8, 0, 16, 38), 7), white, 3);
+        fillShape(p, roundRect(QRectF(-8, 30, 16, 12), 4), QColor(90, 70, 60), 2.5);
+        p.restore();
     }
     QPainterPath tail;
-    tail.moveTo(82, 96);
-    tail.quadTo(56, 100, 60, 130);
+    tail.moveTo(QPointF(82, 96) + lift);
+    tail.quadTo(QPointF(62, 104) + lift, QPointF(64, 132) + lift);
     p.strokePath(tail, QPen(kInk, 4, Qt::SolidLine, Qt::RoundCap));
-    p.fillPath(ellipse(QPointF(60, 134), 6, 9), kInk);
-    const QPainterPath body = ellipse(QPointF(148, 98), 72, 38);
+    p.fillPath(ellipse(QPointF(64, 136) + lift, 6, 9), kInk);
+    const QPainterPath body = ellipse(QPointF(148, 98) + lift, 72, 38);
     fillShape(p, body, white, 3);
     p.save();
     p.setClipPath(body);
-    p.fillPath(ellipse(QPointF(110, 84), 20, 15), kInk);
-    p.fillPath(ellipse(QPointF(168, 116), 24, 16), kInk);
-    p.fillPath(ellipse(QPointF(200, 80), 14, 10), kInk);
+    p.fillPath(ellipse(QPointF(110, 84) + lift, 20, 15), kInk);
+    p.fillPath(ellipse(QPointF(168, 116) + lift, 24, 16), kInk);
+    p.fillPath(ellipse(QPointF(200, 80) + lift, 14, 10), kInk);
     p.restore();
-    p.fillPath(ellipse(QPointF(150, 136), 14, 8), QColor(255, 170, 190));
-    wing(QPointF(150, 78), 1.0, white);
-    for (QPointF notch : {QPointF(62, 22), QPointF(76, 42), QPointF(96, 58)}) {
-        line(p, notch + QPointF(4, -2), notch + QPointF(34, -10), QColor(180, 190, 215), 2.5);
-    }
-    // Head.
+    p.fillPath(ellipse(QPointF(150, 136) + lift, 14, 8), QColor(255, 170, 190));
+    // Head, looking up at the saucer in surprise.
+    p.translate(lift);
     fillShape(p, polygon({{226, 50}, {214, 30}, {232, 44}}), QColor(245, 220, 150), 2.5);
     fillShape(p, polygon({{252, 46}, {264, 26}, {258, 48}}), QColor(245, 220, 150), 2.5);
     fillShape(p, ellipse(QPointF(210, 62), 14, 7), QColor(140, 100, 80), 2.5);
@@ -111,8 +119,9 @@ void drawFlyingCow(QPainter& p) {
     fillShape(p, ellipse(QPointF(244, 100), 28, 17), QColor(255, 175, 190), 3);
     p.fillPath(ellipse(QPointF(234, 100), 4, 5), QColor(150, 60, 80));
     p.fillPath(ellipse(QPointF(254, 100), 4, 5), QColor(150, 60, 80));
-    eye(p, QPointF(228, 70), 8, QPointF(0.5, 0));
-    eye(p, QPointF(252, 68), 8, QPointF(0.5, 0));
+    eye(p, QPointF(228, 70), 8, QPointF(-0.3, -0.8));
+    eye(p, QPointF(252, 68), 8, QPointF(-0.3, -0.8));
+    p.translate(-lift);
 }
 
 void drawWordZap(QPainter& p) {
