@@ -1,0 +1,230 @@
+// Toad Race's rules: the computer toads' pace and jitter, the draws in their order, words
+// without repeats (and with them once the list runs out), typing, the race to twelve pads,
+// and the score.
+#include <gtest/gtest.h>
+
+#include "core/rng.h"
+#include "core/shared_state.h"
+#include "games/action/toad_race/toad_race_rules.h"
+
+using namespace wm;
+using namespace wm::toad_race;
+
+namespace {
+
+SharedState List(std::vector<std::string> words, int level = 5) {
+    SharedState s;
+    s.Words = {""};
+    s.Meanings = {""};
+    for (const auto& w : words) {
+        s.Words.push_back(w);
+        s.Meanings.push_back("meaning of " + w);
+    }
+    s.WordCount = static_cast<short>(words.size());
+    s.Difficulty = level;
+    return s;
+}
+
+// A race already past "Go!", its first word and waits drawn from `rng`.
+Race Started(SharedState& s, ScriptedRng& rng) {
+    Race r;
+    EXPECT_TRUE(r.start(s, rng));
+    r.go();
+    return r;
+}
+
+}  // namespace
+
+TEST(ToadRacePace, HopEvery4000Less250ALevelWithAFifthOfJitter) {
+    struct Row {
+        int level;
+        double r;
+        int interval, wait;
+    };
+    const Row table[] = {
+        {1, 0.5, 3750, 3750},  {1, 0.0, 3750, 3000}, {1, 0.999999, 3750, 4499},
+        {4, 0.0, 3000, 2400},  {4, 0.25, 3000, 2700}, {4, 0.75, 3000, 3300},
+        {10, 0.0, 1500, 1200}, {10, 0.5, 1500, 1500}, {10, 0.999999, 1500, 1799},
+    };
+    for (const Row& row : table) {
+        EXPECT_EQ(hopInterval(row.level), row.interval) << row.level;
+        EXPECT_EQ(hopWait(row.level, row.r), row.wait) << row.level << " " << row.r;
+    }
+}
+
+TEST(ToadRaceStart, ReseedsDrawsTheWordThenEachToadsFirstWait) {
+    SharedState s = List({"cat", "dog", "owl", "bee"}, 4);
+    ScriptedRng rng;
+    rng.pick(3, 4).then(0.0).then(0.5).then(0.75);
+    Race r;
+    ASSERT_TRUE(r.start(s, rng));
+    EXPECT_EQ(rng.randomizeCount, 1);
+    EXPECT_EQ(rng.pending(), 0u);
+    EXPECT_EQ(s.TheWord, "owl");
+    EXPECT_EQ(s.TheMeaning, "meaning of owl");
+    EXPECT_EQ(r.nextHop(1), 2400);
+    EXPECT_EQ(r.nextHop(2), 3000);
+    EXPECT_EQ(r.nextHop(3), 3300);
+    // Nothing moves and nothing is typed before "Go!".
+    EXPECT_EQ(r.phase(), Phase::Ready);
+    EXPECT_TRUE(r.advance(10000, rng).empty());
+    EXPECT_EQ(r.submit(s, "owl", rng), Typed::Ignored);
+    EXPECT_EQ(r.pad(0), 0);
+}
+
+TEST(ToadRaceStart, LevelHeldToTheSliderAndEmptyListsRefused) {
+    ScriptedRng rng(0.5);
+    for (auto [given, held] : {std::pair{0, 1}, {1, 1}, {10, 10}, {15, 10}}) {
+        SharedState s = List({"cat"}, given);
+        Race r;
+        ASSERT_TRUE(r.start(s, rng));
+        EXPECT_EQ(r.level(), held) << given;
+    }
+    SharedState none = List({});
+    EXPECT_FALSE(Race().start(none, rng));
+}
+
+TEST(ToadRaceWords, NoRepeatsUntilTheListRunsOut) {
+    SharedState s = List({"cat", "dog", "owl"});
+    ScriptedRng rng(0.5);
+    rng.pick(2, 3).then(0.5).then(0.5).then(0.5);  // the word, three waits
+    Race r = Started(s, rng);
+    ASSERT_EQ(s.TheWord, "dog");
+    // A used word is drawn again until a free one comes.
+    rng.pick(2, 3).pick(2, 3).pick(1, 3);
+    EXPECT_EQ(r.submit(s, "dog", rng), Typed::Hop);
+    EXPECT_EQ(s.TheWord, "cat");
+    EXPECT_EQ(rng.pending(), 0u);
+    // Always a used word: after a hundred draws, the next free entry after the last draw.
+    rng.setFallback(0.0);
+    EXPECT_EQ(r.submit(s, "CAT", rng), Typed::Hop);
+    EXPECT_EQ(s.TheWord, "owl");
+    EXPECT_GE(rng.draws, 100);
+    // All three played: repeats now, but never the word just played.
+    rng.setFallback(0.9);
+    EXPECT_EQ(r.submit(s, "owl", rng), Typed::Hop);
+    EXPECT_NE(s.TheWord, "owl");
+    EXPECT_EQ(r.pad(0), 3);
+}
+
+TEST(ToadRaceWords, AOneWordListStillRaces) {
+    SharedState s = List({"owl"});
+    ScriptedRng rng(0.3);
+    Race r = Started(s, rng);
+    for (int i = 1; i < kPads; ++i) {
+        ASSERT_EQ(r.submit(s, "owl", rng), Typed::Hop) << i;
+        ASSERT_EQ(s.TheWord, "owl");
+    }
+    EXPECT_EQ(r.submit(s, "owl", rng), Typed::Home);
+}
+
+TEST(ToadRaceTyping, CaseIgnoredAccentsCountBlanksAroundDoNotMatter) {
+    struct Row {
+        const char* typed;
+        Typed result;
+    };
+    const Row table[] = {{"caf\xE9", Typed::Hop},  {"CAF\xC9", Typed::Hop}, {"  Caf\xE9 ", Typed::Hop},
+                         {"cafe", Typed::Wrong},   {"caf", Typed::Wrong},   {"caf\xE9s", Typed::Wrong},
+                         {"", Typed::Wrong},       {"c af\xE9", Typed::Wrong}};
+    for (const Row& row : table) {
+        SharedState s = List({"caf\xE9", "th\xE9"});
+        ScriptedRng rng(0.5);
+        rng.pick(1, 2);
+        Race r = Started(s, rng);
+        EXPECT_EQ(r.submit(s, row.typed, rng), row.result) << row.typed;
+        if (row.result == Typed::Wrong) {
+            // The toad sits and the word stands.
+            EXPECT_EQ(r.pad(0), 0);
+            EXPECT_EQ(s.TheWord, "caf\xE9");
+            EXPECT_EQ(r.lettersRight(), 0);
+        } else {
+            EXPECT_EQ(r.pad(0), 1);
+            EXPECT_EQ(s.TheWord, "th\xE9");
+            EXPECT_EQ(r.lettersRight(), 4);
+        }
+    }
+}
+
+TEST(ToadRaceClock, ComputerToadsHopOnTheirOwnClocksInOrder) {
+    SharedState s = List({"cat"}, 4);  // every 3000 ms, 2400..3600 with jitter
+    ScriptedRng rng;
+    rng.then(0.1).then(0.5).then(0.0).then(0.5);  // word; waits 3000, 2400, 3000
+    Race r = Started(s, rng);
+    EXPECT_TRUE(r.advance(2399, rng).empty());
+    rng.then(1.0 / 6);  // toad 2's next wait: 2600
+    auto hops = r.advance(1, rng);
+    ASSERT_EQ(hops.size(), 1u);
+    EXPECT_EQ(hops[0].toad, 2);
+    EXPECT_EQ(hops[0].pad, 1);
+    EXPECT_EQ(hops[0].at, 2400);
+    EXPECT_EQ(r.nextHop(2), 5000);
+    // Toads 1 and 3 fall due together at 3000: the lower toad first, each drawing its next wait.
+    rng.then(0.0).then(0.999999);
+    hops = r.advance(600, rng);
+    ASSERT_EQ(hops.size(), 2u);
+    EXPECT_EQ(hops[0].toad, 1);
+    EXPECT_EQ(hops[1].toad, 3);
+    EXPECT_EQ(r.nextHop(1), 5400);
+    EXPECT_EQ(r.nextHop(3), 6599);
+    // A long step: every hop due in it, in the order they fell due.
+    rng.setFallback(0.5);
+    hops = r.advance(3000, rng);  // to 6000: toad 2 at 5000, toad 1 at 5400
+    ASSERT_EQ(hops.size(), 2u);
+    EXPECT_EQ(hops[0].toad, 2);
+    EXPECT_EQ(hops[1].toad, 1);
+    EXPECT_EQ(r.pad(1), 2);
+    EXPECT_EQ(r.pad(2), 2);
+    EXPECT_EQ(r.pad(3), 1);
+    EXPECT_EQ(r.clock(), 6000);
+}
+
+TEST(ToadRaceEnd, AComputerToadHomeFirstLoses) {
+    SharedState s = List({"cat", "dog"}, 10);
+    ScriptedRng rng(0.5);
+    rng.pick(1, 2).then(0.5).then(0.0).then(0.5);  // toad 2 leaves first and keeps ahead
+    Race r = Started(s, rng);
+    EXPECT_EQ(r.submit(s, "cat", rng), Typed::Hop);
+    // Toad 2 hops at 1200, then every 1500: its twelfth hop is at 1200 + 11 x 1500 = 17700.
+    EXPECT_FALSE(r.advance(17699, rng).empty());
+    EXPECT_EQ(r.pad(2), 11);
+    EXPECT_EQ(r.phase(), Phase::Racing);
+    const auto hops = r.advance(1, rng);
+    ASSERT_EQ(hops.size(), 1u);
+    EXPECT_EQ(hops[0].pad, kPads);
+    EXPECT_EQ(r.phase(), Phase::Lost);
+    EXPECT_EQ(r.winner(), 2);
+    EXPECT_TRUE(r.over());
+    // Nothing moves after the end, and typing does nothing.
+    EXPECT_TRUE(r.advance(100000, rng).empty());
+    EXPECT_EQ(r.pad(1), 11);
+    EXPECT_EQ(r.submit(s, s.TheWord, rng), Typed::Ignored);
+    EXPECT_EQ(r.pad(0), 1);
+    EXPECT_EQ(lostText(toadName(r.winner()), s.TheWord),
+              "Beaten by a nose! Puddles got home first. Your word was \"dog\". Would you like "
+              "to try again?");
+}
+
+TEST(ToadRaceEnd, ThePupilHomeFirstWinsAndScores) {
+    // (pads the best computer toad is behind x 100 + letters typed right x 5) x level
+    SharedState s = List({"frog", "pond", "lily", "reed", "newt", "swan", "duck", "moss",
+                          "fish", "bank", "mud", "rain"},
+                         3);
+    ScriptedRng rng(0.5);
+    Race r = Started(s, rng);
+    r.advance(3250 * 4, rng);  // every 3250 ms: four hops each
+    EXPECT_EQ(r.bestComputerPad(), 4);
+    r.submit(s, "not it", rng);
+    int letters = 0;
+    for (int i = 1; i <= kPads; ++i) {
+        letters += static_cast<int>(s.TheWord.size());
+        const Typed t = r.submit(s, s.TheWord, rng);
+        ASSERT_EQ(t, i < kPads ? Typed::Hop : Typed::Home) << i;
+    }
+    EXPECT_EQ(letters, 47);
+    EXPECT_EQ(r.lettersRight(), 47);
+    EXPECT_EQ(r.phase(), Phase::Won);
+    EXPECT_EQ(r.winner(), 0);
+    EXPECT_EQ(r.score(), (8 * 100 + 47 * 5) * 3);
+    EXPECT_TRUE(r.advance(100000, rng).empty());
+    EXPECT_EQ(r.bestComputerPad(), 4);
+}
