@@ -163,7 +163,7 @@ void Pond::resizeEvent(QResizeEvent*) {
     laneH_ = height() * 0.125;
     startX_ = width() * 0.128;
     padLeft_ = width() * 0.205;
-    padStep_ = (width() * 0.952 - padLeft_) / (kPads - 1);
+    padStep_ = (width() * 0.93 - padLeft_) / (kPads - 1);
     buildScene();
 }
 
