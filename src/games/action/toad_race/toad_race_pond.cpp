@@ -249,8 +249,33 @@ void Pond::buildScene() {
             sprites_[toad][f] = pm;
         }
     }
+    const int side = std::max(8, int(laneH_ * 0.6));
+    sparkle_ = QPixmap(side, side);
+    sparkle_.fill(Qt::transparent);
+    {
+        QPainter sp(&sparkle_);
+        sp.setRenderHint(QPainter::Antialiasing);
+        scene::paintSparkle(sp, QPointF(side / 2.0, side / 2.0), side * 0.34, 12, 1.0);
+    }
+    callPictureOf_.clear();
     for (auto& t : toads_) t.drawn = QRect();
     update();
+}
+
+const QPixmap& Pond::callPicture() {
+    if (callPictureOf_ == call_ && !callPicture_.isNull()) return callPicture_;
+    const QRect box = callRect();
+    QFont f = callFont(int(laneH_ * 1.05));
+    while (f.pixelSize() > 8 && QFontMetricsF(f).horizontalAdvance(call_) > box.width() * 0.92)
+        f.setPixelSize(f.pixelSize() - 2);
+    callPicture_ = QPixmap(box.size() - QSize(0, int(laneH_ * 0.3)));
+    callPicture_.fill(Qt::transparent);
+    QPainter p(&callPicture_);
+    p.setRenderHint(QPainter::Antialiasing);
+    paintOutlined(p, call_, f, QPointF(callPicture_.rect().center()), QColor(255, 236, 90),
+                  QColor(40, 70, 20), std::max(3.0, laneH_ * 0.1));
+    callPictureOf_ = call_;
+    return callPicture_;
 }
 
 // --- what moves -------------------------------------------------------------------------
@@ -268,18 +293,20 @@ void Pond::step() {
         }
     }
     // Splash rings where toads landed.
-    QRect rings;
     for (int toad = 0; toad < kToads; ++toad) {
         const qint64 age = t - toads_[toad].hopAt - kHopMs;
-        if (age < 0 || age >= kRingMs) continue;
-        const QPointF c = padCentre(laneOf(toad), toads_[toad].to);
-        const double r = padStep_ * 0.75;
-        rings |= QRectF(c.x() - r, c.y() - r * 0.7, 2 * r, r * 1.4).toAlignedRect().adjusted(-4, -4, 4, 4);
-    }
-    if (!rings.isNull() || !ringsDrawn_.isNull()) {
-        update(ringsDrawn_);
-        update(rings);
-        ringsDrawn_ = rings;
+        QRect ring;
+        if (age >= 0 && age < kRingMs) {
+            const QPointF c = padCentre(laneOf(toad), toads_[toad].to);
+            const double r = padStep_ * 0.75;
+            ring = QRectF(c.x() - r, c.y() - r * 0.7, 2 * r, r * 1.4).toAlignedRect().adjusted(
+                -4, -4, 4, 4);
+        }
+        if (ring != ringsDrawn_[toad] || !ring.isNull()) {
+            update(ringsDrawn_[toad]);
+            update(ring);
+            ringsDrawn_[toad] = ring;
+        }
     }
     // The call pops in, then stands still.
     if (!call_.isEmpty() && t - callAt_ < 400) update(callRect());
@@ -331,13 +358,18 @@ void Pond::paintEvent(QPaintEvent* event) {
         const QRect box = cheerRect();
         const QPointF c = QPointF(box.center()) + QPointF(0, -laneH_ * 0.2);
         const double spin = double(t - cheerAt_) / 9.0;
+        const double size = laneH_ * 0.3;
         for (int k = 0; k < 9; ++k) {
             const double a = (k * 40 + spin) * kPi / 180;
             const double r = laneH_ * (0.75 + 0.25 * std::sin(double(t - cheerAt_) / 160.0 + k));
             const double twinkle = 0.5 + 0.5 * std::sin(double(t - cheerAt_) / 90.0 + k * 1.7);
-            scene::paintSparkle(p, c + QPointF(std::cos(a) * r, std::sin(a) * r * 0.8),
-                                laneH_ * (0.1 + 0.08 * twinkle), spin * 2 + k * 20, 0.5 + 0.5 * twinkle);
+            const QPointF at = c + QPointF(std::cos(a) * r, std::sin(a) * r * 0.8);
+            const double s = size * (0.6 + 0.4 * twinkle);
+            p.setOpacity(0.5 + 0.5 * twinkle);
+            p.drawPixmap(QRectF(at.x() - s, at.y() - s, 2 * s, 2 * s), sparkle_,
+                         QRectF(sparkle_.rect()));
         }
+        p.setOpacity(1);
     }
 
     for (int lane = 0; lane < kToads; ++lane) {
@@ -356,13 +388,15 @@ void Pond::paintEvent(QPaintEvent* event) {
     }
 
     if (!call_.isEmpty()) {
-        const QRect box = callRect();
+        // The call fades in as it drops into place.
         const double pop = scene::easeOut(double(t - callAt_) / 300.0);
-        QFont f = callFont(int(laneH_ * 1.05 * (0.6 + 0.4 * pop)));
-        while (f.pixelSize() > 8 && QFontMetricsF(f).horizontalAdvance(call_) > box.width() * 0.96)
-            f.setPixelSize(f.pixelSize() - 2);
-        paintOutlined(p, call_, f, QPointF(box.center()), QColor(255, 236, 90),
-                      QColor(40, 70, 20), std::max(3.0, laneH_ * 0.1));
+        const QPixmap& pic = callPicture();
+        const QRect box = callRect();
+        p.setOpacity(pop);
+        p.drawPixmap(QPointF(box.center().x() - pic.width() / 2.0,
+                             box.center().y() - pic.height() / 2.0 - (1 - pop) * laneH_ * 0.15),
+                     pic);
+        p.setOpacity(1);
     }
 }
 

@@ -67,19 +67,22 @@ private:
     QRectF toadRect(int toad, qint64 t, int* frame) const;
     QRect callRect() const;
     QRect cheerRect() const;
-    void paintToad(QPainter& p, int toad, qint64 t);
+    const QPixmap& callPicture();
 
     QPixmap scene_;
     std::array<std::array<QPixmap, 3>, toad_race::kToads> sprites_;
     std::array<Toad, toad_race::kToads> toads_;
     std::vector<Ring> rings_;
-    QRect ringsDrawn_;
+    std::array<QRect, toad_race::kToads> ringsDrawn_;
     QString call_;
     qint64 callAt_ = 0;
     QRect callDrawn_;
     int cheer_ = -1;
     qint64 cheerAt_ = 0;
     QRect cheerDrawn_;
+    QPixmap callPicture_;  // the call drawn once, outlined, at its size
+    QString callPictureOf_;
+    QPixmap sparkle_;
     double laneTop_ = 0, laneH_ = 0, padLeft_ = 0, padStep_ = 0, startX_ = 0;
 };
 

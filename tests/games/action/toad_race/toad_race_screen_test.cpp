@@ -121,10 +121,11 @@ void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
     QCOMPARE(game->pond()->cheering(), 0);
     QCOMPARE(game->pond()->call(), "You win!");
     QVERIFY(fx.sound.played.contains("toadwin.wav"));
+    Pump(400);
     Shot(game, "toadrace-won");
     QCOMPARE(driver.congratulations.size(), 0);
     fx.dialogs.answerYes(false);
-    Pump(ToadRace::kCheerMs);
+    Pump(ToadRace::kCheerMs - 400);
     // (11 pads the best computer toad is behind x 100 + letters x 5) x level 2
     const int score = (11 * 100 + letters * 5) * 2;
     QCOMPARE(driver.congratulations.size(), 1);
@@ -170,10 +171,11 @@ void ToadRaceScreenTest::aRaceLostNamesTheWinnerAndTheWord() {
     Pump(Pond::kHopMs);
     QCOMPARE(game->pond()->cheering(), 3);
     QCOMPARE(game->pond()->call(), "Ruby wins!");
+    Pump(400);
     Shot(game, "toadrace-1920-lost");
     QVERIFY(fx.dialogs.shown.empty());
     fx.dialogs.answerYes(true);
-    Pump(ToadRace::kCheerMs);
+    Pump(ToadRace::kCheerMs - 400);
     QCOMPARE(fx.dialogs.shown.size(), size_t(1));
     QCOMPARE(fx.dialogs.last(),
              "Beaten by a nose! Ruby got home first. Your word was \"dog\". Would you like to try "
