@@ -22,32 +22,38 @@ bool Race::start(SharedState& s, Rng& rng) {
     // A level outside the slider would make a toad hop every 0 ms or less: held to the slider.
     level_ = std::clamp(s.Difficulty, kMinLevel, kMaxLevel);
     rng.Randomize();
-    const int loaded = std::min<int>(s.WordCount, kMaxWords);
-    if (loaded <= 0 || static_cast<int>(s.Words.size()) <= loaded) return false;
+    // A list over the limit keeps WordCount at 1001: the draw is among the entries loaded.
+    const int loaded = std::min({static_cast<int>(s.WordCount), kMaxWords,
+                                 static_cast<int>(s.Words.size()) - 1,
+                                 static_cast<int>(s.Meanings.size()) - 1});
+    if (loaded <= 0) return false;
     used_.assign(loaded + 1, false);
     drawWord(s, rng);
-    if (s.TheWord.empty()) return false;
     for (int t = 1; t < kToads; ++t) next_[t] = hopWait(level_, rng.Rnd());
-    return true;
+    return !s.TheWord.empty();
 }
 
 void Race::drawWord(SharedState& s, Rng& rng) {
     const int n = static_cast<int>(used_.size()) - 1;
+    auto draw = [&] { return std::clamp(static_cast<int>(Int(rng.Rnd() * n + 1)), 1, n); };
     // Every word has had its turn: repeats from here, but not the word just played.
-    if (std::count(used_.begin() + 1, used_.end(), true) >= n) {
+    if (usedCount_ >= n) {
         std::fill(used_.begin(), used_.end(), false);
-        if (n > 1 && word_ > 0) used_[word_] = true;
+        usedCount_ = 0;
+        if (n > 1) {
+            used_[word_] = true;
+            usedCount_ = 1;
+        }
     }
-    int k = static_cast<int>(Int(rng.Rnd() * n + 1));
-    for (int tries = 1; used_[std::clamp(k, 1, n)] && tries < kWordDraws; ++tries)
-        k = static_cast<int>(Int(rng.Rnd() * n + 1));
-    k = std::clamp(k, 1, n);
+    int k = draw();
+    for (int tries = 1; used_[k] && tries < kWordDraws; ++tries) k = draw();
     // Bounded: after that many used draws, the next free entry after the last draw.
-    for (int step = 0; used_[k] && step < n; ++step) k = k % n + 1;
+    for (int step = 1; used_[k] && step < n; ++step) k = k % n + 1;
     used_[k] = true;
+    ++usedCount_;
     word_ = k;
     s.TheWord = s.Words[k];
-    s.TheMeaning = s.Meanings.size() > static_cast<size_t>(k) ? s.Meanings[k] : std::string();
+    s.TheMeaning = s.Meanings[k];
 }
 
 void Race::go() {
@@ -104,7 +110,7 @@ std::string lostText(const std::string& winnerName, const std::string& word) {
 
 const char* toadName(int toad) {
     static const char* const names[kToads] = {"You", "Goldie", "Puddles", "Ruby"};
-    return names[std::clamp(toad, 0, kToads - 1)];
+    return names[toad];
 }
 
 }  // namespace wm::toad_race

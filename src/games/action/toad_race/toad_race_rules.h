@@ -76,11 +76,12 @@ private:
     int letters_ = 0;
     int word_ = 0;
     std::vector<bool> used_;  // entries drawn this race, 1-based
+    int usedCount_ = 0;
 };
 
 // The loss box: which toad won, and the word in hand.
 std::string lostText(const std::string& winnerName, const std::string& word);
-// The toads' names on their lanes.
+// The toads' names on their lanes (toad 0..3).
 const char* toadName(int toad);
 
 }  // namespace wm::toad_race

@@ -107,6 +107,32 @@ TEST(ToadRaceWords, NoRepeatsUntilTheListRunsOut) {
     EXPECT_EQ(r.pad(0), 3);
 }
 
+TEST(ToadRaceWords, TwoWordsTakeTurns) {
+    SharedState s = List({"cat", "dog"});
+    ScriptedRng rng(0.5);
+    rng.pick(1, 2).then(0.5).then(0.5).then(0.5).pick(2, 2);
+    Race r = Started(s, rng);
+    EXPECT_EQ(r.submit(s, "cat", rng), Typed::Hop);
+    EXPECT_EQ(s.TheWord, "dog");
+    // Both played: the word just played is drawn, and drawn again until the other comes.
+    rng.pick(2, 2).pick(2, 2).pick(1, 2);
+    EXPECT_EQ(r.submit(s, "dog", rng), Typed::Hop);
+    EXPECT_EQ(s.TheWord, "cat");
+    EXPECT_EQ(rng.pending(), 0u);
+}
+
+TEST(ToadRaceWords, AListOverTheLimitDrawsAmongTheWordsLoaded) {
+    SharedState s;  // room for 1001 entries, as the list file leaves it
+    for (int k = 1; k <= kMaxWords; ++k) s.Words[k] = "w" + std::to_string(k);
+    s.WordCount = kMaxWords + 1;
+    s.Difficulty = 5;
+    ScriptedRng rng(0.5);
+    rng.then(0.9999);
+    Race r;
+    ASSERT_TRUE(r.start(s, rng));
+    EXPECT_EQ(s.TheWord, "w1000");
+}
+
 TEST(ToadRaceWords, AOneWordListStillRaces) {
     SharedState s = List({"owl"});
     ScriptedRng rng(0.3);
@@ -210,8 +236,12 @@ TEST(ToadRaceEnd, ThePupilHomeFirstWinsAndScores) {
                           "fish", "bank", "mud", "rain"},
                          3);
     ScriptedRng rng(0.5);
+    rng.then(0.5).then(0.0);  // the word; Goldie's first wait 2600, then all every 3250 ms
     Race r = Started(s, rng);
-    r.advance(3250 * 4, rng);  // every 3250 ms: four hops each
+    r.advance(12400, rng);
+    EXPECT_EQ(r.pad(1), 4);
+    EXPECT_EQ(r.pad(2), 3);
+    EXPECT_EQ(r.pad(3), 3);
     EXPECT_EQ(r.bestComputerPad(), 4);
     r.submit(s, "not it", rng);
     int letters = 0;
