@@ -130,7 +130,7 @@ QRectF Pond::toadRect(int toad, qint64 t, int* frame) const {
     const double u = double(t - d.hopAt) / kHopMs;
     if (u >= 0 && u < 1) {
         pad = scene::lerp(d.from, d.to, scene::easeInOut(u));
-        lift = std::sin(kPi * u) * laneH_ * 0.8;
+        lift = std::sin(kPi * u) * laneH_ * 0.55;
         if (u > 0.08 && u < 0.92) *frame = 1;
     }
     const double s = double(t - d.shakeAt) / kShakeMs;
@@ -205,8 +205,8 @@ void Pond::buildScene() {
         // The start stone and the pads, far lanes first so nearer pads overlap them.
         const QPointF stone = padCentre(lane, 0);
         const QSizeF stoneSize(padStep_ * 1.15 * s, laneH_ * 0.62 * s);
-        draw("stone_0", QRectF(stone - QPointF(stoneSize.width() / 2, stoneSize.height() * 0.45),
-                               stoneSize));
+        draw("stone_0",
+             QRectF(stone - QPointF(stoneSize.width() / 2, stoneSize.height() * 0.45), stoneSize));
         for (int i = 1; i <= kPads; ++i) {
             const QPointF c = padCentre(lane, i);
             const double grow = i == kPads ? 1.12 : 1.0;
@@ -215,9 +215,8 @@ void Pond::buildScene() {
             p.save();
             p.translate(c);
             p.rotate(((lane * 7 + i * 13) % 11 - 5) * 1.6);
-            draw(flower ? "pad_1" : "pad_0",
-                 QRectF(-padSize.width() / 2, -padSize.height() / 2, padSize.width(),
-                        padSize.height()));
+            draw(flower ? "pad_1" : "pad_0", QRectF(-padSize.width() / 2, -padSize.height() / 2,
+                                                    padSize.width(), padSize.height()));
             p.restore();
         }
         // The name plate on the bank at the lane's start.
@@ -226,8 +225,7 @@ void Pond::buildScene() {
         draw(toad == 0 ? "plate_1" : "plate_0", plate);
         QFont f = callFont(int(plate.height() * 0.42));
         const QString name = toadName(toad);
-        while (f.pixelSize() > 8 &&
-               QFontMetricsF(f).horizontalAdvance(name) > plate.width() * 0.84)
+        while (f.pixelSize() > 8 && QFontMetricsF(f).horizontalAdvance(name) > plate.width() * 0.84)
             f.setPixelSize(f.pixelSize() - 1);
         p.setFont(f);
         p.setPen(toad == 0 ? QColor(90, 40, 0) : QColor(255, 246, 220));
@@ -299,8 +297,9 @@ void Pond::step() {
         if (age >= 0 && age < kRingMs) {
             const QPointF c = padCentre(laneOf(toad), toads_[toad].to);
             const double r = padStep_ * 0.75;
-            ring = QRectF(c.x() - r, c.y() - r * 0.7, 2 * r, r * 1.4).toAlignedRect().adjusted(
-                -4, -4, 4, 4);
+            ring = QRectF(c.x() - r, c.y() - r * 0.7, 2 * r, r * 1.4)
+                       .toAlignedRect()
+                       .adjusted(-4, -4, 4, 4);
         }
         if (ring != ringsDrawn_[toad] || !ring.isNull()) {
             update(ringsDrawn_[toad]);
@@ -348,8 +347,8 @@ void Pond::paintEvent(QPaintEvent* event) {
         for (int k = 0; k < 6; ++k) {
             const double a = kPi * (0.15 + 0.7 * k / 5.0);
             const double d = padStep_ * 0.45 * scene::easeOut(u);
-            const QPointF drop = c + QPointF(-std::cos(a) * d, -std::sin(a) * d * 0.9 +
-                                                                 u * u * laneH_ * 0.5);
+            const QPointF drop =
+                c + QPointF(-std::cos(a) * d, -std::sin(a) * d * 0.9 + u * u * laneH_ * 0.5);
             p.drawEllipse(drop, laneH_ * 0.035, laneH_ * 0.035);
         }
     }

@@ -18,7 +18,7 @@ constexpr int kPads = 12;  // pads to the finish
 constexpr int kMinLevel = 1, kMaxLevel = 10;
 constexpr int kWordDraws = 100;  // redraws of a used word before the next free one is taken
 
-// The computer toads' pace: one hop every 4000 - 250 x level ms.
+// The computer toads' pace: one hop every 8000 - 650 x level ms (7350 at level 1, 1500 at 10).
 int hopInterval(int level);
 // One wait between two hops of a computer toad: the interval with a jitter of up to a fifth
 // either way, from one draw `r` in [0, 1).
@@ -29,7 +29,7 @@ enum class Typed { Ignored, Wrong, Hop, Home };
 
 struct Hop {
     int toad = 0;
-    int pad = 0;  // where it lands
+    int pad = 0;       // where it lands
     long long at = 0;  // race clock, ms
 };
 

@@ -38,8 +38,10 @@ ToadRace::ToadRace(QWidget* parent)
     : QWidget(parent),
       frame_(this, GameMenuNames{}, [this] { SetupGame(); }),
       Timer1(frame_.timer("Timer1", Ticker::kFrameMs, [this] { raceTick(); })),
-      Timer2(frame_.timer("Timer2", kReadyMs, [this] { go(); }, true)),
-      Timer3(frame_.timer("Timer3", Pond::kHopMs, [this] { afterHome(); }, true)) {
+      Timer2(frame_.timer(
+          "Timer2", kReadyMs, [this] { go(); }, true)),
+      Timer3(frame_.timer(
+          "Timer3", Pond::kHopMs, [this] { afterHome(); }, true)) {
     setObjectName("ToadRace");
     setWindowTitle("Toad Race");
     frame_.setMusic(MusicKind::Shared, "toadrace.mid");
@@ -118,7 +120,7 @@ void ToadRace::go() {
 
 void ToadRace::raceTick() {
     const qint64 t = Ticker::get().now();
-    const int ms = int(std::clamp<qint64>(t - lastTick_, 0, 1000));
+    const int ms = int(t - lastTick_);
     lastTick_ = t;
     for (const Hop& h : race_.advance(ms, TheRng())) {
         pond_->hop(h.toad, h.pad);
@@ -130,7 +132,6 @@ void ToadRace::raceTick() {
 }
 
 void ToadRace::enterWord() {
-    if (frame_.leaving() || Text1->isReadOnly()) return;
     switch (race_.submit(Shared(), fromQ(Text1->text()), TheRng())) {
         case Typed::Ignored:
             return;
@@ -178,8 +179,8 @@ void ToadRace::afterHome() {
         Timer3.start(kCheerMs);
         return;
     }
-    // The pond stands still behind the end boxes; with timers that keep going there, Timer1
-    // runs on behind the end boxes and the winner keeps bouncing.
+    // runs on behind the end boxes: Timer1 (the winner bouncing in its sparkles), once the
+    // frame can keep a named timer going there; until then the pond stands still behind them.
     SharedState& s = Shared();
     if (winner == 0) {
         s.Score = race_.score();
@@ -229,9 +230,8 @@ void ToadRace::resizeEvent(QResizeEvent*) {
     m.setPixelSize(std::max(8, meaningBox.height() * 40 / 100));
     const QString meaning = Label2->text();
     for (;;) {
-        const QRect need = QFontMetrics(m).boundingRect(meaningBox.adjusted(6, 0, -6, 0),
-                                                        Qt::AlignCenter | Qt::TextWordWrap,
-                                                        meaning);
+        const QRect need = QFontMetrics(m).boundingRect(
+            meaningBox.adjusted(6, 0, -6, 0), Qt::AlignCenter | Qt::TextWordWrap, meaning);
         if (m.pixelSize() <= 8 || need.height() <= meaningBox.height()) break;
         m.setPixelSize(m.pixelSize() - 1);
     }
@@ -254,9 +254,9 @@ void ToadRace::resizeEvent(QResizeEvent*) {
     PadsLabel->move(width() * 96 / 100 - PadsLabel->width(), y);
 }
 
-WM_REGISTER_GAME("Toad Race", ToadRace, "images/toadrace-pond.svg",
-                 "images/toadrace-sprites.svg", "sounds/toadready.wav", "sounds/toadgo.wav",
-                 "sounds/toadhop.wav", "sounds/toadplop.wav", "sounds/toadcroak.wav",
-                 "sounds/toadwin.wav", "sounds/toadlose.wav", "sounds/toadrace.mid");
+WM_REGISTER_GAME("Toad Race", ToadRace, "images/toadrace-pond.svg", "images/toadrace-sprites.svg",
+                 "sounds/toadready.wav", "sounds/toadgo.wav", "sounds/toadhop.wav",
+                 "sounds/toadplop.wav", "sounds/toadcroak.wav", "sounds/toadwin.wav",
+                 "sounds/toadlose.wav", "sounds/toadrace.mid");
 
 }  // namespace wm

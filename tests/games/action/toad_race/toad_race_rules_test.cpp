@@ -35,15 +35,15 @@ Race Started(SharedState& s, ScriptedRng& rng) {
 
 }  // namespace
 
-TEST(ToadRacePace, HopEvery4000Less250ALevelWithAFifthOfJitter) {
+TEST(ToadRacePace, HopEvery8000Less650ALevelWithAFifthOfJitter) {
     struct Row {
         int level;
         double r;
         int interval, wait;
     };
     const Row table[] = {
-        {1, 0.5, 3750, 3750},  {1, 0.0, 3750, 3000}, {1, 0.999999, 3750, 4499},
-        {4, 0.0, 3000, 2400},  {4, 0.25, 3000, 2700}, {4, 0.75, 3000, 3300},
+        {1, 0.5, 7350, 7350},  {1, 0.0, 7350, 5880},  {1, 0.999999, 7350, 8819},
+        {4, 0.0, 5400, 4320},  {4, 0.25, 5400, 4860}, {4, 0.75, 5400, 5940},
         {10, 0.0, 1500, 1200}, {10, 0.5, 1500, 1500}, {10, 0.999999, 1500, 1799},
     };
     for (const Row& row : table) {
@@ -62,9 +62,9 @@ TEST(ToadRaceStart, ReseedsDrawsTheWordThenEachToadsFirstWait) {
     EXPECT_EQ(rng.pending(), 0u);
     EXPECT_EQ(s.TheWord, "owl");
     EXPECT_EQ(s.TheMeaning, "meaning of owl");
-    EXPECT_EQ(r.nextHop(1), 2400);
-    EXPECT_EQ(r.nextHop(2), 3000);
-    EXPECT_EQ(r.nextHop(3), 3300);
+    EXPECT_EQ(r.nextHop(1), 4320);
+    EXPECT_EQ(r.nextHop(2), 5400);
+    EXPECT_EQ(r.nextHop(3), 5940);
     // Nothing moves and nothing is typed before "Go!".
     EXPECT_EQ(r.phase(), Phase::Ready);
     EXPECT_TRUE(r.advance(10000, rng).empty());
@@ -85,26 +85,29 @@ TEST(ToadRaceStart, LevelHeldToTheSliderAndEmptyListsRefused) {
 }
 
 TEST(ToadRaceWords, NoRepeatsUntilTheListRunsOut) {
-    SharedState s = List({"cat", "dog", "owl"});
+    SharedState s = List({"cat", "dog", "owl", "bee"});
     ScriptedRng rng(0.5);
-    rng.pick(2, 3).then(0.5).then(0.5).then(0.5);  // the word, three waits
+    rng.pick(1, 4);
     Race r = Started(s, rng);
-    ASSERT_EQ(s.TheWord, "dog");
+    ASSERT_EQ(s.TheWord, "cat");
     // A used word is drawn again until a free one comes.
-    rng.pick(2, 3).pick(2, 3).pick(1, 3);
-    EXPECT_EQ(r.submit(s, "dog", rng), Typed::Hop);
-    EXPECT_EQ(s.TheWord, "cat");
+    rng.pick(1, 4).pick(3, 4);
+    EXPECT_EQ(r.submit(s, "cat", rng), Typed::Hop);
+    EXPECT_EQ(s.TheWord, "owl");
     EXPECT_EQ(rng.pending(), 0u);
     // Always a used word: after a hundred draws, the next free entry after the last draw.
     rng.setFallback(0.0);
-    EXPECT_EQ(r.submit(s, "CAT", rng), Typed::Hop);
-    EXPECT_EQ(s.TheWord, "owl");
-    EXPECT_GE(rng.draws, 100);
-    // All three played: repeats now, but never the word just played.
+    const int before = rng.draws;
+    EXPECT_EQ(r.submit(s, "OWL", rng), Typed::Hop);
+    EXPECT_EQ(s.TheWord, "dog");
+    EXPECT_EQ(rng.draws - before, kWordDraws);
     rng.setFallback(0.9);
-    EXPECT_EQ(r.submit(s, "owl", rng), Typed::Hop);
-    EXPECT_NE(s.TheWord, "owl");
-    EXPECT_EQ(r.pad(0), 3);
+    EXPECT_EQ(r.submit(s, "dog", rng), Typed::Hop);
+    EXPECT_EQ(s.TheWord, "bee");
+    // All four played: repeats now, but never the word just played.
+    EXPECT_EQ(r.submit(s, "bee", rng), Typed::Hop);
+    EXPECT_EQ(s.TheWord, "cat");
+    EXPECT_EQ(r.pad(0), 4);
 }
 
 TEST(ToadRaceWords, TwoWordsTakeTurns) {
@@ -149,9 +152,10 @@ TEST(ToadRaceTyping, CaseIgnoredAccentsCountBlanksAroundDoNotMatter) {
         const char* typed;
         Typed result;
     };
-    const Row table[] = {{"caf\xE9", Typed::Hop},  {"CAF\xC9", Typed::Hop}, {"  Caf\xE9 ", Typed::Hop},
-                         {"cafe", Typed::Wrong},   {"caf", Typed::Wrong},   {"caf\xE9s", Typed::Wrong},
-                         {"", Typed::Wrong},       {"c af\xE9", Typed::Wrong}};
+    const Row table[] = {{"caf\xE9", Typed::Hop},    {"CAF\xC9", Typed::Hop},
+                         {"  Caf\xE9 ", Typed::Hop}, {"cafe", Typed::Wrong},
+                         {"caf", Typed::Wrong},      {"caf\xE9s", Typed::Wrong},
+                         {"", Typed::Wrong},         {"c af\xE9", Typed::Wrong}};
     for (const Row& row : table) {
         SharedState s = List({"caf\xE9", "th\xE9"});
         ScriptedRng rng(0.5);
@@ -172,36 +176,36 @@ TEST(ToadRaceTyping, CaseIgnoredAccentsCountBlanksAroundDoNotMatter) {
 }
 
 TEST(ToadRaceClock, ComputerToadsHopOnTheirOwnClocksInOrder) {
-    SharedState s = List({"cat"}, 4);  // every 3000 ms, 2400..3600 with jitter
+    SharedState s = List({"cat"}, 4);  // every 5400 ms, 4320..6480 with jitter
     ScriptedRng rng;
-    rng.then(0.1).then(0.5).then(0.0).then(0.5);  // word; waits 3000, 2400, 3000
+    rng.then(0.1).then(0.5).then(0.0).then(0.5);  // word; waits 5400, 4320, 5400
     Race r = Started(s, rng);
-    EXPECT_TRUE(r.advance(2399, rng).empty());
-    rng.then(1.0 / 6);  // toad 2's next wait: 2600
+    EXPECT_TRUE(r.advance(4319, rng).empty());
+    rng.then(1.0 / 6);  // toad 2's next wait: 4680
     auto hops = r.advance(1, rng);
     ASSERT_EQ(hops.size(), 1u);
     EXPECT_EQ(hops[0].toad, 2);
     EXPECT_EQ(hops[0].pad, 1);
-    EXPECT_EQ(hops[0].at, 2400);
-    EXPECT_EQ(r.nextHop(2), 5000);
-    // Toads 1 and 3 fall due together at 3000: the lower toad first, each drawing its next wait.
+    EXPECT_EQ(hops[0].at, 4320);
+    EXPECT_EQ(r.nextHop(2), 9000);
+    // Toads 1 and 3 fall due together at 5400: the lower toad first, each drawing its next wait.
     rng.then(0.0).then(0.999999);
-    hops = r.advance(600, rng);
+    hops = r.advance(1080, rng);
     ASSERT_EQ(hops.size(), 2u);
     EXPECT_EQ(hops[0].toad, 1);
     EXPECT_EQ(hops[1].toad, 3);
-    EXPECT_EQ(r.nextHop(1), 5400);
-    EXPECT_EQ(r.nextHop(3), 6599);
+    EXPECT_EQ(r.nextHop(1), 9720);
+    EXPECT_EQ(r.nextHop(3), 11879);
     // A long step: every hop due in it, in the order they fell due.
     rng.setFallback(0.5);
-    hops = r.advance(3000, rng);  // to 6000: toad 2 at 5000, toad 1 at 5400
+    hops = r.advance(5400, rng);  // to 10800: toad 2 at 9000, toad 1 at 9720
     ASSERT_EQ(hops.size(), 2u);
     EXPECT_EQ(hops[0].toad, 2);
     EXPECT_EQ(hops[1].toad, 1);
     EXPECT_EQ(r.pad(1), 2);
     EXPECT_EQ(r.pad(2), 2);
     EXPECT_EQ(r.pad(3), 1);
-    EXPECT_EQ(r.clock(), 6000);
+    EXPECT_EQ(r.clock(), 10800);
 }
 
 TEST(ToadRaceEnd, AComputerToadHomeFirstLoses) {
@@ -225,6 +229,8 @@ TEST(ToadRaceEnd, AComputerToadHomeFirstLoses) {
     EXPECT_EQ(r.pad(1), 11);
     EXPECT_EQ(r.submit(s, s.TheWord, rng), Typed::Ignored);
     EXPECT_EQ(r.pad(0), 1);
+    const char* names[] = {"You", "Goldie", "Puddles", "Ruby"};
+    for (int t = 0; t < kToads; ++t) EXPECT_STREQ(toadName(t), names[t]);
     EXPECT_EQ(lostText(toadName(r.winner()), s.TheWord),
               "Beaten by a nose! Puddles got home first. Your word was \"dog\". Would you like "
               "to try again?");
@@ -232,13 +238,13 @@ TEST(ToadRaceEnd, AComputerToadHomeFirstLoses) {
 
 TEST(ToadRaceEnd, ThePupilHomeFirstWinsAndScores) {
     // (pads the best computer toad is behind x 100 + letters typed right x 5) x level
-    SharedState s = List({"frog", "pond", "lily", "reed", "newt", "swan", "duck", "moss",
-                          "fish", "bank", "mud", "rain"},
+    SharedState s = List({"frog", "pond", "lily", "reed", "newt", "swan", "duck", "moss", "fish",
+                          "bank", "mud", "rain"},
                          3);
     ScriptedRng rng(0.5);
-    rng.then(0.5).then(0.0);  // the word; Goldie's first wait 2600, then all every 3250 ms
+    rng.then(0.5).then(0.0);  // the word; Goldie's first wait 4840, then all every 6050 ms
     Race r = Started(s, rng);
-    r.advance(12400, rng);
+    r.advance(23000, rng);
     EXPECT_EQ(r.pad(1), 4);
     EXPECT_EQ(r.pad(2), 3);
     EXPECT_EQ(r.pad(3), 3);

@@ -1,6 +1,6 @@
 // Toad Race on its screen: from the title through "Ready... Go!", wrong and right words, the
 // palette, a race won to the table and back to the title; and a race lost to a computer toad at
-// 1920x1080 with sound off, the box naming the winner and the word, and a try again.
+// 1920x1080, the box naming the winner and the word, and a try again; a list with no words.
 #include <QtTest>
 
 #include "core/score_table.h"
@@ -27,10 +27,6 @@ void enter(ToadRace* game, const QString& typed) {
     QTest::keyClicks(game->typingBox(), typed);
     QTest::keyClick(game->typingBox(), Qt::Key_Return);
     Pump(0);
-}
-
-int toadSounds(const RecordingSound& sound) {
-    return int(sound.played.filter("toad").size());
 }
 
 }  // namespace
@@ -66,6 +62,9 @@ void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
     Pump();
     QCOMPARE(game->objectName(), "ToadRace");
     QCOMPARE(game->pond()->call(), "Ready...");
+    QVERIFY(fx.sound.played.contains("toadready.wav"));
+    QVERIFY(fx.music.opened.endsWith("toadrace.mid"));
+    QCOMPARE(text(game, "Label3"), "Type the word, then press Enter");
     QLineEdit* box = game->typingBox();
     // No false starts: nothing can be typed before "Go!".
     QTest::keyClicks(box, "frog");
@@ -82,13 +81,22 @@ void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
     QCOMPARE(text(game, "PadsLabel"), "Pads to go: 12");
     QCOMPARE(text(game, "LevelLabel"), "Level 2");
 
-    // A wrong word: the toad sits, the word stands, the box keeps what was typed.
+    // A wrong word: the toad sits, the word stands, the box keeps what was typed, marked and
+    // selected to be typed over. The croak only with sound on.
     const QString first = text(game, "Label1");
+    Shared().SoundOn = kFalse;
     enter(game, "zzz");
+    QVERIFY(!fx.sound.played.contains("toadcroak.wav"));
+    Shared().SoundOn = kTrue;
+    enter(game, "");
     QCOMPARE(game->race().pad(0), 0);
     QCOMPARE(text(game, "Label1"), first);
     QCOMPARE(box->text(), "zzz");
+    QCOMPARE(box->selectedText(), "zzz");
+    QVERIFY(box->styleSheet().contains("#d8402c"));
     QVERIFY(fx.sound.played.contains("toadcroak.wav"));
+    QTest::keyClick(box, Qt::Key_Backspace);
+    QVERIFY(!box->styleSheet().contains("#d8402c"));
     // The palette's character goes into the typing box.
     box->clear();
     QVERIFY(TriggerMenu(game, "FLang"));
@@ -108,9 +116,10 @@ void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
         QCOMPARE(game->race().pad(0), pad);
         QCOMPARE(text(game, "PadsLabel"), QString("Pads to go: %1").arg(12 - pad));
         if (pad == 6) {
-            // Halfway, the computer's toads have had their first hop (every 3500 ms at level 2).
-            Pump(2700);
+            // Halfway, the computer's toads have had their first hop (every 6700 ms at level 2).
+            Pump(6000);
             for (int t = 1; t <= 3; ++t) QCOMPARE(game->pond()->shownPad(t), 1);
+            QVERIFY(fx.sound.played.contains("toadplop.wav"));
             Shot(game, "toadrace-racing");
         }
         Pump(16);
@@ -148,8 +157,8 @@ void ToadRaceScreenTest::aRaceLostNamesTheWinnerAndTheWord() {
     SetModalHook(std::ref(driver));
     // The first word, then the waits: Ruby (toad 3) leaves first, at 1200 ms, then every 1500.
     fx.rng.pick(1, 2).then(0.5).then(0.5).then(0.0);
-    auto* game = qobject_cast<ToadRace*>(
-        ContinueWithList(ChooserFor("Toad Race", 10, false, /*soundOn=*/false), "Pets"));
+    auto* game =
+        qobject_cast<ToadRace*>(ContinueWithList(ChooserFor("Toad Race", 10, false), "Pets"));
     QVERIFY(game);
     Pump();
     QCOMPARE(game->size(), QSize(1920, 1080));
@@ -171,6 +180,8 @@ void ToadRaceScreenTest::aRaceLostNamesTheWinnerAndTheWord() {
     Pump(Pond::kHopMs);
     QCOMPARE(game->pond()->cheering(), 3);
     QCOMPARE(game->pond()->call(), "Ruby wins!");
+    QVERIFY(fx.sound.played.contains("toadlose.wav"));
+    QVERIFY(!fx.sound.played.contains("toadwin.wav"));
     Pump(400);
     Shot(game, "toadrace-1920-lost");
     QVERIFY(fx.dialogs.shown.empty());
@@ -187,9 +198,13 @@ void ToadRaceScreenTest::aRaceLostNamesTheWinnerAndTheWord() {
     QCOMPARE(game->race().phase(), toad_race::Phase::Ready);
     for (int t = 0; t < 4; ++t) QCOMPARE(game->pond()->shownPad(t), 0);
     QCOMPARE(game->pond()->cheering(), -1);
-    QCOMPARE(toadSounds(fx.sound), 0);  // sound off: not a croak
-    QVERIFY(TriggerMenu(game, "Return"));
+    QCOMPARE(game->typingBox()->text(), "");
+    QVERIFY(!game->typingBox()->styleSheet().contains("#d8402c"));
+    // A list with no words left to race with: said clearly, then back to the title.
+    Shared().WordCount = 0;
+    QVERIFY(TriggerMenu(game, "RS"));
     Pump();
+    QCOMPARE(fx.dialogs.last(), "This list has no words to race with. Please choose another list.");
     QVERIFY(Showing<Title>());
 }
 
