@@ -370,10 +370,14 @@ std::vector<GameCard> BuildCatalogue() {
 
     cards.push_back(Card(
         "Toad Race", Elig(WO::Allowed, "", "ToadRace"), Slider(1, 10, 5),
-        "It's a race! Your toad is lined up against the computer's toads. A vocabulary word "
-        "appears on the screen: type it correctly and press ENTER to make your toad hop forward. "
-        "A spelling mistake leaves your toad sitting still. Get your toad across the finish line "
-        "first to win! The higher the level, the faster the other toads hop."));
+        "It's a race! Your green toad sits on the bottom lane of the pond, next to Goldie, "
+        "Puddles and Ruby. After \"Ready... Go!\" a word appears on the sign over the pond, with "
+        "its meaning underneath. Type the word in the box and press ENTER: your toad hops to the "
+        "next lily pad and a new word comes up. Big or small letters are fine, but accents "
+        "count. If you spell it wrong, your toad just sits there until you fix it. The other "
+        "toads hop all by themselves. Twelve pads to the finish flag: get there first to win! "
+        "The fewer pads the best other toad has hopped, and the more letters you typed, the "
+        "bigger your score. The higher the level, the faster the other toads hop."));
 
     cards.push_back(Card(
         "Princess", Elig(WO::WarnIfOption, kMsgW1, "frmPrincess"), Slider(1, 15, 5, Shown),

@@ -1,0 +1,266 @@
+// Toad Race's rules: the computer toads' pace and jitter, the draws in their order, words
+// without repeats (and with them once the list runs out), typing, the race to twelve pads,
+// and the score.
+#include <gtest/gtest.h>
+
+#include "core/rng.h"
+#include "core/shared_state.h"
+#include "games/action/toad_race/toad_race_rules.h"
+
+using namespace wm;
+using namespace wm::toad_race;
+
+namespace {
+
+SharedState List(std::vector<std::string> words, int level = 5) {
+    SharedState s;
+    s.Words = {""};
+    s.Meanings = {""};
+    for (const auto& w : words) {
+        s.Words.push_back(w);
+        s.Meanings.push_back("meaning of " + w);
+    }
+    s.WordCount = static_cast<short>(words.size());
+    s.Difficulty = level;
+    return s;
+}
+
+// A race already past "Go!", its first word and waits drawn from `rng`.
+Race Started(SharedState& s, ScriptedRng& rng) {
+    Race r;
+    EXPECT_TRUE(r.start(s, rng));
+    r.go();
+    return r;
+}
+
+}  // namespace
+
+TEST(ToadRacePace, HopEvery8000Less650ALevelWithAFifthOfJitter) {
+    struct Row {
+        int level;
+        double r;
+        int interval, wait;
+    };
+    const Row table[] = {
+        {1, 0.5, 7350, 7350},  {1, 0.0, 7350, 5880},  {1, 0.999999, 7350, 8819},
+        {4, 0.0, 5400, 4320},  {4, 0.25, 5400, 4860}, {4, 0.75, 5400, 5940},
+        {10, 0.0, 1500, 1200}, {10, 0.5, 1500, 1500}, {10, 0.999999, 1500, 1799},
+    };
+    for (const Row& row : table) {
+        EXPECT_EQ(hopInterval(row.level), row.interval) << row.level;
+        EXPECT_EQ(hopWait(row.level, row.r), row.wait) << row.level << " " << row.r;
+    }
+}
+
+TEST(ToadRaceStart, ReseedsDrawsTheWordThenEachToadsFirstWait) {
+    SharedState s = List({"cat", "dog", "owl", "bee"}, 4);
+    ScriptedRng rng;
+    rng.pick(3, 4).then(0.0).then(0.5).then(0.75);
+    Race r;
+    ASSERT_TRUE(r.start(s, rng));
+    EXPECT_EQ(rng.randomizeCount, 1);
+    EXPECT_EQ(rng.pending(), 0u);
+    EXPECT_EQ(s.TheWord, "owl");
+    EXPECT_EQ(s.TheMeaning, "meaning of owl");
+    EXPECT_EQ(r.nextHop(1), 4320);
+    EXPECT_EQ(r.nextHop(2), 5400);
+    EXPECT_EQ(r.nextHop(3), 5940);
+    // Nothing moves and nothing is typed before "Go!".
+    EXPECT_EQ(r.phase(), Phase::Ready);
+    EXPECT_TRUE(r.advance(10000, rng).empty());
+    EXPECT_EQ(r.submit(s, "owl", rng), Typed::Ignored);
+    EXPECT_EQ(r.pad(0), 0);
+}
+
+TEST(ToadRaceStart, LevelHeldToTheSliderAndEmptyListsRefused) {
+    ScriptedRng rng(0.5);
+    for (auto [given, held] : {std::pair{0, 1}, {1, 1}, {10, 10}, {15, 10}}) {
+        SharedState s = List({"cat"}, given);
+        Race r;
+        ASSERT_TRUE(r.start(s, rng));
+        EXPECT_EQ(r.level(), held) << given;
+    }
+    SharedState none = List({});
+    EXPECT_FALSE(Race().start(none, rng));
+}
+
+TEST(ToadRaceWords, NoRepeatsUntilTheListRunsOut) {
+    SharedState s = List({"cat", "dog", "owl", "bee"});
+    ScriptedRng rng(0.5);
+    rng.pick(1, 4);
+    Race r = Started(s, rng);
+    ASSERT_EQ(s.TheWord, "cat");
+    // A used word is drawn again until a free one comes.
+    rng.pick(1, 4).pick(3, 4);
+    EXPECT_EQ(r.submit(s, "cat", rng), Typed::Hop);
+    EXPECT_EQ(s.TheWord, "owl");
+    EXPECT_EQ(rng.pending(), 0u);
+    // Always a used word: after a hundred draws, the next free entry after the last draw.
+    rng.setFallback(0.0);
+    const int before = rng.draws;
+    EXPECT_EQ(r.submit(s, "OWL", rng), Typed::Hop);
+    EXPECT_EQ(s.TheWord, "dog");
+    EXPECT_EQ(rng.draws - before, kWordDraws);
+    rng.setFallback(0.9);
+    EXPECT_EQ(r.submit(s, "dog", rng), Typed::Hop);
+    EXPECT_EQ(s.TheWord, "bee");
+    // All four played: repeats now, but never the word just played.
+    EXPECT_EQ(r.submit(s, "bee", rng), Typed::Hop);
+    EXPECT_EQ(s.TheWord, "cat");
+    EXPECT_EQ(r.pad(0), 4);
+}
+
+TEST(ToadRaceWords, TwoWordsTakeTurns) {
+    SharedState s = List({"cat", "dog"});
+    ScriptedRng rng(0.5);
+    rng.pick(1, 2).then(0.5).then(0.5).then(0.5).pick(2, 2);
+    Race r = Started(s, rng);
+    EXPECT_EQ(r.submit(s, "cat", rng), Typed::Hop);
+    EXPECT_EQ(s.TheWord, "dog");
+    // Both played: the word just played is drawn, and drawn again until the other comes.
+    rng.pick(2, 2).pick(2, 2).pick(1, 2);
+    EXPECT_EQ(r.submit(s, "dog", rng), Typed::Hop);
+    EXPECT_EQ(s.TheWord, "cat");
+    EXPECT_EQ(rng.pending(), 0u);
+}
+
+TEST(ToadRaceWords, AListOverTheLimitDrawsAmongTheWordsLoaded) {
+    SharedState s;  // room for 1001 entries, as the list file leaves it
+    for (int k = 1; k <= kMaxWords; ++k) s.Words[k] = "w" + std::to_string(k);
+    s.WordCount = kMaxWords + 1;
+    s.Difficulty = 5;
+    ScriptedRng rng(0.5);
+    rng.then(0.9999);
+    Race r;
+    ASSERT_TRUE(r.start(s, rng));
+    EXPECT_EQ(s.TheWord, "w1000");
+}
+
+TEST(ToadRaceWords, AOneWordListStillRaces) {
+    SharedState s = List({"owl"});
+    ScriptedRng rng(0.3);
+    Race r = Started(s, rng);
+    for (int i = 1; i < kPads; ++i) {
+        ASSERT_EQ(r.submit(s, "owl", rng), Typed::Hop) << i;
+        ASSERT_EQ(s.TheWord, "owl");
+    }
+    EXPECT_EQ(r.submit(s, "owl", rng), Typed::Home);
+}
+
+TEST(ToadRaceTyping, CaseIgnoredAccentsCountBlanksAroundDoNotMatter) {
+    struct Row {
+        const char* typed;
+        Typed result;
+    };
+    const Row table[] = {{"caf\xE9", Typed::Hop},    {"CAF\xC9", Typed::Hop},
+                         {"  Caf\xE9 ", Typed::Hop}, {"cafe", Typed::Wrong},
+                         {"caf", Typed::Wrong},      {"caf\xE9s", Typed::Wrong},
+                         {"", Typed::Wrong},         {"c af\xE9", Typed::Wrong}};
+    for (const Row& row : table) {
+        SharedState s = List({"caf\xE9", "th\xE9"});
+        ScriptedRng rng(0.5);
+        rng.pick(1, 2);
+        Race r = Started(s, rng);
+        EXPECT_EQ(r.submit(s, row.typed, rng), row.result) << row.typed;
+        if (row.result == Typed::Wrong) {
+            // The toad sits and the word stands.
+            EXPECT_EQ(r.pad(0), 0);
+            EXPECT_EQ(s.TheWord, "caf\xE9");
+            EXPECT_EQ(r.lettersRight(), 0);
+        } else {
+            EXPECT_EQ(r.pad(0), 1);
+            EXPECT_EQ(s.TheWord, "th\xE9");
+            EXPECT_EQ(r.lettersRight(), 4);
+        }
+    }
+}
+
+TEST(ToadRaceClock, ComputerToadsHopOnTheirOwnClocksInOrder) {
+    SharedState s = List({"cat"}, 4);  // every 5400 ms, 4320..6480 with jitter
+    ScriptedRng rng;
+    rng.then(0.1).then(0.5).then(0.0).then(0.5);  // word; waits 5400, 4320, 5400
+    Race r = Started(s, rng);
+    EXPECT_TRUE(r.advance(4319, rng).empty());
+    rng.then(1.0 / 6);  // toad 2's next wait: 4680
+    auto hops = r.advance(1, rng);
+    ASSERT_EQ(hops.size(), 1u);
+    EXPECT_EQ(hops[0].toad, 2);
+    EXPECT_EQ(hops[0].pad, 1);
+    EXPECT_EQ(hops[0].at, 4320);
+    EXPECT_EQ(r.nextHop(2), 9000);
+    // Toads 1 and 3 fall due together at 5400: the lower toad first, each drawing its next wait.
+    rng.then(0.0).then(0.999999);
+    hops = r.advance(1080, rng);
+    ASSERT_EQ(hops.size(), 2u);
+    EXPECT_EQ(hops[0].toad, 1);
+    EXPECT_EQ(hops[1].toad, 3);
+    EXPECT_EQ(r.nextHop(1), 9720);
+    EXPECT_EQ(r.nextHop(3), 11879);
+    // A long step: every hop due in it, in the order they fell due.
+    rng.setFallback(0.5);
+    hops = r.advance(5400, rng);  // to 10800: toad 2 at 9000, toad 1 at 9720
+    ASSERT_EQ(hops.size(), 2u);
+    EXPECT_EQ(hops[0].toad, 2);
+    EXPECT_EQ(hops[1].toad, 1);
+    EXPECT_EQ(r.pad(1), 2);
+    EXPECT_EQ(r.pad(2), 2);
+    EXPECT_EQ(r.pad(3), 1);
+    EXPECT_EQ(r.clock(), 10800);
+}
+
+TEST(ToadRaceEnd, AComputerToadHomeFirstLoses) {
+    SharedState s = List({"cat", "dog"}, 10);
+    ScriptedRng rng(0.5);
+    rng.pick(1, 2).then(0.5).then(0.0).then(0.5);  // toad 2 leaves first and keeps ahead
+    Race r = Started(s, rng);
+    EXPECT_EQ(r.submit(s, "cat", rng), Typed::Hop);
+    // Toad 2 hops at 1200, then every 1500: its twelfth hop is at 1200 + 11 x 1500 = 17700.
+    EXPECT_FALSE(r.advance(17699, rng).empty());
+    EXPECT_EQ(r.pad(2), 11);
+    EXPECT_EQ(r.phase(), Phase::Racing);
+    const auto hops = r.advance(1, rng);
+    ASSERT_EQ(hops.size(), 1u);
+    EXPECT_EQ(hops[0].pad, kPads);
+    EXPECT_EQ(r.phase(), Phase::Lost);
+    EXPECT_EQ(r.winner(), 2);
+    EXPECT_TRUE(r.over());
+    // Nothing moves after the end, and typing does nothing.
+    EXPECT_TRUE(r.advance(100000, rng).empty());
+    EXPECT_EQ(r.pad(1), 11);
+    EXPECT_EQ(r.submit(s, s.TheWord, rng), Typed::Ignored);
+    EXPECT_EQ(r.pad(0), 1);
+    const char* names[] = {"You", "Goldie", "Puddles", "Ruby"};
+    for (int t = 0; t < kToads; ++t) EXPECT_STREQ(toadName(t), names[t]);
+    EXPECT_EQ(lostText(toadName(r.winner()), s.TheWord),
+              "Beaten by a nose! Puddles got home first. Your word was \"dog\". Would you like "
+              "to try again?");
+}
+
+TEST(ToadRaceEnd, ThePupilHomeFirstWinsAndScores) {
+    // (pads the best computer toad is behind x 100 + letters typed right x 5) x level
+    SharedState s = List({"frog", "pond", "lily", "reed", "newt", "swan", "duck", "moss", "fish",
+                          "bank", "mud", "rain"},
+                         3);
+    ScriptedRng rng(0.5);
+    rng.then(0.5).then(0.0);  // the word; Goldie's first wait 4840, then all every 6050 ms
+    Race r = Started(s, rng);
+    r.advance(23000, rng);
+    EXPECT_EQ(r.pad(1), 4);
+    EXPECT_EQ(r.pad(2), 3);
+    EXPECT_EQ(r.pad(3), 3);
+    EXPECT_EQ(r.bestComputerPad(), 4);
+    r.submit(s, "not it", rng);
+    int letters = 0;
+    for (int i = 1; i <= kPads; ++i) {
+        letters += static_cast<int>(s.TheWord.size());
+        const Typed t = r.submit(s, s.TheWord, rng);
+        ASSERT_EQ(t, i < kPads ? Typed::Hop : Typed::Home) << i;
+    }
+    EXPECT_EQ(letters, 47);
+    EXPECT_EQ(r.lettersRight(), 47);
+    EXPECT_EQ(r.phase(), Phase::Won);
+    EXPECT_EQ(r.winner(), 0);
+    EXPECT_EQ(r.score(), (8 * 100 + 47 * 5) * 3);
+    EXPECT_TRUE(r.advance(100000, rng).empty());
+    EXPECT_EQ(r.bestComputerPad(), 4);
+}
