@@ -165,11 +165,13 @@ void JailScene::advance(int ms) {
     if (guardShown_ < target) {
         // A steady stroll, one step in the time he takes one; hurried on after an alarm.
         const double gap = target - guardShown_;
-        const double perMs = gap > 1.01 ? 4.0 / 1000 : 1.0 / jb::kStepMs;
+        double perMs = 1.0 / jb::kStepMs;
+        if (gap > 1.01) perMs = std::max(perMs, gap * 3.0 / 1000);
+        if (caught_) perMs = std::max(perMs, 30.0 / 1000);  // he rushes to the door
         const double step = std::min(gap, perMs * ms);
         dirtyStage(guardStageRect(guardShown_));
         guardShown_ += step;
-        walked_ += step;
+        walked_ += std::min(step, 0.003 * ms);  // the legs never blur
         dirtyStage(guardStageRect(guardShown_));
     } else if (guardShown_ > target) {
         guardShown_ = target;
@@ -468,11 +470,13 @@ void JailScene::paintBanner(QPainter& p) {
     p.setPen(QColor(255, 220, 80));
     p.drawText(top, Qt::AlignCenter, bigText);
     if (!bannerSmall_.isEmpty()) {
-        p.setFont(TagFont(std::max(11.0, 28 * k_), true));
+        const QRectF below(plate.left() + 14 * k_, top.bottom(), plate.width() - 28 * k_,
+                           plate.bottom() - top.bottom() - 8 * k_);
+        const QString smallText =
+            FitText(bannerSmall_, below.size(), std::max(11.0, 28 * k_), 9, true, false, fitted);
+        p.setFont(fitted);
         p.setPen(Qt::white);
-        p.drawText(QRectF(plate.left(), top.bottom(), plate.width(), plate.bottom() - top.bottom() -
-                                                                         8 * k_),
-                   Qt::AlignCenter, bannerSmall_);
+        p.drawText(below, Qt::AlignCenter, smallText);
     }
 }
 

@@ -41,8 +41,10 @@ TEST(JailbreakDraw, LocksComeInDrawOrderAndTheGameStartsClean) {
     s.Score = 555;
     ScriptedRng rng;
     rng.pick(5, 8).pick(2, 8).pick(7, 8);
-    Jail j;
+    Jail j;  // what the last game left
     j.guardSteps = 12;
+    j.cell = 3;
+    j.used = {"PIANO"};
     ASSERT_TRUE(newGame(s, j, rng));
     EXPECT_EQ(Entries(j), (std::vector<int>{5, 2, 7}));
     EXPECT_EQ(j.locks[1].meaning, "water that flows");
@@ -83,6 +85,25 @@ TEST(JailbreakDraw, AShortListRepeatsAcrossCellsButNeverInsideOne) {
     rng.pick(2, 3).pick(2, 3).pick(1, 3).pick(3, 3);
     ASSERT_TRUE(nextCell(s, j, rng));
     EXPECT_EQ(Entries(j), (std::vector<int>{2, 1, 3}));
+
+    // Just enough new words for the next cell: they are the ones drawn.
+    SharedState four = List({{"cat", "purrs"}, {"dog", "barks"}, {"hen", "lays eggs"},
+                             {"owl", "hoots"}}, 2);
+    rng.pick(1, 4).pick(2, 4);
+    ASSERT_TRUE(newGame(four, j, rng));
+    rng.pick(1, 4).pick(3, 4).pick(2, 4).pick(4, 4);
+    ASSERT_TRUE(nextCell(four, j, rng));
+    EXPECT_EQ(Entries(j), (std::vector<int>{3, 4}));
+}
+
+TEST(JailbreakDraw, ACountPastTheLoadedEntriesDrawsAmongThoseLoaded) {
+    SharedState s = List(kEight, 1);
+    s.WordCount = 1001;  // what a list over the limit leaves
+    ScriptedRng rng;
+    rng.then(0.999);
+    Jail j;
+    ASSERT_TRUE(newGame(s, j, rng));
+    EXPECT_EQ(Entries(j), (std::vector<int>{8}));
 }
 
 TEST(JailbreakDraw, TheDrawIsBoundedAndWalksOnThroughTheList) {
@@ -168,6 +189,11 @@ TEST(JailbreakPlay, OpeningTheSelectedLockMovesTheSelectionOn) {
     EXPECT_EQ(j.selected, 2);
     select(j, 3);  // out of range
     EXPECT_EQ(j.selected, 2);
+    select(j, -1);
+    EXPECT_EQ(j.selected, 2);
+    select(j, 0);
+    EXPECT_EQ(j.selected, 0);
+    select(j, 2);
     EXPECT_EQ(typeWord(s, j, "cloud").result, Result::Opened);
     EXPECT_EQ(j.selected, 0);
     EXPECT_EQ(s.TheWord, "apple");

@@ -66,6 +66,7 @@ private slots:
     void roadFromTitleThroughThreeCellsToTheTable();
     void theGuardCatchesYouAndYouTryAgain();
     void locksHintsAndTheAlarm();
+    void anEscapeWithNoPointsLeftIsNoHighScore();
     void tooFewDifferentWordsIsRefused();
     void pictures_data();
     void pictures();
@@ -83,9 +84,14 @@ void JailbreakScreenTest::roadFromTitleThroughThreeCellsToTheTable() {
     QCOMPARE(game->scene()->banner(), "Cell 1 of 3");
     // Nothing counts before the pause is over.
     Type(game, "apple");
+    game->findChild<QPushButton*>("Command1")->click();
     QCOMPARE(s.Score, 0.0);
-    Pump(2000);
+    QCOMPARE(Text(game, "Label3"), "Stuck? Hint shows the first letter (-10).");
+    Pump(1960);
+    QCOMPARE(game->phase(), JailBreakForm::Phase::Ready);
+    Pump(40);
     QCOMPARE(game->phase(), JailBreakForm::Phase::Playing);
+    QCOMPARE(game->scene()->banner(), "");
     QCOMPARE(game->typingBox()->text(), "apple");  // kept for when the pause is over
     game->typingBox()->clear();
     Pump(1500 * 3);
@@ -110,6 +116,7 @@ void JailbreakScreenTest::roadFromTitleThroughThreeCellsToTheTable() {
     Type(game, "river");  // 100, then the guard's 35 steps to go x 10
     QCOMPARE(s.Score, 70.0 + 100 + 350);
     QCOMPARE(game->scene()->banner(), "Escaped!");
+    QCOMPARE(Text(game, "Label1"), "All the locks are open!");
     Pump(1500);  // the guard stands still while you escape
     QCOMPARE(game->jail().guardSteps, 5);
     QVERIFY(game->scene()->escaping());
@@ -151,9 +158,10 @@ void JailbreakScreenTest::theGuardCatchesYouAndYouTryAgain() {
     QVERIFY(game);
     Pump(2000);
     Type(game, "bridge");
-    Pump(1500 * 38);
-    QCOMPARE(game->jail().guardSteps, 38);
-    QCOMPARE(fx.sound.played.count("footstep.wav"), 38);
+    Pump(1500 * 39);
+    QCOMPARE(game->jail().guardSteps, 39);
+    QCOMPARE(Text(game, "GuardLabel"), "Guard: 1 step away");
+    QCOMPARE(fx.sound.played.count("footstep.wav"), 39);
     Type(game, "bridges");  // the alarm brings him to the door
     QCOMPARE(game->phase(), JailBreakForm::Phase::Caught);
     QCOMPARE(Text(game, "GuardLabel"), "Guard: at the door!");
@@ -199,6 +207,7 @@ void JailbreakScreenTest::locksHintsAndTheAlarm() {
     QCOMPARE(game->jail().selected, 2);
     QCOMPARE(Text(game, "Label1"), "Lock 3 of 4 says:");
     QCOMPARE(Text(game, "Label2"), toQ(longMeaning));
+    QCOMPARE(Shared().TheWord, "cloud");
     Pump(40);
     QVERIFY(scene->tagText(2).endsWith(QChar(0x2026)));
     QCOMPARE(scene->tagText(1), "water that flows to the sea");
@@ -239,6 +248,27 @@ void JailbreakScreenTest::locksHintsAndTheAlarm() {
     QTest::keyClick(game->typingBox(), Qt::Key_Escape);
     Pump();
     QVERIFY(Showing<Title>());
+}
+
+void JailbreakScreenTest::anEscapeWithNoPointsLeftIsNoHighScore() {
+    ShellFixture fx;
+    auto* game = OpenJail(fx, {{"owl", "a bird that hoots at night"}}, 1);
+    QVERIFY(game);
+    QCOMPARE(Shared().Difficulty, 1);  // one word: one lock
+    for (int cell = 1; cell <= 3; ++cell) {
+        Pump(2000);
+        for (int i = 0; i < 17; ++i) Type(game, "hoot");  // -340, and 34 steps
+        Type(game, "Owl");                                // 60, then 6 steps to go x 10
+        QCOMPARE(Shared().Score, -220.0 * cell);
+        Pump(700 + 3000);
+    }
+    QCOMPARE(fx.dialogs.shown.back().title, "Escaped!");
+    QCOMPARE(fx.dialogs.last(),
+             "You escaped from all three cells, but your score is -660, so it cannot go on the "
+             "high score table. Would you like to try again?");
+    Pump();
+    QVERIFY(Showing<Title>());
+    QCOMPARE(ReadScoreTable(fx.path("scores/Jailbreak.dat").toStdString()).score(1), 0.0);
 }
 
 void JailbreakScreenTest::tooFewDifferentWordsIsRefused() {
