@@ -189,8 +189,11 @@ void JailScene::advance(int ms) {
         dirtyStage(QRectF(c.x() - 110, c.y() - 110, 220, 350));
     }
     if (escapeMs_ >= 0 && escapeMs_ < kEscapeMs) {
+        // The door while it swings, then only the prisoner running.
+        if (escapeMs_ <= kSwingMs) dirtyStage(kCell);
+        dirtyStage(prisonerStageRect());
         escapeMs_ = std::min(kEscapeMs, escapeMs_ + ms);
-        dirtyStage(QRectF(-200, 60, 1100, 740));
+        dirtyStage(prisonerStageRect());
     }
     for (Pop& pop : pops_) {
         pop.ageMs += ms;
@@ -366,10 +369,15 @@ void JailScene::paintDoor(QPainter& p) {
     p.scale(1 - 0.82 * swing, 1);
     p.drawPixmap(QPointF(0, 0), sprite("door"));
     p.restore();
-    if (!jail_) return;
+    if (!jail_ || swing >= 1) return;
     p.save();
     p.setOpacity(1 - swing);
-    for (int i = 0; i < int(jail_->locks.size()); ++i) paintLock(p, i);
+    for (int i = 0; i < int(jail_->locks.size()); ++i) {
+        // Only the locks the repaint reaches.
+        const QPointF c = lockCentre(i, int(jail_->locks.size()));
+        if (dirty_.intersects(toWidget(QRectF(c.x() - 110, c.y() - 110, 220, 350)).toAlignedRect()))
+            paintLock(p, i);
+    }
     p.restore();
 }
 
@@ -480,17 +488,20 @@ void JailScene::paintBanner(QPainter& p) {
     }
 }
 
-void JailScene::paintEvent(QPaintEvent*) {
+void JailScene::paintEvent(QPaintEvent* e) {
+    dirty_ = e->region();
     QPainter p(this);
     p.setRenderHint(QPainter::SmoothPixmapTransform);
     p.drawPixmap(stage_.topLeft(), back_);
     p.setClipRect(stage_);
     const bool kidInFront = escapeMs_ >= kRunFromMs;
-    if (!kidInFront) paintPrisoner(p);
-    paintDoor(p);
+    const bool kidDirty = dirty_.intersects(toWidget(prisonerStageRect()).toAlignedRect());
+    if (!kidInFront && kidDirty) paintPrisoner(p);
+    if (dirty_.intersects(toWidget(kCell).toAlignedRect())) paintDoor(p);
     p.setRenderHint(QPainter::Antialiasing);
-    if (kidInFront) paintPrisoner(p);
-    paintGuard(p);
+    if (kidInFront && kidDirty) paintPrisoner(p);
+    if (dirty_.intersects(toWidget(guardStageRect(guardShown_)).toAlignedRect().adjusted(0, 0, 0, 20)))
+        paintGuard(p);
     paintAlarm(p);
     paintPops(p);
     paintBanner(p);

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QPixmap>
 #include <QPointF>
+#include <QRegion>
 #include <QRectF>
 #include <QWidget>
 #include <memory>
@@ -88,6 +89,7 @@ private:
     const jailbreak::Jail* jail_ = nullptr;
     std::unique_ptr<QSvgRenderer> sceneSvg_;
     std::unique_ptr<QSvgRenderer> spriteSvg_;
+    QRegion dirty_;  // what the paint in hand must cover
     QRectF stage_;  // the stage in widget pixels
     double k_ = 1;  // widget pixels per stage unit
     QPixmap back_;
