@@ -269,10 +269,11 @@ std::vector<GameCard> BuildCatalogue() {
 
     cards.push_back(Card(
         "Jailbreak", Elig(WO::Refuse, kMsgM1, "GameOptions"), Clamped(2, 6, 4),
-        "Break out of jail! Your cell door is held shut by several locks, and each lock has a "
-        "definition on it. Type the vocabulary word that matches it and press ENTER to open that "
-        "lock. A wrong word sets off the alarm and costs you points. Open every lock before the "
-        "guard comes back to escape! The level sets how many locks there are."));
+        "Break out of jail! Each padlock on your cell door has a tag with a definition. Type its "
+        "word and press ENTER to spring it open. A wrong word sets off the alarm, costs points "
+        "and hurries the guard on. Open every lock before he reaches your door: the farther "
+        "away he is, the more you score. Hint shows a lock's first letter. Escape three cells "
+        "to win!"));
 
     cards.push_back(Card(
         "Cannon Shot", Elig(WO::Warn, kCannonShotWarning, "CannonShotForm"), Slider(2, 20, 10),

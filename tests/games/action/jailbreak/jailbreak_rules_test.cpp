@@ -1,0 +1,276 @@
+// Jailbreak's rules over a scripted generator: the draw of a cell's locks, the points of a lock,
+// a cell and a mistake, the guard's walk, hints and the texts of a lost game.
+#include <gtest/gtest.h>
+
+#include "core/strings.h"
+#include "games/action/jailbreak/jailbreak_rules.h"
+
+using namespace wm;
+using namespace wm::jailbreak;
+
+namespace {
+
+SharedState List(const std::vector<std::pair<std::string, std::string>>& pairs, int level) {
+    SharedState s;
+    s.Words = {""};
+    s.Meanings = {""};
+    for (const auto& [w, m] : pairs) {
+        s.Words.push_back(w);
+        s.Meanings.push_back(m);
+    }
+    s.WordCount = static_cast<short>(pairs.size());
+    s.Difficulty = level;
+    return s;
+}
+
+const std::vector<std::pair<std::string, std::string>> kEight = {
+    {"apple", "a red fruit"},     {"river", "water that flows"}, {"cloud", "it floats in the sky"},
+    {"tiger", "a striped cat"},   {"piano", "keys that sing"},   {"owl", "it hoots"},
+    {"bridge", "it crosses water"}, {"candle", "a light of wax"}};
+
+std::vector<int> Entries(const Jail& j) {
+    std::vector<int> e;
+    for (const Lock& l : j.locks) e.push_back(l.entry);
+    return e;
+}
+
+}  // namespace
+
+TEST(JailbreakDraw, LocksComeInDrawOrderAndTheGameStartsClean) {
+    SharedState s = List(kEight, 3);
+    s.Score = 555;
+    ScriptedRng rng;
+    rng.pick(5, 8).pick(2, 8).pick(7, 8);
+    Jail j;  // what the last game left
+    j.guardSteps = 12;
+    j.cell = 3;
+    j.used = {"PIANO"};
+    ASSERT_TRUE(newGame(s, j, rng));
+    EXPECT_EQ(Entries(j), (std::vector<int>{5, 2, 7}));
+    EXPECT_EQ(j.locks[1].meaning, "water that flows");
+    EXPECT_EQ(rng.randomizeCount, 1);
+    EXPECT_EQ(rng.draws, 3);
+    EXPECT_EQ(s.Score, 0);
+    EXPECT_EQ(j.cell, 1);
+    EXPECT_EQ(j.guardSteps, 0);
+    EXPECT_EQ(j.selected, 0);
+    EXPECT_EQ(s.TheWord, "piano");
+}
+
+TEST(JailbreakDraw, NoWordTwiceInACellNorInAGameWhileTheListHasEnough) {
+    SharedState s = List(kEight, 3);
+    s.Words[3] = "APPLE";  // the same word as entry 1 to a pupil who types it
+    ScriptedRng rng;
+    rng.pick(1, 8).pick(3, 8).pick(1, 8).pick(4, 8).pick(4, 8).pick(2, 8);
+    Jail j;
+    ASSERT_TRUE(newGame(s, j, rng));
+    EXPECT_EQ(Entries(j), (std::vector<int>{1, 4, 2}));
+    EXPECT_EQ(rng.draws, 6);
+    // Cell 2 may not use apple, tiger or river again: five new words are left, enough for three.
+    rng.pick(3, 8).pick(4, 8).pick(2, 8).pick(5, 8).pick(6, 8).pick(7, 8);
+    j.guardSteps = 30;
+    ASSERT_TRUE(nextCell(s, j, rng));
+    EXPECT_EQ(j.cell, 2);
+    EXPECT_EQ(j.guardSteps, 0);
+    EXPECT_EQ(Entries(j), (std::vector<int>{5, 6, 7}));
+    EXPECT_EQ(rng.draws, 12);
+}
+
+TEST(JailbreakDraw, AShortListRepeatsAcrossCellsButNeverInsideOne) {
+    SharedState s = List({{"cat", "purrs"}, {"dog", "barks"}, {"hen", "lays eggs"}}, 3);
+    ScriptedRng rng;
+    rng.pick(1, 3).pick(2, 3).pick(3, 3);
+    Jail j;
+    ASSERT_TRUE(newGame(s, j, rng));
+    rng.pick(2, 3).pick(2, 3).pick(1, 3).pick(3, 3);
+    ASSERT_TRUE(nextCell(s, j, rng));
+    EXPECT_EQ(Entries(j), (std::vector<int>{2, 1, 3}));
+
+    // Just enough new words for the next cell: they are the ones drawn.
+    SharedState four = List({{"cat", "purrs"}, {"dog", "barks"}, {"hen", "lays eggs"},
+                             {"owl", "hoots"}}, 2);
+    rng.pick(1, 4).pick(2, 4);
+    ASSERT_TRUE(newGame(four, j, rng));
+    rng.pick(1, 4).pick(3, 4).pick(2, 4).pick(4, 4);
+    ASSERT_TRUE(nextCell(four, j, rng));
+    EXPECT_EQ(Entries(j), (std::vector<int>{3, 4}));
+}
+
+TEST(JailbreakDraw, ACountPastTheLoadedEntriesDrawsAmongThoseLoaded) {
+    SharedState s = List(kEight, 1);
+    s.WordCount = 1001;  // what a list over the limit leaves
+    ScriptedRng rng;
+    rng.then(0.999);
+    Jail j;
+    ASSERT_TRUE(newGame(s, j, rng));
+    EXPECT_EQ(Entries(j), (std::vector<int>{8}));
+}
+
+TEST(JailbreakDraw, TheDrawIsBoundedAndWalksOnThroughTheList) {
+    SharedState s = List({{"cat", "purrs"}, {"", "no word"}, {"dog", ""}, {"hen", "lays eggs"}}, 2);
+    ScriptedRng rng(0.0);  // always entry 1
+    Jail j;
+    ASSERT_TRUE(newGame(s, j, rng));
+    // Entries without a word or a definition never tag a lock.
+    EXPECT_EQ(Entries(j), (std::vector<int>{1, 4}));
+    EXPECT_EQ(rng.draws, 1 + kDrawTries);
+    EXPECT_EQ(kDrawTries, 200);
+}
+
+TEST(JailbreakDraw, TooFewDifferentWordsIsSaidNotPlayed) {
+    SharedState s = List({{"cat", "purrs"}, {"Cat", "a pet"}, {" CAT ", "meows"}, {"dog", ""}}, 2);
+    ScriptedRng rng;
+    Jail j;
+    EXPECT_FALSE(newGame(s, j, rng));
+    EXPECT_TRUE(j.locks.empty());
+    EXPECT_EQ(rng.draws, 0);
+    s.Difficulty = 1;
+    EXPECT_TRUE(newGame(s, j, rng));
+}
+
+TEST(JailbreakDraw, TheLevelIsTheNumberOfLocks) {
+    for (auto [level, locks] : std::vector<std::pair<int, int>>{{0, 1}, {1, 1}, {2, 2}, {4, 4},
+                                                                {6, 6}, {7, 6}}) {
+        EXPECT_EQ(locksFor(level), locks) << level;
+    }
+    SharedState s = List(kEight, 6);
+    ScriptedRng rng;
+    for (int k : {8, 7, 6, 5, 4, 3}) rng.pick(k, 8);
+    Jail j;
+    ASSERT_TRUE(newGame(s, j, rng));
+    EXPECT_EQ(Entries(j), (std::vector<int>{8, 7, 6, 5, 4, 3}));
+}
+
+TEST(JailbreakPlay, TypedWordsOpenLocksAndMistakesCost) {
+    SharedState s = List({{"caf\xE9", "a small restaurant"}, {"bridge", "it crosses water"},
+                          {"ice cream", "a cold treat"}},
+                         3);
+    ScriptedRng rng;
+    rng.pick(1, 3).pick(2, 3).pick(3, 3);
+    Jail j;
+    ASSERT_TRUE(newGame(s, j, rng));
+    j.guardSteps = 10;
+    struct Row {
+        std::string typed;
+        Result result;
+        int lock, score, steps;
+    };
+    const std::vector<Row> rows = {
+        {"cafe", Result::Wrong, -1, -20, 12},        // accents count
+        {"   ", Result::Ignored, -1, -20, 12},       // nothing typed
+        {"CAF\xC9", Result::Opened, 0, 60, 12},      // case does not: 4 letters x 20
+        {"caf\xE9", Result::Wrong, -1, 40, 14},      // that lock is open already
+        {" Bridge ", Result::Opened, 1, 160, 14},    // 6 x 20
+        {"ice cream", Result::CellCleared, 2, 160 + 180 + 260, 14},  // 9 x 20, then 26 x 10
+        {"bridge", Result::Ignored, -1, 600, 14},    // the cell is cleared
+    };
+    for (const Row& r : rows) {
+        const Typed t = typeWord(s, j, r.typed);
+        EXPECT_EQ(t.result, r.result) << r.typed;
+        EXPECT_EQ(t.lock, r.lock) << r.typed;
+        EXPECT_EQ(s.Score, r.score) << r.typed;
+        EXPECT_EQ(j.guardSteps, r.steps) << r.typed;
+    }
+    EXPECT_TRUE(cellCleared(j));
+    EXPECT_EQ(j.selected, -1);
+}
+
+TEST(JailbreakPlay, OpeningTheSelectedLockMovesTheSelectionOn) {
+    SharedState s = List(kEight, 3);
+    ScriptedRng rng;
+    rng.pick(1, 8).pick(2, 8).pick(3, 8);
+    Jail j;
+    ASSERT_TRUE(newGame(s, j, rng));
+    select(j, 2);
+    EXPECT_EQ(j.selected, 2);
+    typeWord(s, j, "river");  // not the selected one: it stays
+    EXPECT_EQ(j.selected, 2);
+    select(j, 1);  // open: not selectable
+    EXPECT_EQ(j.selected, 2);
+    select(j, 3);  // out of range
+    EXPECT_EQ(j.selected, 2);
+    select(j, -1);
+    EXPECT_EQ(j.selected, 2);
+    select(j, 0);
+    EXPECT_EQ(j.selected, 0);
+    select(j, 2);
+    EXPECT_EQ(typeWord(s, j, "cloud").result, Result::Opened);
+    EXPECT_EQ(j.selected, 0);
+    EXPECT_EQ(s.TheWord, "apple");
+    EXPECT_EQ(s.TheMeaning, "a red fruit");
+}
+
+TEST(JailbreakPlay, TheGuardCatchesYouAtTheDoor) {
+    SharedState s = List(kEight, 2);
+    ScriptedRng rng;
+    rng.pick(1, 8).pick(2, 8);
+    Jail j;
+    ASSERT_TRUE(newGame(s, j, rng));
+    for (int i = 1; i < 40; ++i) ASSERT_FALSE(guardStep(j)) << i;
+    EXPECT_EQ(stepsToGo(j), 1);
+    EXPECT_TRUE(guardStep(j));
+    EXPECT_TRUE(caught(j));
+    EXPECT_FALSE(guardStep(j));  // he stays at the door
+    EXPECT_EQ(j.guardSteps, 40);
+    EXPECT_EQ(typeWord(s, j, "apple").result, Result::Ignored);
+
+    // A mistake one step short of the door: two steps on, caught, and never past the door.
+    ASSERT_TRUE(nextCell(s, j, rng));
+    j.guardSteps = 39;
+    const Typed t = typeWord(s, j, "zebra");
+    EXPECT_EQ(t.result, Result::Caught);
+    EXPECT_EQ(t.points, -20);
+    EXPECT_EQ(j.guardSteps, 40);
+    EXPECT_EQ(stepsToGo(j), 0);
+    j.guardSteps = 37;
+    j.locks[0].open = false;
+    EXPECT_EQ(typeWord(s, j, "zebra").result, Result::Wrong);
+}
+
+TEST(JailbreakPlay, AClearedCellStopsTheGuard) {
+    SharedState s = List(kEight, 1);
+    ScriptedRng rng;
+    rng.pick(6, 8);
+    Jail j;
+    ASSERT_TRUE(newGame(s, j, rng));
+    j.guardSteps = 39;
+    const Typed t = typeWord(s, j, "OWL");
+    EXPECT_EQ(t.result, Result::CellCleared);
+    EXPECT_EQ(t.points, 60);
+    EXPECT_EQ(t.cellBonus, 10);
+    EXPECT_FALSE(guardStep(j));
+    EXPECT_EQ(j.guardSteps, 39);
+}
+
+TEST(JailbreakPlay, HintsShowTheFirstLetterAndTheFirstLookCosts) {
+    SharedState s = List({{"apple", "a red fruit"}, {"\xE9t\xE9", "summer, in French"}}, 2);
+    ScriptedRng rng;
+    rng.pick(1, 2).pick(2, 2);
+    Jail j;
+    ASSERT_TRUE(newGame(s, j, rng));
+    EXPECT_EQ(hint(s, j, 0), "A");
+    EXPECT_EQ(s.Score, -10);
+    EXPECT_EQ(hint(s, j, 0), "A");  // a second look is free
+    EXPECT_EQ(s.Score, -10);
+    EXPECT_EQ(hint(s, j, 1), "\xC9");
+    EXPECT_EQ(s.Score, -20);
+    EXPECT_EQ(hint(s, j, 2), std::nullopt);
+    EXPECT_EQ(hint(s, j, -1), std::nullopt);
+    typeWord(s, j, "apple");
+    EXPECT_EQ(hint(s, j, 0), std::nullopt);  // open
+    EXPECT_EQ(s.Score, -20 + 100);
+    EXPECT_EQ(hintText("A"), "It begins with \"A\"");
+}
+
+TEST(JailbreakPlay, TheLostTextNamesTheShutLocks) {
+    Jail j;
+    j.locks = {{1, "apple", "", false, false}, {2, "river", "", true, false},
+               {3, "owl", "", false, false}};
+    EXPECT_EQ(caughtText(j),
+              "The guard caught you! The locks still shut were \"apple\", \"owl\". Would you like "
+              "to try again?");
+    j.locks[0].open = true;
+    EXPECT_EQ(caughtText(j),
+              "The guard caught you! The lock still shut was \"owl\". Would you like to try "
+              "again?");
+}
