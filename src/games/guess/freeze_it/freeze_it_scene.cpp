@@ -16,10 +16,11 @@ namespace {
 constexpr int kMeltMs = 700;
 constexpr int kFlashMs = 520;
 constexpr int kShakeMs = 520;
-constexpr int kGlowMs = 1400;
+constexpr int kGlowMs = 1000;
 constexpr int kPopMs = 260;
 constexpr int kPerRow = 15;  // longer words go on to another row
 constexpr int kFlakes = 28;
+constexpr int kTurns = 8;  // the turns a shard is drawn at
 constexpr double kTall = 1.15;  // a block's height to its width
 
 double rnd(double lo, double hi) {
@@ -66,7 +67,7 @@ void FreezeScene::frozen(bool on) {
         freezeAt_ = now_;
         burst(1, 14, now_);
     }
-    dirty(blocksBounds());
+    dirtyBlocks();
 }
 
 void FreezeScene::right() {
@@ -78,34 +79,34 @@ void FreezeScene::right() {
         if (!blocks_[i].shown) thawAt_[i] = now_;
         blocks_[i].shown = true;
     }
-    burst(0, 40, now_);
-    burst(1, 24, now_);
-    dirty(blocksBounds());
+    burst(0, 30, now_);
+    burst(1, 16, now_);
+    dirtyBlocks();
 }
 
 void FreezeScene::wrong() {
     wrongAt_ = now_;
     frozen_ = false;
-    dirty(blocksBounds());
+    dirtyBlocks();
 }
 
 void FreezeScene::melted() {
     melted_ = true;
     frozen_ = false;
-    dirty(blocksBounds());
+    dirtyBlocks();
 }
 
 void FreezeScene::gameWon() {
     endAt_ = now_;
-    burst(1, 60, now_);
-    burst(0, 30, now_);
+    burst(1, 40, now_);
+    burst(0, 16, now_);
 }
 
 void FreezeScene::gameLost() {
     endAt_ = now_;
     frozen_ = true;
     freezeAt_ = now_;
-    dirty(blocksBounds());
+    dirtyBlocks();
 }
 
 void FreezeScene::banner(const QString& text, Mood mood) {
@@ -114,6 +115,7 @@ void FreezeScene::banner(const QString& text, Mood mood) {
     mood_ = mood;
     bannerAt_ = now_;
     banRect_ = text.isEmpty() ? QRect() : bannerRect();
+    renderBanner();
     dirty(banRect_);
 }
 
@@ -151,7 +153,10 @@ void FreezeScene::layout() {
         side_ = side;
         renderSprites();
     }
-    if (!banner_.isEmpty()) banRect_ = bannerRect();
+    if (!banner_.isEmpty()) {
+        banRect_ = bannerRect();
+        renderBanner();
+    }
 }
 
 QPixmap FreezeScene::sprite(const char* id, QSize size) {
@@ -172,6 +177,19 @@ void FreezeScene::renderSprites() {
     puddle_ = sprite("puddle", QSize(side_ * 13 / 10, std::max(4, side_ * 3 / 10)));
     drop_ = sprite("drop", QSize(std::max(4, side_ / 8), std::max(6, side_ / 5)));
     shard_ = sprite("shard", QSize(std::max(6, side_ / 4), std::max(6, side_ / 4)));
+    // A shard tumbles through turns drawn once here: a turned picture every frame costs dear.
+    shardTurns_.clear();
+    for (int k = 0; k < kTurns; ++k) {
+        const int d = int(shard_.width() * 1.5);
+        QPixmap pm(d, d);
+        pm.fill(Qt::transparent);
+        QPainter p(&pm);
+        p.setRenderHint(QPainter::SmoothPixmapTransform);
+        p.translate(d / 2.0, d / 2.0);
+        p.rotate(360.0 * k / kTurns);
+        p.drawPixmap(-shard_.width() / 2, -shard_.height() / 2, shard_);
+        shardTurns_.push_back(pm);
+    }
     sparkle_ = sprite("sparkle", QSize(std::max(8, side_ / 3), std::max(8, side_ / 3)));
 }
 
@@ -231,6 +249,13 @@ void FreezeScene::dirty(const QRect& r) {
     if (!r.isEmpty()) update(r);
 }
 
+void FreezeScene::dirtyBlocks() {
+    // Each block with room for the shake, the frost ring and its puddle: far less than the
+    // box round them all.
+    const int m = side_ / 4 + 2;
+    for (const QRect& r : rects_) dirty(r.adjusted(-m, -m, m, m + side_ / 6));
+}
+
 void FreezeScene::step(qint64 now) {
     const double dt = std::clamp<double>(double(now - now_), 0.0, 100.0);
     now_ = now;
@@ -249,7 +274,7 @@ void FreezeScene::step(qint64 now) {
     }
     if (now - freezeAt_ < kFlashMs + 40 || now - wrongAt_ < kShakeMs + 40 ||
         now - rightAt_ < kGlowMs + 40)
-        dirty(blocksBounds());
+        dirtyBlocks();
     if (now - bannerAt_ < kPopMs + 40) dirty(banRect_);
     for (auto it = bits_.begin(); it != bits_.end();) {
         dirty(it->last);
@@ -261,7 +286,7 @@ void FreezeScene::step(qint64 now) {
         it->y += it->vy * dt;
         it->vy += 0.0006 * side_ / 60.0 * dt;  // gravity
         it->angle += it->spin * dt;
-        const int s = it->kind == 1 ? sparkle_.width() : shard_.width();
+        const int s = it->kind == 1 ? sparkle_.width() : shard_.width() * 3 / 4 + 1;
         it->last = QRect(int(it->x) - s, int(it->y) - s, 2 * s, 2 * s);
         dirty(it->last);
         ++it;
@@ -319,15 +344,15 @@ void FreezeScene::paintBlock(QPainter& p, int i, qint64 now) const {
     }
 }
 
-void FreezeScene::paintBanner(QPainter& p) const {
-    if (banner_.isEmpty()) return;
-    const QRect r = banRect_.adjusted(12, 12, -12, -12);
-    const double pop = std::clamp(double(now_ - bannerAt_) / kPopMs, 0.0, 1.0);
-    const double k = 0.6 + 0.4 * (1 - (1 - pop) * (1 - pop));
-    p.save();
-    p.translate(r.center());
-    p.scale(k, k);
-    p.translate(-r.center());
+void FreezeScene::renderBanner() {
+    bannerPic_ = QPixmap();
+    if (banner_.isEmpty() || banRect_.isEmpty()) return;
+    // Drawn once and scaled as it pops up: new type sizes every frame would cost far more.
+    const QRect r(12, 12, banRect_.width() - 24, banRect_.height() - 24);
+    bannerPic_ = QPixmap(banRect_.size());
+    bannerPic_.fill(Qt::transparent);
+    QPainter p(&bannerPic_);
+    p.setRenderHint(QPainter::Antialiasing);
     QColor fill(16, 46, 96, 215), edge(170, 225, 255), ink(255, 255, 255);
     if (mood_ == Mood::Good) fill = QColor(22, 110, 60, 225), edge = QColor(255, 226, 120);
     if (mood_ == Mood::Bad) fill = QColor(150, 30, 40, 225), edge = QColor(255, 180, 180);
@@ -343,7 +368,20 @@ void FreezeScene::paintBanner(QPainter& p) const {
     p.setFont(f);
     p.setPen(ink);
     p.drawText(r, Qt::AlignCenter, banner_);
-    p.restore();
+}
+
+void FreezeScene::paintBanner(QPainter& p) const {
+    if (bannerPic_.isNull()) return;
+    const double pop = std::clamp(double(now_ - bannerAt_) / kPopMs, 0.0, 1.0);
+    if (pop >= 1) {
+        p.drawPixmap(banRect_.topLeft(), bannerPic_);
+        return;
+    }
+    const double k = 0.6 + 0.4 * (1 - (1 - pop) * (1 - pop));
+    const QSizeF sz = QSizeF(bannerPic_.size()) * k;
+    const QPointF c = QRectF(banRect_).center();
+    p.drawPixmap(QRectF(c - QPointF(sz.width() / 2, sz.height() / 2), sz), bannerPic_,
+                 QRectF(bannerPic_.rect()));
 }
 
 void FreezeScene::paintEvent(QPaintEvent* e) {
@@ -359,12 +397,10 @@ void FreezeScene::paintEvent(QPaintEvent* e) {
         if (!e->rect().intersects(b.last)) continue;
         const double t = double(now_ - b.born) / b.life;
         p.setOpacity(std::clamp(1.2 - t, 0.0, 1.0));
-        const QPixmap& pm = b.kind == 1 ? sparkle_ : shard_;
-        p.save();
-        p.translate(b.x, b.y);
-        p.rotate(b.angle * 57.3);
-        p.drawPixmap(-pm.width() / 2, -pm.height() / 2, pm);
-        p.restore();
+        const int turn = int(std::floor(b.angle / (2 * M_PI) * kTurns)) % kTurns;
+        const QPixmap& pm = b.kind == 1 || shardTurns_.empty() ? sparkle_
+                                                               : shardTurns_[(turn + kTurns) % kTurns];
+        p.drawPixmap(int(b.x) - pm.width() / 2, int(b.y) - pm.height() / 2, pm);
     }
     p.setOpacity(1);
     if (now_ - freezeAt_ < kFlashMs) {

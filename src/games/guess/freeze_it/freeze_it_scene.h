@@ -67,10 +67,14 @@ private:
     QRect bannerRect() const;
     void burst(int kind, int count, qint64 now);
     void dirty(const QRect& r);
+    void dirtyBlocks();
+    void renderBanner();
 
     QSvgRenderer back_;
     QSvgRenderer art_;
     QPixmap backPic_;
+    QPixmap bannerPic_;
+    std::vector<QPixmap> shardTurns_;
     QPixmap ice_, glass_, frost_, puddle_, drop_, shard_, sparkle_, flake_;
     std::vector<freeze_it::Block> blocks_;
     std::vector<qint64> thawAt_;
