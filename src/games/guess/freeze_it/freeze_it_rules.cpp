@@ -50,11 +50,10 @@ int Game::drawWord(const SharedState& s, Rng& rng) {
         if (left == 0) return 0;
         if (left > 1 && last_ > 0) used_[last_] = true;
     }
-    int k = 1;
-    for (int t = 0; t < kDrawTries; ++t) {
-        k = std::clamp(static_cast<int>(Int(rng.Rnd() * loaded + 1)), 1, loaded);
-        if (open(k)) return k;
-    }
+    auto draw = [&] { return std::clamp(static_cast<int>(Int(rng.Rnd() * loaded + 1)), 1, loaded); };
+    int k = draw();
+    for (int t = 1; t < kDrawTries && !open(k); ++t) k = draw();
+    if (open(k)) return k;
     for (int step = 1; step <= loaded; ++step) {
         const int j = (k - 1 + step) % loaded + 1;
         if (open(j)) return j;
@@ -65,7 +64,7 @@ int Game::drawWord(const SharedState& s, Rng& rng) {
 bool Game::start(SharedState& s, Rng& rng) {
     rng.Randomize();
     s.Score = 0;
-    used_.assign(1, false);
+    used_.clear();
     missed_.clear();
     wordNumber_ = 0;
     last_ = 0;
@@ -84,7 +83,6 @@ bool Game::nextWord(SharedState& s, Rng& rng) {
     blocks_.clear();
     for (char c : word_) blocks_.push_back({c, showsFromStart(c)});
     phase_ = Phase::Thawing;
-    lastPoints_ = 0;
     return true;
 }
 

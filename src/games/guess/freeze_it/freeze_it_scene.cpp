@@ -178,6 +178,7 @@ void FreezeScene::renderSprites() {
     drop_ = sprite("drop", QSize(std::max(4, side_ / 8), std::max(6, side_ / 5)));
     shard_ = sprite("shard", QSize(std::max(6, side_ / 4), std::max(6, side_ / 4)));
     // A shard tumbles through turns drawn once here: a turned picture every frame costs dear.
+    settled_.clear();
     shardTurns_.clear();
     for (int k = 0; k < kTurns; ++k) {
         const int d = int(shard_.width() * 1.5);
@@ -193,11 +194,34 @@ void FreezeScene::renderSprites() {
     sparkle_ = sprite("sparkle", QSize(std::max(8, side_ / 3), std::max(8, side_ / 3)));
 }
 
+void FreezeScene::setPanels(const std::vector<QRect>& panels) {
+    if (panels == panels_ && !backPic_.isNull()) return;
+    panels_ = panels;
+    composeBack();
+    update();
+}
+
+void FreezeScene::composeBack() {
+    // The labels' frosted panels belong to the picture: the snow that passes behind them then
+    // costs no label a repaint.
+    backPic_ = backRaw_;
+    if (backPic_.isNull()) return;
+    QPainter p(&backPic_);
+    p.setRenderHint(QPainter::Antialiasing);
+    for (const QRect& r : panels_) {
+        if (r.isEmpty()) continue;
+        const double radius = std::min(16.0, r.height() / 3.0);
+        p.setPen(QPen(QColor(190, 235, 255, 200), 2));
+        p.setBrush(QColor(14, 40, 84, 185));
+        p.drawRoundedRect(QRectF(r).adjusted(1, 1, -1, -1), radius, radius);
+    }
+}
+
 void FreezeScene::resizeEvent(QResizeEvent*) {
-    backPic_ = QPixmap(size());
-    backPic_.fill(QColor(18, 40, 86));
+    backRaw_ = QPixmap(size());
+    backRaw_.fill(QColor(18, 40, 86));
     if (back_.isValid()) {
-        QPainter p(&backPic_);
+        QPainter p(&backRaw_);
         p.setRenderHint(QPainter::Antialiasing);
         // The scene keeps its shape: cut to the screen rather than stretched.
         const QSizeF vb = back_.viewBoxF().size();
@@ -205,6 +229,7 @@ void FreezeScene::resizeEvent(QResizeEvent*) {
         const QSizeF sz = vb * k;
         back_.render(&p, QRectF(QPointF((width() - sz.width()) / 2, (height() - sz.height()) / 2), sz));
     }
+    composeBack();
     const int fs = std::max(10, height() / 60);
     flake_ = sprite("flake", QSize(fs, fs));
     flakes_.clear();
@@ -293,7 +318,20 @@ void FreezeScene::step(qint64 now) {
     }
 }
 
-void FreezeScene::paintBlock(QPainter& p, int i, qint64 now) const {
+void FreezeScene::paintLetterBlock(QPainter& p, const QRect& r, char letter, int ink,
+                                   double strength) const {
+    static const QColor kInk[] = {QColor(12, 52, 120), QColor(170, 96, 0), QColor(190, 40, 40)};
+    const bool small = letter == '-' || letter == '\'';
+    p.drawPixmap(r.left() - side_ * 3 / 20, r.bottom() - puddle_.height() / 2, puddle_);
+    p.drawPixmap(r.topLeft(), glass_);
+    p.setFont(LetterFont(int(side_ * (small ? 0.5 : 0.62))));
+    p.setPen(kInk[ink]);
+    p.setOpacity(strength);
+    p.drawText(r.adjusted(0, -side_ / 20, 0, 0), Qt::AlignCenter, toQ(std::string(1, letter)));
+    p.setOpacity(1);
+}
+
+void FreezeScene::paintBlock(QPainter& p, int i, qint64 now) {
     const freeze_it::Block& b = blocks_[i];
     if (b.letter == ' ') return;
     QRect r = rects_[i];
@@ -301,19 +339,24 @@ void FreezeScene::paintBlock(QPainter& p, int i, qint64 now) const {
         const double t = double(now - wrongAt_) / kShakeMs;
         r.translate(int(std::sin(t * 28 + i) * side_ * 0.08 * (1 - t)), 0);
     }
-    const bool small = b.letter == '-' || b.letter == '\'';
     const double melt = std::clamp(double(now - thawAt_[i]) / kMeltMs, 0.0, 1.0);
-    if (b.shown) {
-        p.drawPixmap(r.left() - side_ * 3 / 20, r.bottom() - puddle_.height() / 2, puddle_);
-        p.drawPixmap(r.topLeft(), glass_);
-        QColor ink(12, 52, 120);
-        if (right_) ink = QColor(170, 96, 0);
-        if (melted_) ink = QColor(190, 40, 40);
-        p.setFont(LetterFont(int(side_ * (small ? 0.5 : 0.62))));
-        p.setPen(ink);
-        p.setOpacity(0.35 + 0.65 * melt);
-        p.drawText(r.adjusted(0, -side_ / 20, 0, 0), Qt::AlignCenter, toQ(std::string(1, b.letter)));
-        p.setOpacity(1);
+    const double dripT = double(now - thawAt_[i]) / (kMeltMs + 500);
+    const int ink = right_ ? 1 : melted_ ? 2 : 0;
+    if (b.shown && dripT >= 1) {
+        // A block at rest is one picture: puddle, glass and letter drawn together once.
+        const int key = (ink << 8) | static_cast<unsigned char>(b.letter);
+        auto it = settled_.find(key);
+        if (it == settled_.end()) {
+            QPixmap pm(side_ * 13 / 10, r.height() + puddle_.height() / 2 + 1);
+            pm.fill(Qt::transparent);
+            QPainter q(&pm);
+            q.setRenderHint(QPainter::Antialiasing);
+            paintLetterBlock(q, QRect(side_ * 3 / 20, 0, r.width(), r.height()), b.letter, ink, 1);
+            it = settled_.emplace(key, pm).first;
+        }
+        p.drawPixmap(r.left() - side_ * 3 / 20, r.top(), it->second);
+    } else if (b.shown) {
+        paintLetterBlock(p, r, b.letter, ink, 0.35 + 0.65 * melt);
         if (melt < 1) {
             // The ice sinks away from the top and clears, the letter showing through.
             const int gone = int(r.height() * 0.7 * melt);
@@ -322,7 +365,6 @@ void FreezeScene::paintBlock(QPainter& p, int i, qint64 now) const {
                          QRect(0, gone, ice_.width(), ice_.height() - gone));
             p.setOpacity(1);
         }
-        const double dripT = double(now - thawAt_[i]) / (kMeltMs + 500);
         if (dripT >= 0 && dripT < 1) {
             for (int d = 0; d < 3; ++d) {
                 const double t = dripT * 1.6 - d * 0.3;
@@ -386,15 +428,17 @@ void FreezeScene::paintBanner(QPainter& p) const {
 
 void FreezeScene::paintEvent(QPaintEvent* e) {
     QPainter p(this);
-    for (const QRect& r : e->region()) p.drawPixmap(r, backPic_, r);
+    const QRegion& rg = e->region();
+    for (const QRect& r : rg) p.drawPixmap(r, backPic_, r);
     p.setRenderHint(QPainter::Antialiasing);
+    // Only what lies in the changed parts is drawn again.
     for (const Flake& f : flakes_)
-        if (e->rect().intersects(f.last)) p.drawPixmap(f.last, flake_);
+        if (rg.intersects(f.last)) p.drawPixmap(f.last, flake_);
     for (int i = 0; i < int(rects_.size()); ++i)
-        if (e->rect().intersects(rects_[i].adjusted(-side_, -side_, side_, side_)))
+        if (rg.intersects(rects_[i].adjusted(-side_ / 3, -side_ / 3, side_ / 3, side_ / 2)))
             paintBlock(p, i, now_);
     for (const Bit& b : bits_) {
-        if (!e->rect().intersects(b.last)) continue;
+        if (!rg.intersects(b.last)) continue;
         const double t = double(now_ - b.born) / b.life;
         p.setOpacity(std::clamp(1.2 - t, 0.0, 1.0));
         const int turn = int(std::floor(b.angle / (2 * M_PI) * kTurns)) % kTurns;
@@ -420,7 +464,7 @@ void FreezeScene::paintEvent(QPaintEvent* e) {
         }
         p.setOpacity(1);
     }
-    if (e->rect().intersects(banRect_)) paintBanner(p);
+    if (rg.intersects(banRect_)) paintBanner(p);
 }
 
 }  // namespace wm

@@ -7,6 +7,7 @@
 #include <QRect>
 #include <QSvgRenderer>
 #include <QWidget>
+#include <map>
 #include <vector>
 
 #include "games/guess/freeze_it/freeze_it_rules.h"
@@ -35,6 +36,8 @@ public:
 
     // Where the blocks stand, in this widget: the band the screen keeps free for them.
     void setBlockArea(const QRect& area);
+    // The frosted panels behind the screen's labels, drawn as part of the picture.
+    void setPanels(const std::vector<QRect>& panels);
     QRect blockRect(int i) const;
     int blockCount() const { return int(blocks_.size()); }
     bool busy() const;  // something is moving
@@ -61,7 +64,9 @@ private:
     void layout();
     void renderSprites();
     QPixmap sprite(const char* id, QSize size);
-    void paintBlock(QPainter& p, int i, qint64 now) const;
+    void paintBlock(QPainter& p, int i, qint64 now);
+    void paintLetterBlock(QPainter& p, const QRect& r, char letter, int ink, double strength) const;
+    void composeBack();
     void paintBanner(QPainter& p) const;
     QRect blocksBounds() const;
     QRect bannerRect() const;
@@ -72,7 +77,10 @@ private:
 
     QSvgRenderer back_;
     QSvgRenderer art_;
-    QPixmap backPic_;
+    QPixmap backRaw_;  // the scene alone
+    QPixmap backPic_;  // with the panels
+    std::vector<QRect> panels_;
+    std::map<int, QPixmap> settled_;  // blocks at rest, by ink and letter
     QPixmap bannerPic_;
     std::vector<QPixmap> shardTurns_;
     QPixmap ice_, glass_, frost_, puddle_, drop_, shard_, sparkle_, flake_;

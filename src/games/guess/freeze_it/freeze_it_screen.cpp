@@ -33,9 +33,8 @@ GameMenuNames menuNames() {
     return menu;
 }
 
-const char* kPanel =
-    "QLabel { color: white; background: rgba(14, 40, 84, 190); border: 2px solid "
-    "rgba(190, 235, 255, 200); border-radius: 16px; padding: 6px 18px; }";
+// The labels' panels are drawn by the scene; the labels hold only their text.
+const char* kPanel = "QLabel { color: white; background: transparent; padding: 6px 18px; }";
 const char* kBox =
     "QLineEdit { color: #0c3478; background: #f4fbff; border: 4px solid #5fb8ec;"
     " border-radius: 14px; padding: 2px 14px; selection-background-color: #9fd8ff; }";
@@ -76,8 +75,7 @@ FreezeIt::FreezeIt(QWidget* parent)
     Label3->setObjectName("Label3");
     Label3->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     for (QLabel* l : {Label2, Label3})
-        l->setStyleSheet("QLabel { color: #fff6c8; background: rgba(14, 40, 84, 150);"
-                         " border-radius: 12px; padding: 2px 16px; }");
+        l->setStyleSheet("QLabel { color: #fff6c8; background: transparent; padding: 2px 16px; }");
     Label4 = new QLabel(this);
     Label4->setObjectName("Label4");
     Label4->setAlignment(Qt::AlignCenter);
@@ -135,6 +133,7 @@ void FreezeIt::showWord() {
     Label1->setText(clue ? toQ("Meaning: " + s.TheMeaning) : QString());
     Label1->setVisible(clue);
     fitClue();
+    showPanels();
 }
 
 void FreezeIt::startThaw() {
@@ -261,6 +260,12 @@ void FreezeIt::endGame() {
     pauseThen(kEndMs, [this, text] { frame_.askTryAgain(text, "Try Again?"); });
 }
 
+void FreezeIt::showPanels() {
+    std::vector<QRect> panels{Label2->geometry(), Label3->geometry()};
+    if (Label1->isVisibleTo(this)) panels.push_back(Label1->geometry());
+    scene_->setPanels(panels);
+}
+
 void FreezeIt::showScore() {
     Label3->setText("Score: " + frame_.scoreText(Shared().Score));
 }
@@ -290,12 +295,21 @@ void FreezeIt::insertChar(const QString& c) {
 }
 
 void FreezeIt::keyPressEvent(QKeyEvent* e) {
+    const QString t = e->text();
+    if (Text1->isVisible()) {
+        // The answer box lost its focus (a click on a button): the keys still go to it.
+        Text1->setFocus();
+        if (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter)
+            checkAnswer();
+        else if (!t.isEmpty() && t[0].isPrint())
+            Text1->insert(t);
+        return;
+    }
     if (e->key() == Qt::Key_Space) {
         freezeNow();
         return;
     }
     // Typing straight away freezes the ice and starts the answer.
-    const QString t = e->text();
     if (game_.phase() == Phase::Thawing && Timer1.isActive() && t.size() == 1 &&
         t[0].isLetter()) {
         freezeNow();
@@ -339,6 +353,7 @@ void FreezeIt::resizeEvent(QResizeEvent*) {
     Label3->setGeometry(w - w / 30 - w * 3 / 10, y(0.015), w * 3 / 10, int(H * 0.065));
     Label1->setGeometry(w / 10, y(0.095), w * 8 / 10, int(H * 0.16));
     fitClue();
+    showPanels();
     scene_->setBlockArea(QRect(w / 25, y(0.37), w - 2 * w / 25, int(H * 0.35)));
     Label4->setFont(ScreenFont(18, true));
     Label4->setGeometry(w / 6, y(0.75), w * 4 / 6, int(H * 0.055));

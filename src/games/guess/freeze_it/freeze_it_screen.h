@@ -51,6 +51,7 @@ private:
     void nextWord();
     void endGame();
     void showScore();
+    void showPanels();
     void showBox(bool on);
     void pauseThen(int ms, std::function<void()> then);
     void insertChar(const QString& c);

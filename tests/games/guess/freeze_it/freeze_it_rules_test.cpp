@@ -143,6 +143,9 @@ TEST(FreezeIt, TenWordsWithoutRepeatsWhileTheListLasts) {
     EXPECT_EQ(g.wordNumber(), kWordsPerGame);
     EXPECT_EQ(seen.size(), 10u);
     EXPECT_EQ(rng.randomizeCount, 1);
+    // Three scripted draws, word 1 at once, then fifty tries at a used word before the next
+    // free one is taken: the draw is bounded.
+    EXPECT_EQ(rng.draws, 3 + 1 + 7 * 50);
 }
 
 TEST(FreezeIt, ShortListStartsOverButNotWithTheWordJustPlayed) {
@@ -156,6 +159,26 @@ TEST(FreezeIt, ShortListStartsOverButNotWithTheWordJustPlayed) {
         order += " " + s.TheWord;
     }
     EXPECT_EQ(order, "owl bat owl bat owl");
+    // The last unused word comes before any word again, the first on the list too.
+    SharedState three = listOf({"owl", "bat", "cat"});
+    ScriptedRng picks(0.5);
+    picks.pick(3, 3).pick(2, 3);
+    ASSERT_TRUE(g.start(three, picks));
+    EXPECT_EQ(g.wordNumber(), 1);  // a new game counts from the start
+    ASSERT_TRUE(g.nextWord(three, picks));
+    ASSERT_TRUE(g.nextWord(three, picks));
+    EXPECT_EQ(three.TheWord, "owl");
+    // Starting over never repeats the word just played, whichever it was.
+    SharedState two = listOf({"owl", "bat"});
+    ScriptedRng batFirst(0.0);
+    batFirst.pick(2, 2);
+    ASSERT_TRUE(g.start(two, batFirst));
+    order = two.TheWord;
+    for (int i = 0; i < 2; ++i) {
+        ASSERT_TRUE(g.nextWord(two, batFirst));
+        order += " " + two.TheWord;
+    }
+    EXPECT_EQ(order, "bat owl bat");
     // A list of one word plays it again and again.
     SharedState one = listOf({"  owl "});
     ASSERT_TRUE(g.start(one, rng));

@@ -71,6 +71,8 @@ void FreezeItScreenTest::tenWordsToTheTable() {
     // Nothing thaws in the pause; then a block every 1800 - 300 x 3 = 900 ms.
     QVERIFY(UntilThawing(game));
     QCOMPARE(game->game().hidden(), n);
+    QCOMPARE(game->scene()->bannerText(), QString());
+    QCOMPARE(game->hintLabel()->text(), QString("Press SPACE to freeze the ice!"));
     Pump(880);
     QCOMPARE(game->game().hidden(), n);
     Pump(40);
@@ -101,6 +103,9 @@ void FreezeItScreenTest::tenWordsToTheTable() {
     Pump(900);
     QCOMPARE(game->game().hidden(), n - 2);
     Shot(game, "freeze-it-1280");
+    Pump(450);  // the banner passes; the next block is not due yet
+    QCOMPARE(game->scene()->bannerText(), QString());
+    QCOMPARE(game->game().hidden(), n - 2);
 
     // The palette puts its letter into the answer box; the score file follows the palette's key.
     QTest::keyClick(game, Qt::Key_Space);
@@ -108,8 +113,14 @@ void FreezeItScreenTest::tenWordsToTheTable() {
     game->resize(1920, 1080);
     Shot(game, "freeze-it-frozen-1920");
     game->resize(1280, 800);
+    game->answerBox()->setText("cafX");
+    game->answerBox()->setSelection(3, 1);
     QVERIFY(TriggerMenu(game, "FLang"));
-    QCOMPARE(game->answerBox()->text(), QString::fromLatin1("\xE9"));
+    QCOMPARE(game->answerBox()->text(), QString::fromLatin1("caf\xE9"));
+    // Keys that reach the screen while the box is open still go into it.
+    game->setFocus();
+    QTest::keyClick(game, Qt::Key_S);
+    QCOMPARE(game->answerBox()->text(), QString::fromLatin1("caf\xE9s"));
     QCOMPARE(s.CurrentGame, std::string("freeze it"));
     TypeAnswer(game, QString::fromStdString(first).toUpper());
     const int firstPoints = (n - 2) * 20 * 3 + 10;
@@ -165,7 +176,7 @@ void FreezeItScreenTest::noPointsNoTable() {
     SetModalHook(std::ref(win));
     fx.dialogs.answerYes(false);
     QPointer<FreezeIt> game =
-        qobject_cast<FreezeIt*>(ContinueWithList(ChooserFor("Freeze-It", 5, false, false), "Cold"));
+        qobject_cast<FreezeIt*>(ContinueWithList(ChooserFor("Freeze-It", 5, false), "Cold"));
     QVERIFY(game);
     QVERIFY(UntilThawing(game));
     QVERIFY(!game->clue()->isVisible());  // no meaning on a words-only list
@@ -174,8 +185,10 @@ void FreezeItScreenTest::noPointsNoTable() {
     QCOMPARE(game->scoreLabel()->text(), QString("Score: 0"));
     // Every word melts at 1800 - 300 x 5 = 300 ms a block.
     QStringList seen;
+    QStringList banners;
     for (int i = 0; i < 800 && game && !fx.dialogs.saw("Try Again?"); ++i) {
         const QString b = game->scene()->bannerText();
+        banners << b;
         if (b.startsWith("The word was: ")) seen << b.mid(14);
         Pump(100);
         if (fx.dialogs.last().startsWith("The ice")) break;
@@ -189,7 +202,9 @@ void FreezeItScreenTest::noPointsNoTable() {
     QVERIFY(last.text.endsWith(". Would you like to try again?"));
     QVERIFY(win.congratulations.isEmpty());
     QVERIFY(!fx.exists("scores/Freeze-It.dat") || !fx.read("scores/Freeze-It.dat").contains("ZZZ"));
-    QVERIFY(fx.sound.played.isEmpty());  // the sound was off
+    QVERIFY(banners.contains("Brrr! The ice won this time."));
+    QCOMPARE(fx.sound.played.last(), QString("freeze-lose.wav"));
+    QVERIFY(!fx.sound.played.contains("freeze-win.wav"));
     Pump();
     QVERIFY(Showing<Title>());
 }
@@ -214,6 +229,13 @@ void FreezeItScreenTest::longWordsFitAndEmptyListsAreRefused() {
         QVERIFY(last.bottom() < game->answerBox()->geometry().top());
         Shot(game, QString("freeze-it-long-%1").arg(size.width()));
     }
+    // With the sound off, the freeze is silent.
+    Shared().SoundOn = kFalse;
+    QVERIFY(UntilThawing(game));
+    QTest::keyClick(game, Qt::Key_Space);
+    QVERIFY(game->answerBox()->isVisible());
+    QVERIFY(fx.sound.played.isEmpty());
+    game->setFocus();
     QTest::keyClick(game, Qt::Key_Escape);
     Pump();
     QVERIFY(Showing<Title>());
