@@ -262,10 +262,13 @@ std::vector<GameCard> BuildCatalogue() {
 
     cards.push_back(
         Card("Freeze-It", Elig(WO::Allowed, "", "FreezeIt"), Slider(1, 5, 3),
-             "The word will be revealed to you one letter at a time. As soon as you think you know "
-             "it, press the space bar to freeze the letters, then type the whole word and press "
-             "ENTER. The fewer letters you needed, the more points you win. A wrong guess costs "
-             "points and the letters keep coming. The higher the level, the faster they come!"));
+             "The word will be revealed to you one letter at a time. It stands as blocks of ice, "
+             "and one block at a time melts to show its letter. Read the meaning, and as soon as "
+             "you think you know the word, press the SPACE BAR to freeze the ice. Then type the "
+             "whole word and press ENTER. The more blocks still frozen, the more points you win! "
+             "A wrong guess costs 25 points and the ice keeps melting. If every block melts "
+             "first, you get no points for that word. There are ten words in a game. The higher "
+             "the level, the faster the ice melts, and the more each frozen block is worth!"));
 
     cards.push_back(Card(
         "Jailbreak", Elig(WO::Refuse, kMsgM1, "GameOptions"), Clamped(2, 6, 4),

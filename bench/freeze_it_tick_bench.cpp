@@ -1,0 +1,61 @@
+// One frame of Freeze-It on a 1920x1080 screen at its busiest: a long word bursting into
+// shards and sparkles after a right answer, the glow, the banner and the snow, painted.
+#include "qt_bench.h"
+
+#include <QApplication>
+
+#include "core/shared_state.h"
+#include "games/guess/freeze_it/freeze_it_screen.h"
+#include "platform/dialogs.h"
+#include "platform/music.h"
+#include "platform/screen_metrics.h"
+#include "platform/services.h"
+#include "platform/sound.h"
+#include "platform/ticker.h"
+
+using namespace wm;
+
+namespace {
+
+void BM_FreezeItFrame(benchmark::State& state) {
+    SharedState& s = Shared();
+    s = SharedState{};
+    s.Words = {"", "photosynthesis"};
+    s.Meanings = {"", "how green plants make food from sunlight"};
+    s.WordCount = 1;
+    s.Difficulty = 3;
+    s.SoundOn = kTrue;
+    FreezeIt game;
+    game.resize(1920, 1080);
+    game.show();
+    QApplication::processEvents();
+    Ticker::get().advance(2000);  // past the pause, a block or so thawed
+    game.freezeNow();
+    game.answerBox()->setText("photosynthesis");
+    game.checkAnswer();
+    game.frame().findTimer("Timer3")->stop();  // the moment lasts: no next word
+    int n = 0;
+    for (auto _ : state) {
+        if (n++ % 30 == 0) {  // a fresh burst about once a second
+            game.scene()->right();
+            game.scene()->gameWon();
+            game.scene()->banner(QString("Right! +%1").arg(n));
+        }
+        Ticker::get().advance(33);  // Timer2: one frame
+        QApplication::processEvents();
+    }
+}
+WM_TICK_BENCHMARK(BM_FreezeItFrame);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    ScriptedDialogs dialogs;
+    RecordingSound sound;
+    RecordingMusic music;
+    return bench::RunInQt(argc, argv, [&] {
+        services() = {&dialogs, &sound, &music};
+        Ticker::get().setManual(true);
+        ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
+    });
+}

@@ -1,0 +1,197 @@
+// Freeze-It's rules over a scripted generator: the pace and the points, the word draw without
+// repeats, the thaw's draw over the hidden blocks, freezing and answering, the endings.
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "core/rng.h"
+#include "core/shared_state.h"
+#include "games/guess/freeze_it/freeze_it_rules.h"
+
+using namespace wm;
+using namespace wm::freeze_it;
+
+namespace {
+
+SharedState listOf(std::vector<std::string> words, int level = 3) {
+    SharedState s;
+    s.Words = {""};
+    s.Meanings = {""};
+    for (auto& w : words) {
+        s.Words.push_back(w);
+        s.Meanings.push_back("meaning of " + w);
+    }
+    s.WordCount = static_cast<short>(words.size());
+    s.Difficulty = level;
+    return s;
+}
+
+std::string shown(const Game& g) {
+    std::string out;
+    for (const Block& b : g.blocks()) out += b.shown ? b.letter : '.';
+    return out;
+}
+
+}  // namespace
+
+TEST(FreezeIt, PaceAndPointsByLevel) {
+    const int interval[] = {1500, 1200, 900, 600, 300};
+    for (int level = 1; level <= 5; ++level) EXPECT_EQ(thawInterval(level), interval[level - 1]);
+    struct {
+        int hidden, level, points;
+    } cases[] = {{6, 3, 370}, {0, 1, 10}, {1, 1, 30}, {4, 5, 410}, {14, 2, 570}};
+    for (auto c : cases) EXPECT_EQ(pointsFor(c.hidden, c.level), c.points) << c.hidden;
+}
+
+TEST(FreezeIt, StartReseedsDrawsAndShowsBlanksHyphensApostrophes) {
+    SharedState s = listOf({"cat", "ice-cream man's", "ox"});
+    s.Score = 99;
+    ScriptedRng rng;
+    rng.pick(2, 3);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    EXPECT_EQ(rng.randomizeCount, 1);
+    EXPECT_EQ(s.Score, 0);
+    EXPECT_EQ(s.TheWord, "ice-cream man's");
+    EXPECT_EQ(s.TheMeaning, "meaning of ice-cream man's");
+    EXPECT_EQ(shown(g), "...-..... ...'.");
+    EXPECT_EQ(g.hidden(), 12);
+    EXPECT_EQ(g.wordNumber(), 1);
+    EXPECT_EQ(g.phase(), Phase::Thawing);
+}
+
+TEST(FreezeIt, ThawTakesTheDrawnHiddenBlockUntilTheWordMelts) {
+    SharedState s = listOf({"a-bcd"});
+    ScriptedRng rng;
+    rng.pick(1, 1);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    // Int(Rnd x hidden + 1) over the blocks still hidden, counted left to right.
+    rng.pick(2, 4).pick(3, 3).pick(1, 2);
+    EXPECT_EQ(g.thaw(rng), 2);
+    EXPECT_EQ(shown(g), ".-b..");
+    EXPECT_EQ(g.thaw(rng), 4);
+    EXPECT_EQ(g.thaw(rng), 0);
+    EXPECT_EQ(shown(g), "a-b.d");
+    EXPECT_EQ(g.phase(), Phase::Thawing);
+    EXPECT_TRUE(g.missed().empty());
+    rng.pick(1, 1);
+    EXPECT_EQ(g.thaw(rng), 3);
+    EXPECT_EQ(g.phase(), Phase::Melted);
+    EXPECT_EQ(g.missed(), std::vector<std::string>{"a-bcd"});
+    EXPECT_EQ(s.Score, 0);
+    EXPECT_EQ(g.thaw(rng), -1);
+    EXPECT_FALSE(g.freeze());
+}
+
+TEST(FreezeIt, FreezeStopsTheThawAndAnswersAreChecked) {
+    SharedState s = listOf({"caf\xE9"}, 3);
+    ScriptedRng rng;
+    rng.pick(1, 1);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    rng.pick(1, 4);
+    g.thaw(rng);
+    ASSERT_TRUE(g.freeze());
+    EXPECT_FALSE(g.freeze());
+    EXPECT_EQ(g.thaw(rng), -1);  // the thaw stands still
+    EXPECT_EQ(g.check(s, "   "), Answer::Empty);
+    EXPECT_EQ(g.phase(), Phase::Frozen);
+    // Accents count; a wrong answer costs 25 and the thaw goes on.
+    s.Score = 100;
+    EXPECT_EQ(g.check(s, "cafe"), Answer::Wrong);
+    EXPECT_EQ(s.Score, 75);
+    EXPECT_EQ(g.phase(), Phase::Thawing);
+    EXPECT_EQ(g.check(s, "caf\xE9"), Answer::Empty);  // not frozen: no answer taken
+    // The score does not go below nothing.
+    s.Score = 10;
+    g.freeze();
+    EXPECT_EQ(g.check(s, "cafes"), Answer::Wrong);
+    EXPECT_EQ(s.Score, 0);
+    g.freeze();
+    g.unfreeze();
+    EXPECT_EQ(g.phase(), Phase::Thawing);
+    g.freeze();
+    // Case does not matter, nor blanks around the answer: 3 hidden x 20 x level 3 + 10.
+    s.Score = 5;
+    EXPECT_EQ(g.check(s, " CAF\xC9 "), Answer::Right);
+    EXPECT_EQ(g.lastPoints(), 190);
+    EXPECT_EQ(s.Score, 195);
+    EXPECT_EQ(shown(g), "caf\xE9");
+    EXPECT_EQ(g.phase(), Phase::Right);
+    EXPECT_TRUE(g.missed().empty());
+    EXPECT_EQ(g.check(s, "caf\xE9"), Answer::Empty);
+    EXPECT_EQ(s.Score, 195);
+}
+
+TEST(FreezeIt, TenWordsWithoutRepeatsWhileTheListLasts) {
+    std::vector<std::string> words;
+    for (int i = 0; i < 12; ++i) words.push_back(std::string(1, char('a' + i)) + "x");
+    SharedState s = listOf(words);
+    ScriptedRng rng(0.0);  // every draw says word 1: used words are drawn again, then passed
+    rng.pick(5, 12).pick(5, 12).pick(7, 12);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    EXPECT_EQ(s.TheWord, "ex");
+    ASSERT_TRUE(g.nextWord(s, rng));
+    EXPECT_EQ(s.TheWord, "gx");  // word 5 again is drawn afresh
+    std::set<std::string> seen{"ex", "gx"};
+    while (!g.lastWord()) {
+        ASSERT_TRUE(g.nextWord(s, rng));
+        seen.insert(s.TheWord);
+    }
+    EXPECT_EQ(g.wordNumber(), kWordsPerGame);
+    EXPECT_EQ(seen.size(), 10u);
+    EXPECT_EQ(rng.randomizeCount, 1);
+    // Three scripted draws, word 1 at once, then fifty tries at a used word before the next
+    // free one is taken: the draw is bounded.
+    EXPECT_EQ(rng.draws, 3 + 1 + 7 * 50);
+}
+
+TEST(FreezeIt, ShortListStartsOverButNotWithTheWordJustPlayed) {
+    SharedState s = listOf({"owl", "- -", "bat"});
+    ScriptedRng rng(0.0);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    std::string order = s.TheWord;
+    for (int i = 0; i < 4; ++i) {
+        ASSERT_TRUE(g.nextWord(s, rng));
+        order += " " + s.TheWord;
+    }
+    EXPECT_EQ(order, "owl bat owl bat owl");
+    // The last unused word comes before any word again, the first on the list too.
+    SharedState three = listOf({"owl", "bat", "cat"});
+    ScriptedRng picks(0.5);
+    picks.pick(3, 3).pick(2, 3);
+    ASSERT_TRUE(g.start(three, picks));
+    EXPECT_EQ(g.wordNumber(), 1);  // a new game counts from the start
+    ASSERT_TRUE(g.nextWord(three, picks));
+    ASSERT_TRUE(g.nextWord(three, picks));
+    EXPECT_EQ(three.TheWord, "owl");
+    // Starting over never repeats the word just played, whichever it was.
+    SharedState two = listOf({"owl", "bat"});
+    ScriptedRng batFirst(0.0);
+    batFirst.pick(2, 2);
+    ASSERT_TRUE(g.start(two, batFirst));
+    order = two.TheWord;
+    for (int i = 0; i < 2; ++i) {
+        ASSERT_TRUE(g.nextWord(two, batFirst));
+        order += " " + two.TheWord;
+    }
+    EXPECT_EQ(order, "bat owl bat");
+    // A list of one word plays it again and again.
+    SharedState one = listOf({"  owl "});
+    ASSERT_TRUE(g.start(one, rng));
+    ASSERT_TRUE(g.nextWord(one, rng));
+    EXPECT_EQ(g.word(), "owl");
+}
+
+TEST(FreezeIt, ListWithoutLettersCannotBePlayed) {
+    for (auto words : {std::vector<std::string>{"- -", "'", " "}, std::vector<std::string>{}}) {
+        SharedState s = listOf(words);
+        ScriptedRng rng(0.3);
+        Game g;
+        EXPECT_FALSE(g.start(s, rng));
+        EXPECT_LT(rng.draws, 200);  // the draw gives up: it never hangs
+    }
+}
