@@ -115,7 +115,7 @@ void Concentration::SetupGame() {
 QRect Concentration::cardsArea() const {
     const int w = width(), h = height();
     const int top = frame_.menuHeight() + h / 11;
-    const int bottom = h - h / 7;
+    const int bottom = h - h / 6;
     return {w / 40, top, w - w / 20, std::max(1, bottom - top)};
 }
 
@@ -127,7 +127,9 @@ void Concentration::layOut() {
     PairsLabel->setGeometry(w / 40 + third, barTop, third, barH);
     ClockLabel->setGeometry(w / 40 + 2 * third + w / 80, barTop, third - w / 80, barH);
     const QRect area = cardsArea();
-    DefPanel->setGeometry(w / 8, area.bottom() + h / 60, w * 3 / 4, h - area.bottom() - h / 30);
+    // The panel stays on the felt, clear of the table's wooden edge.
+    const int panelTop = area.bottom() + h / 80;
+    DefPanel->setGeometry(w / 8, panelTop, w * 3 / 4, int(h * 0.95) - panelTop);
 
     grid_ = grid(std::max(1, int(game_.cards.size())), area.width(), area.height());
     const double cellW = double(area.width()) / grid_.columns;
@@ -182,6 +184,16 @@ void Concentration::showStatus() {
     }
     DefPanel->setText(whole);
     DefPanel->setVisible(!whole.isEmpty());
+    if (whole.isEmpty()) return;
+    // The panel's letters shrink until the whole definition fits.
+    QFont f = ScreenFont(15);
+    const QRect box = DefPanel->contentsRect().adjusted(2, 0, -2, 0);
+    for (; f.pointSize() > 6; f.setPointSize(f.pointSize() - 1)) {
+        const QRect need =
+            QFontMetrics(f).boundingRect(QRect(0, 0, box.width(), 100000), Qt::TextWordWrap, whole);
+        if (need.height() <= box.height()) break;
+    }
+    DefPanel->setFont(f);
 }
 
 void Concentration::clickAt(QPoint at) {

@@ -158,6 +158,11 @@ void ConcentrationScreenTest::longDefinitionShowsInThePanel() {
         clickCard(g, def);
         QVERIFY(g->DefPanel->isVisible());
         QCOMPARE(g->DefPanel->text().toStdString(), long_);
+        const QRect box = g->DefPanel->contentsRect();
+        QVERIFY(g->DefPanel->fontMetrics()
+                    .boundingRect(QRect(0, 0, box.width(), 100000), Qt::TextWordWrap,
+                                  g->DefPanel->text())
+                    .height() <= box.height());
         Pump(300);
         Shot(g, QString("concentration-panel-%1").arg(screen.width()));
         clickCard(g, 2);  // not its word: a miss
