@@ -190,10 +190,11 @@ std::vector<GameCard> BuildCatalogue() {
     cards.push_back(Card(
         "Concentration", AtLeastDifficulty(Elig(WO::Refuse, kMsgM1, "Concentration"), kMsgE2),
         Slider(2, 10, 6),
-        "The classic card game of concentration! All the cards lie face down: half hold "
-        "vocabulary words and half hold their definitions. Click two cards to turn them over. If "
-        "the word matches the definition, the pair stays open; if not, remember where they were! "
-        "Find every pair in as few tries as you can."));
+        "The classic card game of concentration! The cards lie face down on the table: half "
+        "have vocabulary words and half have their definitions. Click a card to turn it over, "
+        "then click another. A word and its own definition stay up, turn green and win points. "
+        "Two cards that don't match turn back over, and you lose a few points, so remember "
+        "where they were! Find every pair fast for a time bonus."));
 
     cards.push_back(Card(
         "BreakThru", Elig(WO::Allowed, "", "GameOptions"), Clamped(2, 20, 10),

@@ -1,0 +1,153 @@
+#include "games/show/concentration/concentration_rules.h"
+
+#include <gtest/gtest.h>
+
+#include "core/rng.h"
+#include "list_of.h"
+
+using namespace wm;
+using namespace wm::concentration;
+
+namespace {
+// Cards laid out as given: {entry, meaning}.
+Game table(int level, std::vector<std::pair<int, bool>> layout) {
+    Game g;
+    g.level = level;
+    for (auto [entry, meaning] : layout) g.cards.push_back({entry, meaning});
+    return g;
+}
+}  // namespace
+
+TEST(ConcentrationDeal, DrawsThenShufflesInAFixedOrder) {
+    SharedState s = listOf({"apple", "brick", "cloud", "drum", "eagle"});
+    s.Meanings[4] = "  MEANING of brick ";  // the same definition as brick's
+    ScriptedRng rng;
+    rng.pick(2, 5);  // brick
+    rng.pick(2, 5);  // brick again: draw another
+    rng.pick(4, 5);  // drum, whose definition is brick's: draw another
+    rng.then(1.0);   // past the end of the list: eagle, the last word
+    // [w2 m2 w5 m5]: 4 swaps with 1, 3 with itself, 2 with 1.
+    rng.pick(1, 4).pick(3, 3).pick(1, 2);
+    const Game g = deal(s, 2, rng);
+    ASSERT_TRUE(g.ready());
+    EXPECT_EQ(rng.draws, 7);
+    const std::vector<std::pair<int, bool>> want{{2, true}, {5, true}, {5, false}, {2, false}};
+    ASSERT_EQ(g.cards.size(), want.size());
+    for (std::size_t i = 0; i < want.size(); ++i) {
+        EXPECT_EQ(g.cards[i].entry, want[i].first) << i;
+        EXPECT_EQ(g.cards[i].meaning, want[i].second) << i;
+        EXPECT_FALSE(g.cards[i].up || g.cards[i].matched);
+    }
+    EXPECT_EQ(g.score, 0);
+    EXPECT_EQ(g.seconds, 0);
+}
+
+TEST(ConcentrationDeal, AmbiguousAndShortListsEndInsteadOfSpinning) {
+    // The same word twice, a blank definition: neither makes a second pair.
+    SharedState s = listOf({"apple", "APPLE ", "cloud"});
+    s.Meanings[3] = "  ";
+    ScriptedRng rng;
+    rng.pick(1, 3).pick(2, 3).pick(3, 3);
+    const Game g = deal(s, 2, rng);
+    EXPECT_FALSE(g.ready());
+    EXPECT_EQ(rng.draws, kMaxDraws);  // the draws stop at the bound
+    EXPECT_EQ(kMaxDraws, 20000);
+    EXPECT_FALSE(deal(listOf({"apple"}), 2, rng).ready());
+    // Ten pairs from ten good words always deal, each entry once as word and once as meaning.
+    SharedState ten = listOf({"a1", "b2", "c3", "d4", "e5", "f6", "g7", "h8", "i9", "j10"});
+    SystemRng any;
+    for (int round = 0; round < 50; ++round) {
+        const Game d = deal(ten, 10, any);
+        ASSERT_EQ(d.cards.size(), 20u);
+        std::vector<int> words(11), meanings(11);
+        for (const Card& c : d.cards) (c.meaning ? meanings : words)[c.entry] += 1;
+        for (int k = 1; k <= 10; ++k) EXPECT_TRUE(words[k] == 1 && meanings[k] == 1) << k;
+    }
+}
+
+TEST(ConcentrationPlay, ScoresMissesAndTheThirdClick) {
+    Game g = table(3, {{1, false}, {1, true}, {2, false}, {2, true}, {3, false}, {3, true}});
+    struct Step {
+        int card;
+        Flip flip;
+        double score;
+        std::vector<int> turnedDown;
+    };
+    const Step steps[] = {
+        {0, Flip::First, 0, {}},          {0, Flip::Nothing, 0, {}},  // already up
+        {2, Flip::Miss, 0, {}},                                       // -30, but never below zero
+        {4, Flip::First, 0, {0, 2}},  // the third click turns the wrong pair at once
+        {5, Flip::Match, 300, {}},    // +100 x 3
+        {5, Flip::Nothing, 300, {}},  // found already
+        {0, Flip::First, 300, {}},        {3, Flip::Miss, 270, {}},  // -10 x 3
+        {-1, Flip::Nothing, 270, {0, 3}},  // a click on the table turns them too
+        {3, Flip::First, 270, {}},        {0, Flip::Miss, 240, {}},
+        {0, Flip::First, 240, {3, 0}},  // a click on one of the pair: back down, then up again
+        {1, Flip::Match, 540, {}},
+    };
+    for (const Step& st : steps) {
+        const ClickResult r = click(g, st.card);
+        EXPECT_EQ(r.flip, st.flip) << st.card << " at " << st.score;
+        EXPECT_EQ(g.score, st.score) << st.card;
+        EXPECT_EQ(r.turnedDown, st.turnedDown) << st.card;
+    }
+    EXPECT_EQ(g.pairsFound, 2);
+    EXPECT_TRUE(g.cards[0].matched && g.cards[1].matched && g.cards[4].up);
+    EXPECT_FALSE(g.cards[2].up || g.cards[3].up);
+
+    // The last pair after 100 seconds: +300 and a bonus of (300 - 100) x 3.
+    for (int i = 0; i < 100; ++i) tick(g);
+    EXPECT_EQ(clockText(g.seconds), "1:40");
+    EXPECT_EQ(click(g, 2).flip, Flip::First);
+    EXPECT_EQ(click(g, 3).flip, Flip::Won);
+    EXPECT_EQ(g.score, 540 + 300 + 600);
+    EXPECT_TRUE(g.won());
+    tick(g);
+    EXPECT_EQ(g.seconds, 100) << "the clock stops at the last pair";
+    EXPECT_EQ(click(g, 0).flip, Flip::Nothing);
+}
+
+TEST(ConcentrationPlay, TurnBackAndBonusBoundaries) {
+    Game g = table(2, {{1, false}, {2, true}, {1, true}, {2, false}});
+    g.score = 15;
+    click(g, 0);
+    EXPECT_EQ(click(g, 1).flip, Flip::Miss);
+    EXPECT_EQ(g.score, 0) << "15 - 20 stops at zero";
+    EXPECT_EQ(turnBack(g), (std::vector<int>{0, 1}));
+    EXPECT_TRUE(turnBack(g).empty()) << "the 1.2 s after a third click";
+    EXPECT_FALSE(g.cards[0].up || g.cards[1].up);
+    EXPECT_EQ(kTurnBackMs, 1200);
+
+    EXPECT_EQ(matchPoints(7), 700);
+    EXPECT_EQ(missPoints(7), 70);
+    EXPECT_EQ(finishBonus(299, 4), 4);
+    EXPECT_EQ(finishBonus(300, 4), 0);
+    EXPECT_EQ(finishBonus(1000, 4), 0);
+    EXPECT_EQ(finishBonus(0, 10), 3000);
+    EXPECT_EQ(clockText(0), "0:00");
+    EXPECT_EQ(clockText(59), "0:59");
+    EXPECT_EQ(clockText(600), "10:00");
+}
+
+TEST(ConcentrationTable, GridFitsTheCardsToTheScreen) {
+    struct Row {
+        int cards;
+        double w, h;
+        int columns, rows;
+    };
+    const Row rows[] = {{4, 1240, 560, 2, 2},  {6, 1240, 560, 3, 2},  {12, 1240, 560, 4, 3},
+                        {16, 1240, 560, 4, 4}, {16, 1860, 800, 6, 3}, {20, 1240, 560, 5, 4},
+                        {20, 560, 1240, 3, 7}, {1, 100, 100, 1, 1}};
+    for (const Row& r : rows) {
+        const Grid gr = grid(r.cards, r.w, r.h);
+        EXPECT_EQ(gr.columns, r.columns) << r.cards << " in " << r.w << "x" << r.h;
+        EXPECT_EQ(gr.rows, r.rows) << r.cards << " in " << r.w << "x" << r.h;
+    }
+    // Every level at 1280x800, the table under the menu and the score line: big cards.
+    for (int cards = 4; cards <= 20; cards += 2) {
+        const Grid gr = grid(cards, 1240, 560);
+        EXPECT_GE(gr.columns * gr.rows, cards);
+        EXPECT_GE(560 / gr.rows, 100);
+        EXPECT_GE(1240 / gr.columns, 150);
+    }
+}

@@ -1,0 +1,208 @@
+// Concentration on its screen: from the title through misses, a third click and a win to the
+// table and back; a long definition in its panel at both screen sizes; a list whose words share
+// their definitions, refused; sounds only with SoundOn.
+#include <QtTest>
+
+#include "core/score_table.h"
+#include "game_road.h"
+#include "games/show/concentration/concentration_screen.h"
+
+using namespace wm;
+using namespace wm::test;
+using concentration::Face;
+
+namespace {
+const std::vector<std::pair<std::string, std::string>> kAnimals{
+    {"otter", "a playful swimmer with thick fur"},        {"heron", "a tall bird that wades"},
+    {"badger", "it digs burrows and has a striped face"}, {"newt", "a small lizard-like swimmer"},
+    {"moth", "it flies at night toward lights"},          {"hare", "a fast animal with long ears"}};
+
+// Entries 1, 2, 3 drawn; each shuffle step swaps a card with itself: w1 m1 w2 m2 w3 m3.
+void pinDeal(ShellFixture& fx, int level = 3) {
+    for (int k = 1; k <= level; ++k) fx.rng.pick(k, 6);
+    for (int i = 2 * level; i >= 2; --i) fx.rng.pick(i, i);
+}
+
+Concentration* startGame(ShellFixture& fx, int level, bool sound = true,
+                         decltype(kAnimals) words = kAnimals) {
+    WriteOneList(fx, "Animals", words);
+    pinDeal(fx, level);
+    QWidget* shown =
+        sound ? PlayFromTitle("Concentration", "Animals", level)
+              : ContinueWithList(ChooserFor("Concentration", level, true, false), "Animals");
+    Pump();
+    return qobject_cast<Concentration*>(shown);
+}
+
+void clickCard(Concentration* g, int i) {
+    QTest::mouseClick(g, Qt::LeftButton, {}, g->cardRect(i).center());
+}
+}  // namespace
+
+class ConcentrationScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void fromTheTitleThroughAWinToTheTable();
+    void longDefinitionShowsInThePanel();
+    void sharedDefinitionsAndSilence();
+};
+
+void ConcentrationScreenTest::fromTheTitleThroughAWinToTheTable() {
+    ShellFixture fx;
+    auto* g = startGame(fx, 3);
+    QVERIFY2(g, qPrintable(fx.dialogs.texts().join(" | ")));
+    QCOMPARE(g->game().cards.size(), std::size_t(6));
+    QCOMPARE(g->ScoreLabel->text(), "Score: 0");
+    QCOMPARE(g->PairsLabel->text(), "Pairs: 0 of 3");
+    QCOMPARE(g->ClockLabel->text(), "Time: 0:00");
+    QVERIFY(fx.music.opened.endsWith("sounds/concentration.mid"));
+    for (int i = 0; i < 6; ++i) {
+        QCOMPARE(g->shownFace(i), Face::Back);
+        QVERIFY(g->cardRect(i).width() >= 40 && g->cardRect(i).height() >= 40);
+        QVERIFY(g->cardText(i).whole && !g->cardText(i).cramped);
+    }
+    QCOMPARE(g->cardText(1).lines.join(" "), "a playful swimmer with thick fur");
+    Pump(2000);
+    QCOMPARE(g->ClockLabel->text(), "Time: 0:02");
+
+    // otter, then heron's definition: turns over, narrowing then widening, and does not match.
+    clickCard(g, 0);
+    QCOMPARE(fx.sound.played.last(), "conc-flip.wav");
+    Pump(65);
+    QVERIFY(g->cardWidthShare(0) < 0.8);
+    QCOMPARE(g->shownFace(0), Face::Back);
+    Pump(100);
+    QCOMPARE(g->shownFace(0), Face::Word);
+    Pump(200);
+    QCOMPARE(g->cardWidthShare(0), 1.0);
+    QVERIFY(!g->animating());
+    clickCard(g, 3);
+    QCOMPARE(fx.sound.played.last(), "conc-miss.wav");
+    QCOMPARE(g->ScoreLabel->text(), "Score: 0");  // never below zero
+    Shot(g, "concentration-miss");
+    Pump(1100);
+    QVERIFY(g->game().cards[0].up && g->game().cards[3].up);
+    Pump(150);  // 1.2 s after the second card
+    QVERIFY(!g->game().cards[0].up && !g->game().cards[3].up);
+
+    // otter and its own definition: +100 x 3, green once turned.
+    clickCard(g, 0);
+    clickCard(g, 1);
+    QCOMPARE(fx.sound.played.last(), "conc-match.wav");
+    QCOMPARE(g->ScoreLabel->text(), "Score: 300");
+    QCOMPARE(g->PairsLabel->text(), "Pairs: 1 of 3");
+    Pump(300);
+    QCOMPARE(g->shownFace(0), Face::Found);
+    QCOMPARE(g->shownFace(1), Face::Found);
+
+    // heron and badger's definition: -10 x 3; a third click turns them back at once.
+    clickCard(g, 2);
+    clickCard(g, 5);
+    QCOMPARE(g->ScoreLabel->text(), "Score: 270");
+    clickCard(g, 4);
+    QVERIFY(!g->game().cards[2].up && !g->game().cards[5].up && g->game().cards[4].up);
+    clickCard(g, 5);
+    QCOMPARE(g->ScoreLabel->text(), "Score: 570");
+    Pump(1300);  // the 1.2 s of the turned pair no longer matter
+    QVERIFY(g->game().cards[4].up);
+    Shot(g, "concentration-1280");
+
+    // The last pair: +300 and (300 - seconds) x 3, then the table.
+    WinDriver driver({"CAT"});
+    SetModalHook(std::ref(driver));
+    fx.dialogs.answerYes(false);
+    const int seconds = g->game().seconds;
+    QVERIFY(seconds >= 4 && seconds <= 6);
+    clickCard(g, 2);
+    clickCard(g, 3);
+    const double score = 570 + 300 + (300 - seconds) * 3;
+    QCOMPARE(g->ScoreLabel->text(), QString("Score: %1").arg(score));
+    QCOMPARE(g->PairsLabel->text(), "Pairs: 3 of 3");
+    Pump(2000);
+    QCOMPARE(g->game().seconds, seconds);  // the clock stopped at the last pair
+    QVERIFY(fx.sound.played.contains("conc-win.wav"));
+    QCOMPARE(driver.tables.size(), 1);
+    QCOMPARE(fx.dialogs.last(),
+             QString("You got a high score of %1! Would you like to try again?").arg(score));
+    QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
+    Pump();
+    QVERIFY(Showing<Title>());
+    const ScoreTable table = ReadScoreTable(ScoreFilePath(Shared().AppPath, Shared().CurrentGame));
+    QCOMPARE(QString::fromStdString(table.initials(1)), "CAT");
+}
+
+void ConcentrationScreenTest::longDefinitionShowsInThePanel() {
+    const std::string long_ =
+        "a small animal that lives in rivers and streams, builds its home in the bank with many "
+        "rooms and tunnels, eats fish, frogs and crayfish, and can hold its breath under water "
+        "for several minutes while it hunts; some kinds even use stones as tools to crack open "
+        "shells on their bellies while floating on their backs in the sea";
+    auto words = kAnimals;
+    words[0].second = long_;
+    for (QSize screen : {QSize(1280, 800), QSize(1920, 1080)}) {
+        ShellFixture fx;
+        ScreenMetrics::overrideScreenSize(screen);
+        auto* g = startGame(fx, 10 - 4, true, words);  // six pairs
+        QVERIFY(g);
+        QCOMPARE(g->size(), screen);
+        const auto& cards = g->game().cards;
+        int def = -1, word = -1;
+        for (int i = 0; i < int(cards.size()); ++i) {
+            if (cards[i].entry == 1) (cards[i].meaning ? def : word) = i;
+            QVERIFY(g->cardRect(i).width() >= 40 && g->cardRect(i).height() >= 40);
+            QVERIFY(g->rect().contains(g->cardRect(i)));
+            for (int j = 0; j < i; ++j) QVERIFY(!g->cardRect(i).intersects(g->cardRect(j)));
+        }
+        QVERIFY(g->cardText(def).cramped);
+        QVERIFY(!g->cardText(word).cramped);
+        clickCard(g, def);
+        QVERIFY(g->DefPanel->isVisible());
+        QCOMPARE(g->DefPanel->text().toStdString(), long_);
+        const QRect box = g->DefPanel->contentsRect();
+        QVERIFY(g->DefPanel->fontMetrics()
+                    .boundingRect(QRect(0, 0, box.width(), 100000), Qt::TextWordWrap,
+                                  g->DefPanel->text())
+                    .height() <= box.height());
+        Pump(300);
+        Shot(g, QString("concentration-panel-%1").arg(screen.width()));
+        clickCard(g, 2);  // not its word: a miss
+        QVERIFY(g->DefPanel->isVisible());
+        Pump(1300);
+        QVERIFY(!g->DefPanel->isVisible());
+        // Found, it stays in the panel until the next card is turned.
+        clickCard(g, word);
+        QVERIFY(!g->DefPanel->isVisible());
+        clickCard(g, def);
+        QVERIFY(g->DefPanel->isVisible());
+        QCOMPARE(g->ScoreLabel->text(), "Score: 600");
+        clickCard(g, 2);
+        QVERIFY(!g->DefPanel->isVisible());
+    }
+}
+
+void ConcentrationScreenTest::sharedDefinitionsAndSilence() {
+    ShellFixture fx;
+    auto same = kAnimals;
+    for (auto& [w, m] : same) m = "an animal";
+    startGame(fx, 2, true, same);
+    QVERIFY(
+        fx.dialogs.saw("There are not enough words with different definitions on this list to "
+                       "play at this level. Please choose another list or go back and lower "
+                       "the difficulty level."));
+    Pump();
+    QVERIFY(Showing<Title>());
+
+    auto* g = startGame(fx, 2, false);
+    QVERIFY(g);
+    QVERIFY(g->findChild<QAction*>("RS") && !g->findChild<QAction*>("FLang"));
+    clickCard(g, 0);
+    clickCard(g, 2);
+    clickCard(g, 0);
+    clickCard(g, 1);
+    Pump(2000);
+    QVERIFY2(fx.sound.played.filter("conc-").isEmpty(), qPrintable(fx.sound.played.join(" ")));
+    QVERIFY(fx.music.opened.isEmpty());
+}
+
+QTEST_MAIN(ConcentrationScreenTest)
+#include "concentration_screen_test.moc"
