@@ -19,7 +19,7 @@ constexpr int kShakeMs = 520;
 constexpr int kGlowMs = 1000;
 constexpr int kPopMs = 260;
 constexpr int kPerRow = 15;  // longer words go on to another row
-constexpr int kFlakes = 28;
+constexpr int kFlakes = 22;
 constexpr int kTurns = 8;  // the turns a shard is drawn at
 constexpr double kTall = 1.15;  // a block's height to its width
 
@@ -79,8 +79,8 @@ void FreezeScene::right() {
         if (!blocks_[i].shown) thawAt_[i] = now_;
         blocks_[i].shown = true;
     }
-    burst(0, 30, now_);
-    burst(1, 16, now_);
+    burst(0, 22, now_);
+    burst(1, 12, now_);
     dirtyBlocks();
 }
 
@@ -98,8 +98,8 @@ void FreezeScene::melted() {
 
 void FreezeScene::gameWon() {
     endAt_ = now_;
-    burst(1, 40, now_);
-    burst(0, 16, now_);
+    burst(1, 30, now_);
+    burst(0, 10, now_);
 }
 
 void FreezeScene::gameLost() {
