@@ -375,14 +375,13 @@ std::vector<GameCard> BuildCatalogue() {
 
     cards.push_back(Card(
         "Toad Race", Elig(WO::Allowed, "", "ToadRace"), Slider(1, 10, 5),
-        "It's a race! Your green toad sits on the bottom lane of the pond, next to Goldie, "
-        "Puddles and Ruby. After \"Ready... Go!\" a word appears on the sign over the pond, with "
-        "its meaning underneath. Type the word in the box and press ENTER: your toad hops to the "
-        "next lily pad and a new word comes up. Big or small letters are fine, but accents "
-        "count. If you spell it wrong, your toad just sits there until you fix it. The other "
-        "toads hop all by themselves. Twelve pads to the finish flag: get there first to win! "
-        "The fewer pads the best other toad has hopped, and the more letters you typed, the "
-        "bigger your score. The higher the level, the faster the other toads hop."));
+        "It's a race! Your green toad races Goldie, Puddles and Ruby across the pond. A word "
+        "appears on the sign, with its meaning underneath. Type the word and press ENTER: your "
+        "toad hops to the next lily pad and a new word comes up. Big or small letters are fine, "
+        "but accents count. Spell it wrong and your toad just sits there until you fix it. The "
+        "other toads hop all by themselves. Twelve pads to the finish flag: get there first to "
+        "win! The further behind the other toads are, the bigger your score. The higher the "
+        "level, the faster they hop."));
 
     cards.push_back(Card(
         "Princess", Elig(WO::WarnIfOption, kMsgW1, "frmPrincess"), Slider(1, 15, 5, Shown),

@@ -207,7 +207,11 @@ void TeacherOptionsTest::gamesNotInThisBuildAreNotOfferedAndKeepTheirState() {
     TeacherFixture f;
     const std::string display = f.path("wmgdisplay.dat").toStdString();
     DisplaySettings file;
-    file.hidden = {"Flying Cow"};  // a game this build has no screen for
+    std::string unbuilt;  // a game this build has no screen for
+    for (const GameCard& card : Catalogue())
+        if (!card.built() && unbuilt.empty()) unbuilt = card.name;
+    if (unbuilt.empty()) QSKIP("every game of the catalogue has its screen in this build");
+    file.hidden = {unbuilt};
     WriteDisplaySettings(display, file);
     OfferOnlyBuiltGames(true);
     struct Restore {
@@ -230,8 +234,10 @@ void TeacherOptionsTest::gamesNotInThisBuildAreNotOfferedAndKeepTheirState() {
     e.games()->item(0)->setCheckState(Qt::Unchecked);
     f.dialogs.answerYes();
     e.apply();
-    QCOMPARE(ReadDisplaySettings(display).hidden,
-             (std::vector<std::string>{"Flying Cow", fromQ(built[0])}));
+    // Both hidden, in catalogue order.
+    std::vector<std::string> hidden{unbuilt, fromQ(built[0])};
+    if (FindCard(hidden[1])->index < FindCard(hidden[0])->index) std::swap(hidden[0], hidden[1]);
+    QCOMPARE(ReadDisplaySettings(display).hidden, hidden);
 }
 
 #include "teacher_options_test.moc"
