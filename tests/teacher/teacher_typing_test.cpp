@@ -252,6 +252,7 @@ void TeacherTypingTest::textTheFileCannotHold_data() {
     }
     QTest::newRow("new word, each character once")
         << "new word" << mixed << QString::fromUtf8("Ж у к и ж а б 😀");
+    QTest::newRow("link, greek") << "link" << greek << "Ω";
     QTest::newRow("add box, a lone accent") << "add box" << q << QString(QChar(0x25CC)) + kAcute;
 }
 
@@ -329,6 +330,22 @@ void TeacherTypingTest::textTheFileCannotHold() {
         merge.confirm();
         QCOMPARE(f.dialogs.last(), message);
         QCOMPARE(merge.result(), int(QDialog::Rejected));
+    } else if (where == "link") {
+        // A list file in a folder whose name the settings file cannot hold is not linked.
+        const QString folder = f.path(typed);
+        QDir().mkpath(folder);
+        const QByteArray settings = f.read("wmdata.dat");
+        Manager m;
+        f.dialogs.answerYes();
+        f.dialogs.fileAnswers.push_back(folder + "/thelists.dat");
+        m.command("Link to Alternate Vocabulary List File");
+        QCOMPARE(f.dialogs.last(),
+                 "The file " + folder +
+                     "/thelists.dat cannot be linked: its "
+                     "name or folder has characters this program cannot store (it "
+                     "keeps Western European letters only). Move the file to a "
+                     "folder with a plainer name, then try again.");
+        QCOMPARE(f.read("wmdata.dat"), settings);
     } else if (where == "build") {
         // The name is asked for again, as for a taken one.
         Manager m;
