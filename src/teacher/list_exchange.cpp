@@ -233,14 +233,16 @@ ExportForm::ExportForm(QWidget* parent) : QDialog(parent) {
 }
 
 void ExportForm::browse() {
-    const QString suffix = kvtml_->isChecked() ? "kvtml" : "csv";
+    const bool kvtml = kvtml_->isChecked();
     QString start = target_->text();
     if (start.isEmpty() && lists_->currentItem())
-        start = lists_->currentItem()->text() + "." + suffix;
-    const QString chosen = QFileDialog::getSaveFileName(
-        this, "Export List", start,
-        kvtml_->isChecked() ? "KVTML files (*.kvtml)" : "CSV files (*.csv)");
-    if (!chosen.isEmpty()) target_->setText(chosen);
+        start = lists_->currentItem()->text() + (kvtml ? ".kvtml" : ".csv");
+    QFileDialog box(this, "Export List", {}, kvtml ? "KVTML files (*.kvtml)" : "CSV files (*.csv)");
+    box.setObjectName("SaveAs");
+    box.setAcceptMode(QFileDialog::AcceptSave);
+    box.selectFile(start);
+    if (RunModal(box) == QDialog::Accepted && !box.selectedFiles().isEmpty())
+        target_->setText(box.selectedFiles().constFirst());
 }
 
 void ExportForm::confirm() {

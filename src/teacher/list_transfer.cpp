@@ -147,16 +147,16 @@ ImportedList FromRows(const QList<QStringList>& rows, const QString& format,
     }
     // A title (one field where most rows have two) or a row of column headings leads many
     // files; up to three such rows are left out, and the teacher can take them back.
-    const bool titled = pairsOverWords > 0 && fields.value(0) == 1;
+    const bool pairsFile = pairsOverWords > 0;
     int lead = 0;
     while (lead < std::min<int>(all.size(), 3) &&
-           ((pairsOverWords > 0 && fields[lead] == 1) ||
+           ((pairsFile && fields[lead] == 1) ||
             (HeadingCell(all[lead].first) && HeadingCell(all[lead].second)))) {
         ++lead;
     }
     list.headingRows = all.mid(0, std::max(lead, 1));
     list.headingSkipped = lead > 0;
-    if (titled) list.suggestedName = all[0].first;
+    if (pairsFile && fields.value(0) == 1) list.suggestedName = all[0].first;
     list.pairs = all.mid(lead);
     return list;
 }
@@ -245,7 +245,7 @@ QList<QStringList> ParseCsv(const QString& text, QChar separator) {
             field.clear();
             any = true;
         } else if (c == '\r' || c == '\n') {
-            if (c == '\r' && i + 1 < n && text[i + 1] == '\n') ++i;
+            // The LF of a CR LF ends an empty row, which is dropped like a blank line.
             if (any || !field.isEmpty()) rows << (row << field);
             row.clear();
             field.clear();

@@ -2,6 +2,7 @@
 // every bad file is refused with a message and leaves the list file byte-identical, and an
 // exported list reads back as it was.
 #include <QCheckBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -50,6 +51,7 @@ private slots:
     void exportRoundTrips();
     void foreignListExportsItsLanguages();
     void boxesRefuseAndCancel();
+    void boxesKeepTheirShape();
 };
 
 void TeacherImportTest::corpusReadsExactly_data() {
@@ -189,6 +191,11 @@ void TeacherImportTest::smallFiles_data() {
     QTest::newRow("most rows are pairs: two titles")
         << QByteArray("Animals\nUnit 3\ncat,a pet\ndog,a loyal pet\nowl,a bird\n") << ""
         << Pairs({{"cat", "a pet"}, {"dog", "a loyal pet"}, {"owl", "a bird"}});
+    QTest::newRow("as many words as pairs: no title")
+        << QByteArray("Animals\ncat,a pet\n")
+        << "The word \"Animals\" has no definition. Give every word a definition, or none at "
+           "all for a words-only list. Nothing was imported."
+        << Pairs({});
     QTest::newRow("tabs and line ends are text")
         << QByteArray("a\tb\r\nc\td\r\n\r\n") << "" << Pairs({{"a", "b"}, {"c", "d"}});
     QTest::newRow("a heading alone") << QByteArray("Word,Definition\n")
@@ -480,6 +487,41 @@ void TeacherImportTest::boxesRefuseAndCancel() {
     m.command("Export List...");
     QCOMPARE(f.opened.last(), "ExportForm");
     QVERIFY(!f.exists("out.csv"));
+    // Browse offers a file named after the list, of the kind chosen.
+    f.then<ExportForm>([&](ExportForm& e) {
+        e.lists()->setCurrentRow(0);
+        f.then<QFileDialog>([&](QFileDialog& box) {
+            QCOMPARE(box.nameFilters(), QStringList{"CSV files (*.csv)"});
+            QCOMPARE(box.acceptMode(), QFileDialog::AcceptSave);
+            QCOMPARE(box.windowTitle(), "Export List");
+            QCOMPARE(QFileInfo(box.selectedFiles().value(0)).fileName(), "Animals.csv");
+            box.selectFile(f.path("chosen.csv"));
+            static_cast<QDialog&>(box).accept();  // the save box's own check of the name
+        });
+        e.findChild<QPushButton*>("Browse")->click();
+        QCOMPARE(e.target()->text(), f.path("chosen.csv"));
+        e.kvtml()->setChecked(true);
+        e.target()->clear();
+        f.then<QFileDialog>([&](QFileDialog& box) {
+            QCOMPARE(box.nameFilters(), QStringList{"KVTML files (*.kvtml)"});
+            QCOMPARE(QFileInfo(box.selectedFiles().value(0)).fileName(), "Animals.kvtml");
+            box.reject();
+        });
+        e.findChild<QPushButton*>("Browse")->click();
+        QCOMPARE(e.target()->text(), "");
+        // A place already typed is where the box starts.
+        e.target()->setText(f.path("typed.kvtml"));
+        f.then<QFileDialog>([&](QFileDialog& box) {
+            QCOMPARE(box.selectedFiles().value(0), f.path("typed.kvtml"));
+            box.reject();
+        });
+        e.findChild<QPushButton*>("Browse")->click();
+        QCOMPARE(e.target()->text(), f.path("typed.kvtml"));
+        e.reject();
+    });
+    m.command("Export List...");
+    QCOMPARE(f.opened.mid(f.opened.size() - 4),
+             (QStringList{"ExportForm", "SaveAs", "SaveAs", "SaveAs"}));
     // A place that cannot be written.
     f.then<ExportForm>([&](ExportForm& e) {
         e.lists()->setCurrentRow(0);
@@ -490,6 +532,33 @@ void TeacherImportTest::boxesRefuseAndCancel() {
     QCOMPARE(f.dialogs.shown.back().text,
              "The file " + f.path("no/such/folder/out.csv") + " could not be written.");
     QCOMPARE(f.dialogs.shown.back().title, "Export List");
+}
+
+void TeacherImportTest::boxesKeepTheirShape() {
+    TeacherFixture f;
+    ImportedList list;
+    list.format = "CSV";
+    for (int i = 1; i <= 12; ++i) list.pairs.append({QString("w%1").arg(i), "d"});
+    list.headingRows = {list.pairs.first()};
+    ImportPreview preview(list, "words.csv");
+    ExportForm form;
+    // Half the screen wide and three quarters high; the export box a little smaller.
+    QCOMPARE(preview.size(), QSize(640, 600));
+    QCOMPARE(form.size(), QSize(576, 560));
+    for (QDialog* box : {static_cast<QDialog*>(&preview), static_cast<QDialog*>(&form)}) {
+        box->show();
+        QApplication::processEvents();
+        // Cancel at the left edge, the command at the right.
+        const QRect cancel = box->findChild<QPushButton*>("Command1")->geometry();
+        const QRect command = box->findChild<QPushButton*>("Command2")->geometry();
+        QVERIFY2(cancel.left() < box->width() / 4 && command.right() > box->width() * 3 / 4,
+                 qPrintable(box->objectName()));
+        box->reject();
+    }
+    QCOMPARE(preview.table()->font().pointSize(), ScreenFont(12).pointSize());
+    QCOMPARE(preview.findChild<QLabel*>("More")->font().pointSize(), ScreenFont(11).pointSize());
+    QCOMPARE(preview.findChild<QLabel*>("Label1")->font().pointSize(), ScreenFont(13).pointSize());
+    QCOMPARE(preview.findChild<QLabel*>("More")->text(), "...and 2 more.");
 }
 
 void TeacherImportTest::badFilesChangeNothing_data() {
