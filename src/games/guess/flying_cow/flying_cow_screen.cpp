@@ -222,6 +222,12 @@ void CowForm::guessKey(char key) {
             setPhase(Phase::Lost);
             break;
     }
+    if ((result == Key::Solved || result == Key::Lost) && s.WordsOnly == kFalse) {
+        // Decided either way, the word is shown with its meaning: that is what it is for.
+        MeaningLabel->setText(toQ("Meaning: " + s.TheMeaning));
+        MeaningLabel->setProperty("meaning", true);
+        fitMeaning();
+    }
     showWord(result == Key::Lost);
     showKeys();
     showHud();

@@ -149,7 +149,8 @@ void FlyingCowScreenTest::beamedUpAtTheTopLevel() {
     Type(game, "z");
     QCOMPARE(fx.sound.played.last(), "cowgone.wav");
     QCOMPARE(game->phase(), CowForm::Phase::Lost);
-    QCOMPARE(boxes(game), "owl");  // the word is shown
+    QCOMPARE(boxes(game), "owl");  // the word is shown, with its meaning
+    QCOMPARE(label(game, "MeaningLabel"), "Meaning: it hoots at night");
     QVERIFY(!game->key('q')->isEnabled());
     Type(game, "w");
     QCOMPARE(game->game().tried(), "oxyz");
