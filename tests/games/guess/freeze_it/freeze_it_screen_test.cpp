@@ -20,11 +20,11 @@ private slots:
 
 namespace {
 const std::vector<std::pair<std::string, std::string>> kWinter = {
-    {"snow", "white flakes that fall in winter"}, {"frost", "thin ice on a cold morning"},
-    {"igloo", "a house made of snow blocks"},     {"sled", "you ride it down a snowy hill"},
-    {"mitten", "a warm glove without fingers"},   {"scarf", "you wrap it round your neck"},
+    {"snow", "white flakes that fall in winter"},     {"frost", "thin ice on a cold morning"},
+    {"igloo", "a house made of snow blocks"},         {"sled", "you ride it down a snowy hill"},
+    {"mitten", "a warm glove without fingers"},       {"scarf", "you wrap it round your neck"},
     {"penguin", "a bird that swims but never flies"}, {"icicle", "ice hanging from a roof"},
-    {"blizzard", "a storm of wind and snow"},     {"cocoa", "a hot chocolate drink"}};
+    {"blizzard", "a storm of wind and snow"},         {"cocoa", "a hot chocolate drink"}};
 
 // Moves the clock until the ice thaws (the pause before a word is over).
 bool UntilThawing(QPointer<FreezeIt> game) {
@@ -214,8 +214,9 @@ void FreezeItScreenTest::longWordsFitAndEmptyListsAreRefused() {
     const std::string longMeaning =
         "a lung disease caused by breathing in very fine ash and sand dust, as from a volcano, "
         "said to be one of the longest words in the English language";
-    WriteOneList(fx, "Long", {{"pneumonoultramicroscopicsilicovolcanoconiosis", longMeaning},
-                              {"photosynthesis", "how green plants make food from sunlight"}});
+    WriteOneList(fx, "Long",
+                 {{"pneumonoultramicroscopicsilicovolcanoconiosis", longMeaning},
+                  {"photosynthesis", "how green plants make food from sunlight"}});
     fx.rng.setFallback(0.0);  // the longest word
     QPointer<FreezeIt> game = qobject_cast<FreezeIt*>(PlayFromTitle("Freeze-It", "Long", 1));
     QVERIFY(game);
