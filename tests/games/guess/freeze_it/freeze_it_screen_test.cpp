@@ -82,6 +82,7 @@ void FreezeItScreenTest::tenWordsToTheTable() {
     // Space freezes; Escape in the box puts it away and the thaw goes on.
     QTest::keyClick(game, Qt::Key_Space);
     QVERIFY(game->answerBox()->isVisible());
+    QCOMPARE(game->focusWidget(), game->answerBox());  // Escape now closes the box, not the game
     QCOMPARE(game->hintLabel()->text(), QString("Type the word and press ENTER"));
     QCOMPARE(fx.sound.played.last(), QString("freeze-crack.wav"));
     Pump(2000);
@@ -199,6 +200,7 @@ void FreezeItScreenTest::noPointsNoTable() {
     QCOMPARE(last.title, QString("Try Again?"));
     QVERIFY(last.text.startsWith("The ice kept its secrets this time! The words were: "));
     for (const QString& w : seen) QVERIFY(last.text.contains(w));
+    QCOMPARE(last.text.count(", "), seen.size() - 1);  // each word once
     QVERIFY(last.text.endsWith(". Would you like to try again?"));
     QVERIFY(win.congratulations.isEmpty());
     QVERIFY(!fx.exists("scores/Freeze-It.dat") || !fx.read("scores/Freeze-It.dat").contains("ZZZ"));
@@ -224,10 +226,15 @@ void FreezeItScreenTest::longWordsFitAndEmptyListsAreRefused() {
         game->resize(size);
         Pump();
         FreezeScene* sc = game->scene();
+        QCOMPARE(sc->geometry(), game->rect());  // the scene fills the screen
         const QRect first = sc->blockRect(0), last = sc->blockRect(sc->blockCount() - 1);
         QVERIFY(first.left() >= 0 && last.right() < size.width());
         QVERIFY(first.top() > game->clue()->geometry().bottom());
         QVERIFY(last.bottom() < game->answerBox()->geometry().top());
+        for (QWidget* w :
+             std::initializer_list<QWidget*>{game->clue(), game->wordLabel(), game->scoreLabel(),
+                                             game->hintLabel(), game->answerBox()})
+            QVERIFY2(game->rect().contains(w->geometry()), qPrintable(w->objectName()));
         Shot(game, QString("freeze-it-long-%1").arg(size.width()));
     }
     // With the sound off, the freeze is silent.
