@@ -50,7 +50,9 @@ int Game::drawWord(const SharedState& s, Rng& rng) {
         if (left == 0) return 0;
         if (left > 1 && last_ > 0) used_[last_] = true;
     }
-    auto draw = [&] { return std::clamp(static_cast<int>(Int(rng.Rnd() * loaded + 1)), 1, loaded); };
+    auto draw = [&] {
+        return std::clamp(static_cast<int>(Int(rng.Rnd() * loaded + 1)), 1, loaded);
+    };
     int k = draw();
     for (int t = 1; t < kDrawTries && !open(k); ++t) k = draw();
     if (open(k)) return k;

@@ -1,8 +1,8 @@
 #include "games/guess/freeze_it/freeze_it_scene.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <QPaintEvent>
 #include <QRandomGenerator>
 #include <cmath>
 
@@ -20,7 +20,7 @@ constexpr int kGlowMs = 1000;
 constexpr int kPopMs = 260;
 constexpr int kPerRow = 15;  // longer words go on to another row
 constexpr int kFlakes = 22;
-constexpr int kTurns = 8;  // the turns a shard is drawn at
+constexpr int kTurns = 8;       // the turns a shard is drawn at
 constexpr double kTall = 1.15;  // a block's height to its width
 
 double rnd(double lo, double hi) {
@@ -227,7 +227,8 @@ void FreezeScene::resizeEvent(QResizeEvent*) {
         const QSizeF vb = back_.viewBoxF().size();
         const double k = std::max(width() / vb.width(), height() / vb.height());
         const QSizeF sz = vb * k;
-        back_.render(&p, QRectF(QPointF((width() - sz.width()) / 2, (height() - sz.height()) / 2), sz));
+        back_.render(&p,
+                     QRectF(QPointF((width() - sz.width()) / 2, (height() - sz.height()) / 2), sz));
     }
     composeBack();
     const int fs = std::max(10, height() / 60);
@@ -247,7 +248,8 @@ QRect FreezeScene::blocksBounds() const {
 
 QRect FreezeScene::bannerRect() const {
     QFont f = LetterFont(std::max(14, height() / 24));
-    const int w = std::min(width() - 40, QFontMetrics(f).horizontalAdvance(banner_) + height() / 10);
+    const int w =
+        std::min(width() - 40, QFontMetrics(f).horizontalAdvance(banner_) + height() / 10);
     const int h = height() / 13;
     const QRect blocks = blocksBounds();
     const int y = std::max(area_.top() - h, blocks.top() - h - height() / 60);
@@ -265,8 +267,8 @@ void FreezeScene::burst(int kind, int count, qint64 now) {
     for (int i = 0; i < count; ++i) {
         const double a = rnd(0, 2 * M_PI), v = rnd(0.15, 0.55) * side_ / 60.0;
         bits_.push_back({rnd(b.left(), b.right()), rnd(b.top(), b.bottom()), std::cos(a) * v,
-                         std::sin(a) * v - 0.25 * side_ / 60.0, rnd(-0.01, 0.01), rnd(0, 6.28),
-                         now, int(rnd(600, 1100)), kind, QRect()});
+                         std::sin(a) * v - 0.25 * side_ / 60.0, rnd(-0.01, 0.01), rnd(0, 6.28), now,
+                         int(rnd(600, 1100)), kind, QRect()});
     }
 }
 
@@ -442,8 +444,8 @@ void FreezeScene::paintEvent(QPaintEvent* e) {
         const double t = double(now_ - b.born) / b.life;
         p.setOpacity(std::clamp(1.2 - t, 0.0, 1.0));
         const int turn = int(std::floor(b.angle / (2 * M_PI) * kTurns)) % kTurns;
-        const QPixmap& pm = b.kind == 1 || shardTurns_.empty() ? sparkle_
-                                                               : shardTurns_[(turn + kTurns) % kTurns];
+        const QPixmap& pm =
+            b.kind == 1 || shardTurns_.empty() ? sparkle_ : shardTurns_[(turn + kTurns) % kTurns];
         p.drawPixmap(int(b.x) - pm.width() / 2, int(b.y) - pm.height() / 2, pm);
     }
     p.setOpacity(1);

@@ -19,7 +19,7 @@ namespace wm {
 using namespace freeze_it;
 
 namespace {
-constexpr int kReadyMs = 1600;   // before the first word thaws
+constexpr int kReadyMs = 1600;    // before the first word thaws
 constexpr int kBetweenMs = 1100;  // "Word 4 of 10" before the next one thaws
 constexpr int kRightMs = 1900;
 constexpr int kMeltedMs = 2600;
@@ -255,8 +255,8 @@ void FreezeIt::endGame() {
     QStringList words;
     for (const auto& w : game_.missed()) words << toQ(w);
     words.removeDuplicates();
-    const QString text = "The ice kept its secrets this time! The words were: " +
-                         words.join(", ") + ". Would you like to try again?";
+    const QString text = "The ice kept its secrets this time! The words were: " + words.join(", ") +
+                         ". Would you like to try again?";
     pauseThen(kEndMs, [this, text] { frame_.askTryAgain(text, "Try Again?"); });
 }
 
@@ -310,8 +310,7 @@ void FreezeIt::keyPressEvent(QKeyEvent* e) {
         return;
     }
     // Typing straight away freezes the ice and starts the answer.
-    if (game_.phase() == Phase::Thawing && Timer1.isActive() && t.size() == 1 &&
-        t[0].isLetter()) {
+    if (game_.phase() == Phase::Thawing && Timer1.isActive() && t.size() == 1 && t[0].isLetter()) {
         freezeNow();
         if (Text1->isVisible()) Text1->insert(t);
         return;

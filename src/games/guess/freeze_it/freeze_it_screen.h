@@ -67,10 +67,10 @@ private:
     QLineEdit* Text1;
     QPushButton* Command1;  // "Check"
     QPushButton* Command2;  // "Freeze!"
-    GameTimer& Timer1;  // the thaw
-    GameTimer& Timer2;  // the picture's frames
-    GameTimer& Timer3;  // a pause between moments
-    GameTimer& Timer4;  // clears a passing banner
+    GameTimer& Timer1;      // the thaw
+    GameTimer& Timer2;      // the picture's frames
+    GameTimer& Timer3;      // a pause between moments
+    GameTimer& Timer4;      // clears a passing banner
     std::function<void()> then_;
 };
 

@@ -20,11 +20,11 @@ private slots:
 
 namespace {
 const std::vector<std::pair<std::string, std::string>> kWinter = {
-    {"snow", "white flakes that fall in winter"}, {"frost", "thin ice on a cold morning"},
-    {"igloo", "a house made of snow blocks"},     {"sled", "you ride it down a snowy hill"},
-    {"mitten", "a warm glove without fingers"},   {"scarf", "you wrap it round your neck"},
+    {"snow", "white flakes that fall in winter"},     {"frost", "thin ice on a cold morning"},
+    {"igloo", "a house made of snow blocks"},         {"sled", "you ride it down a snowy hill"},
+    {"mitten", "a warm glove without fingers"},       {"scarf", "you wrap it round your neck"},
     {"penguin", "a bird that swims but never flies"}, {"icicle", "ice hanging from a roof"},
-    {"blizzard", "a storm of wind and snow"},     {"cocoa", "a hot chocolate drink"}};
+    {"blizzard", "a storm of wind and snow"},         {"cocoa", "a hot chocolate drink"}};
 
 // Moves the clock until the ice thaws (the pause before a word is over).
 bool UntilThawing(QPointer<FreezeIt> game) {
@@ -82,6 +82,7 @@ void FreezeItScreenTest::tenWordsToTheTable() {
     // Space freezes; Escape in the box puts it away and the thaw goes on.
     QTest::keyClick(game, Qt::Key_Space);
     QVERIFY(game->answerBox()->isVisible());
+    QCOMPARE(game->focusWidget(), game->answerBox());  // Escape now closes the box, not the game
     QCOMPARE(game->hintLabel()->text(), QString("Type the word and press ENTER"));
     QCOMPARE(fx.sound.played.last(), QString("freeze-crack.wav"));
     Pump(2000);
@@ -199,6 +200,7 @@ void FreezeItScreenTest::noPointsNoTable() {
     QCOMPARE(last.title, QString("Try Again?"));
     QVERIFY(last.text.startsWith("The ice kept its secrets this time! The words were: "));
     for (const QString& w : seen) QVERIFY(last.text.contains(w));
+    QCOMPARE(last.text.count(", "), seen.size() - 1);  // each word once
     QVERIFY(last.text.endsWith(". Would you like to try again?"));
     QVERIFY(win.congratulations.isEmpty());
     QVERIFY(!fx.exists("scores/Freeze-It.dat") || !fx.read("scores/Freeze-It.dat").contains("ZZZ"));
@@ -214,8 +216,9 @@ void FreezeItScreenTest::longWordsFitAndEmptyListsAreRefused() {
     const std::string longMeaning =
         "a lung disease caused by breathing in very fine ash and sand dust, as from a volcano, "
         "said to be one of the longest words in the English language";
-    WriteOneList(fx, "Long", {{"pneumonoultramicroscopicsilicovolcanoconiosis", longMeaning},
-                              {"photosynthesis", "how green plants make food from sunlight"}});
+    WriteOneList(fx, "Long",
+                 {{"pneumonoultramicroscopicsilicovolcanoconiosis", longMeaning},
+                  {"photosynthesis", "how green plants make food from sunlight"}});
     fx.rng.setFallback(0.0);  // the longest word
     QPointer<FreezeIt> game = qobject_cast<FreezeIt*>(PlayFromTitle("Freeze-It", "Long", 1));
     QVERIFY(game);
@@ -223,10 +226,15 @@ void FreezeItScreenTest::longWordsFitAndEmptyListsAreRefused() {
         game->resize(size);
         Pump();
         FreezeScene* sc = game->scene();
+        QCOMPARE(sc->geometry(), game->rect());  // the scene fills the screen
         const QRect first = sc->blockRect(0), last = sc->blockRect(sc->blockCount() - 1);
         QVERIFY(first.left() >= 0 && last.right() < size.width());
         QVERIFY(first.top() > game->clue()->geometry().bottom());
         QVERIFY(last.bottom() < game->answerBox()->geometry().top());
+        for (QWidget* w :
+             std::initializer_list<QWidget*>{game->clue(), game->wordLabel(), game->scoreLabel(),
+                                             game->hintLabel(), game->answerBox()})
+            QVERIFY2(game->rect().contains(w->geometry()), qPrintable(w->objectName()));
         Shot(game, QString("freeze-it-long-%1").arg(size.width()));
     }
     // With the sound off, the freeze is silent.
