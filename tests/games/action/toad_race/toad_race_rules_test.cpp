@@ -81,7 +81,9 @@ TEST(ToadRaceStart, LevelHeldToTheSliderAndEmptyListsRefused) {
         EXPECT_EQ(r.level(), held) << given;
     }
     SharedState none = List({});
+    const int before = rng.draws;
     EXPECT_FALSE(Race().start(none, rng));
+    EXPECT_EQ(rng.draws, before);  // nothing drawn from an empty list
 }
 
 TEST(ToadRaceWords, NoRepeatsUntilTheListRunsOut) {
@@ -104,10 +106,15 @@ TEST(ToadRaceWords, NoRepeatsUntilTheListRunsOut) {
     rng.setFallback(0.9);
     EXPECT_EQ(r.submit(s, "dog", rng), Typed::Hop);
     EXPECT_EQ(s.TheWord, "bee");
-    // All four played: repeats now, but never the word just played.
-    EXPECT_EQ(r.submit(s, "bee", rng), Typed::Hop);
-    EXPECT_EQ(s.TheWord, "cat");
-    EXPECT_EQ(r.pad(0), 4);
+    // All four played: repeats now, but never the word just played; then the other three
+    // each once before any comes again.
+    std::vector<std::string> next;
+    for (int i = 0; i < 4; ++i) {
+        ASSERT_EQ(r.submit(s, s.TheWord, rng), Typed::Hop);
+        next.push_back(s.TheWord);
+    }
+    EXPECT_EQ(next, (std::vector<std::string>{"cat", "dog", "owl", "bee"}));
+    EXPECT_EQ(r.pad(0), 7);
 }
 
 TEST(ToadRaceWords, TwoWordsTakeTurns) {
