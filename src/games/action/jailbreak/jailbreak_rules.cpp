@@ -25,13 +25,9 @@ bool usable(const SharedState& s, int k) {
 }
 
 void selectFirstShut(Jail& j) {
-    j.selected = -1;
-    for (int i = 0; i < static_cast<int>(j.locks.size()); ++i) {
-        if (!j.locks[i].open) {
-            j.selected = i;
-            return;
-        }
-    }
+    const auto shut =
+        std::find_if(j.locks.begin(), j.locks.end(), [](const Lock& l) { return !l.open; });
+    j.selected = shut == j.locks.end() ? -1 : static_cast<int>(shut - j.locks.begin());
 }
 
 void showSelected(SharedState& s, const Jail& j) {
@@ -129,7 +125,7 @@ Typed typeWord(SharedState& s, Jail& j, const std::string& typed) {
             t.cellBonus = stepsToGo(j) * kStepPoints;
             s.Score += t.cellBonus;
             t.result = Result::CellCleared;
-            j.selected = -1;
+            selectFirstShut(j);  // none: the panel says so
             return t;
         }
         if (j.selected == i) {
@@ -154,7 +150,7 @@ bool guardStep(Jail& j) {
 
 std::optional<std::string> hint(SharedState& s, Jail& j, int lock) {
     if (lock < 0 || lock >= static_cast<int>(j.locks.size())) return std::nullopt;
-    Lock& l = j.locks[lock];
+    Lock& l = j.locks.at(lock);
     if (l.open) return std::nullopt;
     if (!l.hinted) {
         l.hinted = true;

@@ -50,7 +50,6 @@ JailBreakForm::JailBreakForm(QWidget* parent)
               phase_ = Phase::Playing;
               scene_->setBanner({});
               Timer1.start();
-              Text1->setFocus();
           },
           true)),
       Timer3(frame_.timer(
@@ -149,7 +148,6 @@ JailBreakForm::JailBreakForm(QWidget* parent)
 }
 
 void JailBreakForm::NewGame() {
-    phase_ = Phase::Over;
     SharedState& s = Shared();
     if (!jb::newGame(s, jail_, TheRng())) {
         frame_.refuse(jb::kTooFewWords, windowTitle());
@@ -239,7 +237,7 @@ void JailBreakForm::hint() {
 }
 
 void JailBreakForm::pickLock(int lock) {
-    if (frame_.leaving() || phase_ == Phase::Over) return;
+    if (frame_.leaving()) return;
     jb::select(jail_, lock);
     if (jail_.selected >= 0) {
         Shared().TheWord = jail_.locks[jail_.selected].word;
@@ -266,7 +264,6 @@ void JailBreakForm::escapeFinished() {
         startCell();
         return;
     }
-    phase_ = Phase::Over;
     Anim.stop();
     scene_->setBanner("You broke out!");
     sound().effect("cheer.wav");

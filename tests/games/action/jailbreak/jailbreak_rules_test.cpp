@@ -69,7 +69,9 @@ TEST(JailbreakDraw, NoWordTwiceInACellNorInAGameWhileTheListHasEnough) {
     // Cell 2 may not use apple, tiger or river again: five new words are left, enough for three.
     rng.pick(3, 8).pick(4, 8).pick(2, 8).pick(5, 8).pick(6, 8).pick(7, 8);
     j.guardSteps = 30;
+    j.selected = 2;
     ASSERT_TRUE(nextCell(s, j, rng));
+    EXPECT_EQ(j.selected, 0);
     EXPECT_EQ(j.cell, 2);
     EXPECT_EQ(j.guardSteps, 0);
     EXPECT_EQ(Entries(j), (std::vector<int>{5, 6, 7}));
@@ -194,6 +196,8 @@ TEST(JailbreakPlay, OpeningTheSelectedLockMovesTheSelectionOn) {
     select(j, 0);
     EXPECT_EQ(j.selected, 0);
     select(j, 2);
+    s.TheWord.clear();
+    s.TheMeaning.clear();
     EXPECT_EQ(typeWord(s, j, "cloud").result, Result::Opened);
     EXPECT_EQ(j.selected, 0);
     EXPECT_EQ(s.TheWord, "apple");

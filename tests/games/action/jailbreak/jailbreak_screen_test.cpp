@@ -78,6 +78,7 @@ void JailbreakScreenTest::roadFromTitleThroughThreeCellsToTheTable() {
     auto* game = OpenJail(fx, kEight, 2);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     const SharedState& s = Shared();
+    QCOMPARE(game->objectName(), "JailBreakForm");
     QCOMPARE(s.Difficulty, 2);
     QCOMPARE(game->jail().locks.size(), std::size_t(2));
     QCOMPARE(fx.music.plays, 1);
@@ -93,6 +94,8 @@ void JailbreakScreenTest::roadFromTitleThroughThreeCellsToTheTable() {
     QCOMPARE(game->phase(), JailBreakForm::Phase::Playing);
     QCOMPARE(game->scene()->banner(), "");
     QCOMPARE(game->typingBox()->text(), "apple");  // kept for when the pause is over
+    game->typingBox()->setText(QString(70, 'a'));
+    QCOMPARE(game->typingBox()->text().size(), 60);
     game->typingBox()->clear();
     Pump(1500 * 3);
     QCOMPARE(game->jail().guardSteps, 3);
@@ -116,6 +119,7 @@ void JailbreakScreenTest::roadFromTitleThroughThreeCellsToTheTable() {
     Type(game, "river");  // 100, then the guard's 35 steps to go x 10
     QCOMPARE(s.Score, 70.0 + 100 + 350);
     QCOMPARE(game->scene()->banner(), "Escaped!");
+    QCOMPARE(game->phase(), JailBreakForm::Phase::Opening);
     QCOMPARE(Text(game, "Label1"), "All the locks are open!");
     Pump(1500);  // the guard stands still while you escape
     QCOMPARE(game->jail().guardSteps, 5);
@@ -255,6 +259,11 @@ void JailbreakScreenTest::anEscapeWithNoPointsLeftIsNoHighScore() {
     auto* game = OpenJail(fx, {{"owl", "a bird that hoots at night"}}, 1);
     QVERIFY(game);
     QCOMPARE(Shared().Difficulty, 1);  // one word: one lock
+    QString bannerAtTheBox;
+    fx.dialogs.otherwiseYes = [&](const QString&) {
+        bannerAtTheBox = game->scene()->banner();
+        return false;
+    };
     for (int cell = 1; cell <= 3; ++cell) {
         Pump(2000);
         for (int i = 0; i < 17; ++i) Type(game, "hoot");  // -340, and 34 steps
@@ -262,6 +271,7 @@ void JailbreakScreenTest::anEscapeWithNoPointsLeftIsNoHighScore() {
         QCOMPARE(Shared().Score, -220.0 * cell);
         Pump(700 + 3000);
     }
+    QCOMPARE(bannerAtTheBox, "You broke out!");
     QCOMPARE(fx.dialogs.shown.back().title, "Escaped!");
     QCOMPARE(fx.dialogs.last(),
              "You escaped from all three cells, but your score is -660, so it cannot go on the "
@@ -277,6 +287,7 @@ void JailbreakScreenTest::tooFewDifferentWordsIsRefused() {
     Pump();
     QVERIFY(!game || !Showing<JailBreakForm>());
     QCOMPARE(fx.dialogs.last(), jb::kTooFewWords);
+    QCOMPARE(fx.dialogs.shown.back().title, "Jailbreak");
     QVERIFY(Showing<Title>());
 }
 
@@ -315,10 +326,19 @@ void JailbreakScreenTest::pictures() {
         for (int j = i + 1; j < level; ++j)
             QVERIFY(!scene->tagRect(i).intersects(scene->tagRect(j)));
     }
+    QRect chips;
     for (const char* name : {"CellLabel", "ScoreLabel", "GuardLabel"}) {
         const QRect r = game->findChild<QLabel*>(name)->geometry();
         QVERIFY(game->rect().contains(r));
         QVERIFY(r.bottom() < sceneRect.top() + 4);
+        QVERIFY2(!chips.intersects(r), name);
+        chips |= r;
+    }
+    for (QWidget* w : {static_cast<QWidget*>(game->typingBox()),
+                       static_cast<QWidget*>(game->findChild<QPushButton*>("Command1"))}) {
+        const QRect r(w->mapTo(game, QPoint(0, 0)), w->size());
+        QVERIFY(game->rect().contains(r));
+        QVERIFY(r.top() > sceneRect.bottom() - 4);
     }
     Shot(game, QString("jailbreak-%1x%2").arg(size.width()).arg(size.height()));
     Pump(600);
