@@ -1,11 +1,14 @@
 #include "shell/style.h"
 
 #include <QApplication>
+#include <QDateTime>
+#include <QFileInfo>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmapCache>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -60,7 +63,18 @@ QFont ScreenFont(int points, bool bold) {
 
 QPixmap LoadPicture(const QString& relative) {
     const QString path = findAsset(relative);
-    return path.isEmpty() ? QPixmap() : QPixmap(path);
+    if (path.isEmpty()) return {};
+    // Screens come and go with every game; their pictures are decoded once and kept.
+    if (QPixmapCache::cacheLimit() < 64 * 1024) QPixmapCache::setCacheLimit(64 * 1024);
+    const QFileInfo file(path);
+    const QString key = file.canonicalFilePath() + QLatin1Char('@') +
+                        QString::number(file.lastModified().toMSecsSinceEpoch());
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = QPixmap(path);
+        if (!picture.isNull()) QPixmapCache::insert(key, picture);
+    }
+    return picture;
 }
 
 QPixmap RoundedPicture(const QPixmap& picture, int height) {
