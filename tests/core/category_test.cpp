@@ -57,12 +57,19 @@ TEST(Categories, AFileOfAnotherNameIsNeverWrittenOver) {
     TempFolder dir;
     const std::string path = dir.file("cats.dat");
     dir.writeLines("cats.dat", {"^Zoo", "Animals"});
+    // Only a file named exactly folders.dat counts as unlocked: deletes leave this one alone.
+    EXPECT_TRUE(IsLocked(path));
     EXPECT_TRUE(ReadCategoryLines(path).empty());
+    RemoveListFromCategories(path, "Animals");
     dir.writeLines("cats.lok", {"^Old"});
     EXPECT_EQ(ReadCategoryLines(path), (Lines{"^Old"}));
     const std::string refusal = CategoryEditRefusal(path);
-    EXPECT_NE(refusal.find(path), std::string::npos);
-    EXPECT_NE(refusal.find("not named folders.dat"), std::string::npos);
+    EXPECT_EQ(refusal,
+              "The category file " + path +
+                  " cannot be edited, because it is not named folders.dat: its categories cannot "
+                  "be read safely while it is locked. Rename it to folders.dat (and change its "
+                  "path in the settings file to match), then try again. The file has not been "
+                  "changed.");
     for (auto write : {+[](const std::string& p) { LockCategories(p); },
                        +[](const std::string& p) { SaveAndUnlockCategories(p, {}); }}) {
         try {
@@ -81,7 +88,11 @@ TEST(Categories, AFileOfAnotherNameIsNeverWrittenOver) {
     LockCategories(fresh);
     SaveAndUnlockCategories(fresh, {"^New"});
     EXPECT_EQ(dir.read("groups.dat"), "^New\r\n");
-    EXPECT_EQ(CategoryEditRefusal(dir.file("folders.dat")), "");
     dir.writeLines("folders.dat", {"^A"});
     EXPECT_EQ(CategoryEditRefusal(dir.file("folders.dat")), "");
+    // Start-up makes the local folders.dat when neither name of the path is found.
+    TempFolder app;
+    EnsureCategoryFile(app.path(), dir.file("elsewhere.dat"));
+    EXPECT_TRUE(app.exists("folders.dat"));
+    EXPECT_FALSE(dir.exists("elsewhere.dat"));
 }

@@ -7,24 +7,18 @@
 using namespace wm;
 using wm::test::TempFolder;
 
-TEST(DisplayFile, PresetsRoundTripAsNumbers) {
+TEST(DisplayFile, HiddenGamesRoundTripByExactName) {
     TempFolder dir;
-    for (auto preset : {DisplaySettings::LargeIcons(), DisplaySettings::MediumIcons(),
-                        DisplaySettings::SmallIcons()}) {
-        preset.hidden = {"Quiz", "Bomb Squad 2"};
-        WriteDisplaySettings(dir.file("wmgdisplay.dat"), preset);
-        auto back = ReadDisplaySettings(dir.file("wmgdisplay.dat"));
-        EXPECT_EQ(back.scale, preset.scale);
-        EXPECT_EQ(back.columns, preset.columns);
-        EXPECT_EQ(back.rows, preset.rows);
-        EXPECT_EQ(back.hspace, preset.hspace);
-        EXPECT_EQ(back.vspace, preset.vspace);
-        EXPECT_EQ(back.hidden, preset.hidden);
-        EXPECT_TRUE(back.isHidden("Quiz"));
-        EXPECT_FALSE(back.isHidden("quiz"));
-    }
-    WriteDisplaySettings(dir.file("wmgdisplay.dat"), DisplaySettings::SmallIcons());
-    EXPECT_EQ(dir.read("wmgdisplay.dat"), "*****\r\n0.5\r\n6\r\n5\r\n1.1\r\n1.2\r\n*****\r\n");
+    DisplaySettings s = DisplaySettings::MediumIcons();
+    s.hidden = {"Quiz", "Bomb Squad 2"};
+    WriteDisplaySettings(dir.file("wmgdisplay.dat"), s);
+    EXPECT_EQ(dir.read("wmgdisplay.dat"),
+              "*****\r\n0.75\r\n5\r\n3\r\n1.01\r\n1.01\r\n*****\r\nQuiz\r\nBomb Squad 2\r\n");
+    auto back = ReadDisplaySettings(dir.file("wmgdisplay.dat"));
+    EXPECT_EQ(back.scale, 0.75);
+    EXPECT_EQ(back.hidden, s.hidden);
+    EXPECT_TRUE(back.isHidden("Quiz"));
+    EXPECT_FALSE(back.isHidden("quiz"));
 }
 
 TEST(DisplayFile, MissingOrMalformedReadsAsLargeIcons) {

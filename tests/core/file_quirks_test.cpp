@@ -57,22 +57,3 @@ TEST(ScoreTable, SmallestFirstTiesGoBelowTheEqualScore) {
     EXPECT_EQ(FindRankSmallestFirst(full, 39), 5);
 }
 
-TEST(Categories, AFileNotNamedFoldersDatIsReadFromItsLockName) {
-    TempFolder dir;
-    const std::string path = dir.file("cats.dat");
-    dir.writeLines("cats.dat", {"^Own", "Animals"});
-    // Only a file named exactly folders.dat counts as unlocked: any other name reads as
-    // locked, so its .lok name is read, and deletes leave it alone. Kept as it always was.
-    EXPECT_TRUE(IsLocked(path));
-    EXPECT_EQ(LockName(path), dir.file("cats.lok"));
-    EXPECT_TRUE(ReadCategoryLines(path).empty());
-    dir.writeLines("cats.lok", {"^Locked", "Earth"});
-    EXPECT_EQ(ReadCategoryLines(path), (std::vector<std::string>{"^Locked", "Earth"}));
-    RemoveListFromCategories(path, "Animals");
-    EXPECT_EQ(dir.read("cats.dat"), "^Own\r\nAnimals\r\n");
-    // Start-up still makes the local folders.dat when neither name of the path is found.
-    TempFolder app;
-    EnsureCategoryFile(app.path(), dir.file("elsewhere.dat"));
-    EXPECT_TRUE(app.exists("folders.dat"));
-    EXPECT_FALSE(dir.exists("elsewhere.dat"));
-}

@@ -124,7 +124,9 @@ TEST_F(ListFileTest, OverTheLimitStopsAt1001AndSaysSo) {
     dir.writeLines("thelists.dat", lines);
     std::string said;
     load("Big", {}, {{}, [&](const std::string& m) { said = m; }});
-    EXPECT_EQ(said, kOverLimitMessage);
+    EXPECT_EQ(said,
+              "There are over 1000 words on this list. The current size limit per list is 1000. "
+              "Only the first 1000 will be used.");
     EXPECT_EQ(state.WordCount, 1001);
     EXPECT_EQ(state.Words[1000], "w1000");
     EXPECT_EQ(state.Words[1001], "");  // entry 1001 does not exist

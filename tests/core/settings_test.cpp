@@ -31,16 +31,27 @@ TEST(Settings, FirstRunRenamesOnlyWhenTheLiveFileIsMissing) {
     EXPECT_EQ(ReadLines(dir.file("thelists.dat")).at(0), "Animals");
 }
 
-TEST(Settings, NeitherFileMeansAClearErrorNamingTheFolder) {
+TEST(Settings, MissingOrShortFileIsAClearErrorNamingIt) {
     TempFolder dir;
-    try {
-        FirstRunRenames(dir.path());
-        FAIL();
-    } catch (const FileError& e) {
-        std::string what = e.what();
-        EXPECT_NE(what.find("wmdata.dat"), std::string::npos);
-        EXPECT_NE(what.find(dir.path()), std::string::npos);
-    }
+    const std::string live = dir.file("wmdata.dat");
+    auto messageOf = [](auto&& call) {
+        try {
+            call();
+        } catch (const FileError& e) {
+            return std::string(e.what());
+        }
+        return std::string("no error");
+    };
+    EXPECT_EQ(messageOf([&] { FirstRunRenames(dir.path()); }),
+              "The settings file wmdata.dat (or its factory copy wmdata.new) cannot be found in "
+              "the folder " + dir.path() + ".");
+    dir.writeLines("wmdata.dat", {"r0", "r1", "Sound On", "pw", "listpath"});
+    EXPECT_EQ(messageOf([&] { ReadSettings(dir.path()); }),
+              "The settings file " + live +
+                  " is too short: it needs six lines. Delete it to go back to the factory "
+                  "settings.");
+    dir.writeLines("wmdata.dat", kFactory);
+    EXPECT_EQ(messageOf([&] { ReadSettings(dir.path()); }), "no error");
 }
 
 TEST(Settings, ReadsSoundAndResolvesPathLiterals) {
@@ -57,12 +68,6 @@ TEST(Settings, ReadsSoundAndResolvesPathLiterals) {
     ApplySettings(ReadSettings(dir.path()), dir.path(), s);
     EXPECT_EQ(s.SoundDefault, kFalse);
     EXPECT_EQ(s.FolderFilePath, dir.file("folders.dat"));
-}
-
-TEST(Settings, ShortFileIsAClearError) {
-    TempFolder dir;
-    dir.writeLines("wmdata.dat", {"r0", "r1", "Sound On"});
-    EXPECT_THROW(ReadSettings(dir.path()), FileError);
 }
 
 TEST(Settings, RewriteKeepsLinesPastFive) {
