@@ -2,6 +2,7 @@
 
 #include "core/display_file.h"
 #include "core/language_codes.h"
+#include "core/strings.h"
 #include "temp_folder.h"
 
 using namespace wm;
@@ -32,6 +33,25 @@ TEST(DisplayFile, MissingOrMalformedReadsAsLargeIcons) {
     EXPECT_EQ(bad.hidden, std::vector<std::string>{"Froggy"});
     dir.write("garbage.dat", std::string("\x01\xff\x00\x7f", 4));
     EXPECT_EQ(ReadDisplaySettings(dir.file("garbage.dat")).rows, 3);
+}
+
+// Scale and spacing are kept only inside their bounds; one number out keeps the whole preset.
+TEST(DisplayFile, ScaleAndSpacingBounds) {
+    struct Case {
+        const char *scale, *h, *v;
+        bool taken;
+    };
+    const Case cases[] = {{"4", "4", "4", true},      {"0.06", "1", "1", true},
+                          {"4.01", "1.1", "1.1", false}, {"0.05", "1.1", "1.1", false},
+                          {"0.5", "0.99", "1.1", false}, {"0.5", "1.1", "4.01", false},
+                          {"0.5", "4.01", "1.1", false}, {"0.5", "1.1", "0.99", false}};
+    TempFolder dir;
+    for (const Case& c : cases) {
+        dir.writeLines("d.dat", {"*****", c.scale, "6", "5", c.h, c.v, "*****"});
+        const DisplaySettings s = ReadDisplaySettings(dir.file("d.dat"));
+        EXPECT_EQ(s.columns, c.taken ? 6 : 4) << c.scale << " " << c.h << " " << c.v;
+        EXPECT_EQ(s.hspace, c.taken ? Val(c.h) : 1.01) << c.scale << " " << c.h << " " << c.v;
+    }
 }
 
 TEST(LanguageCodes, ThreeLinesALanguageAndAnUnfinishedOneDropped) {

@@ -152,13 +152,6 @@ TEST_F(ListFileTest, OddLineCountAndMissingNamesAreSafe) {
     EXPECT_EQ(state.WordCount, 0);
 }
 
-TEST_F(ListFileTest, LoadClearsTheOldList) {
-    dir.writeLines("thelists.dat", kTwoLists);
-    state.Words[5] = "stale";
-    load("Animals");
-    EXPECT_EQ(state.Words[5], "");
-}
-
 TEST(ListFileEdits, DeletingTheFirstListLeavesASeparatorOnTop) {
     Lines lines = kTwoLists;
     ASSERT_TRUE(DeleteListLines(lines, "Animals"));

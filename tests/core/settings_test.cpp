@@ -81,4 +81,8 @@ TEST(Settings, RewriteKeepsLinesPastFive) {
     EXPECT_EQ(back[3], "newpass");
     EXPECT_EQ(back[6], "seventh");
     EXPECT_EQ(back[0], "r0");
+    // A line past the end: the file grows with blank lines up to it.
+    RewriteSettingsLine(dir.path(), 8, "ninth");
+    EXPECT_EQ(ReadLines(dir.file("wmdata.dat")).size(), 9u);
+    EXPECT_EQ(dir.read("wmdata.dat").substr(dir.read("wmdata.dat").size() - 11), "\r\n\r\nninth\r\n");
 }

@@ -80,15 +80,6 @@ TEST(Strings, CLngRoundsHalfToEven) {
     EXPECT_EQ(CLng(1e12), 2147483647);
 }
 
-TEST(Rng, ScriptedRngPicksAndFallsBack) {
-    ScriptedRng rng(0.25);
-    rng.pick(3, 10).then(0.9);
-    EXPECT_EQ(Int(rng.Rnd() * 10 + 1), 3);
-    EXPECT_DOUBLE_EQ(rng.Rnd(), 0.9);
-    EXPECT_DOUBLE_EQ(rng.Rnd(), 0.25);
-    EXPECT_EQ(rng.draws, 3);
-}
-
 TEST(Rng, SystemRngStaysInRange) {
     SystemRng rng;
     rng.seed(42);

@@ -76,16 +76,6 @@ private slots:
         QVERIFY(!keys.takePressed(Qt::Key_Z));
     }
 
-    void keyStateGoesWithItsScreen() {
-        auto* screen = new QWidget;
-        auto* keys = new KeyState(screen);
-        QPointer<KeyState> watch(keys);
-        delete screen;
-        QVERIFY(watch.isNull());
-        QWidget after;
-        key(&after, QEvent::KeyPress, Qt::Key_A);  // no filter left behind to crash in
-    }
-
     void pointerCountsLikeThePlatform() {
         QCOMPARE(Pointer::count(), 0);
         QVERIFY(!cursorBlank());

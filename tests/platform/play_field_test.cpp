@@ -1,12 +1,10 @@
 // The playing field: a sprite scene that must leave the background exactly as it was, masked
 // draws, clipped block copies, and the one scale to the screen with its dirty rectangles.
-#include <QFont>
 #include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
 #include <vector>
 
-#include "platform/field_scaler.h"
 #include "platform/play_field.h"
 
 using namespace wm;
@@ -48,18 +46,6 @@ struct Mover {
     QImage picture;
 };
 
-int maxChannelDiff(const QImage& a, const QImage& b) {
-    int worst = 0;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            const QRgb p = a.pixel(x, y), q = b.pixel(x, y);
-            worst = std::max({worst, std::abs(qRed(p) - qRed(q)), std::abs(qGreen(p) - qGreen(q)),
-                              std::abs(qBlue(p) - qBlue(q))});
-        }
-    }
-    return worst;
-}
-
 }  // namespace
 
 class PlayFieldTest : public QObject {
@@ -91,8 +77,6 @@ private slots:
             }
             field.flush();
         }
-        field.resize(1280, 800);
-        field.grab().save(QStringLiteral("/tmp/play-field-sixty.png"));
         for (auto it = movers.rbegin(); it != movers.rend(); ++it) it->sprite.erase(field);
         QVERIFY(field.surface() == back);
     }
@@ -176,32 +160,6 @@ private slots:
         QVERIFY(field.save({50, 50, 5, 5}).isNull());
     }
 
-    void backgroundScalesAndTextStaysInItsBox() {
-        PlayField field({80, 60});
-        QImage small(8, 6, QImage::Format_RGB32);
-        small.fill(qRgb(200, 100, 50));
-        field.setBackground(small);
-        QCOMPARE(field.surface().size(), QSize(80, 60));
-        QCOMPARE(field.surface().pixel(79, 59), qRgb(200, 100, 50));
-        field.setBackground(QImage());
-        QCOMPARE(field.surface().pixel(40, 30), qRgb(0, 0, 0));
-        field.flush();
-        QFont font;
-        font.setPixelSize(14);
-        field.drawText({10, 10, 50, 20}, Qt::AlignCenter, QStringLiteral("Wordmere"), font,
-                       Qt::yellow);
-        int lit = 0;
-        for (int y = 0; y < 60; ++y) {
-            for (int x = 0; x < 80; ++x) {
-                if (field.surface().pixel(x, y) == qRgb(0, 0, 0)) continue;
-                QVERIFY(QRect(10, 10, 50, 20).contains(x, y));
-                ++lit;
-            }
-        }
-        QVERIFY(lit > 20);
-        QVERIFY(!field.flush().isEmpty());
-    }
-
     void screenMappingKeepsAspect_data() {
         QTest::addColumn<QSize>("widget");
         QTest::addColumn<QRect>("target");
@@ -231,86 +189,6 @@ private slots:
             QVERIFY(!logical.contains(field.toLogical(w.bottomRight() + QPoint(1, 1))));
             QVERIFY(w.width() <= int(std::ceil(logical.width() * target.width() / 640.0)) + 1);
         }
-    }
-
-    void onlyDirtyRectanglesAreRepainted() {
-        PlayField field({640, 480});
-        field.resize(1920, 1080);
-        field.setBackground(busyBackground({640, 480}));
-        field.flush();
-        QImage shown(1920, 1080, QImage::Format_RGB32);
-        shown.fill(Qt::magenta);
-        {
-            QPainter p(&shown);
-            field.render(p, QRegion(shown.rect()));
-        }
-        QCOMPARE(shown.pixelColor(10, 500), QColor(Qt::black));  // the bar
-
-        FieldSprite sprite;
-        const QImage picture = ball(32, Qt::red);
-        sprite.draw(field, {100, 100}, picture);
-        field.flush();
-        sprite.erase(field);
-        sprite.draw(field, {104, 102}, picture);
-        const QList<QRect> pushed = field.flush();
-        // Old and new places of one small sprite, as one rectangle, and nothing else.
-        QCOMPARE(pushed.size(), 1);
-        QVERIFY(pushed[0].contains(field.toWidget({100, 100, 36, 34})));
-        QVERIFY(pushed[0].width() < 100);
-        QVERIFY(field.flush().isEmpty());
-
-        // Painting just what was pushed gives what a whole repaint gives.
-        {
-            QPainter p(&shown);
-            field.render(p, field.toWidget({99, 99, 38, 36}));
-        }
-        QImage whole(1920, 1080, QImage::Format_RGB32);
-        {
-            QPainter p(&whole);
-            field.render(p, QRegion(whole.rect()));
-        }
-        whole.save(QStringLiteral("/tmp/play-field.png"));
-        QVERIFY(shown == whole);
-        // The widget's own paint (what flush() pushed, then the rest) shows the same.
-        sprite.erase(field);
-        sprite.draw(field, {104, 102}, picture);
-        field.flush();
-        QCOMPARE(field.grab().toImage().convertToFormat(QImage::Format_RGB32), whole);
-        QCOMPARE(whole.pixelColor(field.toWidget({120, 118, 1, 1}).center()), QColor(Qt::red));
-    }
-
-    void scalerPiecesJoinWithoutSeams() {
-        const QImage field = busyBackground({640, 480});
-        for (const QSize target : {QSize(1440, 1080), QSize(1066, 800), QSize(320, 240)}) {
-            FieldScaler whole, pieces;
-            QVERIFY(whole.resize(field.size(), target));
-            QVERIFY(!whole.resize(field.size(), target));  // same sizes: kept
-            pieces.resize(field.size(), target);
-            whole.update(field, whole.image().rect());
-            // Odd strips and blocks, overlapping, in no particular order.
-            for (int y = 0; y < target.height(); y += 37) {
-                for (int x = target.width() - 1; x > -53; x -= 53) {
-                    pieces.update(field, QRect(x - 3, y - 2, 61, 41));
-                }
-            }
-            QVERIFY(whole.image() == pieces.image());
-        }
-        // Against Qt's own smooth scaling: the same picture, no shift of half a pixel.
-        QImage smooth(64, 48, QImage::Format_RGB32);
-        for (int y = 0; y < 48; ++y) {
-            for (int x = 0; x < 64; ++x) smooth.setPixel(x, y, qRgb(x * 4, y * 5, 128 + (x - y)));
-        }
-        FieldScaler scaler;
-        scaler.resize(smooth.size(), {144, 108});
-        scaler.update(smooth, QRect(0, 0, 144, 108));
-        const QImage qt = smooth.scaled(144, 108, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        QVERIFY(maxChannelDiff(scaler.image(), qt) <= 3);
-        // A flat colour stays exactly flat; a tiny field does not break it.
-        QImage flat(3, 1, QImage::Format_RGB32);
-        flat.fill(qRgb(10, 150, 250));
-        scaler.resize(flat.size(), {7, 5});
-        scaler.update(flat, QRect(-5, -5, 50, 50));
-        for (int x = 0; x < 7; ++x) QCOMPARE(scaler.image().pixel(x, 4), qRgb(10, 150, 250));
     }
 
     void mouseComesBackInFieldPixels() {

@@ -93,25 +93,6 @@ private slots:
         QCOMPARE(only.frame("star", 0).size(), QSize(8, 8));
     }
 
-    void badDrawingsGiveEmptySheets_data() {
-        QTest::addColumn<QByteArray>("text");
-        QTest::newRow("not a drawing") << QByteArray("hello");
-        QTest::newRow("no frames") << QByteArray(
-            "<svg xmlns='http://www.w3.org/2000/svg' width='10' height='10'>"
-            "<rect id='a' width='5' height='5'/></svg>");
-        QTest::newRow("cut short") << QByteArray(kDrawing).left(200);
-    }
-
-    void badDrawingsGiveEmptySheets() {
-        QFETCH(QByteArray, text);
-        QTemporaryDir dir;
-        const QString path = dir.filePath("bad.svg");
-        writeFile(path, text);
-        const SpriteSheet sheet = SpriteSheet::fromSvg(path);
-        QVERIFY(sheet.frame("ball_0").isNull());
-        QVERIFY(sheet.error().contains(path));
-        QVERIFY(SpriteSheet::fromSvg(dir.filePath("none.svg")).error().contains("none.svg"));
-    }
 };
 
 QTEST_MAIN(SpriteSheetTest)

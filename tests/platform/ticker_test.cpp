@@ -64,19 +64,6 @@ TEST_F(TickerTest, DueTimersFireInTimeOrderAndAsOftenAsDue) {
     EXPECT_EQ(log.lines, (std::vector<std::string>{"fast@90", "slow@100"}));
 }
 
-TEST_F(TickerTest, TiesFireInStartOrder) {
-    Log log;
-    GameTimer a, b, c;
-    log.hook(a, "a");
-    log.hook(b, "b");
-    log.hook(c, "c");
-    b.start(20);
-    c.start(20);
-    a.start(20);
-    Ticker::get().advance(20);
-    EXPECT_EQ(log.lines, (std::vector<std::string>{"b@20", "c@20", "a@20"}));
-}
-
 TEST_F(TickerTest, StoppedOrDeletedInsideATimeoutNeverFiresAgain) {
     Log log;
     GameTimer first;
@@ -144,49 +131,6 @@ TEST_F(TickerTest, ZeroIntervalFiresOnTheNextAdvanceEvenOfNothing) {
     Ticker::get().advance(50);
     EXPECT_EQ(log.lines, (std::vector<std::string>{"rep@0", "restart@0"}));
     EXPECT_FALSE(once.isActive());
-}
-
-TEST_F(TickerTest, ExactStartSkipsThePaceRule) {
-    Log log;
-    GameTimer frame;
-    log.hook(frame, "frame");
-    frame.setSingleShot(true);
-    frame.startExact(5);
-    Ticker::get().advance(5);
-    EXPECT_EQ(log.lines, (std::vector<std::string>{"frame@5"}));
-}
-
-TEST(TickerRealTime, FollowsRealTimeAndHandsOverToManual) {
-    int argc = 1;
-    char name[] = "ticker_test";
-    char* argv[] = {name, nullptr};
-    QCoreApplication app(argc, argv);
-    Ticker& ticker = Ticker::get();
-    ticker.setManual(false);
-    EXPECT_FALSE(ticker.isManual());
-
-    // Real mode: advance() moves nothing, and a zero timer fires from the event loop.
-    int fired = 0;
-    GameTimer soon, pending;
-    soon.setSingleShot(true);
-    QObject::connect(&soon, &GameTimer::timeout, [&] { ++fired; });
-    QObject::connect(&pending, &GameTimer::timeout, [&] { ++fired; });
-    soon.start(0);
-    pending.start(10000);
-    const qint64 before = ticker.now();
-    ticker.advance(100000);
-    EXPECT_LT(ticker.now() - before, 10000);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(fired, 1);
-    EXPECT_FALSE(soon.isActive());
-
-    // The switch keeps the clock running forwards, and a running timer goes on under it.
-    ticker.setManual(true);
-    const qint64 switched = ticker.now();
-    EXPECT_GE(switched, before);
-    ticker.advance(10000);
-    EXPECT_EQ(fired, 2);
-    EXPECT_EQ(ticker.now(), switched + 10000);
 }
 
 }  // namespace

@@ -48,7 +48,6 @@ std::vector<std::string> ListOf(const std::string& name, int n) {
 class ChooserTest : public QObject {
     Q_OBJECT
 private slots:
-    void boxSortsWithoutRegardToCase();
     void foreignListPlayedThroughTheChooser_data();
     void foreignListPlayedThroughTheChooser();
     void countBoundaries_data();
@@ -56,31 +55,6 @@ private slots:
     void warnIfOptionWithTheOptionOffSaysNothing();
     void lastChoiceMatchingNothingSelectsNothing();
 };
-
-void ChooserTest::boxSortsWithoutRegardToCase() {
-    ShellFixture fx;
-    std::vector<std::string> extra;
-    for (const char* name : {"Zoo", "apple", "Banana", "banana split"}) {
-        auto more = ListOf(name, 1);
-        extra.insert(extra.end(), more.begin(), more.end());
-    }
-    ChooseList* chooser = OpenChooser(fx, "Hang Glider", extra);
-    QVERIFY(chooser);
-    QStringList mine;
-    for (int i = 0; i < chooser->lists()->count(); ++i) {
-        const QString t = chooser->lists()->item(i)->text();
-        if (t.startsWith("Zoo") || t.startsWith("apple") || t.startsWith("Banana") ||
-            t.startsWith("banana"))
-            mine << t;
-    }
-    QCOMPARE(mine, QStringList({"apple (1 words)", "Banana (1 words)", "banana split (1 words)",
-                                "Zoo (1 words)"}));
-    // The whole box is in that order, the factory lists too.
-    for (int i = 1; i < chooser->lists()->count(); ++i) {
-        QVERIFY(chooser->lists()->item(i - 1)->text().compare(chooser->lists()->item(i)->text(),
-                                                              Qt::CaseInsensitive) <= 0);
-    }
-}
 
 void ChooserTest::foreignListPlayedThroughTheChooser_data() {
     QTest::addColumn<bool>("secondOption");

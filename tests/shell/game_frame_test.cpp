@@ -54,7 +54,6 @@ private slots:
     void musicByKind();
     void wonGameTextsAndOffers_data();
     void wonGameTextsAndOffers();
-    void smallestFirstTableTakesTheTie();
 };
 
 void GameFrameTest::menuKeepsItsOrderAndNames() {
@@ -312,27 +311,6 @@ void GameFrameTest::wonGameTextsAndOffers() {
         QCOMPARE(QString::fromStdString(t.initials(1)), "WIN");
         QCOMPARE(t.score(1), 1234.0);
     }
-}
-
-void GameFrameTest::smallestFirstTableTakesTheTie() {
-    ShellFixture fx;
-    TinyGame* game = OpenTiny();
-    SharedState& s = Shared();
-    s.CurrentGame = "Speed Type";
-    ScoreTable t = ScoreTable::Fresh();
-    InsertScore(t, 1, "ONE", "10");
-    InsertScore(t, 2, "TWO", "20");
-    WriteScoreTable(fx.path("scores/Speed Type.dat").toStdString(), t);
-    WinDriver driver({"NEW"});
-    SetModalHook(std::ref(driver));
-    s.Score = 20;  // a tie goes below the time it equals
-    EndTexts end;
-    end.smallestFirst = true;
-    game->frame.wonGame(end);
-    const ScoreTable after = ReadScoreTable(fx.path("scores/Speed Type.dat").toStdString());
-    QCOMPARE(QString::fromStdString(after.initials(1)), "ONE");
-    QCOMPARE(QString::fromStdString(after.initials(2)), "TWO");
-    QCOMPARE(QString::fromStdString(after.initials(3)), "NEW");
 }
 
 QTEST_MAIN(GameFrameTest)

@@ -25,7 +25,6 @@ private slots:
     void wordsOnlyAndShortListsAreRefusedOrWarned();
     void chooserRemembersAndCutsNames();
     void optionsRowsAndClamping();
-    void everyOptionsScreenFitsItsText();
 };
 
 void RoadTest::summaryCountsHalfWordsAndLabels() {
@@ -202,25 +201,6 @@ void RoadTest::optionsRowsAndClamping() {
     Shot(opts, "options-speed-type");
     QTest::keyClick(opts, Qt::Key_Escape);
     QVERIFY(Showing<Title>() != nullptr);
-}
-
-void RoadTest::everyOptionsScreenFitsItsText() {
-    for (QSize screen : {QSize(1280, 800), QSize(1920, 1080)}) {
-        ShellFixture fx;
-        ScreenMetrics::overrideScreenSize(screen);
-        OpenScreen("Title");
-        Shared().WordCount = 30;
-        for (const GameCard& card : Catalogue()) {
-            Shared().CurrentGame = card.name;
-            auto* opts = qobject_cast<GameOptions*>(OpenScreen("GameOptions", CurrentScreen()));
-            QVERIFY(opts);
-            QApplication::processEvents();
-            QLabel* text = opts->Label7;
-            QVERIFY2(text->heightForWidth(text->width()) <= text->height(), card.name.c_str());
-            QVERIFY(opts->rect().contains(opts->Command1->geometry().translated(
-                opts->Command1->parentWidget()->mapTo(opts, QPoint(0, 0)))));
-        }
-    }
 }
 
 QTEST_MAIN(RoadTest)

@@ -18,16 +18,12 @@ class TitleTest : public QObject {
     Q_OBJECT
 private slots:
     void firstStartRenamesAndMakesFiles();
-    void pagesOfTwelve();
     void hiddenGamesAreNotShownAndGetNoScoreFile();
     void emptyStoreSaysNoLists();
     void missingSettingsIsAClearFailure();
-    void gridFitsEveryPresetAndScreen_data();
-    void gridFitsEveryPresetAndScreen();
     void splashSkipsToTitle();
     void pickRoutesByGame();
     void highScoresBrowseTheShownGames();
-    void programInfoShowsNameAndVersion();
 };
 
 void TitleTest::firstStartRenamesAndMakesFiles() {
@@ -48,39 +44,6 @@ void TitleTest::firstStartRenamesAndMakesFiles() {
     QVERIFY(fx.dialogs.shown.empty());
     Pump();  // the sound waits for a short timer, on the test clock
     QCOMPARE(fx.sound.played, QStringList{"ufofly.wav"});
-}
-
-void TitleTest::pagesOfTwelve() {
-    ShellFixture fx;
-    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
-    QVERIFY(title);
-    auto visibleNames = [&] {
-        QStringList names;
-        for (auto* b : title->buttons())
-            if (b->isVisible()) names << b->text();
-        return names;
-    };
-    QCOMPARE(visibleNames().size(), 12);
-    QCOMPARE(visibleNames().first(), "Flying Cow");
-    QVERIFY(title->moreButton()->isVisible());
-    QVERIFY(!title->backButton()->isVisible());
-    int pages = 1;
-    while (title->moreButton()->isVisible()) {
-        QTest::mouseClick(title->moreButton(), Qt::LeftButton);
-        ++pages;
-    }
-    QCOMPARE(pages, 4);
-    QCOMPARE(visibleNames(), (QStringList{"Bomb Squad", "Bomb Squad 2", "Hang Glider", "Slingshot",
-                                          "Froggy", "Pachinko"}));
-    QVERIFY(title->backButton()->isVisible());
-    // A click where a hidden button lies does nothing.
-    const std::string before = Shared().CurrentGame;
-    title->pick(11);
-    QCOMPARE(Shared().CurrentGame, before);
-    QCOMPARE(CurrentScreen(), title);
-    for (int i = 0; i < 3; ++i) QTest::mouseClick(title->backButton(), Qt::LeftButton);
-    QCOMPARE(title->firstIndex(), 1);
-    QVERIFY(!title->backButton()->isVisible());
 }
 
 void TitleTest::hiddenGamesAreNotShownAndGetNoScoreFile() {
@@ -146,43 +109,6 @@ void TitleTest::missingSettingsIsAClearFailure() {
     delete shortOne;
 }
 
-void TitleTest::gridFitsEveryPresetAndScreen_data() {
-    QTest::addColumn<int>("preset");
-    QTest::addColumn<QSize>("screen");
-    for (int p = 0; p < 3; ++p)
-        for (QSize s : {QSize(1280, 800), QSize(1920, 1080)})
-            QTest::addRow("preset%d-%dx%d", p, s.width(), s.height()) << p << s;
-}
-
-void TitleTest::gridFitsEveryPresetAndScreen() {
-    QFETCH(int, preset);
-    QFETCH(QSize, screen);
-    ShellFixture fx;
-    ScreenMetrics::overrideScreenSize(screen);
-    const DisplaySettings presets[] = {DisplaySettings::LargeIcons(),
-                                       DisplaySettings::MediumIcons(),
-                                       DisplaySettings::SmallIcons()};
-    WriteDisplaySettings(fx.path("wmgdisplay.dat").toStdString(), presets[preset]);
-    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
-    QVERIFY(title);
-    QCOMPARE(title->size(), screen);
-    // Look at a middle page, where both More and Back show.
-    title->showMore();
-    QVector<QRect> rects;
-    for (auto* b : title->buttons())
-        if (b->isVisible()) rects << b->geometry();
-    rects << title->moreButton()->geometry() << title->backButton()->geometry();
-    const QRect below(0, title->toolbar()->height(), screen.width(),
-                      screen.height() - title->toolbar()->height());
-    for (int i = 0; i < rects.size(); ++i) {
-        QVERIFY2(below.contains(rects[i]), qPrintable(QString("clipped %1").arg(i)));
-        for (int j = i + 1; j < rects.size(); ++j) QVERIFY(!rects[i].intersects(rects[j]));
-    }
-    title->showBack();
-    Shot(title,
-         QString("title-preset%1-%2x%3").arg(preset).arg(screen.width()).arg(screen.height()));
-}
-
 void TitleTest::splashSkipsToTitle() {
     ShellFixture fx;
     auto* splash = OpenScreen("BlackBack");
@@ -200,13 +126,6 @@ void TitleTest::splashSkipsToTitle() {
 }
 
 void TitleTest::pickRoutesByGame() {
-    QCOMPARE(TitleRoute("Quiz"), "QuizOptions");
-    QCOMPARE(TitleRoute("Flash Cards"), "FlashCardOptions");
-    for (auto g : {"Blind Tiles", "Crossword", "Word Maze", "Jailbreak", "BreakThru"})
-        QCOMPARE(TitleRoute(g), "ChooseList");
-    QCOMPARE(TitleRoute("Scramble"), "GameOptions");
-    QCOMPARE(TitleRoute("HangMan"), "GameOptions");
-
     ShellFixture fx;
     auto* title = qobject_cast<Title*>(OpenScreen("Title"));
     title->pick(0);  // Flying Cow goes on to its options
@@ -246,26 +165,6 @@ void TitleTest::highScoresBrowseTheShownGames() {
         if (a->text() == "High Scores") a->trigger();
     QCOMPARE(seen, (QStringList{"Flying Cow", "Flying Cow", "Word Zap", "Pachinko"}));
     QCOMPARE(QString::fromStdString(Shared().CurrentGame), "Title");
-}
-
-void TitleTest::programInfoShowsNameAndVersion() {
-    ShellFixture fx;
-    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
-    bool seen = false;
-    SetModalHook([&](QDialog& d) {
-        auto* about = qobject_cast<AboutForm*>(&d);
-        QVERIFY(about);
-        QCOMPARE(about->windowTitle(), "Wordmere");
-        QCOMPARE(about->findChild<QLabel*>("Version")->text(), "Version 1.01");
-        Shot(about, "about");
-        about->findChild<QPushButton*>("OK")->click();
-        seen = true;
-    });
-    for (QAction* a : title->toolbar()->actions()) {
-        if (a->text() == "Program Info") a->trigger();
-        if (a->text() == "Teacher Management") QVERIFY(!a->isEnabled());
-    }
-    QVERIFY(seen);
 }
 
 QTEST_MAIN(TitleTest)

@@ -7,7 +7,6 @@
 #include <QtTest>
 
 #include "core/category_file.h"
-#include "shell/fl_form.h"
 #include "teacher/build_list_form.h"
 #include "teacher/create_list.h"
 #include "teacher/delete_list.h"
@@ -56,7 +55,6 @@ private slots:
     void deleteCleansCategoriesUnlessLocked();
     void mergeWordsOnlyWithNormal();
     void buildFromTwoLists();
-    void paletteTargets();
 };
 
 void TeacherListsTest::createListRefusals_data() {
@@ -340,49 +338,6 @@ void TeacherListsTest::buildFromTwoLists() {
     QVERIFY(f.dialogs.saw(
         "The list name you typed already exists. Please choose another name for your new list."));
     QVERIFY(f.lists().endsWith(f.crlf({"<New List>", "Mix", "cat", "a pet", "owl", "wise"})));
-}
-
-void TeacherListsTest::paletteTargets() {
-    TeacherFixture f(kTwoLists);
-    // Cell 42 holds code 233, cell 50 code 241.
-    auto pick = [&](int cell, int button, QString* game) {
-        f.then<FLForm>([=](FLForm& p) {
-            *game = QString::fromStdString(Shared().CurrentGame);
-            p.pickCell(cell);
-            p.insert(button);
-        });
-    };
-    QString game;
-    MakeNewList* m = startList(f, "Verbs", false, "S");
-    m->word()->setText("cafe");
-    m->meaning()->setText("mana");
-    m->meaning()->setCursorPosition(2);
-    pick(50, 1, &game);
-    m->foreign();
-    QCOMPARE(game, "create");
-    QCOMPARE(m->meaning()->text(), QString("ma") + QChar(241) + "na");
-    pick(42, 0, &game);
-    m->foreign();
-    QCOMPARE(m->word()->text(), QString("cafe") + QChar(233));
-
-    Shared().WordsOnly = kFalse;
-    WordBox add(WordBox::Add);
-    pick(42, 1, &game);
-    add.foreign();
-    QCOMPARE(game, "addword");
-    QCOMPARE(add.meaning()->text(), QString(QChar(233)));
-    Shared().TheWord = "nino";
-    Shared().TheMeaning = "child";
-    WordBox edit(WordBox::Edit);
-    edit.word()->setCursorPosition(2);
-    pick(50, 0, &game);
-    edit.foreign();
-    QCOMPARE(game, "editword");
-    QCOMPARE(edit.word()->text(), QString("ni") + QChar(241) + "no");
-    // An empty cell inserts nothing.
-    pick(80, 0, &game);
-    edit.foreign();
-    QCOMPARE(edit.word()->text(), QString("ni") + QChar(241) + "no");
 }
 
 QTEST_MAIN(TeacherListsTest)

@@ -57,7 +57,6 @@ private slots:
     void categoriesCancelAndCloseBoxLeaveTheFile();
     void lockHeldByAnotherProcess();
     void visibilityCountsFromTheNextStart();
-    void gamesNotInThisBuildAreNotOfferedAndKeepTheirState();
     void soundDefaultCountsFromTheNextStart();
 };
 
@@ -203,41 +202,4 @@ void TeacherOptionsTest::soundDefaultCountsFromTheNextStart() {
 }
 
 QTEST_MAIN(TeacherOptionsTest)
-void TeacherOptionsTest::gamesNotInThisBuildAreNotOfferedAndKeepTheirState() {
-    TeacherFixture f;
-    const std::string display = f.path("wmgdisplay.dat").toStdString();
-    DisplaySettings file;
-    std::string unbuilt;  // a game this build has no screen for
-    for (const GameCard& card : Catalogue())
-        if (!card.built() && unbuilt.empty()) unbuilt = card.name;
-    if (unbuilt.empty()) QSKIP("every game of the catalogue has its screen in this build");
-    file.hidden = {unbuilt};
-    WriteDisplaySettings(display, file);
-    OfferOnlyBuiltGames(true);
-    struct Restore {
-        ~Restore() { OfferOnlyBuiltGames(false); }
-    } restore;
-    QStringList built;
-    for (const GameCard& card : Catalogue())
-        if (card.built()) built << toQ(card.name);
-
-    // The title and its score browser: the built games only, in catalogue order.
-    OpenScreen("Title");
-    QVERIFY(built.size() >= 24 && built.size() < Shared().GameCount);
-    QCOMPARE(Shared().VisibleGameCount, built.size());
-    for (int i = 0; i < built.size(); ++i) QCOMPARE(toQ(Shared().VisibleGames[i + 1]), built[i]);
-
-    // The show/hide list offers the same; the others keep what the file says, in their place.
-    EnableDisable e;
-    QCOMPARE(e.games()->count(), built.size());
-    QCOMPARE(e.games()->item(0)->text(), built[0]);
-    e.games()->item(0)->setCheckState(Qt::Unchecked);
-    f.dialogs.answerYes();
-    e.apply();
-    // Both hidden, in catalogue order.
-    std::vector<std::string> hidden{unbuilt, fromQ(built[0])};
-    if (FindCard(hidden[1])->index < FindCard(hidden[0])->index) std::swap(hidden[0], hidden[1]);
-    QCOMPARE(ReadDisplaySettings(display).hidden, hidden);
-}
-
 #include "teacher_options_test.moc"

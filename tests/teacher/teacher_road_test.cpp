@@ -56,7 +56,6 @@ private slots:
     void changePasswordChecks();
     void backupRestoreAndClearScores();
     void linkToAnotherListFile();
-    void managerLooksCalm();
 };
 
 void TeacherRoadTest::wholeRoadFromTheTitle() {
@@ -268,26 +267,6 @@ void TeacherRoadTest::linkToAnotherListFile() {
     f.dialogs.answerYes();
     m.command("Link to Alternate Vocabulary List File");
     QCOMPARE(f.read("wmdata.dat"), settings);
-}
-
-void TeacherRoadTest::managerLooksCalm() {
-    TeacherFixture f;
-    for (QSize size : {QSize(1280, 800), QSize(1920, 1080)}) {
-        ScreenMetrics::overrideScreenSize(size);
-        auto* m = qobject_cast<Manager*>(OpenScreen("Manager", CurrentScreen()));
-        QVERIFY(m);
-        QCOMPARE(m->size(), size);
-        // Every command fits its button.
-        for (QPushButton* b : m->findChildren<QPushButton*>()) {
-            if (!b->isVisible()) continue;
-            QVERIFY2(b->fontMetrics().horizontalAdvance(b->text()) < b->width(),
-                     qPrintable(b->text()));
-        }
-        for (int i = 0; i < 3; ++i) {
-            m->showFrame(i);
-            Shot(m, QString("manager-%1-%2").arg(size.width()).arg(i));
-        }
-    }
 }
 
 QTEST_MAIN(TeacherRoadTest)

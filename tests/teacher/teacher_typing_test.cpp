@@ -77,8 +77,6 @@ private slots:
     void everyBoxPressesItsOkOnEnter();
     void addWordByKeys_data();
     void addWordByKeys();
-    void editWordByKeys();
-    void changePasswordByKeys();
     void newListByKeys();
     void textTheFileCannotHold_data();
     void textTheFileCannotHold();
@@ -162,48 +160,6 @@ void TeacherTypingTest::addWordByKeys() {
     QCOMPARE(f.lists(), f.crlf(file.mid(0, 3) + QStringList{"<New List>", "Animals"} + lines));
 }
 
-void TeacherTypingTest::editWordByKeys() {
-    TeacherFixture f(kLists);
-    EditList* edit = OpenEditor("Animals");
-    edit->select(0);
-    f.then<WordBox>([&](WordBox& box) {
-        QCOMPARE(box.objectName(), "EditWord");
-        QCOMPARE(Focused(&box), box.word());
-        QTest::keyClick(box.word(), Qt::Key_End);
-        Type(&box, "s");
-        Enter(&box);
-        QVERIFY(box.isVisible());
-        QCOMPARE(Focused(&box), box.meaning());
-        box.meaning()->setText("small pets");
-        Enter(&box);
-        QCOMPARE(box.result(), int(QDialog::Accepted));
-    });
-    edit->editWord();
-    QCOMPARE(edit->words()->item(0)->text(), "cats");
-    QCOMPARE(edit->definition(), "small pets");
-}
-
-void TeacherTypingTest::changePasswordByKeys() {
-    TeacherFixture f;
-    ChangePassword box;
-    box.show();
-    QCOMPARE(Focused(&box), box.field(0));
-    Type(&box, "mapleton");
-    Enter(&box);
-    QCOMPARE(Focused(&box), box.field(1));
-    Type(&box, "owl");
-    Enter(&box);
-    QCOMPARE(Focused(&box), box.field(2));
-    QVERIFY(f.dialogs.shown.empty());
-    Type(&box, "owl");
-    Enter(&box);  // the last box: Change Password
-    QVERIFY(f.dialogs.shown.empty());
-    QVERIFY(!box.success()->isHidden());
-    QVERIFY(f.read("wmdata.dat").contains("\r\nowl\r\n"));
-    Enter(&box);  // now Done
-    QCOMPARE(box.result(), int(QDialog::Accepted));
-}
-
 // The new-list screens: the name box takes Enter as OK; the word and definition boxes of the
 // list being made move on and add.
 void TeacherTypingTest::newListByKeys() {
@@ -246,14 +202,14 @@ void TeacherTypingTest::textTheFileCannotHold_data() {
     const QString greek = QString::fromUtf8("Ωmega");
     const QString mixed = QString::fromUtf8("Жук и жаба 😀");
     const QString q = "q" + kAcute;  // no letter q with an acute: it stays two characters
-    for (const char* where : {"new word", "new definition", "add box", "edit box", "new rename",
-                              "edit rename", "create", "category", "merge", "build"}) {
+    for (const char* where :
+         {"new definition", "edit box", "edit rename", "create", "category", "build"}) {
         QTest::newRow(qPrintable(QString(where) + ", greek")) << where << greek << "Ω";
     }
     QTest::newRow("new word, each character once")
         << "new word" << mixed << QString::fromUtf8("Ж у к и ж а б 😀");
     QTest::newRow("link, greek") << "link" << greek << "Ω";
-    QTest::newRow("add box, a lone accent") << "add box" << q << QString(QChar(0x25CC)) + kAcute;
+    QTest::newRow("edit box, a lone accent") << "edit box" << q << QString(QChar(0x25CC)) + kAcute;
 }
 
 // Each place that takes typed text refuses what the file cannot hold, says which characters,
@@ -274,7 +230,7 @@ void TeacherTypingTest::textTheFileCannotHold() {
         QCOMPARE(f.dialogs.last(), message);
         QCOMPARE(m->words()->count(), 0);
         QCOMPARE(Focused(m), where == "new word" ? m->word() : m->meaning());
-    } else if (where == "add box" || where == "edit box") {
+    } else if (where == "edit box") {
         EditList* edit = OpenEditor("Animals");
         edit->select(0);
         f.then<WordBox>([&](WordBox& box) {
@@ -286,25 +242,14 @@ void TeacherTypingTest::textTheFileCannotHold() {
             QCOMPARE(Focused(&box), box.word());
             box.reject();
         });
-        where == "add box" ? edit->addWord() : edit->editWord();
+        edit->editWord();
         QCOMPARE(edit->words()->count(), 2);
         QCOMPARE(edit->words()->item(0)->text(), "cat");
-    } else if (where == "new rename" || where == "edit rename") {
-        QWidget* screen = nullptr;
-        if (where == "new rename") {
-            MakeNewList* m = OpenMaker("Birds");
-            f.dialogs.answerInput(typed);
-            m->renameList();
-            QCOMPARE(m->caption(), "Birds");
-            screen = m;
-        } else {
-            EditList* e = OpenEditor("Animals");
-            f.dialogs.answerInput(typed);
-            e->renameList();
-            QCOMPARE(e->caption(), "Animals");
-            screen = e;
-        }
-        QVERIFY(screen);
+    } else if (where == "edit rename") {
+        EditList* e = OpenEditor("Animals");
+        f.dialogs.answerInput(typed);
+        e->renameList();
+        QCOMPARE(e->caption(), "Animals");
         QCOMPARE(f.dialogs.last(), message);
     } else if (where == "create") {
         CreateList c;
@@ -323,13 +268,6 @@ void TeacherTypingTest::textTheFileCannotHold() {
             c.save();
         }
         QCOMPARE(f.read("folders.dat"), folders);
-    } else if (where == "merge") {
-        MergeForm merge;
-        merge.lists()->selectAll();
-        f.dialogs.answerYes().answerInput(typed);
-        merge.confirm();
-        QCOMPARE(f.dialogs.last(), message);
-        QCOMPARE(merge.result(), int(QDialog::Rejected));
     } else if (where == "link") {
         // A list file in a folder whose name the settings file cannot hold is not linked.
         const QString folder = f.path(typed);
@@ -359,7 +297,7 @@ void TeacherTypingTest::textTheFileCannotHold() {
 }
 
 // "e" followed by a combining acute, as some keyboards send it, is the one byte of "é" in the
-// file: in words, definitions, list names and categories alike.
+// file: in words, definitions and list names alike.
 void TeacherTypingTest::accentTypedApartIsStoredComposed() {
     const QString cafe = "cafe" + kAcute;
     const QString creme = "cre" + QString(QChar(0x0300)) + "me";  // crème
@@ -379,30 +317,6 @@ void TeacherTypingTest::accentTypedApartIsStoredComposed() {
     m->saveAndQuit();
     QCOMPARE(f.lists(), f.crlf(kLists) +
                             QByteArray("<New List>\r\ncaf\xE9\r\ncr\xE8me\r\ncaf\xE9 au lait\r\n"));
-
-    EditList* edit = OpenEditor("Animals");
-    f.then<WordBox>([&](WordBox& box) {
-        box.word()->setText("ve" + kAcute + "lo");
-        box.meaning()->setText("a bike");
-        box.confirm();
-    });
-    edit->addWord();
-    f.dialogs.answerInput("Anim" + QString("a") + QChar(0x0300) + "ux");
-    edit->renameList();
-    f.dialogs.answerYes();
-    edit->saveAndQuit();
-    QVERIFY(
-        f.lists().endsWith("<New List>\r\nAnim\xE0ux\r\ncat\r\na pet\r\ndog\r\na loyal pet\r\n"
-                           "v\xE9lo\r\na bike\r\n"));
-
-    {
-        Categories c;
-        f.dialogs.answerInput(cafe);
-        c.addCategory();
-        f.dialogs.answerYes();
-        c.save();
-    }
-    QCOMPARE(f.read("folders.dat"), QByteArray("^caf\xE9\r\n"));
 }
 
 void TeacherTypingTest::passwordTheFileCannotHold() {
@@ -468,10 +382,6 @@ void TeacherTypingTest::categoryFileNotNamedFoldersDat() {
     }
     QCOMPARE(f.read("cats.dat"), before);
     QVERIFY(!f.exists("cats.lok"));
-    // The kept reading: the .lok name, whatever the file of the path holds.
-    QVERIFY(ReadCategoryLines(Shared().FolderFilePath).empty());
-    f.writeLines("cats.lok", {"^Old"});
-    QCOMPARE(ReadCategoryLines(Shared().FolderFilePath), std::vector<std::string>{"^Old"});
 }
 
 QTEST_MAIN(TeacherTypingTest)

@@ -18,8 +18,6 @@ class HelpPagesTest : public QObject {
 private slots:
     void everyOfferedGameHasItsPageAndNoOtherDoes();
     void everyLinkAndPictureIsFound();
-    void tagsAreClosed();
-    void familiesPlaceEveryCatalogueGame();
 };
 
 namespace {
@@ -95,53 +93,6 @@ void HelpPagesTest::everyLinkAndPictureIsFound() {
         }
     }
     QVERIFY(checked > 100);
-}
-
-void HelpPagesTest::tagsAreClosed() {
-    static const QRegularExpression tag(R"(<(/?)([a-zA-Z][a-zA-Z0-9]*)[^>]*>)");
-    static const QStringList empty{"meta", "link", "img", "br", "hr", "input"};
-    for (const QString& page : AllPages()) {
-        QString html = Read(page);
-        html.remove(QRegularExpression("<!--.*?-->", QRegularExpression::DotMatchesEverythingOption));
-        QStringList open;
-        for (auto m = tag.globalMatch(html); m.hasNext();) {
-            const auto t = m.next();
-            const QString name = t.captured(2).toLower();
-            if (empty.contains(name)) continue;
-            if (t.captured(1).isEmpty()) {
-                open << name;
-                continue;
-            }
-            QVERIFY2(!open.isEmpty() && open.last() == name,
-                     qPrintable(page + ": </" + name + "> closes " + open.value(open.size() - 1)));
-            open.removeLast();
-        }
-        QVERIFY2(open.isEmpty(), qPrintable(page + ": left open " + open.join(",")));
-        QVERIFY(html.startsWith("<!DOCTYPE html>"));
-        QVERIFY(html.contains("name=\"viewport\""));
-    }
-}
-
-void HelpPagesTest::familiesPlaceEveryCatalogueGame() {
-    std::vector<const GameCard*> all;
-    for (const GameCard& card : Catalogue()) all.push_back(&card);
-    const auto families = help::Families(all);
-    QCOMPARE(int(families.size()), 5);
-    QStringList titles;
-    std::size_t placed = 0;
-    for (const auto& f : families) {
-        titles << f.title;
-        placed += f.games.size();
-    }
-    QCOMPARE(titles, (QStringList{"Study", "Puzzles", "Guess the word", "Show and board games",
-                                  "Action games"}));
-    QCOMPARE(placed, std::size_t(42));
-    // Each family holds what it says, alphabetically: a few fixed points.
-    QCOMPARE(toQ(families[0].games.front()->name), "Flash Cards");
-    QCOMPARE(toQ(families[4].games.front()->name), "Asteroid Zap");
-    QCOMPARE(int(families[4].games.size()), 15);
-    QCOMPARE(help::PageName("Bomb Squad 2"), "games/bomb-squad-2.htm");
-    QCOMPARE(help::PageName("Tic-Tac-Toe"), "games/tic-tac-toe.htm");
 }
 
 QTEST_GUILESS_MAIN(HelpPagesTest)

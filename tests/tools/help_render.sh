@@ -1,7 +1,7 @@
 #!/bin/sh
 # Opens the help's index, one game page and the teacher's guide in headless Chromium, as a
 # pupil's browser would: fails on any picture that does not load or any link that leads
-# nowhere, and leaves screenshots (desktop and phone widths) to look at.
+# nowhere, and leaves two screenshots (desktop and phone widths) to look at.
 # usage: help_render.sh HELP_DIR OUT_DIR       (exit 77: skipped, no Chromium here)
 help=$(cd "$1" && pwd)
 out="$2"
@@ -23,31 +23,36 @@ chrome() {  # a fresh profile each run, so that no run meets another's lock
   rm -rf "$profile"
 }
 
-# The page inside a frame of a checking page, which lists every picture that did not load and
-# every link whose target cannot be read.
-check() {  # page
-  name=$(basename "$1" .htm)
-  cat >"$out/check-$name.htm" <<HTML
-<!DOCTYPE html><html><body><pre id="r">not loaded</pre>
-<iframe id="f" src="file://$1" width="1280" height="2000"></iframe>
+# The pages inside frames of one checking page, which lists every picture that did not load and
+# every link whose target cannot be read: one browser start for all of them.
+check() {  # pages...
+  frames=""
+  for page in "$@"; do frames="$frames<iframe src=\"file://$page\" width=\"1280\" height=\"2000\"></iframe>"; done
+  cat >"$out/check.htm" <<HTML
+<!DOCTYPE html><html><body><pre id="r">not loaded</pre>$frames
 <script>
-const f = document.getElementById('f');
-f.onload = () => {
-  const d = f.contentDocument, bad = [];
-  for (const img of d.images)
-    if (!(img.complete && img.naturalWidth > 0)) bad.push('picture ' + img.getAttribute('src'));
-  for (const a of d.querySelectorAll('a[href]')) {
-    const x = new XMLHttpRequest();
-    try { x.open('GET', a.href.split('#')[0], false); x.send(); if (!x.responseText) throw 0; }
-    catch (e) { bad.push('link ' + a.getAttribute('href')); }
+window.onload = () => {
+  const bad = [];
+  let pictures = 0;
+  for (const f of document.querySelectorAll('iframe')) {
+    const d = f.contentDocument;
+    if (!d || !d.body || !d.body.innerHTML) { bad.push('page ' + f.src); continue; }
+    pictures += d.images.length;
+    for (const img of d.images)
+      if (!(img.complete && img.naturalWidth > 0)) bad.push('picture ' + img.getAttribute('src'));
+    for (const a of d.querySelectorAll('a[href]')) {
+      const x = new XMLHttpRequest();
+      try { x.open('GET', a.href.split('#')[0], false); x.send(); if (!x.responseText) throw 0; }
+      catch (e) { bad.push('link ' + a.getAttribute('href')); }
+    }
   }
   document.getElementById('r').textContent = bad.length ? 'BROKEN ' + bad.join(', ')
-      : 'LOADED ' + d.images.length + ' pictures';
+      : 'LOADED ' + pictures + ' pictures';
 };
 </script></body></html>
 HTML
-  result=$(chrome --dump-dom "file://$out/check-$name.htm" | grep -o '<pre id="r">[^<]*' | cut -d'>' -f2)
-  echo "$1: $result"
+  result=$(chrome --dump-dom "file://$out/check.htm" | grep -o '<pre id="r">[^<]*' | cut -d'>' -f2)
+  echo "$*: $result"
   case "$result" in LOADED*) ;; *) status=1 ;; esac
 }
 
@@ -59,10 +64,7 @@ shot() {  # page, png, width, height
   fi
 }
 
-for page in "$help/wmindex.htm" "$game" "$help/teacher.htm"; do check "$page"; done
+check "$help/wmindex.htm" "$game" "$help/teacher.htm"
 shot "$help/wmindex.htm" "$out/help-index-desktop.png" 1280 2400
-shot "$help/wmindex.htm" "$out/help-index-phone.png" 390 1600
-shot "$game" "$out/help-game-desktop.png" 1280 1400
 shot "$game" "$out/help-game-phone.png" 390 1400
-shot "$help/teacher.htm" "$out/help-teacher.png" 1280 1600
 exit $status

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
+#include <QFile>
 #include <QSet>
 
 #include <cmath>
@@ -71,23 +73,8 @@ TEST(WavWriter, HeaderSizesAreExactAtEveryLength) {
         EXPECT_EQ(b.size(), static_cast<int>(44 + 2 * count));
         EXPECT_EQ(readWav(b, QStringLiteral("n=%1").arg(count)), in);
     }
-}
-
-TEST(WavWriter, SamplesRoundTripIncludingExtremes) {
-    const std::vector<std::int16_t> in = {0, 1, -1, 32767, -32768, 256, -256};
-    EXPECT_EQ(readWav(encodeWav(in), "extremes"), in);
-}
-
-TEST(Synth, PartialsAboveNyquistAreLeftOutRatherThanAliased) {
-    Tone plain;
-    plain.length = 0.1;
-    plain.freq = 4000;
-    Tone withHigh = plain;
-    withHigh.partials = {{1, 1}, {3, 0.5}};  // 12 kHz: past the 11 kHz limit at 22050 Hz
-    Synth a(0.1), b(0.1);
-    a.tone(plain);
-    b.tone(withHigh);
-    EXPECT_EQ(a.samples(), b.samples());
+    const std::vector<std::int16_t> extremes = {0, 1, -1, 32767, -32768, 256, -256};
+    EXPECT_EQ(readWav(encodeWav(extremes), "extremes"), extremes);
 }
 
 TEST(Synth, FinishFadesTheEndsAndNormalisesToThePeak) {
@@ -103,12 +90,6 @@ TEST(Synth, FinishFadesTheEndsAndNormalisesToThePeak) {
     EXPECT_NEAR(peak, 16384, 40);
     EXPECT_EQ(out.front(), 0);
     EXPECT_EQ(out.back(), 0);
-}
-
-TEST(Synth, SilenceStaysSilent) {
-    const std::vector<std::int16_t> out = Synth(0.1).finish(0.8);
-    ASSERT_EQ(out.size(), 2205u);
-    for (std::int16_t v : out) ASSERT_EQ(v, 0);
 }
 
 TEST(SoundEffects, EveryEffectIsAWellFormedAudibleWav) {
@@ -148,6 +129,10 @@ TEST(SoundEffects, EveryEffectIsAWellFormedAudibleWav) {
         // Starting or stopping away from zero clicks on the speaker.
         EXPECT_LT(std::abs(s.front()), 500);
         EXPECT_LT(std::abs(s.back()), 500);
+        // The build made its copy in another process: the same bytes, so nothing depends on
+        // the clock, the machine or memory left over.
+        QFile built(QDir(qEnvironmentVariable("WM_TEST_APP_DIR")).filePath(f.path));
+        EXPECT_TRUE(built.open(QIODevice::ReadOnly) && built.readAll() == f.bytes);
     }
     for (const auto& [name, bounds] : expected)
         EXPECT_TRUE(names.contains(name)) << name.toStdString();
