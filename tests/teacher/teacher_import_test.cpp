@@ -455,12 +455,6 @@ void TeacherImportTest::foreignListExportsItsLanguages() {
     f.writeLines("thelists.dat", {"[S]a", "one", "uno", "<New List>", "[S]ab", "two", "dos"});
     QVERIFY(exportKvtml("[S]a", "short.kvtml").contains("<name>Definition</name>"));
     QVERIFY(exportKvtml("ab", "ab.kvtml").contains("<name>Spanish</name><locale>es</locale>"));
-    // A language of the file whose locale is not known is named without one.
-    f.writeLines("flcodelist.dat", {"S", "Spanish - English words, Spanish meanings", "x", "Q",
-                                    "Quenya - English words, Quenya meanings", "y"});
-    const QString quenya = exportKvtml("Quenya", "quenya2.kvtml");
-    QVERIFY2(quenya.contains("<identifierid=\"1\"><name>Quenya</name></identifier>"),
-             qPrintable(quenya));
 }
 
 QTEST_MAIN(TeacherImportTest)

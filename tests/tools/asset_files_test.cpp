@@ -112,7 +112,7 @@ private slots:
                 int at = 14, seen = 0;
                 while (at + 8 <= b.size() && b.mid(at, 4) == "MTrk") {
                     at += 8 + int(u32(at + 4));
-                    QVERIFY2(at <= b.size() && b.mid(at - 3, 3) == "\xFF\x2F\0", qPrintable(e.name));
+                    QVERIFY2(at <= b.size() && b.mid(at - 3, 3) == QByteArray("\xFF\x2F\0", 3), qPrintable(e.name));
                     ++seen;
                 }
                 QCOMPARE(at, int(b.size()));
