@@ -61,6 +61,7 @@ TEST(LanguageCodes, ThreeLinesALanguageAndAnUnfinishedOneDropped) {
     auto codes = ReadLanguageCodes(dir.file("flcodelist.dat"));
     ASSERT_EQ(codes.size(), 2u);
     EXPECT_EQ(codes[1].code, "F");
+    EXPECT_EQ(codes[1].first, "French one");
     EXPECT_EQ(codes[1].second, "French two");
     ASSERT_NE(FindLanguage(codes, "S"), nullptr);
     EXPECT_EQ(FindLanguage(codes, "G"), nullptr);

@@ -127,6 +127,7 @@ TEST(LineFile, RewriteKeepsPermissionsAndGroup) {
     ASSERT_EQ(::stat(path.c_str(), &st), 0);
     EXPECT_EQ(st.st_mode & 07777, 0664u);
     EXPECT_EQ(st.st_gid, group);
+    EXPECT_EQ(st.st_uid, ::geteuid());
     // A read-only file stays read-only for those it was read-only for.
     ASSERT_EQ(::chmod(path.c_str(), 0440), 0);
     AppendLinesAtomic(path, {"more"});

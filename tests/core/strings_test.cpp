@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <ctime>
+
+#include "core/clock.h"
 #include "core/rng.h"
 #include "core/strings.h"
 
@@ -19,6 +22,7 @@ TEST(Strings, MidLeftRightAreOneBasedAndSafe) {
     EXPECT_EQ(Mid("abc", 2, 1), "b");
     EXPECT_EQ(Mid("abc", 9), "");
     EXPECT_EQ(Mid("abc", 0, 2), "ab");
+    EXPECT_EQ(Mid("abc", 2, 0), "");
     EXPECT_EQ(Left("abc", 10), "abc");
     EXPECT_EQ(Right("abc", 2), "bc");
     EXPECT_EQ(Left("abc", -1), "");
@@ -78,6 +82,44 @@ TEST(Strings, CLngRoundsHalfToEven) {
     EXPECT_EQ(CLng(3.5), 4);
     EXPECT_EQ(CLng(0.1234), 0);
     EXPECT_EQ(CLng(1e12), 2147483647);
+}
+
+TEST(Strings, ReplaceTakesEveryMatchAndNothingForAnEmptyPattern) {
+    EXPECT_EQ(Replace("a-b--c", "-", "+"), "a+b++c");
+    EXPECT_EQ(Replace("abc", "", "x"), "abc");
+}
+
+// The scripted generator every rules test leans on: picks, then fallback; and the installed one.
+TEST(Rng, ScriptedRngPicksThenFallsBackAndCanBeInstalled) {
+    ScriptedRng rng(0.25);
+    rng.pick(3, 10).then(0.9);
+    EXPECT_EQ(Int(rng.Rnd() * 10 + 1), 3);
+    EXPECT_DOUBLE_EQ(rng.Rnd(), 0.9);
+    EXPECT_DOUBLE_EQ(rng.Rnd(), 0.25);
+    EXPECT_EQ(rng.draws, 3);
+    SetRng(&rng);
+    EXPECT_DOUBLE_EQ(TheRng().Rnd(), 0.25);
+    SetRng(nullptr);
+    EXPECT_NE(&TheRng(), static_cast<Rng*>(&rng));
+}
+
+// Seconds since midnight, against midnight found another way.
+TEST(Clock, TimerIsSecondsSinceLocalMidnight) {
+    const std::time_t now = std::time(nullptr);
+    std::tm midnight{};
+    localtime_r(&now, &midnight);
+    midnight.tm_hour = midnight.tm_min = midnight.tm_sec = 0;
+    midnight.tm_isdst = -1;
+    const double expected = std::difftime(now, std::mktime(&midnight));
+    if (expected < 5 || expected > 86395) GTEST_SKIP() << "too close to midnight";
+    SystemClock clock;
+    EXPECT_NEAR(clock.Timer(), expected, 1.5);
+    EXPECT_NEAR(clock.Now() * 86400, expected, 1.5);
+    FixedClock fixed(0.25);
+    SetClock(&fixed);
+    EXPECT_EQ(TheClock().Now(), 0.25);
+    SetClock(nullptr);
+    EXPECT_NEAR(TheClock().Timer(), expected, 1.5);
 }
 
 TEST(Rng, SystemRngStaysInRange) {

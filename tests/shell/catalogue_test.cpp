@@ -147,6 +147,69 @@ TEST(Catalogue, WordSearchAndScrambleRelabelTheirOptions) {
     EXPECT_EQ(scramble.easyLabel, "Normal");
 }
 
+TEST(Catalogue, HowToTextsBeginAsGivenAndStayReadable) {
+    const std::map<std::string, std::string> begins = {
+        {"Pachinko", "Answer questions to earn up to five disks"},
+        {"Froggy", "Use the arrow keys on your keyboard to safely guide froggy"},
+        {"Slingshot", "Use the mouse to click on the slingshot"},
+        {"Hang Glider", "Use the up and down arrow keys"},
+        {"Bomb Squad 2", "You are part of a special unit"},
+        {"Bomb Squad", "You are part of a special unit"},
+        {"Tic-Tac-Toe", "Play a game of Tic-Tac-Toe against the computer."},
+        {"Short Circuit", "Connect the light bulb to the battery"},
+        {"Flying Cow", "A twist on the classic HANGMAN game."},
+        {"Mini Golf", "Use the mouse to hit the ball"},
+        {"Princess", "Help the princess cross the drawbridge"},
+        {"Toad Race", "It's a race!"},
+        {"Crossword", "When you click on a box in the puzzle"},
+        {"Blind Tiles", "Blind Tiles is similar to building a crossword puzzle."},
+        {"Code Breaker", "You will be given one of your vocabulary words"},
+        {"Speed Type", "The rules for Speed Type are simple:"},
+        {"Slot Machine", "A definition will appear at the bottom of the screen."},
+        {"Freeze-It", "The word will be revealed to you one letter at a time."},
+        {"Jailbreak", "Break out of jail"},
+        {"Cannon Shot", "You will be given control of a cannon"},
+        {"BreakThru", "On the right side of the screen will be a wall"},
+        {"Word Maze", "Try to make your way from the beginning of the maze"},
+        {"Asteroid Zap", "Your ship has flown into an asteroid field!"},
+        {"Flash Cards", "Flash cards are a great way to learn"},
+        {"Quiz", "You will see a question at the top of the screen"},
+        {"Safe Cracker", "Try to crack the safe!"},
+        {"Word Search", "Use the mouse to highlight the words"},
+        {"HangMan", "Try to guess the vocabulary word!"},
+        {"Scramble", "A scrambled vocabulary word will appear"},
+        {"Concentration", "The classic card game of concentration!"},
+        {"Word Zap", "It's a vocabulary shooting gallery!"},
+        {"Letter Drop", "Using the left and right arrow keys on the keyboard"},
+        {"Tower Assault", "Using only the right and left arrow keys"},
+        {"Spiderwebs", "A definition will appear at the top of the screen."},
+        {"Word Bricks", "Pick up the pieces of broken words"},
+        {"Basketball", "Use the mouse to pick up the ball"},
+        {"Crunch Man", "You will see a definition at the top of the screen."},
+        {"Spell Crush", "You will see four words."},
+        {"Letter Toss", "You will see 2 to 4 definitions"},
+        {"Bridge Out", "The bridge is out!"},
+        {"Wheel of Money", "Welcome to the Wheel of Money game show!"},
+        {"Bug Spray", "A twist on the classic HANGMAN game."},
+    };
+    ASSERT_EQ(begins.size(), static_cast<std::size_t>(kGameCount));
+    std::set<std::string> seen;
+    for (const GameCard& card : Catalogue()) {
+        SCOPED_TRACE(card.name);
+        const std::string& text = card.howTo;
+        ASSERT_TRUE(begins.count(card.name));
+        EXPECT_EQ(text.rfind(begins.at(card.name), 0), 0u);
+        EXPECT_GE(text.size(), 140u);
+        EXPECT_LE(text.size(), 600u);
+        EXPECT_TRUE(seen.insert(text).second) << "shares its text with another game";
+        EXPECT_EQ(text.find("  "), std::string::npos);
+        EXPECT_NE(text.back(), ' ');
+        for (char c : text) {
+            EXPECT_TRUE(c >= 0x20 && c < 0x7f) << "not plain ASCII: " << int(c);
+        }
+    }
+}
+
 TEST(Catalogue, GivenHowToTextsAreWordForWord) {
     // Typos included: these are the games' own texts.
     EXPECT_EQ(Get("Short Circuit").howTo,

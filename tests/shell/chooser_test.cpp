@@ -1,5 +1,6 @@
 // The chooser's box and its hand-over: the order of the lines, foreign lists played either way,
 // and the boundaries of the eligibility table as a pupil meets them.
+#include <QLabel>
 #include <QtTest>
 
 #include "core/line_file.h"
@@ -54,6 +55,7 @@ private slots:
     void countBoundaries();
     void warnIfOptionWithTheOptionOffSaysNothing();
     void lastChoiceMatchingNothingSelectsNothing();
+    void languageNotInTheFileOffersPlainSides();
 };
 
 void ChooserTest::foreignListPlayedThroughTheChooser_data() {
@@ -177,10 +179,21 @@ void ChooserTest::lastChoiceMatchingNothingSelectsNothing() {
     QVERIFY(chooser);
     QVERIFY(chooser->lists()->count() > 0);
     QCOMPARE(chooser->lists()->currentRow(), -1);
+    const QString caption = chooser->findChild<QLabel*>("Caption")->text();
+    QVERIFY2(caption.startsWith("Choose a list: ") && caption.endsWith(" word lists."),
+             qPrintable(caption));
     QVERIFY(!chooser->findChild<QPushButton*>("Command1")->isEnabled());
     chooser->continueOn();
     QCOMPARE(fx.dialogs.texts(), QStringList{"You need to choose a list!"});
     QCOMPARE(CurrentScreen(), chooser);
+}
+
+void ChooserTest::languageNotInTheFileOffersPlainSides() {
+    ShellFixture fx;
+    LangChoose box("X");
+    QCOMPARE(box.Option1->text(), "English words, foreign meanings");
+    QCOMPARE(box.Option2->text(), "Foreign words, English meanings");
+    QCOMPARE(box.findChild<QLabel*>("Label1")->text(), "How do you want to play this word list?");
 }
 
 QTEST_MAIN(ChooserTest)

@@ -37,6 +37,7 @@ private slots:
     void smallFiles_data();
     void smallFiles();
     void previewTakesTheHeadingBack();
+    void separatorsHeadingsAndLanguages();
     void badFilesChangeNothing_data();
     void badFilesChangeNothing();
     void importAppendsThroughTheManager();
@@ -170,6 +171,71 @@ void TeacherImportTest::previewTakesTheHeadingBack() {
     QCOMPARE(f.dialogs.last(), "The list \"Animales\" has been imported with 3 words.");
     QCOMPARE(f.lists(), QByteArray("Animales\r\nSpanish\r\nEnglish\r\nel perro\r\ndog\r\n"
                                    "el gato\r\ncat\r\n"));
+}
+
+// The parser's own tables: separators by count, heading words in the languages lists come in,
+// and the locales an export names.
+void TeacherImportTest::separatorsHeadingsAndLanguages() {
+    const std::pair<QString, QChar> separators[] = {
+        {"a\tb, c\nd\te, f\n", '\t'},
+        {"a;0,5\nb;1,5\nc;2\n", ';'},
+        {"a,b;c\nd,e\nf,g\n", ','},
+        {"\"x;y\",z\n\"p;q\",r\n", ','},
+        {"Unit 3, animals\n\ncat\tchat\ndog\tchien\n", '\t'},
+        {"#separator:tab\n#columns:a,b,c\n# one, two, three\nx;y\nz;w\n", ';'},
+        {"cat\ndog\n", ','},
+        // Only the first 20 lines count: ten and ten, a tie, which goes to the tab.
+        {QString("a;b\n").repeated(10) + QString("a\tb\n").repeated(10) +
+             QString("a;b\n").repeated(5), '\t'}};
+    for (const auto& [text, separator] : separators)
+        QVERIFY2(DetectSeparator(text) == separator, qPrintable(text.left(20)));
+    const auto rows = ParseCsv("a,\"b\r\nc\",\"\"\"\"\r\n\r\nlast,\"x,y\"", ',');
+    QCOMPARE(rows, (QList<QStringList>{{"a", "b\r\nc", "\""}, {"last", "x,y"}}));
+
+    // Every heading word, alone or as a plural, makes a first row a heading; words of a list
+    // and numbered words do not.
+    const QStringList words = QString(
+        "Word Term Front Back Question Answer Vocabulary Vocab Definition Meaning Translation "
+        "Description Spelling Phrase Expression Side Card Prompt Response Clue Language Foreign "
+        "Native Unit Lesson Chapter List Week Column Palabra Significado Definición Traducción "
+        "Mot Sens Définition Traduction Wort Bedeutung Übersetzung Begriff Parola Significato "
+        "Español Inglés Francés Alemán Italiano Français Anglais Allemand Espagnol Italien "
+        "Deutsch Englisch Französisch Spanisch Italienisch Inglese Spagnolo Francese Tedesco "
+        "Welsh").split(' ');
+    for (const QString& w : words) {
+        for (const QString& first : {w + ",Side 2", "Term in the " + w + "s,"}) {
+            const ImportedList l = ParseVocabularyFile((first + "\ncat,a pet\n").toUtf8(), "h.csv");
+            QVERIFY2(l.headingSkipped && l.pairs.value(0).first == "cat", qPrintable(first));
+        }
+    }
+    for (const char* first : {"word1,meaning 1", "1,2", "s,a letter", "Word,a unit of language"}) {
+        const ImportedList l =
+            ParseVocabularyFile(QByteArray(first) + "\ncat,a pet\n", "x.csv");
+        QVERIFY2(!l.headingSkipped && l.pairs.size() == 2, first);
+    }
+    // Up to three leading rows: a title, a subtitle, the headings; the first names the list.
+    const ImportedList three = ParseVocabularyFile(
+        "Unit 3\nAnimals\nWord,Meaning\nWord,Meaning\ncat,a pet\ndog,a loyal pet\n", "t.csv");
+    QCOMPARE(three.headingRows.size(), 3);
+    QCOMPARE(three.pairs.value(0), TextPair("Word", "Meaning"));
+    QCOMPARE(three.suggestedName, "Unit 3");
+
+    QCOMPARE(LanguageName("Spanish - English words, Spanish meanings"), "Spanish");
+    QCOMPARE(LanguageName("  Latin  "), "Latin");
+    QCOMPARE(LanguageName("Serbo-Croatian - words"), "Serbo-Croatian");
+    const QStringList locales = QString(
+        "english en spanish es french fr german de italian it portuguese pt dutch nl latin la "
+        "swedish sv norwegian no danish da finnish fi icelandic is irish ga welsh cy gaelic gd "
+        "catalan ca basque eu galician gl afrikaans af swahili sw indonesian id malay ms "
+        "albanian sq estonian et faroese fo tagalog tl hawaiian haw maori mi esperanto eo "
+        "romanian ro polish pl czech cs hungarian hu turkish tr greek el russian ru chinese zh "
+        "mandarin zh japanese ja korean ko arabic ar hebrew he hindi hi vietnamese vi "
+        "ukrainian uk luxembourgish lb").split(' ');
+    for (int i = 0; i + 1 < locales.size(); i += 2) {
+        QCOMPARE(LocaleOf(locales[i]), locales[i + 1]);
+        QCOMPARE(LocaleOf(locales[i].toUpper()), locales[i + 1]);
+    }
+    for (const char* none : {"Klingon", "", "Span"}) QCOMPARE(LocaleOf(none), QString());
 }
 
 void TeacherImportTest::boxesRefuseAndCancel() {

@@ -5,9 +5,12 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QtTest>
+#include <functional>
+#include <memory>
 
 #include "core/category_file.h"
 #include "teacher/build_list_form.h"
+#include "teacher/categories.h"
 #include "teacher/create_list.h"
 #include "teacher/delete_list.h"
 #include "teacher/make_new_list.h"
@@ -55,6 +58,7 @@ private slots:
     void deleteCleansCategoriesUnlessLocked();
     void mergeWordsOnlyWithNormal();
     void buildFromTwoLists();
+    void captionsAsDesigned();
 };
 
 void TeacherListsTest::createListRefusals_data() {
@@ -277,6 +281,13 @@ void TeacherListsTest::mergeWordsOnlyWithNormal() {
                       "", "<New List>", "[S]Colours", "red", "rojo"});
     MergeForm m;
     QCOMPARE(m.lists()->item(1)->text(), "Animals (2 words)");
+    // Picked by clicks, one list after another, and clicked again to let go.
+    m.show();
+    for (int row : {0, 2, 2}) {
+        const QRect r = m.lists()->visualItemRect(m.lists()->item(row));
+        QTest::mouseClick(m.lists()->viewport(), Qt::LeftButton, {}, r.center());
+    }
+    QCOMPARE(m.lists()->selectedItems().size(), 1);
     m.lists()->item(0)->setSelected(true);
     m.confirm();
     QCOMPARE(f.dialogs.last(), "You must select two or more lists to merge.");
@@ -331,6 +342,12 @@ void TeacherListsTest::buildFromTwoLists() {
         QCOMPARE(f.dialogs.last(),
                  "Choose a word you would like to delete from the new list "
                  "before clicking this button.");
+        b.picked()->setCurrentRow(1);
+        b.deletePicked();
+        QCOMPARE(b.newListCaption(), "New Word List (1):");
+        b.chooseList(rowOf(b.lists(), "Birds"));
+        b.words()->item(0)->setSelected(true);
+        b.addPicked();
         f.dialogs.answerYes();
         b.save();
     });
@@ -338,6 +355,34 @@ void TeacherListsTest::buildFromTwoLists() {
     QVERIFY(f.dialogs.saw(
         "The list name you typed already exists. Please choose another name for your new list."));
     QVERIFY(f.lists().endsWith(f.crlf({"<New List>", "Mix", "cat", "a pet", "owl", "wise"})));
+}
+
+// The boxes' own words, as designed (typos included).
+void TeacherListsTest::captionsAsDesigned() {
+    TeacherFixture f(kTwoLists);
+    const std::vector<std::pair<std::function<QDialog*()>, QStringList>> boxes = {
+        {[] { return new DeleteList; },
+         {"Label1=To Delete A List:",
+          "Label2=Choose the List Name in the Box Below and Click the \"Delete\" Button.",
+          "Sure=Are you sure you want to permenantly delete this list?", "Command1=Delete",
+          "Command2=Finished"}},
+        {[] { return new MergeForm; },
+         {"Label1=Select two or more lists to merge.", "Command1=OK", "Command2=Cancel"}},
+        {[] { return new BuildListForm; },
+         {"Label4=New Word List:", "Command3=Add to List >>>", "Command4=Delete Word",
+          "Command2=Save", "Command1=Cancel"}},
+        {[] { return new Categories; },
+         {"Label2=Categories", "Label3=Word Lists (None Selected)", "Command2=Add New Category",
+          "Command3=Delete Category", "Command1=Save", "Command4=Cancel"}},
+    };
+    for (const auto& [make, captions] : boxes) {
+        std::unique_ptr<QDialog> box(make());
+        for (const QString& c : captions) {
+            QWidget* w = box->findChild<QWidget*>(c.section('=', 0, 0));
+            QVERIFY2(w, qPrintable(c));
+            QCOMPARE(c.section('=', 0, 0) + "=" + w->property("text").toString(), c);
+        }
+    }
 }
 
 QTEST_MAIN(TeacherListsTest)

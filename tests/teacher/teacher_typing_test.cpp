@@ -203,7 +203,7 @@ void TeacherTypingTest::textTheFileCannotHold_data() {
     const QString mixed = QString::fromUtf8("Жук и жаба 😀");
     const QString q = "q" + kAcute;  // no letter q with an acute: it stays two characters
     for (const char* where :
-         {"new definition", "edit box", "edit rename", "create", "category", "build"}) {
+         {"new definition", "edit box", "edit rename", "create", "category", "merge", "build"}) {
         QTest::newRow(qPrintable(QString(where) + ", greek")) << where << greek << "Ω";
     }
     QTest::newRow("new word, each character once")
@@ -268,6 +268,13 @@ void TeacherTypingTest::textTheFileCannotHold() {
             c.save();
         }
         QCOMPARE(f.read("folders.dat"), folders);
+    } else if (where == "merge") {
+        MergeForm merge;
+        merge.lists()->selectAll();
+        f.dialogs.answerYes().answerInput(typed);
+        merge.confirm();
+        QCOMPARE(f.dialogs.last(), message);
+        QCOMPARE(merge.result(), int(QDialog::Rejected));
     } else if (where == "link") {
         // A list file in a folder whose name the settings file cannot hold is not linked.
         const QString folder = f.path(typed);
