@@ -101,14 +101,6 @@ private slots:
                     QCOMPARE(now, sprite.pixel(x, y) | 0xFF000000u);
             }
         }
-        // The mask pass alone: where the mask is black the field goes black, white keeps it.
-        PlayField maskOnly({64, 48});
-        maskOnly.setBackground(back);
-        QImage black(32, 32, QImage::Format_RGB32);
-        black.fill(Qt::black);
-        maskOnly.drawMasked({20, 10}, black, MaskOf(sprite));
-        QCOMPARE(maskOnly.surface().pixel(36, 26), qRgb(0, 0, 0));
-        QCOMPARE(maskOnly.surface().pixel(20, 10), back.pixel(20, 10));
     }
 
     void blockCopiesClipAndOverlap() {

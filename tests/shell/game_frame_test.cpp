@@ -241,27 +241,18 @@ void GameFrameTest::wonGameTextsAndOffers_data() {
     QTest::addColumn<int>("difficulty");
     QTest::addColumn<bool>("onTitle");
     const QString raise = "Would you like to raise the difficulty level a bit?";
-    QTest::newRow("placed, again, raised")
-        << true << false << QList<bool>{true, true}
-        << QStringList{"You got a high score of 1234! Would you like to try again?", raise} << 3
-        << false;
-    QTest::newRow("placed, again, not raised")
-        << true << false << QList<bool>{true, false}
-        << QStringList{"You got a high score of 1234! Would you like to try again?", raise} << 2
-        << false;
-    QTest::newRow("placed, no") << true << false << QList<bool>{false}
-                                << QStringList{"You got a high score of 1234! Would you like to "
-                                               "try again?"}
-                                << 2 << true;
-    QTest::newRow("not placed, again: no offer")
-        << false << false << QList<bool>{true}
-        << QStringList{"Congratulations! You scored 1234! Would you like to try again?"} << 2
-        << false;
-    QTest::newRow("cash total, placed")
-        << true << true << QList<bool>{true, true}
-        << QStringList{"You won a cash and prize total of $1234! Would you like to try again?",
-                       raise}
-        << 3 << false;
+    const QString placed = "You got a high score of 1234! Would you like to try again?";
+    auto row = [](const char* what, bool placed, bool money, QList<bool> answers,
+                  QStringList texts, int difficulty, bool onTitle) {
+        QTest::newRow(what) << placed << money << answers << texts << difficulty << onTitle;
+    };
+    row("placed, again, raised", true, false, {true, true}, {placed, raise}, 3, false);
+    row("placed, again, not raised", true, false, {true, false}, {placed, raise}, 2, false);
+    row("placed, no", true, false, {false}, {placed}, 2, true);
+    row("not placed, again: no offer", false, false, {true},
+        {"Congratulations! You scored 1234! Would you like to try again?"}, 2, false);
+    row("cash total, placed", true, true, {true, true},
+        {"You won a cash and prize total of $1234! Would you like to try again?", raise}, 3, false);
 }
 
 void GameFrameTest::wonGameTextsAndOffers() {

@@ -128,23 +128,6 @@ private slots:
         QVERIFY(!manifestLists("sounds/nothing.wav"));
     }
 
-    // A recipe without its manifest line would silently never be made.
-    void everyRecipeIsListed() {
-        std::vector<ManifestEntry> entries;
-        QVERIFY(readManifest(QDir(sourceAssetsDir()).filePath("manifest.txt"), &entries, nullptr));
-        QSet<QString> sources;
-        for (const ManifestEntry& e : entries) sources.insert(e.source);
-        QDirIterator it(sourceAssetsDir(), {"*.sound", "*.tune", "*.timeline", "*.svg"},
-                        QDir::Files, QDirIterator::Subdirectories);
-        int recipes = 0;
-        while (it.hasNext()) {
-            const QString rel = QDir(sourceAssetsDir()).relativeFilePath(it.next());
-            ++recipes;
-            QVERIFY2(sources.contains(rel), qPrintable(rel + " is not in the manifest"));
-        }
-        QVERIFY(recipes >= 19);
-    }
-
     // Making one group rewrites that group's files and leaves every other file alone.
     void oneGroupTouchesOnlyItsOwnFiles() {
         const QString mid = dir_.filePath("sounds/wmtheme.mid");

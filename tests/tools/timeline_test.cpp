@@ -162,15 +162,6 @@ private slots:
         // A broken file is no film, not a crash.
         write("broken.timeline", "timeline\n");
         QVERIFY(!MakeScene("broken"));
-        // Registered scenes come first.
-        struct Drawn : MovieScene {
-            double duration() const override { return 1; }
-            void paint(QPainter&, const QRectF&, double) override {}
-        };
-        RegisterScene("drawn", [] { return std::make_unique<Drawn>(); });
-        write("drawn.timeline", "timeline duration=99\n");
-        QVERIFY(MakeScene("drawn"));
-        QVERIFY(MakeScene("drawn")->duration() < 99);
         Movie movie;
         QVERIFY(movie.load("lamp"));
         SetTimelineFolder({});
