@@ -13,6 +13,7 @@
 #include "teacher/categories.h"
 #include "teacher/create_list.h"
 #include "teacher/delete_list.h"
+#include "teacher/edit_list.h"
 #include "teacher/make_new_list.h"
 #include "teacher/manager.h"
 #include "teacher/merge_form.h"
@@ -59,6 +60,7 @@ private slots:
     void mergeWordsOnlyWithNormal();
     void buildFromTwoLists();
     void captionsAsDesigned();
+    void editorDeletesTheFirstWord();
 };
 
 void TeacherListsTest::createListRefusals_data() {
@@ -383,6 +385,18 @@ void TeacherListsTest::captionsAsDesigned() {
             QCOMPARE(c.section('=', 0, 0) + "=" + w->property("text").toString(), c);
         }
     }
+}
+
+void TeacherListsTest::editorDeletesTheFirstWord() {
+    TeacherFixture f(kTwoLists);
+    Shared().CurrentListName = "Animals";
+    auto* edit = qobject_cast<EditList*>(OpenScreen("EditList"));
+    QVERIFY(edit);
+    edit->select(0);
+    f.dialogs.answerYes();
+    edit->deleteWord();
+    QCOMPARE(edit->words()->count(), 0);
+    QCOMPARE(edit->totalText(), "Total Words In This List: 0");
 }
 
 QTEST_MAIN(TeacherListsTest)
