@@ -4,7 +4,7 @@
 
 #include "core/clock.h"
 #include "core/score_table.h"
-#include "game_road.h"
+#include "game_start.h"
 #include "games/guess/speedtype/speedtype_screen.h"
 
 using namespace wm;
@@ -22,7 +22,7 @@ namespace {
 constexpr double kSecond = 1.0 / 86400;
 
 QString text(QWidget* game, const char* name) {
-    return game->findChild<QLabel*>(name)->text();
+    return LabelText(game, name);
 }
 
 // Waits out Ready... and Set... on the test clock.
@@ -58,20 +58,17 @@ void SpeedTypeScreenTest::winsRankSmallestFirst() {
     // Keys before the go are lost.
     QTest::keyClicks(game, "ca");
     QCOMPARE(game->round().Typed, "");
-    Shot(game, "speedtype-ready");
     toGo(game);
     QVERIFY(fx.sound.played.contains("ricochet.wav"));
     QTest::keyClicks(game, "cax");
     QTest::keyClick(game, Qt::Key_Backspace);
     QTest::keyClicks(game, "t");
     QCOMPARE(text(game, "Label3"), "CAT");
-    Shot(game, "speedtype-typing");
     clock.now += 2 * kSecond;
     QString figures;
     fx.dialogs.otherwiseYes = [&](const QString&) {
         figures = text(game, "MLabel") + ":" + text(game, "SLabel") + "." + text(game, "SDLabel");
         fx.dialogs.otherwiseYes = {};
-        Shot(game, "speedtype-time");
         return true;
     };
     QTest::keyClick(game, Qt::Key_Return);
@@ -113,14 +110,7 @@ void SpeedTypeScreenTest::lossesAndThePalette() {
     SetClock(&clock);
     WriteOneList(fx, "French", {{"caf\xE9", "coffee"}});
     WinDriver driver;
-    SetModalHook([&](QDialog& d) {
-        if (auto* fl = qobject_cast<FLForm*>(&d)) {
-            fl->pickCell(0xE9 - 191);
-            fl->insert(0);
-            return;
-        }
-        driver(d);
-    });
+    SetModalHook(PaletteThen(0xE9, driver));
     auto* game =
         qobject_cast<SpeedType*>(ContinueWithList(ChooserFor("Speed Type", 1, false), "French"));
     QVERIFY(game);

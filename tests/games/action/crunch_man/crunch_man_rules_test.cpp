@@ -3,23 +3,12 @@
 // mines, the two deaths and the word choice.
 #include <gtest/gtest.h>
 
-#include <random>
-
 #include "games/action/crunch_man/crunch_man_rules.h"
 
 using namespace wm;
 using namespace wm::crunch;
 
 namespace {
-
-class SequenceRng : public Rng {
-public:
-    double Rnd() override { return std::uniform_real_distribution<double>(0, 1)(engine_); }
-    void Randomize() override {}
-
-private:
-    std::mt19937 engine_{7};
-};
 
 // A field written as rows of cells from the top row: '.' empty, '*' a mine, a letter a label.
 // Labels are numbered in reading order; the mouth stands centred in cell (col, row).
@@ -222,12 +211,12 @@ TEST(CrunchManSetup, PlacesLettersOffTheMiddleRowAndMinesOffLetters) {
     EXPECT_EQ(r.mineY[2], 67 + (60 - 47) / 2 + 600);
     EXPECT_TRUE(r.mineCell[4][2]);
 
+    // Difficulty 1 draws no mines at all.
     s.Difficulty = 1;
-    s.WordCount = 1;
-    s.Words[1] = "otter";
-    SequenceRng plain;
-    ASSERT_TRUE(setupRound(s, r, Field{}, plain).ready);
+    rng.pick(2, 2).then(0.0).then(0.0).then(0.05).then(0.0).then(0.1).then(0.0).then(0.15).then(0.0);
+    ASSERT_TRUE(setupRound(s, r, Field{}, rng).ready);
     EXPECT_EQ(r.mineCount, 0);
+    EXPECT_EQ(rng.pending(), 0u);
 }
 
 TEST(CrunchManSetup, OnlyLongWordsAreRefusedAfterBoundedDraws) {

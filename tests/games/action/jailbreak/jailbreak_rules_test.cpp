@@ -135,12 +135,6 @@ TEST(JailbreakDraw, TheLevelIsTheNumberOfLocks) {
                                                                 {6, 6}, {7, 6}}) {
         EXPECT_EQ(locksFor(level), locks) << level;
     }
-    SharedState s = List(kEight, 6);
-    ScriptedRng rng;
-    for (int k : {8, 7, 6, 5, 4, 3}) rng.pick(k, 8);
-    Jail j;
-    ASSERT_TRUE(newGame(s, j, rng));
-    EXPECT_EQ(Entries(j), (std::vector<int>{8, 7, 6, 5, 4, 3}));
 }
 
 TEST(JailbreakPlay, TypedWordsOpenLocksAndMistakesCost) {
@@ -184,20 +178,11 @@ TEST(JailbreakPlay, OpeningTheSelectedLockMovesTheSelectionOn) {
     Jail j;
     ASSERT_TRUE(newGame(s, j, rng));
     select(j, 2);
-    EXPECT_EQ(j.selected, 2);
     typeWord(s, j, "river");  // not the selected one: it stays
     EXPECT_EQ(j.selected, 2);
-    select(j, 1);  // open: not selectable
+    for (int open_or_out : {1, 3, -1}) select(j, open_or_out);  // none of these is selectable
     EXPECT_EQ(j.selected, 2);
-    select(j, 3);  // out of range
-    EXPECT_EQ(j.selected, 2);
-    select(j, -1);
-    EXPECT_EQ(j.selected, 2);
-    select(j, 0);
-    EXPECT_EQ(j.selected, 0);
-    select(j, 2);
     s.TheWord.clear();
-    s.TheMeaning.clear();
     EXPECT_EQ(typeWord(s, j, "cloud").result, Result::Opened);
     EXPECT_EQ(j.selected, 0);
     EXPECT_EQ(s.TheWord, "apple");

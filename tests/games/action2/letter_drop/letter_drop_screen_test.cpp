@@ -55,9 +55,8 @@ void LetterDropScreenTest::steerEveryLetterHomeToTheTable() {
     auto* game = qobject_cast<LetterFall*>(PlayFromTitle("Letter Drop", "Night", 90));
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump();
-    QCOMPARE(fx.dialogs.last(), QString(kReady));
+    QCOMPARE(fx.dialogs.last(), "Click <OK> when you are ready to begin");
     QCOMPARE(game->definition()->text(), QString("Definition:  a bird that hunts at night"));
-    QVERIFY(game->definition()->isVisible() == (Shared().GameOptionOn != 0));
     QCOMPARE(game->scoreLabel()->text(), QString("Score: 0"));
     QCOMPARE(game->game().word(), std::string("OWL"));
     for (int i = 0; i < kTiles; ++i) QCOMPARE(game->tile(i)->isVisible(), i < 3);
@@ -90,9 +89,6 @@ void LetterDropScreenTest::steerEveryLetterHomeToTheTable() {
     QVERIFY(colours.contains("#ff8080"));
     QCOMPARE(game->tile(1)->property("back").toString(), QString("#c0c0ff"));
     Shot(game, "letter-drop-1280");
-    game->resize(1920, 1080);
-    Shot(game, "letter-drop-1920");
-    game->resize(1280, 800);
 
     WinDriver driver({"OWL"});
     SetModalHook(std::ref(driver));
@@ -121,7 +117,8 @@ void LetterDropScreenTest::longWordsAreRefused() {
         {{"antidisestablishment", "a long word"}, {"supercalifragilistic", "another long word"}});
     PlayFromTitle("Letter Drop", "Long", 90);
     Pump();
-    QVERIFY(fx.dialogs.saw(kTooLong));
+    QVERIFY(fx.dialogs.saw("The words on this vocabulary list are too long for this game. Please "
+                           "choose another list or another game."));
     Pump();
     QVERIFY(Showing<Title>());
 }
