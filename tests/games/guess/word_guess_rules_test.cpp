@@ -26,6 +26,14 @@ SharedState listOf(std::vector<std::string> words, int difficulty = 2) {
     return s;
 }
 
+GuessRound started(const std::string& word) {
+    SharedState s = listOf({word});
+    ScriptedRng rng;
+    GuessRound r;
+    startRound(s, r, rng);
+    return r;
+}
+
 std::string shown(const GuessRound& r) {
     std::string out;
     for (const Box& b : r.boxes) out += !b.visible ? "_" : b.letter.empty() ? "." : b.letter;
@@ -37,87 +45,63 @@ std::string shown(const GuessRound& r) {
 TEST(WordGuess, RoundPicksWordAndStakesLengthTimesDifficulty) {
     SharedState s = listOf({"cat", "giraffe", "ox"}, 3);
     ScriptedRng rng;
-    rng.pick(2, 3).pick(7, 1000);  // the word, then the stake's draw
+    rng.pick(3, 3).pick(7, 1000);  // the last word may be drawn; then the stake's draw
     GuessRound r;
     startRound(s, r, rng);
     EXPECT_EQ(rng.randomizeCount, 1);
-    EXPECT_EQ(r.PickedIndex, 2);
-    EXPECT_EQ(s.TheWord, "giraffe");
-    EXPECT_DOUBLE_EQ(s.Score, 7.0 * 3 * 7);
-    EXPECT_EQ(shown(r), ".......");
+    EXPECT_EQ(s.TheWord, "ox");
+    EXPECT_DOUBLE_EQ(s.Score, 7.0 * 3 * 2);
     // Nothing of the round before is carried.
     r.UsedLetters = "X ";
     r.Misses = 4;
     rng.pick(2, 3).pick(1, 1000);
     startRound(s, r, rng);
+    EXPECT_EQ(r.PickedIndex, 2);
     EXPECT_EQ(r.Misses, 0);
     EXPECT_EQ(r.UsedLetters, "");
+    EXPECT_EQ(shown(r), ".......");
     EXPECT_DOUBLE_EQ(s.Score, 1.0 * 3 * 7);
 }
 
-TEST(WordGuess, BlanksHyphensAndApostrophes) {
-    SharedState s = listOf({"ice-cream man's"});
-    ScriptedRng rng;
-    GuessRound r;
-    startRound(s, r, rng);
+TEST(WordGuess, KeysOnBlanksHyphensRepeatsAndAccents) {
+    GuessRound r = started("ice-cream man's");
     EXPECT_EQ(shown(r), "...-....._...'.");
     // A hyphen stands from the start: pressing it is a miss; blank and apostrophe are no guess.
     EXPECT_EQ(pressKey(r, '-'), KeyResult::Miss);
-    EXPECT_EQ(pressKey(r, ' '), KeyResult::Ignored);
-    EXPECT_EQ(pressKey(r, '\''), KeyResult::Ignored);
-    EXPECT_EQ(pressKey(r, 0), KeyResult::Ignored);
-    EXPECT_EQ(r.UsedLetters, "- ");
-    for (char c : std::string("icermna")) EXPECT_EQ(pressKey(r, c), KeyResult::Hit) << c;
-    // The word is complete without its blank.
-    EXPECT_EQ(pressKey(r, 'S'), KeyResult::Won);
-    EXPECT_EQ(shown(r), "ice-cream_man's");
-}
+    for (char c : {' ', '\'', '\0'}) EXPECT_EQ(pressKey(r, c), KeyResult::Ignored) << int(c);
+    EXPECT_EQ(pressKey(r, '7'), KeyResult::Miss);  // a digit is a guess like a letter
+    EXPECT_EQ(pressKey(r, 'I'), KeyResult::Hit);
+    EXPECT_EQ(pressKey(r, 'i'), KeyResult::Repeat);  // either case: no penalty
+    EXPECT_EQ(pressKey(r, '-'), KeyResult::Repeat);
+    EXPECT_EQ(r.UsedLetters, "- 7 i ");
+    for (char c : std::string("cermna")) EXPECT_EQ(pressKey(r, c), KeyResult::Hit) << c;
+    EXPECT_EQ(pressKey(r, 'S'), KeyResult::Won);  // complete without its blank
+    EXPECT_EQ(shown(r), "ice-cream_man's");       // the boxes keep the word's case
 
-TEST(WordGuess, RepeatsInEitherCaseCostNothingAndBoxesKeepTheWordsCase) {
-    SharedState s = listOf({"Anna"});
-    ScriptedRng rng;
-    GuessRound r;
-    startRound(s, r, rng);
-    EXPECT_EQ(pressKey(r, 'a'), KeyResult::Hit);
-    EXPECT_EQ(shown(r), "A..a");
-    EXPECT_EQ(pressKey(r, 'A'), KeyResult::Repeat);
-    EXPECT_EQ(pressKey(r, 'z'), KeyResult::Miss);
-    EXPECT_EQ(pressKey(r, 'Z'), KeyResult::Repeat);
-    // Digits and punctuation are guesses like letters; a wrong one counts.
-    EXPECT_EQ(pressKey(r, '7'), KeyResult::Miss);
-    EXPECT_EQ(r.UsedLetters, "a z 7 ");
-    EXPECT_EQ(pressKey(r, 'N'), KeyResult::Won);
-}
-
-TEST(WordGuess, AccentedLettersFromThePaletteMatchEitherCase) {
     // Windows-1252: 0xE9 is e acute, 0xC9 its capital.
-    SharedState s = listOf({"caf\xE9"});
-    ScriptedRng rng;
-    GuessRound r;
-    startRound(s, r, rng);
-    EXPECT_EQ(pressKey(r, 'e'), KeyResult::Miss);
-    EXPECT_EQ(pressKey(r, '\xC9'), KeyResult::Hit);
-    EXPECT_EQ(r.boxes[3].letter, "\xE9");
-    EXPECT_EQ(pressKey(r, '\xE9'), KeyResult::Repeat);
+    GuessRound cafe = started("Caf\xE9");
+    EXPECT_EQ(pressKey(cafe, 'e'), KeyResult::Miss);
+    EXPECT_EQ(pressKey(cafe, '\xC9'), KeyResult::Hit);
+    EXPECT_EQ(cafe.boxes[3].letter, "\xE9");
+    EXPECT_EQ(pressKey(cafe, '\xE9'), KeyResult::Repeat);
+    EXPECT_EQ(pressKey(cafe, 'c'), KeyResult::Hit);
+    EXPECT_EQ(shown(cafe), "C..\xE9");
 }
 
 TEST(WordGuess, HintCostsARandomPartAndCanGoBelowZero) {
     SharedState s = listOf({"owl"});
-    ScriptedRng rng;
-    GuessRound r;
-    startRound(s, r, rng);
-    EXPECT_EQ(hintText(s, r), "Definition: \"meaning of owl\"");
-    s.Score = 100;
-    rng.then(0.999);  // Int(0.999 * 100 + 1) = 100: all of it
-    payForHint(s, rng);
-    EXPECT_DOUBLE_EQ(s.Score, 0);
-    rng.then(0.5);  // at 0 the draw is 1
-    payForHint(s, rng);
-    EXPECT_DOUBLE_EQ(s.Score, -1);
-    s.Score = 10;
-    rng.then(0.0);
-    payForHint(s, rng);
-    EXPECT_DOUBLE_EQ(s.Score, 9);
+    EXPECT_EQ(hintText(s, started("owl")), "Definition: \"meaning of owl\"");
+    struct Row {
+        double score, rnd, after;
+    };
+    // Int(Rnd x Score + 1) off the score; at 0 the draw is 1.
+    for (const Row r : {Row{100, 0.999, 0}, Row{0, 0.5, -1}, Row{10, 0.0, 9}, Row{10, 0.55, 4}}) {
+        ScriptedRng rng;
+        rng.then(r.rnd);
+        s.Score = r.score;
+        payForHint(s, rng);
+        EXPECT_DOUBLE_EQ(s.Score, r.after) << r.score << " " << r.rnd;
+    }
 }
 
 TEST(WordGuess, SolveIgnoresCaseAndOuterBlanksButNotInnerOnes) {
@@ -168,14 +152,10 @@ TEST(HangmanSteps, ClipsByDifficultyAndTheLastStep) {
         bool lost;
     };
     for (const Case& c : std::vector<Case>{
-             {1, 1, "hang1", false},
              {1, 13, "hang13", false},
              {1, 14, "hang14,hangend", true},
-             {2, 1, "hang1,hang2", false},
              {2, 2, "hang3,hang4,hang5", false},
-             {2, 9, "hang12,hang13", false},
              {2, 10, "hang14,hangend", true},
-             {3, 4, "hang7,hang8,hang9,hang10", false},
              {3, 5, "hang11,hang12,hang13", false},
              {3, 6, "hang14,hangend", true},  // the sixth miss ends the hardest level
              {3, 7, "", false},               // no step past the end
@@ -210,13 +190,11 @@ TEST(BugSpraySteps, GroupsByDifficultyWithTheReusedBugClips) {
              {1, 10, "spray10+bug4", false},  // reused on purpose
              {1, 13, "spray13+bug9", false},
              {1, 14, "spray14+bug14", true},
-             {2, 1, "spray1+bug1,spray2", false},
              {2, 2, "spray3+bug2,spray4,spray5", false},
              {2, 9, "spray12+bug9,spray13", false},
              {2, 10, "spray14+bug14", true},
              {3, 1, "spray1+bug1,spray2+bug2", false},
              {3, 4, "spray7+bug5,spray8+bug6,spray9,spray10+bug7", false},
-             {3, 5, "spray11+bug8,spray12+bug9,spray13", false},
              {3, 6, "spray14+bug14", true},
              {3, 7, "", false},
          }) {
@@ -250,7 +228,6 @@ TEST(SpeedType, ReadySetGoThenStop) {
     SpeedRound r;
     newWord(s, r, rng);
     EXPECT_EQ(r.call, "Ready...");
-    EXPECT_TRUE(r.WaitingForGo);
     EXPECT_EQ(pressKey(r, s.TheWord, KeyKind::Char, 'a'), Key::Ignored);
     EXPECT_EQ(tick(r, 0.25), Tick::Set);
     EXPECT_EQ(r.call, "Set...");
@@ -259,7 +236,6 @@ TEST(SpeedType, ReadySetGoThenStop) {
     EXPECT_FALSE(r.WaitingForGo);
     EXPECT_DOUBLE_EQ(r.StartTime, 0.5);
     EXPECT_EQ(tick(r, 0.75), Tick::Stop);
-    EXPECT_EQ(r.Typed, "");
 }
 
 TEST(SpeedType, TypingBackspaceAndEnter) {
@@ -279,7 +255,7 @@ TEST(SpeedType, TypingBackspaceAndEnter) {
     EXPECT_FALSE(r.WordWasRight);
 }
 
-TEST(SpeedType, FiguresAreCutFromTheTextOfT) {
+TEST(SpeedType, FiguresAndTheTimePerLetterAreCutFromTheirTexts) {
     struct Case {
         double t;
         const char *m, *s, *sd;
@@ -292,20 +268,15 @@ TEST(SpeedType, FiguresAreCutFromTheTextOfT) {
              {75.5, "01", "15", "5"},
          }) {
         auto f = figures(c.t);
-        EXPECT_EQ(f.minutes, c.m) << c.t;
-        EXPECT_EQ(f.seconds, c.s) << c.t;
-        EXPECT_EQ(f.decimals, c.sd) << c.t;
+        EXPECT_EQ(f.minutes + ":" + f.seconds + "." + f.decimals,
+                  std::string(c.m) + ":" + c.s + "." + c.sd)
+            << c.t;
     }
-}
-
-TEST(SpeedType, TimePerLetterIsCutToSixCharacters) {
     SpeedRound r;
-    r.StartTime = 0.5;
-    r.EndTime = 0.5;
+    r.StartTime = r.EndTime = 0.5;
     EXPECT_EQ(timePerLetter(elapsed(r), "cat"), "0");  // same clock second: a score of 0
     // Two seconds of a 100000-a-day clock over four letters: 0.5787037...
     EXPECT_EQ(timePerLetter(2.0 / 86400 * 100000, "fish"), "0.5787");
-    EXPECT_EQ(timePerLetter(20.0, "ab"), "10");
     EXPECT_EQ(timePerLetter(25.0, "ab"), "12.5");
     EXPECT_EQ(timePerLetter(123.4567, "a"), "123.45");
     EXPECT_EQ(wonText("0.5787"),

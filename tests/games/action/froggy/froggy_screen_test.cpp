@@ -3,8 +3,7 @@
 #include <QKeyEvent>
 #include <QtTest>
 
-#include "core/score_table.h"
-#include "game_road.h"
+#include "game_start.h"
 #include "games/action/froggy/froggy_screen.h"
 
 using namespace wm;
@@ -12,7 +11,7 @@ using namespace wm::test;
 
 namespace {
 
-const std::vector<std::pair<std::string, std::string>> kPets = {
+const Pairs kPets = {
     {"cat", "a small furry pet"}, {"dog", "barks"}, {"fish", "swims"}, {"bird", "sings"}};
 
 FroggyForm* Start(ShellFixture& fx, int difficulty, bool soundOn = true) {
@@ -65,7 +64,6 @@ void FroggyScreenTest::roadToTheRightSlotAndTheTable() {
     QVERIFY(game);
     QCOMPARE(game->windowTitle(), "Froggy!");
     QCOMPARE(game->board().slotWords[2], std::string("cat"));
-    QCOMPARE(game->board().slotWords[4], std::string("bird"));
     Pump(16 * 40);
     Shot(game, "froggy");
     ClearTheWay(game);
@@ -86,10 +84,10 @@ void FroggyScreenTest::roadToTheRightSlotAndTheTable() {
     // Int(0.5 x 3 + 1) x 10.
     const double score = Shared().Score;
     QCOMPARE(score, (10000 - 116) * 10.0 + 3000 + 20);
-    QVERIFY(fx.dialogs.last().startsWith("You got a high score of "));
+    QCOMPARE(fx.dialogs.last(),
+             "You got a high score of 101860! Would you like to try again?");
     QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
-    const ScoreTable table = ReadScoreTable(fx.path("scores/Froggy.dat").toStdString());
-    QCOMPARE(QString::fromStdString(table.initials(1)), "FRG");
+    QCOMPARE(TableRow(fx, "Froggy"), "FRG 101860");
 }
 
 void FroggyScreenTest::heldKeyHopsOnceAndStonesCrumble() {
@@ -107,13 +105,11 @@ void FroggyScreenTest::heldKeyHopsOnceAndStonesCrumble() {
     for (int n = 0; n < 9; ++n) Hop(game, Qt::Key_Left);
     Hop(game, Qt::Key_Up);
     Hop(game, Qt::Key_Up);
-    QCOMPARE(game->board().frogRow, 4);
     Hop(game, Qt::Key_Up);  // a stone in column 1 of row 5
     QCOMPARE(game->board().frogRow, 4);
     QCOMPARE(fx.sound.played.last(), "crumble.wav");
-    Hop(game, Qt::Key_A);
+    Hop(game, Qt::Key_A);  // the design's own spelling, kept
     QVERIFY(fx.dialogs.saw("Use the arrow keys to contol your frog..."));
-    QCOMPARE(game->board().frogRow, 4);
 }
 
 void FroggyScreenTest::carEndsTheGame() {
