@@ -7,27 +7,16 @@
 #include "games/guess/common/word_guess.h"
 #include "games/guess/hangman/hangman_rules.h"
 #include "games/guess/speedtype/speedtype_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::guess;
+using wm::test::ListOf;
 
 namespace {
 
-SharedState listOf(std::vector<std::string> words, int difficulty = 2) {
-    SharedState s;
-    s.Words = {""};
-    s.Meanings = {""};
-    for (auto& w : words) {
-        s.Words.push_back(w);
-        s.Meanings.push_back("meaning of " + w);
-    }
-    s.WordCount = static_cast<short>(words.size());
-    s.Difficulty = difficulty;
-    return s;
-}
-
 GuessRound started(const std::string& word) {
-    SharedState s = listOf({word});
+    SharedState s = ListOf({word}, 2);
     ScriptedRng rng;
     GuessRound r;
     startRound(s, r, rng);
@@ -43,7 +32,7 @@ std::string shown(const GuessRound& r) {
 }  // namespace
 
 TEST(WordGuess, RoundPicksWordAndStakesLengthTimesDifficulty) {
-    SharedState s = listOf({"cat", "giraffe", "ox"}, 3);
+    SharedState s = ListOf({"cat", "giraffe", "ox"}, 3);
     ScriptedRng rng;
     rng.pick(3, 3).pick(7, 1000);  // the last word may be drawn; then the stake's draw
     GuessRound r;
@@ -89,7 +78,7 @@ TEST(WordGuess, KeysOnBlanksHyphensRepeatsAndAccents) {
 }
 
 TEST(WordGuess, HintCostsARandomPartAndCanGoBelowZero) {
-    SharedState s = listOf({"owl"});
+    SharedState s = ListOf({"owl"}, 2);
     EXPECT_EQ(hintText(s, started("owl")), "Definition: \"meaning of owl\"");
     struct Row {
         double score, rnd, after;
@@ -223,7 +212,7 @@ TEST(BugSpraySteps, Sounds) {
 using namespace wm::speedtype;
 
 TEST(SpeedType, ReadySetGoThenStop) {
-    SharedState s = listOf({"a rather long word indeed"});
+    SharedState s = ListOf({"a rather long word indeed"}, 2);
     ScriptedRng rng;
     SpeedRound r;
     newWord(s, r, rng);

@@ -1,9 +1,9 @@
 // Letter Drop on its screen: from the title, letters steered with held keys onto their tiles, a
-// wrong landing that crumbles, the win to the table; a list of long words refused; a word with
-// nothing to drop passed over, and a list of such words refused.
+// wrong landing that crumbles, the win to the table; lists of long words and of words with
+// nothing to drop refused; the close box that ends the program.
 #include <QtTest>
 
-#include "game_road.h"
+#include "game_start.h"
 #include "games/action/letter_drop/letter_drop_screen.h"
 
 using namespace wm;
@@ -15,7 +15,7 @@ class LetterDropScreenTest : public QObject {
 private slots:
     void steerEveryLetterHomeToTheTable();
     void longWordsAreRefused();
-    void aWordWithNothingToDropIsNeverPlayed();
+    void aListWithNothingToDropIsRefused();
     void closingTheScreenEndsTheProgram();
 };
 
@@ -123,27 +123,9 @@ void LetterDropScreenTest::longWordsAreRefused() {
     QVERIFY(Showing<Title>());
 }
 
-void LetterDropScreenTest::aWordWithNothingToDropIsNeverPlayed() {
+void LetterDropScreenTest::aListWithNothingToDropIsRefused() {
     ShellFixture fx;
-    // The dashes come up first and are passed over for a word with letters.
-    WriteOneList(fx, "Dashes", {{"- -", "only dashes"}, {"ox", "a strong animal"}});
-    fx.rng.pick(1, 2).pick(2, 2);
-    auto* game =
-        qobject_cast<LetterFall*>(ContinueWithList(ChooserFor("Letter Drop", 90, false), "Dashes"));
-    QVERIFY(game);
-    QVERIFY(!game->definition()->isVisible());
-    Pump();
-    QCOMPARE(game->game().word(), "OX");
-    QCOMPARE(game->game().lettersLeft(), 2);
-    QCOMPARE(fx.dialogs.texts(), QStringList{"Click <OK> when you are ready to begin"});
-    QTest::keyClick(game, Qt::Key_Escape);
-    Pump();
-    QVERIFY(Showing<Title>());
-
-    // A list with nothing to drop says so and goes back to the title: no game, no score.
-    fx.dialogs.shown.clear();
-    WriteOneList(fx, "Dashes", {{"- -", "only dashes"}, {"'-'", "marks"}});
-    ContinueWithList(ChooserFor("Letter Drop", 90, true), "Dashes");
+    OpenGame<QWidget>(fx, "Letter Drop", {{"- -", "only dashes"}, {"'-'", "marks"}}, 90, true);
     Pump();
     QCOMPARE(fx.dialogs.texts(),
              QStringList{"The words on this vocabulary list are either too long for this game or "

@@ -17,7 +17,6 @@ class MiniGolfScreenTest : public QObject {
 private slots:
     void rightHoleThenTheClockToTheTable();
     void wrongHoleEndsBelowZeroWithoutTheTable();
-    void hardestCourseHasFiveHolesOfFiveWords();
 };
 
 namespace {
@@ -162,22 +161,6 @@ void MiniGolfScreenTest::wrongHoleEndsBelowZeroWithoutTheTable() {
     QVERIFY(driver.tables.isEmpty());
     QVERIFY(!fx.read("scores/Mini Golf.dat").contains("400"));
     QVERIFY(Showing<Title>());
-}
-
-void MiniGolfScreenTest::hardestCourseHasFiveHolesOfFiveWords() {
-    ShellFixture fx;
-    WriteOneList(fx, "Fruit", kFruit);
-    SeededRng rng(3);
-    SetRng(&rng);
-    auto* g = qobject_cast<MiniGolf*>(PlayFromTitle("Mini Golf", "Fruit", 10));
-    QVERIFY(g);
-    for (int i = 0; i < 5; ++i) QVERIFY(g->holeLabel(i)->isVisible());
-    QStringList words;
-    for (int i = 0; i < 5; ++i) words << g->holeLabel(i)->text();
-    words.removeDuplicates();
-    QCOMPARE(words.size(), 5);  // five different words on five holes
-    QTest::mouseClick(g->field(), Qt::LeftButton, {}, OnField(g, kFieldW / 2.0, 0.5 * kFieldH));
-    QVERIFY(!g->lineShown());  // far from the ball: no swing
 }
 
 QTEST_MAIN(MiniGolfScreenTest)

@@ -7,24 +7,13 @@
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "games/guess/freeze_it/freeze_it_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::freeze_it;
+using wm::test::ListOf;
 
 namespace {
-
-SharedState listOf(std::vector<std::string> words, int level = 3) {
-    SharedState s;
-    s.Words = {""};
-    s.Meanings = {""};
-    for (auto& w : words) {
-        s.Words.push_back(w);
-        s.Meanings.push_back("meaning of " + w);
-    }
-    s.WordCount = static_cast<short>(words.size());
-    s.Difficulty = level;
-    return s;
-}
 
 std::string shown(const Game& g) {
     std::string out;
@@ -44,7 +33,7 @@ TEST(FreezeIt, PaceAndPointsByLevel) {
 }
 
 TEST(FreezeIt, StartReseedsDrawsAndShowsBlanksHyphensApostrophes) {
-    SharedState s = listOf({"cat", "ice-cream man's", "ox"});
+    SharedState s = ListOf({"cat", "ice-cream man's", "ox"}, 3);
     s.Score = 99;
     ScriptedRng rng;
     rng.pick(2, 3);
@@ -61,7 +50,7 @@ TEST(FreezeIt, StartReseedsDrawsAndShowsBlanksHyphensApostrophes) {
 }
 
 TEST(FreezeIt, ThawTakesTheDrawnHiddenBlockUntilTheWordMelts) {
-    SharedState s = listOf({"a-bcd"});
+    SharedState s = ListOf({"a-bcd"}, 3);
     ScriptedRng rng;
     rng.pick(1, 1);
     Game g;
@@ -85,7 +74,7 @@ TEST(FreezeIt, ThawTakesTheDrawnHiddenBlockUntilTheWordMelts) {
 }
 
 TEST(FreezeIt, FreezeStopsTheThawAndAnswersAreChecked) {
-    SharedState s = listOf({"caf\xE9"}, 3);
+    SharedState s = ListOf({"caf\xE9"}, 3);
     ScriptedRng rng;
     rng.pick(1, 1);
     Game g;
@@ -126,7 +115,7 @@ TEST(FreezeIt, FreezeStopsTheThawAndAnswersAreChecked) {
 TEST(FreezeIt, TenWordsWithoutRepeatsWhileTheListLasts) {
     std::vector<std::string> words;
     for (int i = 0; i < 12; ++i) words.push_back(std::string(1, char('a' + i)) + "x");
-    SharedState s = listOf(words);
+    SharedState s = ListOf(words, 3);
     ScriptedRng rng(0.0);  // every draw says word 1: used words are drawn again, then passed
     rng.pick(5, 12).pick(5, 12).pick(7, 12);
     Game g;
@@ -159,7 +148,7 @@ TEST(FreezeIt, ShortListStartsOverButNotWithTheWordJustPlayed) {
         {{"  owl "}, 0.5, "owl owl owl owl owl"},                 // one word, again and again
     };
     for (const Row& r : rows) {
-        SharedState s = listOf(r.words);
+        SharedState s = ListOf(r.words, 3);
         ScriptedRng rng(r.first);
         Game g;
         ASSERT_TRUE(g.start(s, rng));
@@ -174,7 +163,7 @@ TEST(FreezeIt, ShortListStartsOverButNotWithTheWordJustPlayed) {
 
 TEST(FreezeIt, ListWithoutLettersCannotBePlayed) {
     for (auto words : {std::vector<std::string>{"- -", "'", " "}, std::vector<std::string>{}}) {
-        SharedState s = listOf(words);
+        SharedState s = ListOf(words, 3);
         ScriptedRng rng(0.3);
         Game g;
         EXPECT_FALSE(g.start(s, rng));
