@@ -20,10 +20,8 @@ private slots:
 };
 
 namespace {
-const Pairs kFruit = {{"apple", "a red fruit"},
-                      {"pear", "a green fruit"},
-                      {"plum", "a purple fruit"},
-                      {"lemon", "a yellow fruit"},
+const Pairs kFruit = {{"apple", "a red fruit"},     {"pear", "a green fruit"},
+                      {"plum", "a purple fruit"},  {"lemon", "a yellow fruit"},
                       {"lime", "a sour fruit"}};
 const char* kTimeIsUp = "Time is up!";
 
@@ -52,8 +50,7 @@ void RollToRest(MiniGolf* g) {
 MiniGolf* Start(ShellFixture& fx, SeededRng& rng) {
     WriteOneList(fx, "Fruit", kFruit);
     SetRng(&rng);
-    auto* g = qobject_cast<MiniGolf*>(PlayFromTitle("Mini Golf", "Fruit", 1));
-    return g;
+    return qobject_cast<MiniGolf*>(PlayFromTitle("Mini Golf", "Fruit", 1));
 }
 }  // namespace
 
@@ -71,7 +68,6 @@ void MiniGolfScreenTest::rightHoleThenTheClockToTheTable() {
     const int right = g->course().rightHole();
     QCOMPARE(g->holeLabel(right - 1)->text(), QString::fromStdString(s.TheWord));
     QVERIFY(g->holeLabel(1)->isVisible() && !g->holeLabel(2)->isVisible());  // two holes at 1
-    QVERIFY(g->ballShown());
 
     // A drag away from the ball shows the line.
     QTest::mousePress(g->field(), Qt::LeftButton, {},
@@ -95,12 +91,10 @@ void MiniGolfScreenTest::rightHoleThenTheClockToTheTable() {
     RollToRest(g);
     QCOMPARE(fx.sound.played.count("golf.wav"), 1);
     QCOMPARE(fx.sound.played.count("applause.wav"), 1);
-    QCOMPARE(s.Score, 300.0);  // 200 for two strokes at level 1, and a bonus of 100
-    QCOMPARE(g->scoreLabel()->text(), QString("Score: %1").arg(s.Score));
+    // 200 for two strokes at level 1, and a bonus of 100.
+    QCOMPARE(g->scoreLabel()->text(), QString("Score: 300"));
     QCOMPARE(g->course().strokes(), 0);  // the next word
-    QVERIFY(g->ballShown());
-    QCOMPARE(g->timeLabel()->text().left(6), QString("Time: "));
-    QVERIFY(g->timeLabel()->text() != "Time: 30");
+    QCOMPARE(g->timeLabel()->text(), QString("Time: %1").arg(g->course().seconds()));
 
     WinDriver driver({"GLF"});
     SetModalHook(std::ref(driver));
@@ -108,10 +102,9 @@ void MiniGolfScreenTest::rightHoleThenTheClockToTheTable() {
     const double score = s.Score;
     for (int t = 0; t < 100 && Showing<MiniGolf>(); ++t) Pump(1000);
     QVERIFY(fx.dialogs.saw(kTimeIsUp));
-    QCOMPARE(driver.tables.size(), 1);
-    QVERIFY(driver.tables.first().contains("GLF"));
     QCOMPARE(fx.dialogs.last(),
              QString("You got a high score of %1! Would you like to try again?").arg(score));
+    QCOMPARE(TableRow(fx, "Mini Golf"), QString("GLF %1").arg(score));
     QVERIFY(Showing<Title>());
 }
 
@@ -127,7 +120,6 @@ void MiniGolfScreenTest::wrongHoleEndsBelowZeroWithoutTheTable() {
     QCOMPARE(s.Score, -1000.0);
     // The caption changes only at the right hole: the cost shows with the next one.
     QCOMPARE(g->scoreLabel()->text(), QString("Score: 00000"));
-    QVERIFY(g->oopsLabel()->isVisible());
     QCOMPARE(g->oopsLabel()->text(),
              "Oops! You should have put the ball in this hole! (Click here to continue)");
     QVERIFY(!g->ballShown());
@@ -140,13 +132,9 @@ void MiniGolfScreenTest::wrongHoleEndsBelowZeroWithoutTheTable() {
     QTest::mouseClick(g->oopsLabel(), Qt::LeftButton);
     QVERIFY(!g->oopsLabel()->isVisible());
     QVERIFY(g->ballShown());
-    QCOMPARE(s.Score, -1000.0);
-    QCOMPARE(g->scoreLabel()->text(), QString("Score: 00000"));
     // One stroke into the right hole: 500 at level 1 and a bonus of 100, after the 1000 lost.
     Putt(g, g->course().rightHole());
     RollToRest(g);
-    QCOMPARE(fx.sound.played.count("applause.wav"), 1);
-    QCOMPARE(s.Score, -400.0);
     QCOMPARE(g->scoreLabel()->text(), QString("Score: -400"));
 
     WinDriver driver;
