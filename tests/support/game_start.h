@@ -2,6 +2,7 @@
 // the palette answering with one character, and a game's table read back.
 #pragma once
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -20,6 +21,13 @@ Game* OpenGame(ShellFixture& fx, const QString& game, const Pairs& pairs, int di
     WriteOneList(fx, "Test Words", pairs, wordsOnly);
     return qobject_cast<Game*>(
         ContinueWithList(ChooserFor(game, difficulty, optionOn, soundOn), "Test Words"));
+}
+
+// A key sent straight to the screen: a press or a release, auto-repeated or not.
+inline void SendKey(QWidget* w, int key, QEvent::Type type = QEvent::KeyPress,
+                    bool autoRepeat = false) {
+    QKeyEvent e(type, key, Qt::NoModifier, QString(), autoRepeat);
+    QApplication::sendEvent(w, &e);
 }
 
 inline QString LabelText(QWidget* w, const char* name) {

@@ -62,7 +62,7 @@ TEST(WordGuess, KeysOnBlanksHyphensRepeatsAndAccents) {
     EXPECT_EQ(pressKey(r, 'I'), KeyResult::Hit);
     EXPECT_EQ(pressKey(r, 'i'), KeyResult::Repeat);  // either case: no penalty
     EXPECT_EQ(pressKey(r, '-'), KeyResult::Repeat);
-    EXPECT_EQ(r.UsedLetters, "- 7 i ");
+    EXPECT_EQ(r.UsedLetters, "- 7 I ");  // as typed
     for (char c : std::string("cermna")) EXPECT_EQ(pressKey(r, c), KeyResult::Hit) << c;
     EXPECT_EQ(pressKey(r, 'S'), KeyResult::Won);  // complete without its blank
     EXPECT_EQ(shown(r), "ice-cream_man's");       // the boxes keep the word's case

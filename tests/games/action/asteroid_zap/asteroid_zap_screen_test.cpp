@@ -1,6 +1,5 @@
 // Asteroid Zap on its screen: shooting the filler away to a win and the table, a wrong letter
 // and a destroyed ship waiting for a key, the ship under the arrow keys, and long words.
-#include <QKeyEvent>
 #include <QtTest>
 
 #include "game_start.h"
@@ -20,16 +19,11 @@ AsteroidBlast* Start(ShellFixture& fx, bool optionOn = true) {
     return game;
 }
 
-void Key(QWidget* w, int key, QEvent::Type type = QEvent::KeyPress) {
-    QKeyEvent e(type, key, Qt::NoModifier);
-    QApplication::sendEvent(w, &e);
-}
-
 // Puts the ship under column k and fires; returns once the rock there is hit.
 bool ShootColumn(AsteroidBlast* game, int k) {
     auto& r = game->round();
     r.shipX = r.g.boxLeft(k) + r.g.boxWidth() / 2 - r.g.shipW / 2;
-    Key(game, Qt::Key_Space);
+    SendKey(game, Qt::Key_Space);
     for (int n = 0; n < 100; ++n) {
         if (!r.rocks[k].shown || r.over) return true;
         Pump(20);
@@ -85,7 +79,7 @@ void AsteroidZapScreenTest::wrongLetterWaitsForAKey() {
     Pump(100 * 12);
     const int round = game->frame().round();
     fx.dialogs.answerYes();
-    Key(game, Qt::Key_X);
+    SendKey(game, Qt::Key_X);
     QVERIFY(fx.dialogs.saw("Would you like to try again?"));
     QCOMPARE(game->frame().round(), round + 1);
     QVERIFY(!game->waitingForKey());
@@ -96,9 +90,9 @@ void AsteroidZapScreenTest::shipDestroyedAndArrowKeys() {
     auto* game = Start(fx);
     QVERIFY(game);
     const int x = game->round().shipX;
-    Key(game, Qt::Key_Left);
+    SendKey(game, Qt::Key_Left);
     Pump(16 * 4);
-    Key(game, Qt::Key_Left, QEvent::KeyRelease);
+    SendKey(game, Qt::Key_Left, QEvent::KeyRelease);
     QCOMPARE(game->round().shipX, x - 4 * 50);
     Pump(16 * 4);
     QCOMPARE(game->round().shipX, x - 4 * 50);
@@ -107,7 +101,7 @@ void AsteroidZapScreenTest::shipDestroyedAndArrowKeys() {
     Pump(20 * 5);
     QCOMPARE(game->defText(), "Your ship was destroyed! The word was:");
     QVERIFY(game->waitingForKey());
-    Key(game, Qt::Key_Space);
+    SendKey(game, Qt::Key_Space);
     QVERIFY(fx.dialogs.saw("Would you like to try again?"));
     Pump();
     QVERIFY(Showing<Title>() != nullptr);

@@ -1,6 +1,5 @@
 // Crunch Man on its screen: from the title through a scripted field to a win and the table,
 // to a wrong letter and to a mine, the sounds gated by SoundOn, and the long-word refusal.
-#include <QKeyEvent>
 #include <QtTest>
 
 #include "game_start.h"
@@ -31,11 +30,6 @@ CrunchManGame* Start(ShellFixture& fx, bool soundOn = true) {
 int CentreColumn(CrunchManGame* g) {
     const auto& r = g->round();
     return int((r.x + 23) / r.cellW);
-}
-
-void Press(CrunchManGame* g, int key) {
-    QKeyEvent e(QEvent::KeyPress, key, Qt::NoModifier);
-    QApplication::sendEvent(g, &e);
 }
 
 // Ticks until `done` holds, at most `limit` ticks.
@@ -72,12 +66,12 @@ void CrunchManScreenTest::roadToAWinAndTheTable() {
 
     QVERIFY(TickUntil([&] { return CentreColumn(game) == 12; }));
     Shot(game, "crunch-man");
-    Press(game, Qt::Key_Up);
+    SendKey(game, Qt::Key_Up);
     QVERIFY(TickUntil([&] { return game->spelled() == "C"; }));
     QCOMPARE(game->scoreCaption(), "Score: 202");  // (Int(0.5 x 200) + 1) x 2 mines
     // The eaten letter is gone from the field itself.
     const QRect under(12 * 64 + 20, 67 + 4 * 60 + 12, 23, 36);
-    Press(game, Qt::Key_Right);
+    SendKey(game, Qt::Key_Right);
     Pump(50 * 8);
     const QImage& surface = game->field()->surface();
     int yellow = 0;
@@ -102,7 +96,7 @@ void CrunchManScreenTest::wrongLetterBlinksThenAsks() {
     auto* game = Start(fx);
     QVERIFY(game);
     QVERIFY(TickUntil([&] { return CentreColumn(game) == 14; }));
-    Press(game, Qt::Key_Up);
+    SendKey(game, Qt::Key_Up);
     QVERIFY(TickUntil([&] { return game->dying(); }));
     QVERIFY(fx.sound.played.contains("bonk.wav"));
     QVERIFY(game->round().labels[1].red);
@@ -121,9 +115,9 @@ void CrunchManScreenTest::mineExplodesThenAsksWithoutSound() {
     ShellFixture fx;
     auto* game = Start(fx, false);
     QVERIFY(game);
-    Press(game, Qt::Key_Left);
+    SendKey(game, Qt::Key_Left);
     QVERIFY(TickUntil([&] { return CentreColumn(game) == 1; }));
-    Press(game, Qt::Key_Down);
+    SendKey(game, Qt::Key_Down);
     QVERIFY(TickUntil([&] { return game->dying(); }));
     Pump(50 * 20);
     QVERIFY(!game->dying());

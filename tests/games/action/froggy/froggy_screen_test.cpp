@@ -1,6 +1,5 @@
 // Froggy on its screen: from the title across the lanes to the right slot and the table, a
 // car, a stone, a held key and the wrong slot.
-#include <QKeyEvent>
 #include <QtTest>
 
 #include "game_start.h"
@@ -15,28 +14,17 @@ const Pairs kPets = {
     {"cat", "a small furry pet"}, {"dog", "barks"}, {"fish", "swims"}, {"bird", "sings"}};
 
 FroggyForm* Start(ShellFixture& fx, int difficulty, bool soundOn = true) {
-    WriteOneList(fx, "Pets", kPets);
-    auto* chooser = ChooserFor("Froggy", difficulty, false, soundOn);
     // "cat" in slot 2 (columns 6 to 10); then dog, fish, bird in order.
     fx.rng.pick(1, 4).pick(2, 4).pick(2, 4).pick(3, 4).pick(4, 4);
     fx.rng.setFallback(0.5);
-    ContinueWithList(chooser, "Pets");
-    auto* game = Showing<FroggyForm>();
+    auto* game = OpenGame<FroggyForm>(fx, "Froggy", kPets, difficulty, false, soundOn);
     Pump(0);
     return game;
 }
 
-void Key(QWidget* w, int key, bool autoRepeat = false) {
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(), autoRepeat);
-    QApplication::sendEvent(w, &press);
-}
-void Release(QWidget* w, int key, bool autoRepeat = false) {
-    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, QString(), autoRepeat);
-    QApplication::sendEvent(w, &release);
-}
 void Hop(QWidget* w, int key) {
-    Key(w, key);
-    Release(w, key);
+    SendKey(w, key);
+    SendKey(w, key, QEvent::KeyRelease);
 }
 
 // No cars, and the river's logs wide enough to stand on anywhere.
@@ -95,13 +83,13 @@ void FroggyScreenTest::heldKeyHopsOnceAndStonesCrumble() {
     auto* game = Start(fx, 4);
     QVERIFY(game);
     ClearTheWay(game);
-    Key(game, Qt::Key_Up);
+    SendKey(game, Qt::Key_Up);
     for (int n = 0; n < 5; ++n) {  // the keyboard repeats while the key is held
-        Release(game, Qt::Key_Up, true);
-        Key(game, Qt::Key_Up, true);
+        SendKey(game, Qt::Key_Up, QEvent::KeyRelease, true);
+        SendKey(game, Qt::Key_Up, QEvent::KeyPress, true);
     }
     QCOMPARE(game->board().frogRow, 2);
-    Release(game, Qt::Key_Up);
+    SendKey(game, Qt::Key_Up, QEvent::KeyRelease);
     for (int n = 0; n < 9; ++n) Hop(game, Qt::Key_Left);
     Hop(game, Qt::Key_Up);
     Hop(game, Qt::Key_Up);
