@@ -62,6 +62,8 @@ TEST(AsteroidRow, WordsOf15OrMoreAreNeverChosen) {
     ScriptedRng only(0.2);
     EXPECT_EQ(chooseWord(s, only), 0);
     EXPECT_EQ(only.draws, kMaxWordDraws);
+    s.Words[1] = "cat";  // the first entry can be drawn
+    EXPECT_EQ(chooseWord(s, only), 1);
 }
 
 TEST(AsteroidHits, OnlyTheSubsequenceRuleDecides) {
@@ -92,6 +94,8 @@ TEST(AsteroidHits, OnlyTheSubsequenceRuleDecides) {
         EXPECT_EQ(r.allCleared, c.allCleared) << c.word << " " << c.row;
         if (std::string(c.results).back() == 'n') {
             EXPECT_TRUE(r.wrongShot);
+            ScriptedRng rng(0.5);
+            EXPECT_EQ(tick(r, 1, rng).ending, Ending::WrongLetter) << "the next tick ends it";
             EXPECT_EQ(int(r.blasts.size()), kLetters) << "every letter still alive blows up";
             for (const Blast& b : r.blasts) EXPECT_TRUE(b.frame >= 13 && b.frame <= 18);
         }

@@ -137,7 +137,7 @@ TEST(CrunchManEating, SpellingOrderOnTheBoard) {
         EXPECT_EQ(t.event, c.end) << c.word << " on " << c.row;
         EXPECT_EQ(r.spelled, c.spelled) << c.word << " on " << c.row;
         if (c.end == Event::WrongLetter) EXPECT_TRUE(r.labels[t.label].red);
-        if (c.end == Event::Mine) EXPECT_EQ(t.mine, 1);
+        EXPECT_EQ(t.mine, c.end == Event::Mine ? 1 : 0) << c.word << " on " << c.row;
     }
 }
 

@@ -171,6 +171,9 @@ TEST(JailbreakPlay, OpeningTheSelectedLockMovesTheSelectionOn) {
     EXPECT_EQ(j.selected, 2);
     for (int open_or_out : {1, 3, -1}) select(j, open_or_out);  // none of these is selectable
     EXPECT_EQ(j.selected, 2);
+    select(j, 0);
+    EXPECT_EQ(j.selected, 0);
+    select(j, 2);
     s.TheWord.clear();
     EXPECT_EQ(typeWord(s, j, "cloud").result, Result::Opened);
     EXPECT_EQ(j.selected, 0);

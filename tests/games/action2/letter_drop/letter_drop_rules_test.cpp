@@ -191,6 +191,7 @@ TEST(LetterDropRules, TheStarStartsOneTimeInFiftyAndLeavesPastTheRightEdge) {
     rng.then(8.5 / 500).pick(1, 2).then(0.9);  // 9: a star from the left, low in the sky
     int ticks = 0;
     for (star.tick(rng); star.flying() && ticks < 1000; ++ticks) star.tick(rng);
+    EXPECT_FALSE(star.flying());
     EXPECT_GT(ticks, 10);
     EXPECT_GT(star.trail()[0].first, kFieldW * 11 / 10);
     EXPECT_LT(star.trail()[0].second, kTileTop);
