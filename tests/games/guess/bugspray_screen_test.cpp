@@ -20,7 +20,7 @@ private slots:
 
 namespace {
 QString used(QWidget* game) {
-    return game->findChild<QLabel*>("Label2")->text();
+    return LabelText(game, "Label2");
 }
 }  // namespace
 
@@ -66,9 +66,7 @@ void BugSprayScreenTest::winAtTheEasiestLevel() {
 
 void BugSprayScreenTest::loseAtTheHardestLevel() {
     ShellFixture fx;
-    WriteOneList(fx, "Bugs", {{"moth", "flies at night"}});
-    auto* game =
-        qobject_cast<BugSprayForm*>(ContinueWithList(ChooserFor("Bug Spray", 3, false), "Bugs"));
+    auto* game = OpenGame<BugSprayForm>(fx, "Bug Spray", {{"moth", "flies at night"}}, 3);
     QVERIFY(game);
     FinishClips(game);
     // Miss 4 at level 3: spray7 + bug5, spray8 + bug6, spray9, spray10 + bug7. A group waits
@@ -105,9 +103,8 @@ void BugSprayScreenTest::loseAtTheHardestLevel() {
 
 void BugSprayScreenTest::silentWithSoundOff() {
     ShellFixture fx;
-    WriteOneList(fx, "Bugs", {{"bee", ""}}, /*wordsOnly=*/true);
-    auto* game = qobject_cast<BugSprayForm*>(
-        ContinueWithList(ChooserFor("Bug Spray", 2, false, /*soundOn=*/false), "Bugs"));
+    auto* game =
+        OpenGame<BugSprayForm>(fx, "Bug Spray", {{"bee", ""}}, 2, false, false, /*wordsOnly=*/true);
     QVERIFY(game);
     // A words-only list loses only the hint.
     QVERIFY(!game->hintButton()->isVisible());

@@ -30,7 +30,7 @@ QString boxes(GuessScreen* game) {
     return out;
 }
 QString used(QWidget* game) {
-    return game->findChild<QLabel*>("Label2")->text();
+    return LabelText(game, "Label2");
 }
 }  // namespace
 
@@ -98,10 +98,9 @@ void HangManScreenTest::winThenLoseAtTheHardestLevel() {
 
 void HangManScreenTest::solveAndThePalette() {
     ShellFixture fx;
-    WriteOneList(fx, "Cafe", {{"caf\xE9 noir", "black coffee"}});
     WinDriver driver;
     SetModalHook(PaletteThen(0xC9, driver));  // the capital: case does not matter
-    auto* game = qobject_cast<HangMan*>(ContinueWithList(ChooserFor("HangMan", 1, false), "Cafe"));
+    auto* game = OpenGame<HangMan>(fx, "HangMan", {{"caf\xE9 noir", "black coffee"}}, 1);
     QVERIFY(game);
     Pump(20);
     QCOMPARE(boxes(game), "...._....");
@@ -126,9 +125,7 @@ void HangManScreenTest::solveAndThePalette() {
 
 void HangManScreenTest::silentWithoutSound() {
     ShellFixture fx;
-    WriteOneList(fx, "Pets", {{"owl", "hoots"}});
-    auto* game = qobject_cast<HangMan*>(
-        ContinueWithList(ChooserFor("HangMan", 1, false, /*soundOn=*/false), "Pets"));
+    auto* game = OpenGame<HangMan>(fx, "HangMan", {{"owl", "hoots"}}, 1, false, false);
     QVERIFY(game);
     Pump(20);
     QVERIFY(fx.music.opened.isEmpty());

@@ -75,11 +75,18 @@ TEST(WordGuess, KeysOnBlanksHyphensRepeatsAndAccents) {
     EXPECT_EQ(pressKey(cafe, '\xE9'), KeyResult::Repeat);
     EXPECT_EQ(pressKey(cafe, 'c'), KeyResult::Hit);
     EXPECT_EQ(shown(cafe), "C..\xE9");
+    // The first box counts like the others: the word is complete only when it is filled.
+    GuessRound ox = started("ox");
+    EXPECT_EQ(pressKey(ox, 'x'), KeyResult::Hit);
+    EXPECT_EQ(pressKey(ox, 'o'), KeyResult::Won);
 }
 
 TEST(WordGuess, HintCostsARandomPartAndCanGoBelowZero) {
     SharedState s = ListOf({"owl"}, 2);
     EXPECT_EQ(hintText(s, started("owl")), "Definition: \"meaning of owl\"");
+    GuessRound lost;
+    lost.PickedIndex = 5;  // past the meanings: no meaning rather than a fault
+    EXPECT_EQ(hintText(s, lost), "Definition: \"\"");
     struct Row {
         double score, rnd, after;
     };
@@ -169,27 +176,27 @@ TEST(HangmanSteps, ClipsByDifficultyAndTheLastStep) {
 }
 
 TEST(BugSpraySteps, GroupsByDifficultyWithTheReusedBugClips) {
-    struct Case {
-        int difficulty, misses;
-        const char* groups;
-        bool lost;
-    };
-    for (const Case& c : std::vector<Case>{
-             {1, 1, "spray1+bug1", false},
-             {1, 10, "spray10+bug4", false},  // reused on purpose
-             {1, 13, "spray13+bug9", false},
-             {1, 14, "spray14+bug14", true},
-             {2, 2, "spray3+bug2,spray4,spray5", false},
-             {2, 9, "spray12+bug9,spray13", false},
-             {2, 10, "spray14+bug14", true},
-             {3, 1, "spray1+bug1,spray2+bug2", false},
-             {3, 4, "spray7+bug5,spray8+bug6,spray9,spray10+bug7", false},
-             {3, 6, "spray14+bug14", true},
-             {3, 7, "", false},
-         }) {
-        auto step = bugspray::wrongGuessStep(c.difficulty, c.misses);
-        EXPECT_EQ(joined(step), c.groups) << c.difficulty << "/" << c.misses;
-        EXPECT_EQ(step.lost, c.lost) << c.difficulty << "/" << c.misses;
+    // Each miss's groups, "|" between misses; the bug clips 4, 5, 6 and 9 come again at level 1
+    // on purpose.
+    const char* designed[] = {
+        "spray1+bug1|spray2+bug2|spray3+bug3|spray4+bug4|spray5+bug5|spray6+bug6|spray7+bug7|"
+        "spray8+bug8|spray9+bug9|spray10+bug4|spray11+bug5|spray12+bug6|spray13+bug9|"
+        "spray14+bug14",
+        "spray1+bug1,spray2|spray3+bug2,spray4,spray5|spray6+bug3|spray7+bug4|spray8+bug5|"
+        "spray9+bug6|spray10+bug7|spray11+bug8|spray12+bug9,spray13|spray14+bug14",
+        "spray1+bug1,spray2+bug2|spray3+bug3,spray4,spray5|spray6+bug4|"
+        "spray7+bug5,spray8+bug6,spray9,spray10+bug7|spray11+bug8,spray12+bug9,spray13|"
+        "spray14+bug14"};
+    for (int d = 1; d <= 3; ++d) {
+        std::string all;
+        for (int m = 1; m <= missesAllowed(d); ++m) {
+            const auto step = bugspray::wrongGuessStep(d, m);
+            all += (m > 1 ? "|" : "") + joined(step);
+            EXPECT_EQ(step.lost, m == missesAllowed(d)) << d << "/" << m;
+        }
+        EXPECT_EQ(all, designed[d - 1]) << d;
+        EXPECT_EQ(joined(bugspray::wrongGuessStep(d, missesAllowed(d) + 1)), "") << d;
+        EXPECT_EQ(joined(bugspray::wrongGuessStep(d, 0)), "") << d;
     }
 }
 
