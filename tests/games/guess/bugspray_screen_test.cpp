@@ -3,7 +3,7 @@
 // the sixth miss of the hardest level, and silence with sound off on a words-only list.
 #include <QtTest>
 
-#include "core/score_table.h"
+#include "game_start.h"
 #include "games/guess/bugspray/bugspray_screen.h"
 #include "guess_road.h"
 
@@ -20,7 +20,7 @@ private slots:
 
 namespace {
 QString used(QWidget* game) {
-    return game->findChild<QLabel*>("Label2")->text();
+    return LabelText(game, "Label2");
 }
 }  // namespace
 
@@ -38,20 +38,13 @@ void BugSprayScreenTest::winAtTheEasiestLevel() {
     QVERIFY(game->bugPlayer()->isPlaying());
     Keys(game, "a");
     QCOMPARE(used(game), "");
-    game->bugPlayer()->advance(1.0);
-    Shot(game, "bugspray-intro");
     FinishClips(game);
-    fx.sound.played.clear();
-
     fx.sound.played.clear();
     Keys(game, "a");                                         // a hit that does not finish the word
     QCOMPARE(fx.sound.played, QStringList{"buggood3.wav"});  // Int(0.5 * 4 + 1)
     Keys(game, "z");
     QCOMPARE(fx.sound.played.last(), "bugbad1.wav");
     QVERIFY(game->sprayPlayer()->isPlaying() && game->bugPlayer()->isPlaying());
-    game->sprayPlayer()->advance(0.7);
-    game->bugPlayer()->advance(0.5);
-    Shot(game, "bugspray-miss1");
     FinishClips(game);
     Keys(game, "q");
     QCOMPARE(fx.sound.played.last(), "bugbad3.wav");  // Int(0.5 * 3 + 1) + 1
@@ -61,14 +54,11 @@ void BugSprayScreenTest::winAtTheEasiestLevel() {
     Keys(game, "nT");
     QVERIFY(fx.sound.played.contains("bugbye.wav"));
     QVERIFY(game->bugPlayer()->isPlaying());  // the win clip, waited for
-    game->bugPlayer()->advance(1.0);
-    Shot(game, "bugspray-win");
     FinishClips(game);
     // The stake Int(0.5 * 1000 + 1) x 1 x 3 = 1503, kept whole.
     QVERIFY(fx.dialogs.saw("You got a high score of 1503! Would you like to try again?"));
     QVERIFY(!fx.dialogs.saw("Would you like to raise the difficulty level a bit?"));
-    const ScoreTable t = ReadScoreTable(ScoreFilePath(Shared().AppPath, "Bug Spray"));
-    QCOMPARE(QString::fromStdString(t.initials(1)), "BUG");
+    QCOMPARE(TableRow(fx, "Bug Spray"), "BUG 1503");
     Pump();
     QVERIFY(Showing<Title>());
     QVERIFY(fx.music.opened.isEmpty());
@@ -76,9 +66,7 @@ void BugSprayScreenTest::winAtTheEasiestLevel() {
 
 void BugSprayScreenTest::loseAtTheHardestLevel() {
     ShellFixture fx;
-    WriteOneList(fx, "Bugs", {{"moth", "flies at night"}});
-    auto* game =
-        qobject_cast<BugSprayForm*>(ContinueWithList(ChooserFor("Bug Spray", 3, false), "Bugs"));
+    auto* game = OpenGame<BugSprayForm>(fx, "Bug Spray", {{"moth", "flies at night"}}, 3);
     QVERIFY(game);
     FinishClips(game);
     // Miss 4 at level 3: spray7 + bug5, spray8 + bug6, spray9, spray10 + bug7. A group waits
@@ -103,10 +91,7 @@ void BugSprayScreenTest::loseAtTheHardestLevel() {
     fx.dialogs.answerYes(false);
     Keys(game, "f");
     Keys(game, "g");
-    QVERIFY(!fx.dialogs.saw(QString::fromStdString(bugspray::lostText("moth"))));
-    game->sprayPlayer()->advance(1.2);
-    game->bugPlayer()->advance(1.6);
-    Shot(game, "bugspray-end");
+    QVERIFY(fx.dialogs.shown.empty());  // the end clips play first
     FinishClips(game);
     QVERIFY(fx.dialogs.saw(
         "Oops! Your bug was sprayed! The word you were looking for was \"moth\". Would you like "
@@ -118,9 +103,8 @@ void BugSprayScreenTest::loseAtTheHardestLevel() {
 
 void BugSprayScreenTest::silentWithSoundOff() {
     ShellFixture fx;
-    WriteOneList(fx, "Bugs", {{"bee", ""}}, /*wordsOnly=*/true);
-    auto* game = qobject_cast<BugSprayForm*>(
-        ContinueWithList(ChooserFor("Bug Spray", 2, false, /*soundOn=*/false), "Bugs"));
+    auto* game =
+        OpenGame<BugSprayForm>(fx, "Bug Spray", {{"bee", ""}}, 2, false, false, /*wordsOnly=*/true);
     QVERIFY(game);
     // A words-only list loses only the hint.
     QVERIFY(!game->hintButton()->isVisible());

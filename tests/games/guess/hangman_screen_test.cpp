@@ -6,6 +6,7 @@
 #include "core/score_table.h"
 #include "games/guess/hangman/hangman_rules.h"
 #include "games/guess/hangman/hangman_screen.h"
+#include "game_start.h"
 #include "guess_road.h"
 
 using namespace wm;
@@ -29,7 +30,7 @@ QString boxes(GuessScreen* game) {
     return out;
 }
 QString used(QWidget* game) {
-    return game->findChild<QLabel*>("Label2")->text();
+    return LabelText(game, "Label2");
 }
 }  // namespace
 
@@ -59,11 +60,9 @@ void HangManScreenTest::winThenLoseAtTheHardestLevel() {
     Keys(game, "i");
     QCOMPARE(used(game), "x ");
     QCOMPARE(FinishClips(game), 2);
-    Shot(game, "hangman-step2");
     Keys(game, "X-");  // a repeat costs nothing; the hyphen stands already, so it is a miss
     QCOMPARE(game->round().Misses, 2);
     FinishClips(game);
-    Shot(game, "hangman-step5");
 
     game->hintButton()->click();
     QVERIFY(fx.dialogs.saw("Definition: \"a cold treat\""));
@@ -74,13 +73,10 @@ void HangManScreenTest::winThenLoseAtTheHardestLevel() {
     QCOMPARE(boxes(game), "ice-cream");
     QVERIFY(game->movie()->isPlaying());  // the win clip, waited for
     QCOMPARE(driver.congratulations.size(), 0);
-    Shot(game, "hangman-win");
     FinishClips(game);
     QVERIFY(fx.dialogs.saw("You got a high score of 4508! Would you like to try again?"));
     QVERIFY(fx.dialogs.saw("Would you like to raise the difficulty level a bit?"));
-    const ScoreTable t = ReadScoreTable(ScoreFilePath(Shared().AppPath, "HangMan"));
-    QCOMPARE(QString::fromStdString(t.initials(1)), "WIN");
-    QCOMPARE(QString::fromStdString(t.scoreText(1)), "4508");
+    QCOMPARE(TableRow(fx, "HangMan"), "WIN 4508");
 
     // Level 3: the sixth miss ends the round.
     QCOMPARE(Shared().Difficulty, 3);
@@ -88,11 +84,7 @@ void HangManScreenTest::winThenLoseAtTheHardestLevel() {
     fx.dialogs.answerYes(false);
     for (char c : QByteArray("zqwkjv")) {
         Keys(game, QString(QChar(c)));
-        if (c == 'v') {
-            QVERIFY(!fx.dialogs.saw(QString::fromStdString(hangman::lostText("ice-cream"))));
-            game->movie()->advance(0.5);
-            Shot(game, "hangman-end");
-        }
+        if (c == 'v') QVERIFY(fx.dialogs.last().startsWith("Would you like to raise"));
         FinishClips(game);
     }
     QVERIFY(fx.dialogs.saw(
@@ -106,17 +98,9 @@ void HangManScreenTest::winThenLoseAtTheHardestLevel() {
 
 void HangManScreenTest::solveAndThePalette() {
     ShellFixture fx;
-    WriteOneList(fx, "Cafe", {{"caf\xE9 noir", "black coffee"}});
     WinDriver driver;
-    SetModalHook([&](QDialog& d) {
-        if (auto* fl = qobject_cast<FLForm*>(&d)) {
-            fl->pickCell(0xC9 - 191);  // the capital: case does not matter
-            fl->insert(0);
-            return;
-        }
-        driver(d);
-    });
-    auto* game = qobject_cast<HangMan*>(ContinueWithList(ChooserFor("HangMan", 1, false), "Cafe"));
+    SetModalHook(PaletteThen(0xC9, driver));  // the capital: case does not matter
+    auto* game = OpenGame<HangMan>(fx, "HangMan", {{"caf\xE9 noir", "black coffee"}}, 1);
     QVERIFY(game);
     Pump(20);
     QCOMPARE(boxes(game), "...._....");
@@ -141,9 +125,7 @@ void HangManScreenTest::solveAndThePalette() {
 
 void HangManScreenTest::silentWithoutSound() {
     ShellFixture fx;
-    WriteOneList(fx, "Pets", {{"owl", "hoots"}});
-    auto* game = qobject_cast<HangMan*>(
-        ContinueWithList(ChooserFor("HangMan", 1, false, /*soundOn=*/false), "Pets"));
+    auto* game = OpenGame<HangMan>(fx, "HangMan", {{"owl", "hoots"}}, 1, false, false);
     QVERIFY(game);
     Pump(20);
     QVERIFY(fx.music.opened.isEmpty());

@@ -4,7 +4,7 @@
 
 #include "core/clock.h"
 #include "core/score_table.h"
-#include "game_road.h"
+#include "game_start.h"
 #include "games/guess/speedtype/speedtype_screen.h"
 
 using namespace wm;
@@ -15,14 +15,13 @@ class SpeedTypeScreenTest : public QObject {
 private slots:
     void winsRankSmallestFirst();
     void lossesAndThePalette();
-    void silentWithSoundOff();
 };
 
 namespace {
 constexpr double kSecond = 1.0 / 86400;
 
 QString text(QWidget* game, const char* name) {
-    return game->findChild<QLabel*>(name)->text();
+    return LabelText(game, name);
 }
 
 // Waits out Ready... and Set... on the test clock.
@@ -58,20 +57,17 @@ void SpeedTypeScreenTest::winsRankSmallestFirst() {
     // Keys before the go are lost.
     QTest::keyClicks(game, "ca");
     QCOMPARE(game->round().Typed, "");
-    Shot(game, "speedtype-ready");
     toGo(game);
     QVERIFY(fx.sound.played.contains("ricochet.wav"));
     QTest::keyClicks(game, "cax");
     QTest::keyClick(game, Qt::Key_Backspace);
     QTest::keyClicks(game, "t");
     QCOMPARE(text(game, "Label3"), "CAT");
-    Shot(game, "speedtype-typing");
     clock.now += 2 * kSecond;
     QString figures;
     fx.dialogs.otherwiseYes = [&](const QString&) {
         figures = text(game, "MLabel") + ":" + text(game, "SLabel") + "." + text(game, "SDLabel");
         fx.dialogs.otherwiseYes = {};
-        Shot(game, "speedtype-time");
         return true;
     };
     QTest::keyClick(game, Qt::Key_Return);
@@ -83,7 +79,6 @@ void SpeedTypeScreenTest::winsRankSmallestFirst() {
     QVERIFY(fx.dialogs.saw(
         "Congratulations! Your time was 0.7716 seconds per letter! Would you like to try again?"));
     QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
-    QCOMPARE(driver.congratulations.size(), 1);
 
     // The same time again ranks below the first (a tie goes after); then a faster one takes
     // rank 1 and, as the table's displacement does, the tied entry at rank 2 is lost.
@@ -95,14 +90,12 @@ void SpeedTypeScreenTest::winsRankSmallestFirst() {
         "Congratulations! Your time was 0.3858 seconds per letter! Would you like to try again?"));
     // No offer to raise a level at any point.
     QVERIFY(!fx.dialogs.texts().join("|").contains("raise"));
-    const ScoreTable t = ReadScoreTable(ScoreFilePath(Shared().AppPath, "Speed Type"));
-    QCOMPARE(QString::fromStdString(t.initials(1)), "GHI");
-    QCOMPARE(QString::fromStdString(t.scoreText(1)), "0.3858");
-    QCOMPARE(QString::fromStdString(t.initials(2)), "ABC");
+    QCOMPARE(TableRow(fx, "Speed Type", 1), "GHI 0.3858");
     // The moved entry passes through a whole number on the table's walk, as designed.
-    QCOMPARE(QString::fromStdString(t.scoreText(2)), "1");
-    QCOMPARE(QString::fromStdString(t.scoreText(3)), "0");
-    QVERIFY(driver.tables.last().contains("GHI"));
+    QCOMPARE(TableRow(fx, "Speed Type", 2), "ABC 1");
+    QCOMPARE(QString::fromStdString(
+                 ReadScoreTable(ScoreFilePath(Shared().AppPath, "Speed Type")).scoreText(3)),
+             "0");
     QVERIFY(Showing<Title>());
     SetClock(nullptr);
 }
@@ -111,18 +104,9 @@ void SpeedTypeScreenTest::lossesAndThePalette() {
     ShellFixture fx;
     FixedClock clock(0.5);
     SetClock(&clock);
-    WriteOneList(fx, "French", {{"caf\xE9", "coffee"}});
     WinDriver driver;
-    SetModalHook([&](QDialog& d) {
-        if (auto* fl = qobject_cast<FLForm*>(&d)) {
-            fl->pickCell(0xE9 - 191);
-            fl->insert(0);
-            return;
-        }
-        driver(d);
-    });
-    auto* game =
-        qobject_cast<SpeedType*>(ContinueWithList(ChooserFor("Speed Type", 1, false), "French"));
+    SetModalHook(PaletteThen(0xE9, driver));
+    auto* game = OpenGame<SpeedType>(fx, "Speed Type", {{"caf\xE9", "coffee"}}, 1);
     QVERIFY(game);
     Pump();
     toGo(game);
@@ -141,38 +125,16 @@ void SpeedTypeScreenTest::lossesAndThePalette() {
     QVERIFY(TriggerMenu(game, "FL"));
     QCOMPARE(QString::fromStdString(Shared().CurrentGame).toLower(), "speed type");
     QCOMPARE(text(game, "Label3"), "CAF\u00c9");
-    // Two characters too many end the round; No goes back to the title.
+    // Two characters too many end the round, silently with the sound off; No goes back to the
+    // title.
+    Shared().SoundOn = kFalse;
+    fx.sound.played.clear();
     fx.dialogs.answerYes(false);
     QTest::keyClicks(game, "xy");
     QCOMPARE(fx.dialogs.shown.back().title, "You lose!");
+    QVERIFY(fx.sound.played.isEmpty());
     Pump();
     QVERIFY(Showing<Title>());
-    SetClock(nullptr);
-}
-
-void SpeedTypeScreenTest::silentWithSoundOff() {
-    ShellFixture fx;
-    FixedClock clock(0.5);
-    SetClock(&clock);
-    WriteOneList(fx, "Pets", {{"dog", "barks"}});
-    WinDriver driver;
-    SetModalHook(std::ref(driver));
-    auto* game = qobject_cast<SpeedType*>(
-        ContinueWithList(ChooserFor("Speed Type", 1, false, /*soundOn=*/false), "Pets"));
-    QVERIFY(game);
-    Pump();
-    fx.dialogs.answerYes(false);
-    toGo(game);
-    QTest::keyClicks(game, "dog");
-    QTest::keyClick(game, Qt::Key_Return);
-    // Typed within the clock's second: a time of 0, which still takes a rank.
-    QCOMPARE(text(game, "SDLabel"), "");
-    QVERIFY(fx.dialogs.saw(
-        "Congratulations! Your time was 0 seconds per letter! Would you like to try again?"));
-    Pump();
-    QCOMPARE(driver.congratulations.size(), 1);
-    for (const char* effect : {"beep.wav", "ricochet.wav", "cheer.wav"})
-        QVERIFY2(!fx.sound.played.contains(effect), effect);
     SetClock(nullptr);
 }
 

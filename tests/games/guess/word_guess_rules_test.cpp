@@ -7,23 +7,20 @@
 #include "games/guess/common/word_guess.h"
 #include "games/guess/hangman/hangman_rules.h"
 #include "games/guess/speedtype/speedtype_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::guess;
+using wm::test::ListOf;
 
 namespace {
 
-SharedState listOf(std::vector<std::string> words, int difficulty = 2) {
-    SharedState s;
-    s.Words = {""};
-    s.Meanings = {""};
-    for (auto& w : words) {
-        s.Words.push_back(w);
-        s.Meanings.push_back("meaning of " + w);
-    }
-    s.WordCount = static_cast<short>(words.size());
-    s.Difficulty = difficulty;
-    return s;
+GuessRound started(const std::string& word) {
+    SharedState s = ListOf({word}, 2);
+    ScriptedRng rng;
+    GuessRound r;
+    startRound(s, r, rng);
+    return r;
 }
 
 std::string shown(const GuessRound& r) {
@@ -35,89 +32,72 @@ std::string shown(const GuessRound& r) {
 }  // namespace
 
 TEST(WordGuess, RoundPicksWordAndStakesLengthTimesDifficulty) {
-    SharedState s = listOf({"cat", "giraffe", "ox"}, 3);
+    SharedState s = ListOf({"cat", "giraffe", "ox"}, 3);
     ScriptedRng rng;
-    rng.pick(2, 3).pick(7, 1000);  // the word, then the stake's draw
+    rng.pick(3, 3).pick(7, 1000);  // the last word may be drawn; then the stake's draw
     GuessRound r;
     startRound(s, r, rng);
     EXPECT_EQ(rng.randomizeCount, 1);
-    EXPECT_EQ(r.PickedIndex, 2);
-    EXPECT_EQ(s.TheWord, "giraffe");
-    EXPECT_DOUBLE_EQ(s.Score, 7.0 * 3 * 7);
-    EXPECT_EQ(shown(r), ".......");
+    EXPECT_EQ(s.TheWord, "ox");
+    EXPECT_DOUBLE_EQ(s.Score, 7.0 * 3 * 2);
     // Nothing of the round before is carried.
     r.UsedLetters = "X ";
     r.Misses = 4;
     rng.pick(2, 3).pick(1, 1000);
     startRound(s, r, rng);
+    EXPECT_EQ(r.PickedIndex, 2);
     EXPECT_EQ(r.Misses, 0);
     EXPECT_EQ(r.UsedLetters, "");
+    EXPECT_EQ(shown(r), ".......");
     EXPECT_DOUBLE_EQ(s.Score, 1.0 * 3 * 7);
 }
 
-TEST(WordGuess, BlanksHyphensAndApostrophes) {
-    SharedState s = listOf({"ice-cream man's"});
-    ScriptedRng rng;
-    GuessRound r;
-    startRound(s, r, rng);
+TEST(WordGuess, KeysOnBlanksHyphensRepeatsAndAccents) {
+    GuessRound r = started("ice-cream man's");
     EXPECT_EQ(shown(r), "...-....._...'.");
     // A hyphen stands from the start: pressing it is a miss; blank and apostrophe are no guess.
     EXPECT_EQ(pressKey(r, '-'), KeyResult::Miss);
-    EXPECT_EQ(pressKey(r, ' '), KeyResult::Ignored);
-    EXPECT_EQ(pressKey(r, '\''), KeyResult::Ignored);
-    EXPECT_EQ(pressKey(r, 0), KeyResult::Ignored);
-    EXPECT_EQ(r.UsedLetters, "- ");
-    for (char c : std::string("icermna")) EXPECT_EQ(pressKey(r, c), KeyResult::Hit) << c;
-    // The word is complete without its blank.
-    EXPECT_EQ(pressKey(r, 'S'), KeyResult::Won);
-    EXPECT_EQ(shown(r), "ice-cream_man's");
-}
+    for (char c : {' ', '\'', '\0'}) EXPECT_EQ(pressKey(r, c), KeyResult::Ignored) << int(c);
+    EXPECT_EQ(pressKey(r, '7'), KeyResult::Miss);  // a digit is a guess like a letter
+    EXPECT_EQ(pressKey(r, 'I'), KeyResult::Hit);
+    EXPECT_EQ(pressKey(r, 'i'), KeyResult::Repeat);  // either case: no penalty
+    EXPECT_EQ(pressKey(r, '-'), KeyResult::Repeat);
+    EXPECT_EQ(r.UsedLetters, "- 7 I ");  // as typed
+    for (char c : std::string("cermna")) EXPECT_EQ(pressKey(r, c), KeyResult::Hit) << c;
+    EXPECT_EQ(pressKey(r, 'S'), KeyResult::Won);  // complete without its blank
+    EXPECT_EQ(shown(r), "ice-cream_man's");       // the boxes keep the word's case
 
-TEST(WordGuess, RepeatsInEitherCaseCostNothingAndBoxesKeepTheWordsCase) {
-    SharedState s = listOf({"Anna"});
-    ScriptedRng rng;
-    GuessRound r;
-    startRound(s, r, rng);
-    EXPECT_EQ(pressKey(r, 'a'), KeyResult::Hit);
-    EXPECT_EQ(shown(r), "A..a");
-    EXPECT_EQ(pressKey(r, 'A'), KeyResult::Repeat);
-    EXPECT_EQ(pressKey(r, 'z'), KeyResult::Miss);
-    EXPECT_EQ(pressKey(r, 'Z'), KeyResult::Repeat);
-    // Digits and punctuation are guesses like letters; a wrong one counts.
-    EXPECT_EQ(pressKey(r, '7'), KeyResult::Miss);
-    EXPECT_EQ(r.UsedLetters, "a z 7 ");
-    EXPECT_EQ(pressKey(r, 'N'), KeyResult::Won);
-}
-
-TEST(WordGuess, AccentedLettersFromThePaletteMatchEitherCase) {
     // Windows-1252: 0xE9 is e acute, 0xC9 its capital.
-    SharedState s = listOf({"caf\xE9"});
-    ScriptedRng rng;
-    GuessRound r;
-    startRound(s, r, rng);
-    EXPECT_EQ(pressKey(r, 'e'), KeyResult::Miss);
-    EXPECT_EQ(pressKey(r, '\xC9'), KeyResult::Hit);
-    EXPECT_EQ(r.boxes[3].letter, "\xE9");
-    EXPECT_EQ(pressKey(r, '\xE9'), KeyResult::Repeat);
+    GuessRound cafe = started("Caf\xE9");
+    EXPECT_EQ(pressKey(cafe, 'e'), KeyResult::Miss);
+    EXPECT_EQ(pressKey(cafe, '\xC9'), KeyResult::Hit);
+    EXPECT_EQ(cafe.boxes[3].letter, "\xE9");
+    EXPECT_EQ(pressKey(cafe, '\xE9'), KeyResult::Repeat);
+    EXPECT_EQ(pressKey(cafe, 'c'), KeyResult::Hit);
+    EXPECT_EQ(shown(cafe), "C..\xE9");
+    // The first box counts like the others: the word is complete only when it is filled.
+    GuessRound ox = started("ox");
+    EXPECT_EQ(pressKey(ox, 'x'), KeyResult::Hit);
+    EXPECT_EQ(pressKey(ox, 'o'), KeyResult::Won);
 }
 
 TEST(WordGuess, HintCostsARandomPartAndCanGoBelowZero) {
-    SharedState s = listOf({"owl"});
-    ScriptedRng rng;
-    GuessRound r;
-    startRound(s, r, rng);
-    EXPECT_EQ(hintText(s, r), "Definition: \"meaning of owl\"");
-    s.Score = 100;
-    rng.then(0.999);  // Int(0.999 * 100 + 1) = 100: all of it
-    payForHint(s, rng);
-    EXPECT_DOUBLE_EQ(s.Score, 0);
-    rng.then(0.5);  // at 0 the draw is 1
-    payForHint(s, rng);
-    EXPECT_DOUBLE_EQ(s.Score, -1);
-    s.Score = 10;
-    rng.then(0.0);
-    payForHint(s, rng);
-    EXPECT_DOUBLE_EQ(s.Score, 9);
+    SharedState s = ListOf({"owl"}, 2);
+    EXPECT_EQ(hintText(s, started("owl")), "Definition: \"meaning of owl\"");
+    GuessRound lost;
+    lost.PickedIndex = 5;  // past the meanings: no meaning rather than a fault
+    EXPECT_EQ(hintText(s, lost), "Definition: \"\"");
+    struct Row {
+        double score, rnd, after;
+    };
+    // Int(Rnd x Score + 1) off the score; at 0 the draw is 1.
+    for (const Row r : {Row{100, 0.999, 0}, Row{0, 0.5, -1}, Row{10, 0.0, 9}, Row{10, 0.55, 4}}) {
+        ScriptedRng rng;
+        rng.then(r.rnd);
+        s.Score = r.score;
+        payForHint(s, rng);
+        EXPECT_DOUBLE_EQ(s.Score, r.after) << r.score << " " << r.rnd;
+    }
 }
 
 TEST(WordGuess, SolveIgnoresCaseAndOuterBlanksButNotInnerOnes) {
@@ -168,14 +148,10 @@ TEST(HangmanSteps, ClipsByDifficultyAndTheLastStep) {
         bool lost;
     };
     for (const Case& c : std::vector<Case>{
-             {1, 1, "hang1", false},
              {1, 13, "hang13", false},
              {1, 14, "hang14,hangend", true},
-             {2, 1, "hang1,hang2", false},
              {2, 2, "hang3,hang4,hang5", false},
-             {2, 9, "hang12,hang13", false},
              {2, 10, "hang14,hangend", true},
-             {3, 4, "hang7,hang8,hang9,hang10", false},
              {3, 5, "hang11,hang12,hang13", false},
              {3, 6, "hang14,hangend", true},  // the sixth miss ends the hardest level
              {3, 7, "", false},               // no step past the end
@@ -200,29 +176,27 @@ TEST(HangmanSteps, ClipsByDifficultyAndTheLastStep) {
 }
 
 TEST(BugSpraySteps, GroupsByDifficultyWithTheReusedBugClips) {
-    struct Case {
-        int difficulty, misses;
-        const char* groups;
-        bool lost;
-    };
-    for (const Case& c : std::vector<Case>{
-             {1, 1, "spray1+bug1", false},
-             {1, 10, "spray10+bug4", false},  // reused on purpose
-             {1, 13, "spray13+bug9", false},
-             {1, 14, "spray14+bug14", true},
-             {2, 1, "spray1+bug1,spray2", false},
-             {2, 2, "spray3+bug2,spray4,spray5", false},
-             {2, 9, "spray12+bug9,spray13", false},
-             {2, 10, "spray14+bug14", true},
-             {3, 1, "spray1+bug1,spray2+bug2", false},
-             {3, 4, "spray7+bug5,spray8+bug6,spray9,spray10+bug7", false},
-             {3, 5, "spray11+bug8,spray12+bug9,spray13", false},
-             {3, 6, "spray14+bug14", true},
-             {3, 7, "", false},
-         }) {
-        auto step = bugspray::wrongGuessStep(c.difficulty, c.misses);
-        EXPECT_EQ(joined(step), c.groups) << c.difficulty << "/" << c.misses;
-        EXPECT_EQ(step.lost, c.lost) << c.difficulty << "/" << c.misses;
+    // Each miss's groups, "|" between misses; the bug clips 4, 5, 6 and 9 come again at level 1
+    // on purpose.
+    const char* designed[] = {
+        "spray1+bug1|spray2+bug2|spray3+bug3|spray4+bug4|spray5+bug5|spray6+bug6|spray7+bug7|"
+        "spray8+bug8|spray9+bug9|spray10+bug4|spray11+bug5|spray12+bug6|spray13+bug9|"
+        "spray14+bug14",
+        "spray1+bug1,spray2|spray3+bug2,spray4,spray5|spray6+bug3|spray7+bug4|spray8+bug5|"
+        "spray9+bug6|spray10+bug7|spray11+bug8|spray12+bug9,spray13|spray14+bug14",
+        "spray1+bug1,spray2+bug2|spray3+bug3,spray4,spray5|spray6+bug4|"
+        "spray7+bug5,spray8+bug6,spray9,spray10+bug7|spray11+bug8,spray12+bug9,spray13|"
+        "spray14+bug14"};
+    for (int d = 1; d <= 3; ++d) {
+        std::string all;
+        for (int m = 1; m <= missesAllowed(d); ++m) {
+            const auto step = bugspray::wrongGuessStep(d, m);
+            all += (m > 1 ? "|" : "") + joined(step);
+            EXPECT_EQ(step.lost, m == missesAllowed(d)) << d << "/" << m;
+        }
+        EXPECT_EQ(all, designed[d - 1]) << d;
+        EXPECT_EQ(joined(bugspray::wrongGuessStep(d, missesAllowed(d) + 1)), "") << d;
+        EXPECT_EQ(joined(bugspray::wrongGuessStep(d, 0)), "") << d;
     }
 }
 
@@ -245,12 +219,11 @@ TEST(BugSpraySteps, Sounds) {
 using namespace wm::speedtype;
 
 TEST(SpeedType, ReadySetGoThenStop) {
-    SharedState s = listOf({"a rather long word indeed"});
+    SharedState s = ListOf({"a rather long word indeed"}, 2);
     ScriptedRng rng;
     SpeedRound r;
     newWord(s, r, rng);
     EXPECT_EQ(r.call, "Ready...");
-    EXPECT_TRUE(r.WaitingForGo);
     EXPECT_EQ(pressKey(r, s.TheWord, KeyKind::Char, 'a'), Key::Ignored);
     EXPECT_EQ(tick(r, 0.25), Tick::Set);
     EXPECT_EQ(r.call, "Set...");
@@ -259,7 +232,6 @@ TEST(SpeedType, ReadySetGoThenStop) {
     EXPECT_FALSE(r.WaitingForGo);
     EXPECT_DOUBLE_EQ(r.StartTime, 0.5);
     EXPECT_EQ(tick(r, 0.75), Tick::Stop);
-    EXPECT_EQ(r.Typed, "");
 }
 
 TEST(SpeedType, TypingBackspaceAndEnter) {
@@ -279,7 +251,7 @@ TEST(SpeedType, TypingBackspaceAndEnter) {
     EXPECT_FALSE(r.WordWasRight);
 }
 
-TEST(SpeedType, FiguresAreCutFromTheTextOfT) {
+TEST(SpeedType, FiguresAndTheTimePerLetterAreCutFromTheirTexts) {
     struct Case {
         double t;
         const char *m, *s, *sd;
@@ -292,20 +264,15 @@ TEST(SpeedType, FiguresAreCutFromTheTextOfT) {
              {75.5, "01", "15", "5"},
          }) {
         auto f = figures(c.t);
-        EXPECT_EQ(f.minutes, c.m) << c.t;
-        EXPECT_EQ(f.seconds, c.s) << c.t;
-        EXPECT_EQ(f.decimals, c.sd) << c.t;
+        EXPECT_EQ(f.minutes + ":" + f.seconds + "." + f.decimals,
+                  std::string(c.m) + ":" + c.s + "." + c.sd)
+            << c.t;
     }
-}
-
-TEST(SpeedType, TimePerLetterIsCutToSixCharacters) {
     SpeedRound r;
-    r.StartTime = 0.5;
-    r.EndTime = 0.5;
+    r.StartTime = r.EndTime = 0.5;
     EXPECT_EQ(timePerLetter(elapsed(r), "cat"), "0");  // same clock second: a score of 0
     // Two seconds of a 100000-a-day clock over four letters: 0.5787037...
     EXPECT_EQ(timePerLetter(2.0 / 86400 * 100000, "fish"), "0.5787");
-    EXPECT_EQ(timePerLetter(20.0, "ab"), "10");
     EXPECT_EQ(timePerLetter(25.0, "ab"), "12.5");
     EXPECT_EQ(timePerLetter(123.4567, "a"), "123.45");
     EXPECT_EQ(wonText("0.5787"),

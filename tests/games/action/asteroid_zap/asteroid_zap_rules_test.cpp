@@ -62,6 +62,8 @@ TEST(AsteroidRow, WordsOf15OrMoreAreNeverChosen) {
     ScriptedRng only(0.2);
     EXPECT_EQ(chooseWord(s, only), 0);
     EXPECT_EQ(only.draws, kMaxWordDraws);
+    s.Words[1] = "cat";  // the first entry can be drawn
+    EXPECT_EQ(chooseWord(s, only), 1);
 }
 
 TEST(AsteroidHits, OnlyTheSubsequenceRuleDecides) {
@@ -92,6 +94,8 @@ TEST(AsteroidHits, OnlyTheSubsequenceRuleDecides) {
         EXPECT_EQ(r.allCleared, c.allCleared) << c.word << " " << c.row;
         if (std::string(c.results).back() == 'n') {
             EXPECT_TRUE(r.wrongShot);
+            ScriptedRng rng(0.5);
+            EXPECT_EQ(tick(r, 1, rng).ending, Ending::WrongLetter) << "the next tick ends it";
             EXPECT_EQ(int(r.blasts.size()), kLetters) << "every letter still alive blows up";
             for (const Blast& b : r.blasts) EXPECT_TRUE(b.frame >= 13 && b.frame <= 18);
         }
@@ -135,28 +139,15 @@ TEST(AsteroidShots, AShotIntoAnExplodingLetterIsAbsorbedAndRestartsTheBlast) {
     Round r = Wall("CAT", "QCATXXXXXXXXXXXXXXXX");
     ScriptedRng rng(0.5);
     const int column = columnAt(g, r.shipX + g.shipW / 2);
-    ASSERT_EQ(r.rocks[column].letter, 'X');
-    // Two shots, five ticks apart: the second arrives while the first's blast runs.
-    r.fireWanted = true;
-    tick(r, 1, rng);
-    for (int n = 0; n < 5; ++n) tick(r, 1, rng);
-    r.fireWanted = true;
-    tick(r, 1, rng);
-    std::vector<int> hits;
-    int frameAtSecondHit = 0;
-    for (int n = 0; n < 200 && hits.size() < 2; ++n) {
-        const TickEvents e = tick(r, 1, rng);
-        if (e.hit >= 0) {
-            hits.push_back(e.hit);
-            if (hits.size() == 2) frameAtSecondHit = r.rocks[column].frame;
-        }
-        if (hits.size() == 1 && n < 199) {
-            EXPECT_TRUE(r.rocks[column].exploding);
-        }
+    // Two shots, six ticks apart: the second arrives while the first's blast runs.
+    for (int n = 0; n < 7; ++n) {
+        r.fireWanted = n == 0 || n == 6;
+        tick(r, 1, rng);
     }
-    ASSERT_EQ(hits, (std::vector<int>{column, column})) << "the second shot flew through";
-    EXPECT_EQ(frameAtSecondHit, 13) << "the blast starts again";
-    for (const Shot& s : r.shots) EXPECT_FALSE(s.flying);
+    std::vector<int> frames;
+    for (int n = 0; n < 200 && frames.size() < 2; ++n)
+        if (tick(r, 1, rng).hit >= 0) frames.push_back(r.rocks[column].frame);
+    EXPECT_EQ(frames, (std::vector<int>{13, 13})) << "the blast starts again";
     EXPECT_FALSE(r.wrongShot);
     // The blast runs its eight frames, then the letter is gone for good: shots pass.
     for (int n = 0; n < 8; ++n) tick(r, 1, rng);
@@ -179,22 +170,6 @@ TEST(AsteroidWall, SinksByDifficultyUntilTheShip) {
     EXPECT_EQ(tick(r, 7, rng).ending, Ending::ShipDestroyed);
     EXPECT_TRUE(r.over);
     EXPECT_FALSE(r.blasts.empty());
-}
-
-TEST(AsteroidWall, TheEndBlastsGoRoundTheShipUpTo1000TwipsEitherWay) {
-    for (const double roll : {0.0, 0.9999}) {
-        Round r = Wall("CAT", "QCATXXXXXXXXXXXXXXXX");
-        ScriptedRng rng(roll);
-        r.rocks[5].bottom = r.g.shipTop() - r.g.shipH;
-        ASSERT_EQ(tick(r, 1, rng).ending, Ending::ShipDestroyed);
-        const int cx = r.shipX + r.g.shipW / 2, cy = r.g.shipTop() + r.g.shipH / 2;
-        const int off = roll == 0.0 ? -1000 : 999;
-        ASSERT_FALSE(r.blasts.empty());
-        for (const Blast& b : r.blasts) {
-            EXPECT_EQ(b.x, cx + off);
-            EXPECT_EQ(b.y, cy + off);
-        }
-    }
 }
 
 TEST(AsteroidShip, StaysUnderTheRow) {

@@ -1,11 +1,8 @@
 // Crunch Man on its screen: from the title through a scripted field to a win and the table,
-// to a wrong letter and to a mine, the sounds gated by SoundOn, the long-word refusal, and every
-// capital whole inside its label.
-#include <QKeyEvent>
+// to a wrong letter and to a mine, the sounds gated by SoundOn, and the long-word refusal.
 #include <QtTest>
 
-#include "core/score_table.h"
-#include "game_road.h"
+#include "game_start.h"
 #include "games/action/crunch_man/crunch_man_screen.h"
 
 using namespace wm;
@@ -23,11 +20,9 @@ void ScriptField(ScriptedRng& rng) {
 }
 
 CrunchManGame* Start(ShellFixture& fx, bool soundOn = true) {
-    WriteOneList(fx, "Pets", {{"cat", "a small furry pet"}});
-    auto* chooser = ChooserFor("Crunch Man", 2, false, soundOn);
     ScriptField(fx.rng);
-    ContinueWithList(chooser, "Pets");
-    auto* game = Showing<CrunchManGame>();
+    auto* game = OpenGame<CrunchManGame>(fx, "Crunch Man", {{"cat", "a small furry pet"}}, 2,
+                                         false, soundOn);
     Pump(20);  // the instructions come once the screen has painted
     return game;
 }
@@ -35,15 +30,6 @@ CrunchManGame* Start(ShellFixture& fx, bool soundOn = true) {
 int CentreColumn(CrunchManGame* g) {
     const auto& r = g->round();
     return int((r.x + 23) / r.cellW);
-}
-int CentreRow(CrunchManGame* g) {
-    const auto& r = g->round();
-    return int((r.y + 22 - 67) / r.cellH);
-}
-
-void Press(CrunchManGame* g, int key) {
-    QKeyEvent e(QEvent::KeyPress, key, Qt::NoModifier);
-    QApplication::sendEvent(g, &e);
 }
 
 // Ticks until `done` holds, at most `limit` ticks.
@@ -65,7 +51,6 @@ private slots:
     void wrongLetterBlinksThenAsks();
     void mineExplodesThenAsksWithoutSound();
     void longWordsAreRefused();
-    void everyCapitalFitsItsLabel();
 };
 
 void CrunchManScreenTest::roadToAWinAndTheTable() {
@@ -78,18 +63,15 @@ void CrunchManScreenTest::roadToAWinAndTheTable() {
         "keyboard, you will try to eat the letters in order so they spell out the word that best "
         "matches that definition. Press the ENTER key when you are ready to begin!"));
     QCOMPARE(game->definition(), "Definition: a small furry pet");
-    QCOMPARE(game->scoreCaption(), "Score: 0");
-    QCOMPARE(QString::fromStdString(Shared().TheWord), "CAT");
 
     QVERIFY(TickUntil([&] { return CentreColumn(game) == 12; }));
     Shot(game, "crunch-man");
-    Press(game, Qt::Key_Up);
+    SendKey(game, Qt::Key_Up);
     QVERIFY(TickUntil([&] { return game->spelled() == "C"; }));
-    QCOMPARE(CentreRow(game), 4);
     QCOMPARE(game->scoreCaption(), "Score: 202");  // (Int(0.5 x 200) + 1) x 2 mines
     // The eaten letter is gone from the field itself.
     const QRect under(12 * 64 + 20, 67 + 4 * 60 + 12, 23, 36);
-    Press(game, Qt::Key_Right);
+    SendKey(game, Qt::Key_Right);
     Pump(50 * 8);
     const QImage& surface = game->field()->surface();
     int yellow = 0;
@@ -104,12 +86,9 @@ void CrunchManScreenTest::roadToAWinAndTheTable() {
     QVERIFY(TickUntil([&] { return Showing<Title>() != nullptr; }));
     QVERIFY(fx.sound.played.contains("dingling.wav"));
     QVERIFY(fx.sound.played.contains("winner2.wav"));
-    QCOMPARE(driver.tables.size(), 1);
     QCOMPARE(fx.dialogs.last(), "You chomped a score of 606! Would you like to try again?");
     QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
-    const ScoreTable table = ReadScoreTable(fx.path("scores/Crunch Man.dat").toStdString());
-    QCOMPARE(QString::fromStdString(table.initials(1)), "CMN");
-    QCOMPARE(table.score(1), 606.0);
+    QCOMPARE(TableRow(fx, "Crunch Man"), "CMN 606");
 }
 
 void CrunchManScreenTest::wrongLetterBlinksThenAsks() {
@@ -117,7 +96,7 @@ void CrunchManScreenTest::wrongLetterBlinksThenAsks() {
     auto* game = Start(fx);
     QVERIFY(game);
     QVERIFY(TickUntil([&] { return CentreColumn(game) == 14; }));
-    Press(game, Qt::Key_Up);
+    SendKey(game, Qt::Key_Up);
     QVERIFY(TickUntil([&] { return game->dying(); }));
     QVERIFY(fx.sound.played.contains("bonk.wav"));
     QVERIFY(game->round().labels[1].red);
@@ -129,17 +108,16 @@ void CrunchManScreenTest::wrongLetterBlinksThenAsks() {
         "Oops! You lost this game! The word you were looking for was \"CAT\". Would you like to "
         "give it another try?"));
     QCOMPARE(game->frame().round(), round + 1);  // Yes: a new round
-    QVERIFY(!QFile::exists(fx.path("scores/Crunch Man.dat")) ||
-            ReadScoreTable(fx.path("scores/Crunch Man.dat").toStdString()).score(1) == 0);
+    QCOMPARE(ReadScoreTable(fx.path("scores/Crunch Man.dat").toStdString()).score(1), 0.0);
 }
 
 void CrunchManScreenTest::mineExplodesThenAsksWithoutSound() {
     ShellFixture fx;
     auto* game = Start(fx, false);
     QVERIFY(game);
-    Press(game, Qt::Key_Left);
+    SendKey(game, Qt::Key_Left);
     QVERIFY(TickUntil([&] { return CentreColumn(game) == 1; }));
-    Press(game, Qt::Key_Down);
+    SendKey(game, Qt::Key_Down);
     QVERIFY(TickUntil([&] { return game->dying(); }));
     Pump(50 * 20);
     QVERIFY(!game->dying());
@@ -153,54 +131,13 @@ void CrunchManScreenTest::mineExplodesThenAsksWithoutSound() {
 
 void CrunchManScreenTest::longWordsAreRefused() {
     ShellFixture fx;
-    WriteOneList(fx, "Long", {{"supercalifragilistic", "too long"}, {"antidisestablishment", "x"}});
-    auto* chooser = ChooserFor("Crunch Man", 3, false);
-    ContinueWithList(chooser, "Long");
+    OpenGame<QWidget>(fx, "Crunch Man",
+                      {{"supercalifragilistic", "too long"}, {"antidisestablishment", "x"}}, 3);
     Pump(50);
     QVERIFY(
         fx.dialogs.saw("The words on this list are too long to play this game! Choose another "
                        "list or another game."));
     QVERIFY(Showing<Title>() != nullptr);
-}
-
-void CrunchManScreenTest::everyCapitalFitsItsLabel() {
-    // The letters stand in labels of 23 by 36 pixels; the widest capitals (W, M) must show whole,
-    // their ink inside the label with a clear edge, and no letter may be shrunk to a speck.
-    for (const char* word : {"ABCDEFGHIJKLM", "NOPQRSTUVWXYZ"}) {
-        ShellFixture fx;
-        WriteOneList(fx, "Alphabet", {{word, "the letters"}});
-        SeededRng rng(3);
-        SetRng(&rng);
-        auto* game = qobject_cast<CrunchManGame*>(
-            ContinueWithList(ChooserFor("Crunch Man", 2, false), "Alphabet"));
-        QVERIFY(game);
-        Pump(20);
-        Shot(game, QString("crunch-man-%1").arg(word[0]));
-        const QImage surface = game->field()->surface().convertToFormat(QImage::Format_RGB32);
-        const auto ink = [&](int x, int y) {
-            const QRgb c = surface.pixel(x, y);
-            return qRed(c) > 60 && qGreen(c) > 60 && qBlue(c) < 60;  // yellow, or its soft edge
-        };
-        for (int k = 0; k < 13; ++k) {
-            const crunch::Letter& l = game->round().labels[k];
-            QCOMPARE(l.text, word[k]);
-            const QRect label(l.left, l.top, 23, 36);
-            QRect inked;
-            for (int y = label.top() - 6; y <= label.bottom() + 6; ++y)
-                for (int x = label.left() - 6; x <= label.right() + 6; ++x)
-                    if (ink(x, y)) inked |= QRect(x, y, 1, 1);
-            const QString what = QString("%1: ink %2,%3 %4x%5")
-                                     .arg(l.text)
-                                     .arg(inked.x())
-                                     .arg(inked.y())
-                                     .arg(inked.width())
-                                     .arg(inked.height());
-            // Inside the label and clear of its edges: nothing cut off.
-            QVERIFY2(label.adjusted(1, 1, -1, -1).contains(inked), qPrintable(what));
-            QVERIFY2(inked.height() >= 20 && inked.width() >= 4, qPrintable(what));
-        }
-        SetRng(nullptr);
-    }
 }
 
 QTEST_MAIN(CrunchManScreenTest)

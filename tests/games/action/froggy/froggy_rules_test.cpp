@@ -202,6 +202,17 @@ TEST(FroggyLogs, RideDrownAndTheEdge) {
     water.logX[3] = 0;
     water.logX[6] = -700;
     EXPECT_EQ(logTick(water, rode), Outcome::Drowned);
+    // A log leaves once all of it has passed an edge, and comes back at the other side.
+    Board edges = Lay(1);
+    edges.logX[3] = -637;  // by -3 a tick: to -640, still showing its last pixels
+    edges.logX[6] = -638;
+    edges.logX[2] = 1278;  // by +2
+    edges.logX[5] = 1279;
+    logTick(edges, rode);
+    EXPECT_EQ(edges.logX[3], -640);
+    EXPECT_EQ(edges.logX[6], 1280);
+    EXPECT_EQ(edges.logX[2], 1280);
+    EXPECT_EQ(edges.logX[5], -640);
 }
 
 TEST(FroggyScore, BonusRunsDownAndIsReadAtTheWin) {

@@ -4,24 +4,13 @@
 
 #include "core/strings.h"
 #include "games/action/jailbreak/jailbreak_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::jailbreak;
+using wm::test::PairsList;
 
 namespace {
-
-SharedState List(const std::vector<std::pair<std::string, std::string>>& pairs, int level) {
-    SharedState s;
-    s.Words = {""};
-    s.Meanings = {""};
-    for (const auto& [w, m] : pairs) {
-        s.Words.push_back(w);
-        s.Meanings.push_back(m);
-    }
-    s.WordCount = static_cast<short>(pairs.size());
-    s.Difficulty = level;
-    return s;
-}
 
 const std::vector<std::pair<std::string, std::string>> kEight = {
     {"apple", "a red fruit"},     {"river", "water that flows"}, {"cloud", "it floats in the sky"},
@@ -37,7 +26,7 @@ std::vector<int> Entries(const Jail& j) {
 }  // namespace
 
 TEST(JailbreakDraw, LocksComeInDrawOrderAndTheGameStartsClean) {
-    SharedState s = List(kEight, 3);
+    SharedState s = PairsList(kEight, 3);
     s.Score = 555;
     ScriptedRng rng;
     rng.pick(5, 8).pick(2, 8).pick(7, 8);
@@ -58,7 +47,7 @@ TEST(JailbreakDraw, LocksComeInDrawOrderAndTheGameStartsClean) {
 }
 
 TEST(JailbreakDraw, NoWordTwiceInACellNorInAGameWhileTheListHasEnough) {
-    SharedState s = List(kEight, 3);
+    SharedState s = PairsList(kEight, 3);
     s.Words[3] = "APPLE";  // the same word as entry 1 to a pupil who types it
     ScriptedRng rng;
     rng.pick(1, 8).pick(3, 8).pick(1, 8).pick(4, 8).pick(4, 8).pick(2, 8);
@@ -79,7 +68,7 @@ TEST(JailbreakDraw, NoWordTwiceInACellNorInAGameWhileTheListHasEnough) {
 }
 
 TEST(JailbreakDraw, AShortListRepeatsAcrossCellsButNeverInsideOne) {
-    SharedState s = List({{"cat", "purrs"}, {"dog", "barks"}, {"hen", "lays eggs"}}, 3);
+    SharedState s = PairsList({{"cat", "purrs"}, {"dog", "barks"}, {"hen", "lays eggs"}}, 3);
     ScriptedRng rng;
     rng.pick(1, 3).pick(2, 3).pick(3, 3);
     Jail j;
@@ -89,7 +78,7 @@ TEST(JailbreakDraw, AShortListRepeatsAcrossCellsButNeverInsideOne) {
     EXPECT_EQ(Entries(j), (std::vector<int>{2, 1, 3}));
 
     // Just enough new words for the next cell: they are the ones drawn.
-    SharedState four = List({{"cat", "purrs"}, {"dog", "barks"}, {"hen", "lays eggs"},
+    SharedState four = PairsList({{"cat", "purrs"}, {"dog", "barks"}, {"hen", "lays eggs"},
                              {"owl", "hoots"}}, 2);
     rng.pick(1, 4).pick(2, 4);
     ASSERT_TRUE(newGame(four, j, rng));
@@ -99,7 +88,7 @@ TEST(JailbreakDraw, AShortListRepeatsAcrossCellsButNeverInsideOne) {
 }
 
 TEST(JailbreakDraw, ACountPastTheLoadedEntriesDrawsAmongThoseLoaded) {
-    SharedState s = List(kEight, 1);
+    SharedState s = PairsList(kEight, 1);
     s.WordCount = 1001;  // what a list over the limit leaves
     ScriptedRng rng;
     rng.then(0.999);
@@ -109,7 +98,7 @@ TEST(JailbreakDraw, ACountPastTheLoadedEntriesDrawsAmongThoseLoaded) {
 }
 
 TEST(JailbreakDraw, TheDrawIsBoundedAndWalksOnThroughTheList) {
-    SharedState s = List({{"cat", "purrs"}, {"", "no word"}, {"dog", ""}, {"hen", "lays eggs"}}, 2);
+    SharedState s = PairsList({{"cat", "purrs"}, {"", "no word"}, {"dog", ""}, {"hen", "lays eggs"}}, 2);
     ScriptedRng rng(0.0);  // always entry 1
     Jail j;
     ASSERT_TRUE(newGame(s, j, rng));
@@ -120,7 +109,7 @@ TEST(JailbreakDraw, TheDrawIsBoundedAndWalksOnThroughTheList) {
 }
 
 TEST(JailbreakDraw, TooFewDifferentWordsIsSaidNotPlayed) {
-    SharedState s = List({{"cat", "purrs"}, {"Cat", "a pet"}, {" CAT ", "meows"}, {"dog", ""}}, 2);
+    SharedState s = PairsList({{"cat", "purrs"}, {"Cat", "a pet"}, {" CAT ", "meows"}, {"dog", ""}}, 2);
     ScriptedRng rng;
     Jail j;
     EXPECT_FALSE(newGame(s, j, rng));
@@ -135,16 +124,10 @@ TEST(JailbreakDraw, TheLevelIsTheNumberOfLocks) {
                                                                 {6, 6}, {7, 6}}) {
         EXPECT_EQ(locksFor(level), locks) << level;
     }
-    SharedState s = List(kEight, 6);
-    ScriptedRng rng;
-    for (int k : {8, 7, 6, 5, 4, 3}) rng.pick(k, 8);
-    Jail j;
-    ASSERT_TRUE(newGame(s, j, rng));
-    EXPECT_EQ(Entries(j), (std::vector<int>{8, 7, 6, 5, 4, 3}));
 }
 
 TEST(JailbreakPlay, TypedWordsOpenLocksAndMistakesCost) {
-    SharedState s = List({{"caf\xE9", "a small restaurant"}, {"bridge", "it crosses water"},
+    SharedState s = PairsList({{"caf\xE9", "a small restaurant"}, {"bridge", "it crosses water"},
                           {"ice cream", "a cold treat"}},
                          3);
     ScriptedRng rng;
@@ -178,26 +161,20 @@ TEST(JailbreakPlay, TypedWordsOpenLocksAndMistakesCost) {
 }
 
 TEST(JailbreakPlay, OpeningTheSelectedLockMovesTheSelectionOn) {
-    SharedState s = List(kEight, 3);
+    SharedState s = PairsList(kEight, 3);
     ScriptedRng rng;
     rng.pick(1, 8).pick(2, 8).pick(3, 8);
     Jail j;
     ASSERT_TRUE(newGame(s, j, rng));
     select(j, 2);
-    EXPECT_EQ(j.selected, 2);
     typeWord(s, j, "river");  // not the selected one: it stays
     EXPECT_EQ(j.selected, 2);
-    select(j, 1);  // open: not selectable
-    EXPECT_EQ(j.selected, 2);
-    select(j, 3);  // out of range
-    EXPECT_EQ(j.selected, 2);
-    select(j, -1);
+    for (int open_or_out : {1, 3, -1}) select(j, open_or_out);  // none of these is selectable
     EXPECT_EQ(j.selected, 2);
     select(j, 0);
     EXPECT_EQ(j.selected, 0);
     select(j, 2);
     s.TheWord.clear();
-    s.TheMeaning.clear();
     EXPECT_EQ(typeWord(s, j, "cloud").result, Result::Opened);
     EXPECT_EQ(j.selected, 0);
     EXPECT_EQ(s.TheWord, "apple");
@@ -205,7 +182,7 @@ TEST(JailbreakPlay, OpeningTheSelectedLockMovesTheSelectionOn) {
 }
 
 TEST(JailbreakPlay, TheGuardCatchesYouAtTheDoor) {
-    SharedState s = List(kEight, 2);
+    SharedState s = PairsList(kEight, 2);
     ScriptedRng rng;
     rng.pick(1, 8).pick(2, 8);
     Jail j;
@@ -232,7 +209,7 @@ TEST(JailbreakPlay, TheGuardCatchesYouAtTheDoor) {
 }
 
 TEST(JailbreakPlay, AClearedCellStopsTheGuard) {
-    SharedState s = List(kEight, 1);
+    SharedState s = PairsList(kEight, 1);
     ScriptedRng rng;
     rng.pick(6, 8);
     Jail j;
@@ -247,7 +224,7 @@ TEST(JailbreakPlay, AClearedCellStopsTheGuard) {
 }
 
 TEST(JailbreakPlay, HintsShowTheFirstLetterAndTheFirstLookCosts) {
-    SharedState s = List({{"apple", "a red fruit"}, {"\xE9t\xE9", "summer, in French"}}, 2);
+    SharedState s = PairsList({{"apple", "a red fruit"}, {"\xE9t\xE9", "summer, in French"}}, 2);
     ScriptedRng rng;
     rng.pick(1, 2).pick(2, 2);
     Jail j;

@@ -6,24 +6,13 @@
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "games/action/toad_race/toad_race_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::toad_race;
+using wm::test::ListOf;
 
 namespace {
-
-SharedState List(std::vector<std::string> words, int level = 5) {
-    SharedState s;
-    s.Words = {""};
-    s.Meanings = {""};
-    for (const auto& w : words) {
-        s.Words.push_back(w);
-        s.Meanings.push_back("meaning of " + w);
-    }
-    s.WordCount = static_cast<short>(words.size());
-    s.Difficulty = level;
-    return s;
-}
 
 // A race already past "Go!", its first word and waits drawn from `rng`.
 Race Started(SharedState& s, ScriptedRng& rng) {
@@ -53,7 +42,7 @@ TEST(ToadRacePace, HopEvery8000Less650ALevelWithAFifthOfJitter) {
 }
 
 TEST(ToadRaceStart, ReseedsDrawsTheWordThenEachToadsFirstWait) {
-    SharedState s = List({"cat", "dog", "owl", "bee"}, 4);
+    SharedState s = ListOf({"cat", "dog", "owl", "bee"}, 4);
     ScriptedRng rng;
     rng.pick(3, 4).then(0.0).then(0.5).then(0.75);
     Race r;
@@ -75,19 +64,19 @@ TEST(ToadRaceStart, ReseedsDrawsTheWordThenEachToadsFirstWait) {
 TEST(ToadRaceStart, LevelHeldToTheSliderAndEmptyListsRefused) {
     ScriptedRng rng(0.5);
     for (auto [given, held] : {std::pair{0, 1}, {1, 1}, {10, 10}, {15, 10}}) {
-        SharedState s = List({"cat"}, given);
+        SharedState s = ListOf({"cat"}, given);
         Race r;
         ASSERT_TRUE(r.start(s, rng));
         EXPECT_EQ(r.level(), held) << given;
     }
-    SharedState none = List({});
+    SharedState none = ListOf({}, 5);
     const int before = rng.draws;
     EXPECT_FALSE(Race().start(none, rng));
     EXPECT_EQ(rng.draws, before);  // nothing drawn from an empty list
 }
 
 TEST(ToadRaceWords, NoRepeatsUntilTheListRunsOut) {
-    SharedState s = List({"cat", "dog", "owl", "bee"});
+    SharedState s = ListOf({"cat", "dog", "owl", "bee"}, 5);
     ScriptedRng rng(0.5);
     rng.pick(1, 4);
     Race r = Started(s, rng);
@@ -118,7 +107,7 @@ TEST(ToadRaceWords, NoRepeatsUntilTheListRunsOut) {
 }
 
 TEST(ToadRaceWords, TwoWordsTakeTurns) {
-    SharedState s = List({"cat", "dog"});
+    SharedState s = ListOf({"cat", "dog"}, 5);
     ScriptedRng rng(0.5);
     rng.pick(1, 2).then(0.5).then(0.5).then(0.5).pick(2, 2);
     Race r = Started(s, rng);
@@ -131,29 +120,6 @@ TEST(ToadRaceWords, TwoWordsTakeTurns) {
     EXPECT_EQ(rng.pending(), 0u);
 }
 
-TEST(ToadRaceWords, AListOverTheLimitDrawsAmongTheWordsLoaded) {
-    SharedState s;  // room for 1001 entries, as the list file leaves it
-    for (int k = 1; k <= kMaxWords; ++k) s.Words[k] = "w" + std::to_string(k);
-    s.WordCount = kMaxWords + 1;
-    s.Difficulty = 5;
-    ScriptedRng rng(0.5);
-    rng.then(0.9999);
-    Race r;
-    ASSERT_TRUE(r.start(s, rng));
-    EXPECT_EQ(s.TheWord, "w1000");
-}
-
-TEST(ToadRaceWords, AOneWordListStillRaces) {
-    SharedState s = List({"owl"});
-    ScriptedRng rng(0.3);
-    Race r = Started(s, rng);
-    for (int i = 1; i < kPads; ++i) {
-        ASSERT_EQ(r.submit(s, "owl", rng), Typed::Hop) << i;
-        ASSERT_EQ(s.TheWord, "owl");
-    }
-    EXPECT_EQ(r.submit(s, "owl", rng), Typed::Home);
-}
-
 TEST(ToadRaceTyping, CaseIgnoredAccentsCountBlanksAroundDoNotMatter) {
     struct Row {
         const char* typed;
@@ -164,7 +130,7 @@ TEST(ToadRaceTyping, CaseIgnoredAccentsCountBlanksAroundDoNotMatter) {
                          {"caf", Typed::Wrong},      {"caf\xE9s", Typed::Wrong},
                          {"", Typed::Wrong},         {"c af\xE9", Typed::Wrong}};
     for (const Row& row : table) {
-        SharedState s = List({"caf\xE9", "th\xE9"});
+        SharedState s = ListOf({"caf\xE9", "th\xE9"}, 5);
         ScriptedRng rng(0.5);
         rng.pick(1, 2);
         Race r = Started(s, rng);
@@ -183,7 +149,7 @@ TEST(ToadRaceTyping, CaseIgnoredAccentsCountBlanksAroundDoNotMatter) {
 }
 
 TEST(ToadRaceClock, ComputerToadsHopOnTheirOwnClocksInOrder) {
-    SharedState s = List({"cat"}, 4);  // every 5400 ms, 4320..6480 with jitter
+    SharedState s = ListOf({"cat"}, 4);  // every 5400 ms, 4320..6480 with jitter
     ScriptedRng rng;
     rng.then(0.1).then(0.5).then(0.0).then(0.5);  // word; waits 5400, 4320, 5400
     Race r = Started(s, rng);
@@ -216,7 +182,7 @@ TEST(ToadRaceClock, ComputerToadsHopOnTheirOwnClocksInOrder) {
 }
 
 TEST(ToadRaceEnd, AComputerToadHomeFirstLoses) {
-    SharedState s = List({"cat", "dog"}, 10);
+    SharedState s = ListOf({"cat", "dog"}, 10);
     ScriptedRng rng(0.5);
     rng.pick(1, 2).then(0.5).then(0.0).then(0.5);  // toad 2 leaves first and keeps ahead
     Race r = Started(s, rng);
@@ -245,7 +211,7 @@ TEST(ToadRaceEnd, AComputerToadHomeFirstLoses) {
 
 TEST(ToadRaceEnd, ThePupilHomeFirstWinsAndScores) {
     // (pads the best computer toad is behind x 100 + letters typed right x 5) x level
-    SharedState s = List({"frog", "pond", "lily", "reed", "newt", "swan", "duck", "moss", "fish",
+    SharedState s = ListOf({"frog", "pond", "lily", "reed", "newt", "swan", "duck", "moss", "fish",
                           "bank", "mud", "rain"},
                          3);
     ScriptedRng rng(0.5);

@@ -86,8 +86,9 @@ TEST(BasketballRules, LettersRevealOneByOneOverRandomCapitals) {
     EXPECT_EQ(g.revealed(), 2);
     ScriptedRng rest(0.99);  // always reveal, at the last hidden place
     std::string caption;
-    for (int i = 0; i < 10 && !done; ++i) caption = g.revealTick(rest, done);
-    EXPECT_TRUE(done);
+    int ticks = 0;
+    for (; ticks < 10 && !done; ++ticks) caption = g.revealTick(rest, done);
+    EXPECT_EQ(ticks, 3) << "two more letters, then done as soon as all four show";
     EXPECT_EQ(caption, "hoop");
 }
 

@@ -65,7 +65,10 @@ TEST(MiniGolfRules, SetupLaysOutTheCourseAndTheWord) {
     EXPECT_EQ(c.caption(5), "fig");
     EXPECT_EQ(c.pattern(), 1);
     EXPECT_EQ(c.B(), 384);
-    const Box& b = c.box();
+    const Box& b = c.box();  // 0.1 to 0.9 of the field's 15360 x 11520 twips across and down
+    EXPECT_EQ(b.left, 1536);
+    EXPECT_EQ(b.right, 13824);
+    EXPECT_EQ(b.bottom, 10368);
     EXPECT_EQ(c.holeY(1), b.top + b.height() / 10);
     EXPECT_EQ(c.holeY(4), b.top + b.height() / 5);
     EXPECT_EQ(c.holeX(2), b.right - b.width() / 10 - 100);

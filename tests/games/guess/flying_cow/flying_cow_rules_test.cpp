@@ -6,25 +6,13 @@
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "games/guess/flying_cow/flying_cow_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::cow;
+using wm::test::ListOf;
 
 namespace {
-SharedState ListOf(std::vector<std::string> words, int difficulty = 4, bool wordsOnly = false) {
-    SharedState s;
-    s.Words = {""};
-    s.Meanings = {""};
-    for (const auto& w : words) {
-        s.Words.push_back(w);
-        s.Meanings.push_back(wordsOnly ? "" : "the meaning of " + w);
-    }
-    s.WordCount = int(words.size());
-    s.Difficulty = static_cast<short>(difficulty);
-    s.WordsOnly = wordsOnly ? kTrue : kFalse;
-    return s;
-}
-
 std::string Shown(const Game& g) {
     std::string out;
     for (std::size_t i = 0; i < g.word().size(); ++i) out += g.shown(int(i)) ? g.word()[i] : '.';
@@ -51,7 +39,7 @@ TEST(FlyingCowRules, MissesAndPointsByLevel) {
 }
 
 TEST(FlyingCowRules, DrawsWithoutRepeatsWhileTheListLasts) {
-    SharedState s = ListOf({"apple", "berry", "cherry"});
+    SharedState s = ListOf({"apple", "berry", "cherry"}, 4);
     ScriptedRng rng;
     // Int(Rnd x 3 + 1): 2; then 2 again (drawn) and 3; then 2, 3 (drawn) and 1.
     rng.pick(2, 3).pick(2, 3).pick(3, 3).pick(2, 3).pick(3, 3).pick(1, 3);
@@ -61,7 +49,7 @@ TEST(FlyingCowRules, DrawsWithoutRepeatsWhileTheListLasts) {
     EXPECT_EQ(rng.randomizeCount, 1);
     EXPECT_EQ(g.word(), "berry");
     EXPECT_EQ(s.TheWord, "berry");
-    EXPECT_EQ(s.TheMeaning, "the meaning of berry");
+    EXPECT_EQ(s.TheMeaning, "meaning of berry");
     std::vector<std::string> order{g.word()};
     for (int i = 2; i <= 5; ++i) {
         ASSERT_TRUE(g.nextWord(s, rng));
@@ -76,7 +64,7 @@ TEST(FlyingCowRules, DrawsWithoutRepeatsWhileTheListLasts) {
 
 TEST(FlyingCowRules, DrawSkipsWhatCannotBePlayedAndIsBounded) {
     const std::string tooLong(kMaxLetters + 1, 'a');
-    SharedState s = ListOf({"", "- '", tooLong, "owl", "OWL", "cat"});
+    SharedState s = ListOf({"", "- '", tooLong, "owl", "OWL", "cat"}, 4);
     ScriptedRng rng;
     rng.pick(1, 6).pick(2, 6).pick(3, 6).pick(4, 6);
     EXPECT_EQ(drawWord(s, rng, {}), 4);
@@ -89,18 +77,18 @@ TEST(FlyingCowRules, DrawSkipsWhatCannotBePlayedAndIsBounded) {
     EXPECT_EQ(drawWord(s, stuck, {4}), 6);
     EXPECT_EQ(stuck.draws, 200);
     // Nothing playable, or nothing at all.
-    SharedState none = ListOf({"", "--", tooLong});
+    SharedState none = ListOf({"", "--", tooLong}, 4);
     EXPECT_EQ(drawWord(none, rng, {}), 0);
     Game g;
     EXPECT_FALSE(g.start(none, rng));
     EXPECT_EQ(g.press(none, 'a'), Key::Ignored);
-    SharedState empty = ListOf({});
+    SharedState empty = ListOf({}, 4);
     EXPECT_EQ(drawWord(empty, rng, {}), 0);
     EXPECT_TRUE(playable(std::string(kMaxLetters, 'b')));
 }
 
 TEST(FlyingCowRules, LettersCaseAccentsAndWhatShowsFromTheStart) {
-    SharedState s = ListOf({"caf\xE9 au-lait's"});
+    SharedState s = ListOf({"caf\xE9 au-lait's"}, 4);
     ScriptedRng rng;
     Game g;
     ASSERT_TRUE(g.start(s, rng));
@@ -120,14 +108,19 @@ TEST(FlyingCowRules, LettersCaseAccentsAndWhatShowsFromTheStart) {
     EXPECT_EQ(g.misses(), 1);
     EXPECT_EQ(g.rung(), 1);
     // A digit in the word is a letter to find.
-    SharedState d = ListOf({"r2d2"});
+    SharedState d = ListOf({"r2d2"}, 4);
     ASSERT_TRUE(g.start(d, rng));
     EXPECT_EQ(g.press(d, '2'), Key::Hit);
     EXPECT_EQ(g.press(d, '3'), Key::Ignored);
+    // The accented capitals of Windows-1252 from 0xC0 on are letters; the multiply sign is not.
+    SharedState la = ListOf({"\xE0 la"}, 4);
+    ASSERT_TRUE(g.start(la, rng));
+    EXPECT_EQ(g.press(la, '\xD7'), Key::Ignored);
+    EXPECT_EQ(g.press(la, '\xC0'), Key::Hit);
 }
 
 TEST(FlyingCowRules, RungsUpOnMissesDownOnADoubleFill) {
-    SharedState s = ListOf({"bananas"});
+    SharedState s = ListOf({"bananas"}, 4);
     ScriptedRng rng;
     Game g;
     ASSERT_TRUE(g.start(s, rng));
