@@ -1,6 +1,6 @@
 // Blind Tiles on its screen: the road from the title to a win, the table and another round; the
 // same word twice in the list, another list word typed into a slot, Give Answer down to a
-// negative score; a list that cannot cross.
+// negative score.
 #include <QtTest>
 
 #include "core/strings.h"
@@ -54,7 +54,6 @@ class BlindTilesScreenTest : public QObject {
 private slots:
     void roadToAWinTheTableAndAnotherRound();
     void twinWordsWrongSlotAndGiveAnswerToANegativeScore();
-    void listThatCannotCrossGoesBackToTheTitle();
 };
 
 void BlindTilesScreenTest::roadToAWinTheTableAndAnotherRound() {
@@ -151,14 +150,6 @@ void BlindTilesScreenTest::twinWordsWrongSlotAndGiveAnswerToANegativeScore() {
     QVERIFY(
         fx.dialogs.saw("Oops! You had a negative score! Maybe you will do better next time..."));
     QCOMPARE(fx.dialogs.shown.back().title, "You lose!");
-    QVERIFY(Showing<Title>());
-}
-
-void BlindTilesScreenTest::listThatCannotCrossGoesBackToTheTitle() {
-    Road fx(2);
-    auto* game = OpenBlindTiles(fx, {"abc", "xyz", "klm"}, 3, true);
-    QVERIFY(!game);
-    QVERIFY(fx.dialogs.saw("Crossword creation failed. Please try another word list."));
     QVERIFY(Showing<Title>());
 }
 

@@ -1,5 +1,5 @@
 // Crossword on its screen: the road to a win and the table, the road to a negative score through
-// Give Answer, the wait panel and Restart, the key guard on the button, a list that cannot cross.
+// Give Answer, and the key guard on the button.
 #include <QtTest>
 
 #include "core/strings.h"
@@ -51,9 +51,7 @@ class CrosswordScreenTest : public QObject {
 private slots:
     void roadToAWinAndTheTable();
     void giveAnswerEverywhereLosesWithoutASound();
-    void firstRoundKeepsTheScoreAndRestartWaitsForTheLayout();
     void keyOnTheButtonNeverGivesTheAnswer();
-    void listThatCannotCrossGoesBackToTheTitle();
 };
 
 void CrosswordScreenTest::roadToAWinAndTheTable() {
@@ -146,31 +144,6 @@ void CrosswordScreenTest::giveAnswerEverywhereLosesWithoutASound() {
     QVERIFY(Showing<Title>());
 }
 
-void CrosswordScreenTest::firstRoundKeepsTheScoreAndRestartWaitsForTheLayout() {
-    Road fx(3);
-    WriteOneList(fx, "Space Words", kSpace);
-    auto* chooser = ChooserFor("Crossword", 10, false, true);
-    Shared().Score = 777;  // left over from an earlier game
-    ContinueWithList(chooser, "Space Words");
-    auto* game = Showing<CrosswordForm>();
-    QVERIFY(game);
-    Pump(100);
-    auto* label2 = game->findChild<QLabel*>("Label2");
-    QCOMPARE(label2->text(), "Score: 0000");
-    QCOMPARE(Shared().Score, 777.0);
-
-    QVERIFY(TriggerMenu(game, "RS"));
-    auto* frame1 = game->findChild<QWidget*>("Frame1");
-    QVERIFY(frame1->isVisible());
-    QCOMPARE(game->findChild<QLabel*>("Label4")->text(),
-             "Please Wait While The Puzzle Is Created...");
-    QCOMPARE(label2->text(), "Score: 0");
-    QCOMPARE(Shared().Score, 0.0);
-    Pump(20);
-    QVERIFY(!frame1->isVisible());
-    QVERIFY(!PlacedWords(game->state().board).empty());
-}
-
 void CrosswordScreenTest::keyOnTheButtonNeverGivesTheAnswer() {
     Road fx(9);
     auto* game = OpenCrossword(fx, true);
@@ -186,16 +159,6 @@ void CrosswordScreenTest::keyOnTheButtonNeverGivesTheAnswer() {
     QTest::mouseClick(command1, Qt::LeftButton);  // a mouse-down clears the guard
     QCOMPARE(int(Shared().PuzzleWordCount), left - 1);
     QCOMPARE(fx.sound.played.count("gbell.wav"), 1);
-}
-
-void CrosswordScreenTest::listThatCannotCrossGoesBackToTheTitle() {
-    Road fx(1);
-    WriteOneList(fx, "No Match", {{"abc", "first letters"}, {"xyz", "last letters"}});
-    ContinueWithList(ChooserFor("Crossword", 10, false), "No Match");
-    Pump(100);
-    QVERIFY(fx.dialogs.saw("Crossword creation failed. Please try another word list."));
-    QVERIFY(Showing<Title>());
-    QCOMPARE(int(Shared().Difficulty), 2);
 }
 
 QTEST_MAIN(CrosswordScreenTest)

@@ -1,5 +1,5 @@
-// Word Maze on its screen: the road to a win and the table, mistakes and their costs, undo back
-// to the start and a restart, a lost game, the refusal.
+// Word Maze on its screen: the road to a win and the table; a mistake, its cost and its penalty
+// line, and a lost game.
 #include <QtTest>
 
 #include "core/score_table.h"
@@ -74,10 +74,7 @@ class WordMazeScreenTest : public QObject {
     Q_OBJECT
 private slots:
     void roadFromTitleToTheTable();
-    void mistakesAndTheirCost();
-    void undoBackToTheStartAndRestart();
-    void negativeScoreLoses();
-    void unbuildableMazeIsRefused();
+    void mistakeThenANegativeScoreLoses();
 };
 
 void WordMazeScreenTest::roadFromTitleToTheTable() {
@@ -111,80 +108,22 @@ void WordMazeScreenTest::roadFromTitleToTheTable() {
     QCOMPARE(fx.music.plays, 0);  // no background music in this game
 }
 
-void WordMazeScreenTest::mistakesAndTheirCost() {
-    Road fx(8);
-    auto* game = OpenMaze(fx, kAnimals, 4);
+void WordMazeScreenTest::mistakeThenANegativeScoreLoses() {
+    Road fx(6);
+    Shared().Score = -1e9;
+    auto* game = OpenMaze(fx, kAnimals, 2);
     QVERIFY(game);
-    const auto& m = game->maze();
-    int white = -1;  // a white stone: a reminder, never a cost
-    for (int c = 1; c < int(m.caption.size()); ++c)
-        if (c != m.EndCell && m.colour[c] == wmz::CellColour::White) white = c;
-    QVERIFY(white > 0);
-    ClickCell(game, white);
-    QCOMPARE(fx.dialogs.last(),
-             "You must follow the path of words to the end. The highlighted letters mark the "
-             "paths you can choose.");
-    QCOMPARE(Shared().Score, 0.0);
-
     // The end stone with the wrong letter costs points; the penalty shows for a second.
     auto* label6 = game->findChild<QLabel*>("Label6");
-    ClickCell(game, m.EndCell);
-    QVERIFY(Shared().Score < 0 && Shared().Score >= -1000);
-    QCOMPARE(label6->text(), QString("-%1 Points...").arg(-Shared().Score));
-    QVERIFY(label6->isVisible());
+    ClickCell(game, game->maze().EndCell);
+    const double cost = -1e9 - Shared().Score;
+    QVERIFY(cost >= 1 && cost <= 1000);
+    QCOMPARE(label6->text(), QString("-%1 Points...").arg(cost));
     QCOMPARE(fx.sound.played.last(), "bonk.wav");
     Pump(900);
     QVERIFY(label6->isVisible());
     Pump(200);
     QVERIFY(!label6->isVisible());
-
-    Shared().SoundOn = kFalse;  // the same mistake, silent
-    const int sounds = int(fx.sound.played.size());
-    ClickCell(game, m.EndCell);
-    QCOMPARE(int(fx.sound.played.size()), sounds);
-}
-
-void WordMazeScreenTest::undoBackToTheStartAndRestart() {
-    Road fx(12);
-    Shared().Score = 777;  // carried in and kept
-    auto* game = OpenMaze(fx, kAnimals, 2, false);
-    QVERIFY(game);
-    const auto& m = game->maze();
-    const SharedState& s = Shared();
-    const std::string first = s.TheWord;
-    QCOMPARE(LabelText(game, "Label1"), toQ(first));  // word clue
-    const QList<int> path = WalkCells(m);
-    for (int i = 0; i < 4; ++i) ClickCell(game, path[i]);  // the first word and one letter more
-    QCOMPARE(LabelText(game, "Label5"), toQ(s.TheWord.substr(0, 1)));
-    auto* undo = Button(game, "Command1");
-    undo->click();  // the letter goes; the new word stays asked for
-    QVERIFY(s.TheWord != first);
-    QCOMPARE(LabelText(game, "Label5"), "");
-    undo->click();  // back on the last letter of the word before, and its clue
-    QCOMPARE(s.TheWord, first);
-    QCOMPARE(LabelText(game, "Label5"), toQ(first.substr(0, 2)));
-    QVERIFY(m.visible[path[2]] && !m.visible[path[1]]);
-    for (int i = 0; i < 2; ++i) undo->click();
-    QVERIFY(!undo->isEnabled());
-    for (bool v : m.visible) QVERIFY(v);
-    QCOMPARE(s.Score, 777.0);  // undo is free
-
-    ClickCell(game, path[0]);
-    Pump(3000);
-    QCOMPARE(LabelText(game, "Label4"), "Time: 3");
-    QVERIFY(TriggerMenu(game, "RS"));
-    Pump();
-    QCOMPARE(LabelText(game, "Label4"), "Time: 0");
-    QCOMPARE(s.Score, 777.0);
-    QVERIFY(!undo->isEnabled());
-    for (bool v : game->maze().visible) QVERIFY(v);
-}
-
-void WordMazeScreenTest::negativeScoreLoses() {
-    Road fx(6);
-    Shared().Score = -1e9;
-    auto* game = OpenMaze(fx, kAnimals, 2);
-    QVERIFY(game);
     for (int c : WalkCells(game->maze())) ClickCell(game, c);
     QCOMPARE(fx.sound.played.last(), "ooh.wav");
     QCOMPARE(fx.dialogs.shown.back().title, "You lose!");
@@ -193,18 +132,6 @@ void WordMazeScreenTest::negativeScoreLoses() {
     Pump();
     QVERIFY(Showing<Title>());
     QVERIFY(fx.win.tables.isEmpty());
-}
-
-void WordMazeScreenTest::unbuildableMazeIsRefused() {
-    Road fx(1);
-    // The first word walks only right and down: 24 + 14 steps at most.
-    const std::string longWord(45, 'q');
-    OpenMaze(fx, {{longWord, "too long"}, {longWord + "s", "longer"}}, 2);
-    Pump();
-    QVERIFY(fx.dialogs.saw(
-        "The program was unable to make this word maze with the options and word list that you "
-        "chose. Please try again with different options or a different word list."));
-    QVERIFY(Showing<Title>());
 }
 
 QTEST_MAIN(WordMazeScreenTest)

@@ -1,5 +1,5 @@
 // Bomb Squad on its screen: from the title to a defused bomb and the table; the wrong wire and
-// the clock running out, each to its own loser's box; Restart's box; too few words.
+// the clock running out, each to its own loser's box.
 #include <QtTest>
 
 #include <cmath>
@@ -17,7 +17,6 @@ class BombSquadScreenTest : public QObject {
 private slots:
     void defuseFromTheTitleToTheTable();
     void lossesByWireAndByClock();
-    void restartAsksFirst();
 };
 
 namespace {
@@ -94,12 +93,6 @@ void BombSquadScreenTest::defuseFromTheTitleToTheTable() {
     QCOMPARE(QString::fromStdString(table.initials(1)), "BOB");
 }
 
-void BombSquadScreenTest::pressesCutTheWireDrawnUnderThem_data() {
-    QTest::addColumn<QSize>("screen");
-    QTest::newRow("1280x800") << QSize(1280, 800);
-    QTest::newRow("1920x1080") << QSize(1920, 1080);
-}
-
 void BombSquadScreenTest::lossesByWireAndByClock() {
     ShellFixture fx;
     fx.rng.setFallback(0.3);
@@ -147,24 +140,6 @@ void BombSquadScreenTest::lossesByWireAndByClock() {
              "another try?");
     Pump();
     QVERIFY(Showing<Title>());
-}
-
-void BombSquadScreenTest::restartAsksFirst() {
-    ShellFixture fx;
-    startGame(fx, 10, true);
-    // Eight wires from six words: a clear message instead of a deal without end.
-    QVERIFY(fx.dialogs.saw("There are not enough different words on this list for this many "
-                           "wires. Please choose a lower difficulty level or another list."));
-    Pump();
-    QVERIFY(Showing<Title>());
-
-    auto* again = startGame(fx, 3);
-    QVERIFY(again);
-    Pump(3000);
-    QCOMPARE(again->timeLabel()->text(), "22");
-    QVERIFY(TriggerMenu(again, "RS"));
-    QCOMPARE(fx.dialogs.last(), "Click OK to reset the game");
-    QCOMPARE(again->timeLabel()->text(), "25");
 }
 
 QTEST_MAIN(BombSquadScreenTest)

@@ -1,5 +1,5 @@
 // Short Circuit on its screen: spelling to a lit bulb and the table, a short circuit, clicks
-// outside the column in play, and the refusal of a list of long words.
+// outside the column in play.
 #include <QtTest>
 
 #include <cmath>
@@ -16,7 +16,6 @@ class ShortCircuitScreenTest : public QObject {
 private slots:
     void spellToTheLightAndTheTable();
     void wrongLetterShortsTheCircuit();
-    void longWordsAreRefused();
 };
 
 namespace {
@@ -109,15 +108,6 @@ void ShortCircuitScreenTest::wrongLetterShortsTheCircuit() {
              "Oops! You short-circuited the connection! The word you were "
              "trying to spell was \"" +
                  QString::fromStdString(word) + "\". Would you like to try again?");
-    Pump();
-    QVERIFY(Showing<Title>());
-}
-
-void ShortCircuitScreenTest::longWordsAreRefused() {
-    ShellFixture fx;
-    startGame(fx, 3, {{"electricity", "energy"}, {"transformers", "change voltage"}});
-    QVERIFY(fx.dialogs.saw("The words on this vocabulary list are too long for this game. Please "
-                           "choose another list or another game."));
     Pump();
     QVERIFY(Showing<Title>());
 }

@@ -1,6 +1,5 @@
-// The show on its screen: a whole game of ten spins through all ten mini-games to the table,
-// the thief and the fortune with their animations, the game that ends in the red, and Restarts
-// in the flash and in a mini-game.
+// The show on its screen: a whole game of ten spins through all ten mini-games to the table, and
+// the game that ends in the red.
 #include <QLineEdit>
 #include <QtTest>
 
@@ -73,9 +72,7 @@ class WheelScreenTest : public QObject {
     Q_OBJECT
 private slots:
     void tenSpinsThroughEveryMiniGameToTheTable();
-    void thiefAndFortune();
     void aGameInTheRedEndsWithAdvice();
-    void restartLeavesNoFreeButtonNorRedPlate();
 };
 
 void WheelScreenTest::tenSpinsThroughEveryMiniGameToTheTable() {
@@ -120,28 +117,6 @@ void WheelScreenTest::tenSpinsThroughEveryMiniGameToTheTable() {
     QCOMPARE(t.score(1), total);
 }
 
-void WheelScreenTest::thiefAndFortune() {
-    ShellFixture fx;
-    auto* game = qobject_cast<GameShowForm*>(
-        ContinueWithList(ChooserFor("Wheel of Money", 5, true), "Human Body ("));
-    QVERIFY(game);
-    Pump();
-    fx.rng.setFallback(0.9);  // mystery draws of 10: the Thief
-    SpinTo(game, 3);
-    QVERIFY(game->movieScreen()->isVisible());
-    QVERIFY(!game->command()->isEnabled());  // until the animation ends
-    Pump(1500);
-    QVERIFY(Shared().Score < 0);
-    QVERIFY(game->findChild<QLabel*>("PrizeLabel")->text().startsWith("Cash and Prize Total:  $-"));
-    QVERIFY(fx.sound.played.contains("ooh.wav"));
-    UntilButton(game);
-    fx.rng.setFallback(0.1);  // the Fortune
-    SpinTo(game, 9);
-    Pump(1500);
-    QVERIFY(game->state().Label1.rfind("Congratulations! You hit the FORTUNE.", 0) == 0);
-    QCOMPARE(game->state().SpinsLeft, 8);
-}
-
 void WheelScreenTest::aGameInTheRedEndsWithAdvice() {
     ShellFixture fx;
     auto* game = qobject_cast<GameShowForm*>(
@@ -162,54 +137,6 @@ void WheelScreenTest::aGameInTheRedEndsWithAdvice() {
              "Hmmm... maybe a bit more practice is needed before you're ready for this game. Go "
              "and learn your vocab words, then come back and try again later...");
     QVERIFY(Showing<Title>() != nullptr);
-}
-
-void WheelScreenTest::restartLeavesNoFreeButtonNorRedPlate() {
-    ShellFixture fx;
-    auto* game = qobject_cast<GameShowForm*>(
-        ContinueWithList(ChooserFor("Wheel of Money", 10, true), "Human Body ("));
-    QVERIFY(game);
-    Pump();
-    fx.rng.setFallback(0.1);
-    auto* scramble = game->findChild<QLabel*>("WheelLabel0");
-    QVERIFY(scramble);
-    const QString blue = scramble->styleSheet();
-
-    // A Restart during the flash: the next wheel shows "Scramble!" in blue, not red.
-    UntilButton(game);
-    game->clickCommand();
-    for (int i = 0; i < 200 && game->state().WheelPos != 4; ++i) Pump(16);
-    QTest::keyClick(game, Qt::Key_S);
-    Pump(50);
-    QVERIFY(game->state().flashRed);
-    QVERIFY(TriggerMenu(game, "RS"));
-    UntilButton(game);
-    game->clickCommand();
-    QVERIFY(game->state().Spinning);
-    QCOMPARE(scramble->styleSheet(), blue);
-
-    // A Restart inside a mini-game of three seconds: its countdown runs on and ends during the
-    // intro, and the big button stays locked until the intro is over.
-    for (int i = 0; i < 200 && game->state().WheelPos != 4; ++i) Pump(16);
-    QTest::keyClick(game, Qt::Key_S);
-    Pump(1100);
-    game->clickCommand();  // Definition Match, three seconds at level 10
-    QCOMPARE(game->state().frame, wheel::Frame::Choice);
-    Pump(1000);
-    QVERIFY(TriggerMenu(game, "RS"));
-    Pump(200);
-    QVERIFY(game->movieScreen()->isPlaying());
-    Pump(2000);
-    QCOMPARE(game->state().Label1, "Oops! Your time ran out! Try to be a little faster next time!");
-    for (int i = 0; i < 10 && game->movieScreen()->isPlaying(); ++i) {
-        QVERIFY(game->command()->isVisible());
-        QVERIFY(!game->command()->isEnabled());
-        Pump(100);
-    }
-    UntilButton(game);
-    QVERIFY(!game->movieScreen()->isVisible());
-    QVERIFY(game->command()->isEnabled());
-    QCOMPARE(scramble->styleSheet(), blue);
 }
 
 QTEST_MAIN(WheelScreenTest)
