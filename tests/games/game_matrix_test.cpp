@@ -100,6 +100,13 @@ const int kKeys[] = {Qt::Key_A,     Qt::Key_E,      Qt::Key_O,         Qt::Key_T
                      Qt::Key_Down,  Qt::Key_Return, Qt::Key_Backspace, Qt::Key_Z,
                      Qt::Key_1,     Qt::Key_Minus,  Qt::Key_Apostrophe};
 
+// The menu's Quit entry, whatever its control name.
+QAction* QuitOf(QWidget* screen) {
+    for (auto* a : screen ? screen->findChildren<QAction*>() : QList<QAction*>())
+        if (a->text() == "Quit") return a;
+    return nullptr;
+}
+
 }  // namespace
 
 class GameMatrix : public QObject {
@@ -129,39 +136,32 @@ void GameMatrix::everyRegistrationNamesACard() {
     QVERIFY(built >= 1);
 }
 
+// The built games this shard takes: WM_MATRIX_SHARD="i/n" takes every n-th from the i-th, so that
+// shards run side by side.
+std::vector<const GameCard*> ShardGames() {
+    const QStringList shard = qEnvironmentVariable("WM_MATRIX_SHARD", "0/1").split('/');
+    const int part = shard.value(0).toInt(), parts = std::max(1, shard.value(1).toInt());
+    std::vector<const GameCard*> games;
+    int built = 0;
+    for (const GameCard& card : Catalogue())
+        if (card.built() && built++ % parts == part) games.push_back(&card);
+    return games;
+}
+
 void GameMatrix::everyGameSurvivesAwkwardLists_data() {
     QTest::addColumn<QString>("game");
     QTest::addColumn<int>("list");
     const auto lists = Lists();
-    // WM_MATRIX_SHARD="i/n" takes every n-th game from the i-th, so that shards run side by side.
-    const QStringList shard = qEnvironmentVariable("WM_MATRIX_SHARD", "0/1").split('/');
-    const int part = shard.value(0).toInt(), parts = std::max(1, shard.value(1).toInt());
-    int built = 0;
-    for (const GameCard& card : Catalogue()) {
-        if (!card.built()) continue;
-        if (built++ % parts != part) continue;
-        for (int i = 0; i < int(lists.size()); ++i) {
-            const QString row = QString::fromStdString(card.name) + " / " + lists[i].name;
-            QTest::newRow(qPrintable(row)) << QString::fromStdString(card.name) << i;
-        }
-    }
-}
-
-// The games this shard takes, as rows of one column.
-void ShardRows() {
-    QTest::addColumn<QString>("game");
-    const QStringList shard = qEnvironmentVariable("WM_MATRIX_SHARD", "0/1").split('/');
-    const int part = shard.value(0).toInt(), parts = std::max(1, shard.value(1).toInt());
-    int built = 0;
-    for (const GameCard& card : Catalogue()) {
-        if (!card.built()) continue;
-        if (built++ % parts != part) continue;
-        QTest::newRow(card.name.c_str()) << QString::fromStdString(card.name);
-    }
+    for (const GameCard* card : ShardGames())
+        for (int i = 0; i < int(lists.size()); ++i)
+            QTest::newRow(qPrintable(QString::fromStdString(card->name) + " / " + lists[i].name))
+                << QString::fromStdString(card->name) << i;
 }
 
 void GameMatrix::longWordsFitTheirLabels_data() {
-    ShardRows();
+    QTest::addColumn<QString>("game");
+    for (const GameCard* card : ShardGames())
+        QTest::newRow(card->name.c_str()) << QString::fromStdString(card->name);
 }
 
 // A list of long but ordinary words: whatever a game shows in a label or on a button as it
@@ -192,28 +192,19 @@ void GameMatrix::longWordsFitTheirLabels() {
     QVERIFY(screen);
     if (screen == chooser || qobject_cast<Title*>(screen)) return;  // refused, and said why
     QStringList clipped;
+    auto note = [&](QWidget* w, const QString& text, int need, int has) {
+        if (need > has) clipped << QString("%1 \"%2\" needs %3, has %4").arg(w->objectName(), text).arg(need).arg(has);
+    };
     auto check = [&] {
         if (!screen || CurrentScreen() != screen) return;
-        for (auto* l : screen->findChildren<QLabel*>()) {
-            if (!l->isVisible() || l->wordWrap() || l->text().isEmpty() ||
-                l->textFormat() == Qt::RichText || Qt::mightBeRichText(l->text()))
-                continue;
-            const int need = l->fontMetrics().horizontalAdvance(l->text());
-            if (need > l->contentsRect().width() + 1)
-                clipped << QString("%1 \"%2\" needs %3, has %4")
-                               .arg(l->objectName(), l->text())
-                               .arg(need)
-                               .arg(l->contentsRect().width());
-        }
-        for (auto* b : screen->findChildren<QPushButton*>()) {
-            if (!b->isVisible() || b->text().isEmpty()) continue;
-            const int need = b->fontMetrics().horizontalAdvance(b->text());
-            if (need > b->width())
-                clipped << QString("%1 \"%2\" needs %3, has %4")
-                               .arg(b->objectName(), b->text())
-                               .arg(need)
-                               .arg(b->width());
-        }
+        for (auto* l : screen->findChildren<QLabel*>())
+            if (l->isVisible() && !l->wordWrap() && !l->text().isEmpty() &&
+                l->textFormat() != Qt::RichText && !Qt::mightBeRichText(l->text()))
+                note(l, l->text(), l->fontMetrics().horizontalAdvance(l->text()),
+                     l->contentsRect().width() + 1);
+        for (auto* b : screen->findChildren<QPushButton*>())
+            if (b->isVisible() && !b->text().isEmpty())
+                note(b, b->text(), b->fontMetrics().horizontalAdvance(b->text()), b->width());
     };
     Pump(1500);
     check();
@@ -224,15 +215,8 @@ void GameMatrix::longWordsFitTheirLabels() {
     }
     clipped.removeDuplicates();
     QVERIFY2(clipped.isEmpty(), qPrintable(game + ": " + clipped.join("; ")));
-    if (screen && CurrentScreen() == screen) {
-        for (auto* a : screen->findChildren<QAction*>())
-            if (a->text() == "Quit") {
-                a->trigger();
-                break;
-            }
-        Pump();
-    }
-    SetRng(nullptr);
+    if (QAction* quit = QuitOf(screen)) quit->trigger();
+    Pump();
 }
 
 void GameMatrix::everyGameSurvivesAwkwardLists() {
@@ -316,16 +300,13 @@ void GameMatrix::everyGameSurvivesAwkwardLists() {
         QTest::keyClick(screen, Qt::Key_Escape);
         Pump();
         if (screen && CurrentScreen() == screen) {
-            QAction* quit = nullptr;
-            for (auto* a : screen->findChildren<QAction*>())
-                if (a->text() == "Quit") quit = a;
+            QAction* quit = QuitOf(screen);
             QVERIFY(quit);
             quit->trigger();
             Pump();
         }
     }
     QVERIFY2(Showing<Title>() != nullptr, "the game did not come back to the title");
-    SetRng(nullptr);
 }
 
 QTEST_MAIN(GameMatrix)

@@ -9,12 +9,13 @@
 
 namespace wm::test {
 
+// Seed 0 keeps the fixture's scripted generator.
 struct Road : ShellFixture {
     SeededRng seeded;
     WinDriver win;
     explicit Road(std::uint64_t seed, QStringList initials = {})
         : seeded(seed), win(std::move(initials)) {
-        SetRng(&seeded);
+        if (seed) SetRng(&seeded);
         SetModalHook(std::ref(win));
     }
     ~Road() {
@@ -22,6 +23,19 @@ struct Road : ShellFixture {
         SetModalHook({});
     }
 };
+
+// Shows the title and clicks the button of `game`, turning the pages as a pupil would.
+inline bool ClickTitleButton(const QString& game) {
+    auto* title = qobject_cast<Title*>(OpenScreen("Title", CurrentScreen()));
+    for (int page = 0; title && page < 4; ++page, title->showMore())
+        for (auto* b : title->buttons())
+            if (b->isVisible() && b->text() == game) {
+                QTest::mouseClick(b, Qt::LeftButton);
+                Pump();
+                return true;
+            }
+    return false;
+}
 
 inline QString LabelText(QWidget* w, const char* name) {
     auto* l = w ? w->findChild<QLabel*>(name) : nullptr;

@@ -256,35 +256,3 @@ TEST(CrossLayout, MoreWordsWantedThanTheListHoldsEndsWithoutHanging) {
     EXPECT_FALSE(layOut(list({"CAT"}), 1, 0, kCrosswordParams, none).ok);
 }
 
-TEST(CrossLayout, SameWordTwiceIsPlacedTwice) {
-    ScriptedRng rng;
-    rng.pick(1, 2).pick(3, 10).pick(2, 2).pick(1, 2);
-    const LayoutResult r = layOut(list({"CAT", "CAT"}), 2, 2, kBlindTilesParams, rng);
-    ASSERT_TRUE(r.ok);
-    ASSERT_EQ(r.order.size(), 2u);
-    EXPECT_EQ(r.order[0].index, 1);
-    EXPECT_EQ(r.order[1].index, 2);
-    EXPECT_EQ(rowText(r.board, 6, 15), "..CAT..........");
-}
-
-TEST(CrossLayout, RealGeneratorLaysOutAConsistentBoard) {
-    std::vector<std::string> words = list({"apple", "banana", "cherry", "grape", "lemon", "mango",
-                                           "orange", "peach", "pear", "plum"});
-    SystemRng rng;
-    for (int round = 0; round < 50; ++round) {
-        const LayoutResult r = layOut(words, 10, 8, kCrosswordParams, rng);
-        ASSERT_TRUE(r.ok);
-        ASSERT_EQ(static_cast<int>(r.order.size()), r.target);
-        for (const PlacedWord& w : r.order) {
-            const std::string& text = words[w.index];
-            for (std::size_t i = 0; i < text.size(); ++i) {
-                const int c = w.col + (w.direction == kAcross ? static_cast<int>(i) : 0);
-                const int row = w.row + (w.direction == kDown ? static_cast<int>(i) : 0);
-                ASSERT_EQ(r.board.at(c, row), text[i]);
-            }
-            EXPECT_EQ(r.board.CrossWordAt[w.col][w.row][w.direction], w.index);
-        }
-        for (int c = 0; c < kTableCols; ++c) EXPECT_EQ(r.board.at(c, 0), 0);
-        for (int row = 0; row < kTableRows; ++row) EXPECT_EQ(r.board.at(0, row), 0);
-    }
-}

@@ -71,18 +71,6 @@ TEST(WordSearchBuild, PlacesEachWordThenFillsInCapitals) {
     EXPECT_EQ(caption(ws, 399), "");
 }
 
-TEST(WordSearchBuild, FewerWordsThanDifficultyKeepTheGridSize) {
-    SharedState state = listOf({"ab", "cd"}, 12);
-    SystemRng rng;
-    WordSearchState ws;
-    ASSERT_TRUE(startRound(state, ws, rng).ok);
-    EXPECT_EQ(ws.GridSize, 12);
-    EXPECT_FALSE(ws.NoDiagonals);
-    EXPECT_EQ(state.PuzzleWordCount, 2);
-    ASSERT_EQ(ws.PickedWords.size(), 2u);
-    EXPECT_NE(ws.PickedWords[0], ws.PickedWords[1]);
-}
-
 TEST(WordSearchBuild, WordNeedsAGridOneLongerThanItselfAndTheGridGrowsByTwo) {
     struct Case {
         int difficulty;

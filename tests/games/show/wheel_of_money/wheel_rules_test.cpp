@@ -334,33 +334,6 @@ TEST(MiniGames, WordsTooLongOrOfOneLetterEndTheSpinInsteadOfHanging) {
     EXPECT_EQ(last.NextAction, Action::EndGame);
 }
 
-TEST(MiniGames, LetterChangePassesOverAWordWithOneLetterForOneWithTwo) {
-    // "a" and "Aa" have no two letters to swap; "Otter" has.
-    SharedState s = ListOf({{"a", "x"}, {"Aa", "y"}, {"Otter", "a river swimmer"}, {"d", "z"}});
-    ScriptedRng setup;
-    WheelState w = On(6, s, setup);
-    ScriptedRng rng;
-    rng.pick(1, 500).pick(1, 4).pick(2, 4).pick(3, 4);  // the prize, then a, Aa and Otter
-    rng.pick(1, 5).pick(5, 5);
-    const SlotStart st = StartSlot(s, w, rng);
-    EXPECT_TRUE(st.refusal.empty());
-    EXPECT_EQ(w.word, "Otter");
-    EXPECT_EQ(w.question, "a river swimmer");
-    EXPECT_EQ((std::vector<std::string>(w.tiles.begin(), w.tiles.begin() + 5)),
-              (std::vector<std::string>{"r", "t", "t", "e", "O"}));
-    EXPECT_EQ(w.NextAction, Action::Letters);
-
-    // A generator stuck on one place still swaps two different letters.
-    SharedState t = ListOf({{"ooze", "mud"}, {"b", "x"}, {"c", "y"}, {"d", "z"}});
-    WheelState v = On(6, t, setup);
-    ScriptedRng stuck(0.0);
-    EXPECT_TRUE(StartSlot(t, v, stuck).refusal.empty());
-    EXPECT_EQ(v.SwapFirst, 1);
-    EXPECT_EQ(v.SwapSecond, 3);
-    EXPECT_EQ((std::vector<std::string>(v.tiles.begin(), v.tiles.begin() + 4)),
-              (std::vector<std::string>{"z", "o", "o", "e"}));
-}
-
 TEST(Clock, TimeOutNamesTheWordOnlyForTheLetterGamesAndRestartLeavesItRunning) {
     SharedState s = Animals(10);
     ScriptedRng setup;

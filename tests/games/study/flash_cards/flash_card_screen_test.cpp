@@ -2,7 +2,7 @@
 // with the cover's three states, the end of the list, sounds gated by SoundOn, Escape and Quit.
 #include <QtTest>
 
-#include "game_road.h"
+#include "road_kit.h"
 #include "games/study/flash_cards/flash_card_form.h"
 #include "shell/flash_card_options.h"
 
@@ -45,27 +45,15 @@ class FlashCardScreenTest : public QObject {
 private slots:
     void fromTheTitleByLetterToTheEnd();
     void alphabeticalWithButtonsAndScrollBar();
-    void randomCards();
     void escapeAndQuit();
 };
 
 void FlashCardScreenTest::fromTheTitleByLetterToTheEnd() {
     ShellFixture fx;
     WriteOneList(fx, "Animals", kAnimals);
-    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
-    QVERIFY(title);
-    Pump();
-    PictureButton* button = nullptr;
-    for (int page = 0; page < 4 && !button; ++page) {
-        for (auto* b : title->buttons())
-            if (b->isVisible() && b->text() == "Flash Cards") button = b;
-        if (!button) title->showMore();
-    }
-    QVERIFY(button);
-    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(ClickTitleButton("Flash Cards"));
     auto* o = Showing<FlashCardOptions>();
-    QVERIFY2(o, "the title's Flash Cards button leads to the card options");
-    QVERIFY(fx.dialogs.shown.empty());
+    QVERIFY(o);
     QTest::mouseClick(o->Option2, Qt::LeftButton);
     o->Letter->setText("c");
     o->continueOn();
@@ -141,23 +129,6 @@ void FlashCardScreenTest::alphabeticalWithButtonsAndScrollBar() {
     QCOMPARE(word(cards), "ant");
     cards->nextCard();
     QCOMPARE(word(cards), "bee");
-}
-
-void FlashCardScreenTest::randomCards() {
-    ShellFixture fx;
-    fx.rng.pick(4, 5).pick(4, 5).pick(1, 5).pick(5, 5);
-    auto* cards = OpenCards(fx, 2);
-    QVERIFY(cards);
-    QVERIFY(cards->CardScroll->isHidden());
-    QStringList seen{word(cards)};
-    for (int i = 0; i < 3; ++i) {
-        QVERIFY(cards->Frame2->isHidden());
-        QTest::mouseClick(cards->Label2, Qt::LeftButton);
-        seen << word(cards);
-    }
-    QCOMPARE(seen, (QStringList{"dog", "dog", "eel", "bee"}));  // rows of the list, repeats and all
-    QVERIFY(cards->Frame1->isHidden());                         // the last row drawn ends the deck
-    QVERIFY(cards->Label1->text().isEmpty());
 }
 
 void FlashCardScreenTest::escapeAndQuit() {

@@ -74,17 +74,6 @@ TEST(QuizRules, MeaningQuestionsOfferWords) {
     EXPECT_EQ(answerPointSize(1), 12);
 }
 
-TEST(QuizRules, NoWordIsAskedTwiceWhileTheListAllows) {
-    SharedState s = List(5, 2, 5);
-    SystemRng real;
-    real.seed(7);
-    QuizRun run;
-    startRun(run, s, real);
-    std::set<int> asked{run.asked};
-    while (next(run, s, real)) asked.insert(run.asked);
-    EXPECT_EQ(asked.size(), 5u);
-}
-
 TEST(QuizRules, RepeatsComeFromTheFirstQuestionWhenTheListIsShort) {
     // Five questions on five words: the second question draws row 2 again and is refused it.
     SharedState s = List(5, 2, 5);

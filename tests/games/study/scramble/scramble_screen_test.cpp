@@ -22,13 +22,7 @@ void ScrambleScreenTest::fromTheTitleToTheTable() {
     Road fx(1, {"ABC"});
     FixedClock clock(0.5);
     SetClock(&clock);
-    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
-    QVERIFY(title);
-    PictureButton* scrambleButton = nullptr;
-    for (auto* b : title->buttons())
-        if (b->text() == "Scramble") scrambleButton = b;
-    QVERIFY(scrambleButton && scrambleButton->isVisible());
-    QTest::mouseClick(scrambleButton, Qt::LeftButton);
+    QVERIFY(ClickTitleButton("Scramble"));
     auto* options = Showing<GameOptions>();
     QVERIFY(options);
     QCOMPARE(options->Frame2->title(), "Scatter Letters?");
