@@ -22,6 +22,7 @@ void ScrambleScreenTest::fromTheTitleToTheTable() {
     Road fx(1, {"ABC"});
     FixedClock clock(0.5);
     SetClock(&clock);
+    const auto reset = qScopeGuard([] { SetClock(nullptr); });
     QVERIFY(ClickTitleButton("Scramble"));
     auto* options = Showing<GameOptions>();
     QVERIFY(options);
@@ -31,6 +32,7 @@ void ScrambleScreenTest::fromTheTitleToTheTable() {
     options->Option1->setChecked(true);  // scatter
     options->SpeedBar->setValue(2);
     QTest::mouseClick(options->Command1, Qt::LeftButton);
+    Pump();
     auto* game = qobject_cast<Scramble*>(ContinueWithList(Showing<ChooseList>(), "Human Body ("));
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump();
@@ -57,7 +59,6 @@ void ScrambleScreenTest::fromTheTitleToTheTable() {
     QCOMPARE(QString::fromStdString(table.initials(1)), "ABC");
     QVERIFY(s.Score > 0);
     QCOMPARE(table.score(1), s.Score);
-    SetClock(nullptr);
 }
 
 void ScrambleScreenTest::wrongGuessAsksAgainAndHintCosts() {
@@ -92,6 +93,7 @@ void ScrambleScreenTest::threeWinsDisplaceInTheFile() {
     ShellFixture fx;
     FixedClock clock(0.5);  // the score loses 10 x 0.5 for the time of day
     SetClock(&clock);
+    const auto reset = qScopeGuard([] { SetClock(nullptr); });
     fx.writeLines("thelists.new", {"Foxes", "fox", "a wild dog with a bushy tail"});
     OpenScreen("Title");
     ScoreTable pre = ScoreTable::Fresh();
