@@ -150,36 +150,6 @@ TEST(BlindTilesRules, RoadToAWinWithTheSameWordTwice) {
     EXPECT_EQ(bt.scoreText, "Score: 1000");
 }
 
-TEST(BlindTilesRules, WrongWordInASlotAndGiveAnswerToANegativeScore) {
-    SharedState s = listOf({"cat", "hat", "tact"}, 3);
-    SystemRng rng;
-    blind_tiles::BlindTilesState bt;
-    ASSERT_TRUE(blind_tiles::newRound(s, bt, rng).ok);
-    ASSERT_EQ(s.PuzzleWordCount, 3);
-    // The first placed word stands down from its first tile.
-    const int first = bt.PlaceWord[1];
-    int startCell = -1;
-    for (int col = 1; col <= 15 && startCell < 0; ++col)
-        for (int row = 1; row <= 14; ++row)
-            if (bt.board.layout.wordAt(col, row, cross::kDown) == first)
-                startCell = (row - 1) * 15 + col - 1;
-    ASSERT_GE(startCell, 0);
-    blind_tiles::clickCell(bt, startCell);
-    if (!bt.board.SelDown) blind_tiles::clickCell(bt, startCell);
-    ASSERT_EQ(bt.board.SelWord, first);
-    if (s.Words[first].size() == 3) {
-        const std::string other = s.Words[first] == "cat" ? "hat" : "cat";
-        blind_tiles::Outcome o = blind_tiles::Outcome::None;
-        for (char c : other) o = blind_tiles::pressKey(s, bt, c);
-        EXPECT_EQ(o, blind_tiles::Outcome::Wrong);  // another list word in the slot
-    }
-    EXPECT_EQ(blind_tiles::giveAnswer(s, bt), blind_tiles::Outcome::Solved);
-    EXPECT_EQ(s.Score, -1000);
-    EXPECT_TRUE(bt.entrySolved[0]);
-    EXPECT_FALSE(bt.entrySolved[1]);
-    EXPECT_FALSE(cross::endGame(s, true));
-}
-
 TEST(BlindTilesRules, ListThatCannotCrossGivesTheCrosswordsMessage) {
     SharedState s = listOf({"abc", "def", "ghi"}, 3);
     SystemRng rng;

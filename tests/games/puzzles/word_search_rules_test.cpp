@@ -113,20 +113,6 @@ TEST(WordSearchBuild, WordNeedsAGridOneLongerThanItselfAndTheGridGrowsByTwo) {
     EXPECT_EQ(row(ws, 2), "ABCDA");
 }
 
-TEST(WordSearchBuild, WordsCrossOnlyWhereTheyAgreeCaseIncluded) {
-    SharedState state = listOf({"ab", "Ab"}, 5);
-    // Both across on row 1 start 1? "Ab" differs from "ab" in case, so it goes elsewhere.
-    ScriptedRng rng(0.0);
-    rng.pick(1, 2).pick(2, 2);                                   // words 1 and 2
-    rng.pick(1, 2).pick(1, 5).pick(1, 3);                        // "ab" across at (1, 1)
-    rng.pick(1, 2).pick(1, 5).pick(1, 3).pick(2, 3).pick(3, 3);  // "Ab": (1,1) no, (2,1) no, (3,1)
-    SharedState s5 = state;
-    s5.Difficulty = 5;
-    WordSearchState ws;
-    ASSERT_TRUE(startRound(s5, ws, rng).ok);
-    EXPECT_EQ(row(ws, 1), "ABABA");
-}
-
 TEST(WordSearchMarking, NeighbourTestsKeepTheirQuirks) {
     struct Case {
         int c, p;
@@ -208,24 +194,6 @@ TEST(WordSearchMarking, ClearScrollHintAndTheLastLine) {
     scrollTo(state, ws, 1);
     EXPECT_EQ(state.WordIndex, 1);
     EXPECT_EQ(state.TheWord, "DOG");
-}
-
-TEST(WordSearchMarking, DragMovesRightDownAndDiagonallyWithAFixedHeightTest) {
-    SharedState state = listOf({}, 5);
-    WordSearchState ws = handMade(state, {"CAT"});
-    ScriptedRng rng(0.0);
-    ASSERT_EQ(mouseDown(state, ws, 0, rng), TryResult::Accepted);
-    EXPECT_EQ(mouseMove(state, ws, 20, 5, 30, 20, rng), TryResult::Refused);  // still on cell 0
-    EXPECT_EQ(ws.TryCell, 0);
-    EXPECT_EQ(mouseMove(state, ws, 60, 5, 30, 20, rng), TryResult::Accepted);  // right
-    EXPECT_EQ(ws.TryCell, 1);
-    // Below the cell pressed and past one width: a diagonal step, tried even though it fails.
-    EXPECT_EQ(mouseMove(state, ws, 31, 21, 30, 20, rng), TryResult::Refused);
-    EXPECT_EQ(ws.TryCell, 22);
-    EXPECT_EQ(ws.DiagonalSteps, 1);
-    mouseUp(ws);
-    EXPECT_EQ(mouseMove(state, ws, 200, 200, 30, 20, rng), TryResult::Refused);
-    EXPECT_EQ(ws.TryCell, 22);
 }
 
 TEST(WordSearchTexts, DirectionsHintAndLoss) {
