@@ -97,6 +97,18 @@ TEST(CrossLayout, SecondWordCrossesTheFirstAtTheFirstSharedLetter) {
     const LayoutResult b = layOut(list({"CAT", "TOT"}), 2, 2, kCrosswordParams, back);
     ASSERT_TRUE(b.ok);
     EXPECT_EQ(rowText(b.board, 11), "....TOT..................");  // T on the crossing, k = 1
+
+    // A third word goes down through the second, from the row of its own first letter.
+    ScriptedRng third;
+    third.pick(1, 3).pick(5, 10).pick(2, 3).pick(1, 2).pick(3, 3).pick(1, 2);
+    const LayoutResult t = layOut(list({"CAT", "HATBOX", "OBO"}), 3, 3, kCrosswordParams, third);
+    ASSERT_TRUE(t.ok);
+    EXPECT_EQ(rowText(t.board, 10), "...HATBOX................");
+    EXPECT_EQ(colText(t.board, 7), "........OBO........");
+    ASSERT_EQ(t.order.size(), 3u);
+    EXPECT_EQ(t.order[2].direction, kDown);
+    EXPECT_EQ(t.order[2].col, 7);
+    EXPECT_EQ(t.order[2].row, 9);
 }
 
 TEST(CrossLayout, FitLimitsAreOneTighterThanTheBoard) {
@@ -198,7 +210,7 @@ TEST(CrossLayout, TwoWordsSharingNoLetterFail) {
     rng.pick(1, 2).pick(3, 10);
     const LayoutResult r = layOut(list({"abc", "xyz"}), 2, 2, kCrosswordParams, rng);
     EXPECT_FALSE(r.ok);
-    EXPECT_EQ(r.message, kFailedMessage);
+    EXPECT_EQ(r.message, "Crossword creation failed. Please try another word list.");
     EXPECT_EQ(r.attempts, 1);
     EXPECT_EQ(r.target, 1);
     // 2 draws for the first word, then 100 tries of a draw and a scan order.

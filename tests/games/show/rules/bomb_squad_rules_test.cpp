@@ -65,15 +65,21 @@ TEST(BombSquadClock, RunsOutAndPicksTheLoserText) {
     bombsquad::Deal d;
     d.secondsLeft = 2;
     EXPECT_FALSE(bombsquad::tick(d));
-    EXPECT_STREQ(bombsquad::lostText(d.secondsLeft), bombsquad::kLostWrongWire);
+    EXPECT_STREQ(bombsquad::lostText(d.secondsLeft),
+                 "You cut the wrong wire and set the bomb off! You lose. Would you like to give "
+                 "it another try?");
     EXPECT_TRUE(bombsquad::tick(d));
-    EXPECT_STREQ(bombsquad::lostText(d.secondsLeft), bombsquad::kLostInTime);
+    EXPECT_STREQ(bombsquad::lostText(d.secondsLeft),
+                 "You did not get the bomb diffused in time! You lose. Would you like to give it "
+                 "another try?");
     ScriptedRng rng;
     rng.pick(3, 4);
     EXPECT_EQ(bombsquad::winScore(100, 17, 4, rng), 100 + (500 + 17 + 3) * 4);
     EXPECT_STREQ(bombsquad2::tickSound(10), "spacebeep.wav");
     EXPECT_STREQ(bombsquad2::tickSound(9), "highbeep.wav");
-    EXPECT_STREQ(bombsquad2::lostText(3), bombsquad2::kLostWrongWire);
+    EXPECT_STREQ(bombsquad2::lostText(3),
+                 "You connected the wrong wire and set the bomb off! You lose. Would you like to "
+                 "give it another try?");
 }
 
 TEST(BombSquad2, ShuffledDefinitionsAndCarriedWires) {

@@ -89,8 +89,8 @@ TEST(FlashCardRules, FromALetterStepsByTwoAndRunsPastTheEnd) {
     nextCard(deck, s, rng);
     nextCard(deck, s, rng);
     EXPECT_EQ(s.WordIndex, 6);
-    EXPECT_EQ(reveal(s).word, kEndText);
-    EXPECT_EQ(reveal(s).meaning, kEndText);
+    EXPECT_EQ(reveal(s).word, "That's the end of the list!");
+    EXPECT_EQ(reveal(s).meaning, "That's the end of the list!");
 }
 
 TEST(FlashCardRules, LetterNotFoundStartsAtTheBeginning) {
