@@ -108,6 +108,12 @@ TEST(ConcentrationPlay, TurnBackAndBonusBoundaries) {
     EXPECT_FALSE(g.cards[0].up || g.cards[1].up);
     EXPECT_EQ(kTurnBackMs, 1200);
 
+    // One pair is a whole game too; an empty table is never a win.
+    Game one = table(1, {{1, false}, {1, true}});
+    click(one, 0);
+    EXPECT_EQ(click(one, 1).flip, Flip::Won);
+    EXPECT_FALSE(Game{}.won());
+
     EXPECT_EQ(matchPoints(7), 700);
     EXPECT_EQ(missPoints(7), 70);
     EXPECT_EQ(finishBonus(299, 4), 4);
