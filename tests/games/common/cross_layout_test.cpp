@@ -97,6 +97,18 @@ TEST(CrossLayout, SecondWordCrossesTheFirstAtTheFirstSharedLetter) {
     const LayoutResult b = layOut(list({"CAT", "TOT"}), 2, 2, kCrosswordParams, back);
     ASSERT_TRUE(b.ok);
     EXPECT_EQ(rowText(b.board, 11), "....TOT..................");  // T on the crossing, k = 1
+
+    // A third word goes down through the second, from the row of its own first letter.
+    ScriptedRng third;
+    third.pick(1, 3).pick(5, 10).pick(2, 3).pick(1, 2).pick(3, 3).pick(1, 2);
+    const LayoutResult t = layOut(list({"CAT", "HATBOX", "OBO"}), 3, 3, kCrosswordParams, third);
+    ASSERT_TRUE(t.ok);
+    EXPECT_EQ(rowText(t.board, 10), "...HATBOX................");
+    EXPECT_EQ(colText(t.board, 7), "........OBO........");
+    ASSERT_EQ(t.order.size(), 3u);
+    EXPECT_EQ(t.order[2].direction, kDown);
+    EXPECT_EQ(t.order[2].col, 7);
+    EXPECT_EQ(t.order[2].row, 9);
 }
 
 TEST(CrossLayout, FitLimitsAreOneTighterThanTheBoard) {
@@ -198,7 +210,7 @@ TEST(CrossLayout, TwoWordsSharingNoLetterFail) {
     rng.pick(1, 2).pick(3, 10);
     const LayoutResult r = layOut(list({"abc", "xyz"}), 2, 2, kCrosswordParams, rng);
     EXPECT_FALSE(r.ok);
-    EXPECT_EQ(r.message, kFailedMessage);
+    EXPECT_EQ(r.message, "Crossword creation failed. Please try another word list.");
     EXPECT_EQ(r.attempts, 1);
     EXPECT_EQ(r.target, 1);
     // 2 draws for the first word, then 100 tries of a draw and a scan order.
@@ -244,47 +256,8 @@ TEST(CrossLayout, MoreWordsWantedThanTheListHoldsEndsWithoutHanging) {
     EXPECT_FALSE(r.ok);
     EXPECT_LT(stuck.draws, 5000);
 
-    ScriptedRng rng(0.75);
-    rng.pick(1, 2).pick(5, 10).pick(2, 2).pick(1, 2);
-    rng.pick(1, 2).pick(5, 10).pick(2, 2).pick(1, 2);  // the retry at 2
-    const LayoutResult t = layOut(list({"CAT", "HAT"}), 2, 5, kBlindTilesParams, rng);
-    EXPECT_FALSE(t.ok);  // 5, 4, 3 each fail a hundred and more times; 2 is never tried
-    EXPECT_EQ(t.attempts, 101 + 2);
-
     ScriptedRng none;
     EXPECT_FALSE(layOut(list({}), 0, 2, kCrosswordParams, none).ok);
     EXPECT_FALSE(layOut(list({"CAT"}), 1, 0, kCrosswordParams, none).ok);
 }
 
-TEST(CrossLayout, SameWordTwiceIsPlacedTwice) {
-    ScriptedRng rng;
-    rng.pick(1, 2).pick(3, 10).pick(2, 2).pick(1, 2);
-    const LayoutResult r = layOut(list({"CAT", "CAT"}), 2, 2, kBlindTilesParams, rng);
-    ASSERT_TRUE(r.ok);
-    ASSERT_EQ(r.order.size(), 2u);
-    EXPECT_EQ(r.order[0].index, 1);
-    EXPECT_EQ(r.order[1].index, 2);
-    EXPECT_EQ(rowText(r.board, 6, 15), "..CAT..........");
-}
-
-TEST(CrossLayout, RealGeneratorLaysOutAConsistentBoard) {
-    std::vector<std::string> words = list({"apple", "banana", "cherry", "grape", "lemon", "mango",
-                                           "orange", "peach", "pear", "plum"});
-    SystemRng rng;
-    for (int round = 0; round < 50; ++round) {
-        const LayoutResult r = layOut(words, 10, 8, kCrosswordParams, rng);
-        ASSERT_TRUE(r.ok);
-        ASSERT_EQ(static_cast<int>(r.order.size()), r.target);
-        for (const PlacedWord& w : r.order) {
-            const std::string& text = words[w.index];
-            for (std::size_t i = 0; i < text.size(); ++i) {
-                const int c = w.col + (w.direction == kAcross ? static_cast<int>(i) : 0);
-                const int row = w.row + (w.direction == kDown ? static_cast<int>(i) : 0);
-                ASSERT_EQ(r.board.at(c, row), text[i]);
-            }
-            EXPECT_EQ(r.board.CrossWordAt[w.col][w.row][w.direction], w.index);
-        }
-        for (int c = 0; c < kTableCols; ++c) EXPECT_EQ(r.board.at(c, 0), 0);
-        for (int row = 0; row < kTableRows; ++row) EXPECT_EQ(r.board.at(0, row), 0);
-    }
-}

@@ -37,15 +37,6 @@ void type(PlayBoard& b, const std::string& keys, const std::string& word) {
 
 }  // namespace
 
-TEST(CrossPlay, BoardShowsOnlyTheLettersCells) {
-    PlayBoard b = catHat();
-    int shown = 0;
-    for (bool v : b.visible) shown += v;
-    EXPECT_EQ(shown, 5);
-    EXPECT_TRUE(b.visible[27] && b.visible[51] && b.visible[52] && b.visible[53] && b.visible[77]);
-    EXPECT_EQ(b.caption[52], 0);  // blank until typed
-}
-
 TEST(CrossPlay, ClicksOnACrossingCellAlternateAcrossAndDown) {
     PlayBoard b = catHat();
     ASSERT_TRUE(clickCell(b, 52));

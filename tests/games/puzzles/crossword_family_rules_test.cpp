@@ -61,11 +61,6 @@ TEST(CrosswordRules, RoundClampsDifficultyForGoodAndKeepsTheFirstScore) {
     EXPECT_EQ(s.Score, 0);
     EXPECT_EQ(cw.scoreText, "Score: 0");
     EXPECT_EQ(s.Difficulty, 8);
-
-    SharedState apart = listOf({"abc", "xyz"}, 2);
-    const crossword::RoundResult failed = crossword::newRound(apart, cw, false, rng);
-    EXPECT_FALSE(failed.ok);
-    EXPECT_EQ(failed.message, "Crossword creation failed. Please try another word list.");
 }
 
 TEST(CrosswordRules, RoadToAWin) {
@@ -118,8 +113,7 @@ TEST(CrosswordRules, GiveAnswerCostsAndIsGuardedAgainstKeys) {
     EXPECT_EQ(s.Score, -1501);
     EXPECT_TRUE(cw.GameWon);
     EXPECT_FALSE(cross::endGame(s, cw.GameWon));  // a negative score loses
-    EXPECT_STREQ(cross::kLoseTitle, "You lose!");
-}
+    }
 
 TEST(BlindTilesRules, RoadToAWinWithTheSameWordTwice) {
     SharedState s = listOf({"cat", "cat", "tact"}, 3);
@@ -133,69 +127,26 @@ TEST(BlindTilesRules, RoadToAWinWithTheSameWordTwice) {
 
     // Solve each place by clicking its first tile (twice when the crossing word comes first).
     int solved = 0;
-    for (int col = 1; col <= 15; ++col) {
-        for (int row = 1; row <= 14; ++row) {
-            for (int dir : {cross::kAcross, cross::kDown}) {
-                const int index = bt.board.layout.wordAt(col, row, dir);
-                if (index == 0) continue;
-                const int cell = (row - 1) * 15 + col - 1;
+    for (int cell = 0; cell < 15 * 14; ++cell) {
+        for (int dir : {cross::kAcross, cross::kDown}) {
+            const int index = bt.board.layout.wordAt(cell % 15 + 1, cell / 15 + 1, dir);
+            if (index == 0) continue;
+            for (int k = 0; k < 2 && (bt.board.SelWord != index || !bt.board.selected()); ++k)
                 blind_tiles::clickCell(bt, cell);
-                if (bt.board.SelWord != index || !bt.board.selected())
-                    blind_tiles::clickCell(bt, cell);
-                if (bt.board.SelWord != index || !bt.board.selected())
-                    continue;  // solved across it
-                blind_tiles::Outcome o = blind_tiles::Outcome::None;
-                for (char c : s.Words[index]) o = blind_tiles::pressKey(s, bt, c);
-                EXPECT_NE(o, blind_tiles::Outcome::Typed);
-                ++solved;
-                for (int t = 0; t < 11; ++t) cross::flashTick(bt.board);
-            }
+            if (bt.board.SelWord != index || !bt.board.selected()) continue;  // solved across it
+            blind_tiles::Outcome o = blind_tiles::Outcome::None;
+            for (char c : s.Words[index]) o = blind_tiles::pressKey(s, bt, c);
+            EXPECT_NE(o, blind_tiles::Outcome::Typed);
+            ++solved;
+            for (int t = 0; t < 11; ++t) cross::flashTick(bt.board);
         }
     }
     // Solving one "cat" marks both entries.
     for (std::size_t i = 0; i < bt.entries.size(); ++i) EXPECT_TRUE(bt.entrySolved[i]);
-    EXPECT_EQ(solved, 3) << [&] {
-        std::string t;
-        for (int r = 1; r <= 14; ++r) {
-            for (int c = 1; c <= 15; ++c)
-                t += bt.board.layout.at(c, r) ? bt.board.layout.at(c, r) : '.';
-            t += '\n';
-        }
-        return t;
-    }();
+    EXPECT_EQ(solved, 3);
     EXPECT_TRUE(bt.GameWon);
     EXPECT_EQ(s.Score, 100 * (3 + 3 + 4));
     EXPECT_EQ(bt.scoreText, "Score: 1000");
-}
-
-TEST(BlindTilesRules, WrongWordInASlotAndGiveAnswerToANegativeScore) {
-    SharedState s = listOf({"cat", "hat", "tact"}, 3);
-    SystemRng rng;
-    blind_tiles::BlindTilesState bt;
-    ASSERT_TRUE(blind_tiles::newRound(s, bt, rng).ok);
-    ASSERT_EQ(s.PuzzleWordCount, 3);
-    // The first placed word stands down from its first tile.
-    const int first = bt.PlaceWord[1];
-    int startCell = -1;
-    for (int col = 1; col <= 15 && startCell < 0; ++col)
-        for (int row = 1; row <= 14; ++row)
-            if (bt.board.layout.wordAt(col, row, cross::kDown) == first)
-                startCell = (row - 1) * 15 + col - 1;
-    ASSERT_GE(startCell, 0);
-    blind_tiles::clickCell(bt, startCell);
-    if (!bt.board.SelDown) blind_tiles::clickCell(bt, startCell);
-    ASSERT_EQ(bt.board.SelWord, first);
-    if (s.Words[first].size() == 3) {
-        const std::string other = s.Words[first] == "cat" ? "hat" : "cat";
-        blind_tiles::Outcome o = blind_tiles::Outcome::None;
-        for (char c : other) o = blind_tiles::pressKey(s, bt, c);
-        EXPECT_EQ(o, blind_tiles::Outcome::Wrong);  // another list word in the slot
-    }
-    EXPECT_EQ(blind_tiles::giveAnswer(s, bt), blind_tiles::Outcome::Solved);
-    EXPECT_EQ(s.Score, -1000);
-    EXPECT_TRUE(bt.entrySolved[0]);
-    EXPECT_FALSE(bt.entrySolved[1]);
-    EXPECT_FALSE(cross::endGame(s, true));
 }
 
 TEST(BlindTilesRules, ListThatCannotCrossGivesTheCrosswordsMessage) {

@@ -84,8 +84,10 @@ TEST(WordMazeBuild, ImpossibleWalkEndsWithTheMessage) {
     WordMazeState m;
     const RoundStart r = startRound(state, m, rng);
     EXPECT_FALSE(r.ok);
-    EXPECT_EQ(r.message, kUnableMessage);
-    EXPECT_EQ(m.builds, kMaxBuilds);
+    EXPECT_EQ(r.message,
+              "The program was unable to make this word maze with the options and word list that "
+              "you chose. Please try again with different options or a different word list.");
+    EXPECT_EQ(m.builds, 1001);
 
     // More words wanted than the list holds ends too.
     SharedState few = listOf({"ab"}, 3, false);
@@ -113,7 +115,9 @@ TEST(WordMazePlay, RetraceUndoAndFinish) {
 
     Click c = clickCell(state, m, 1, rng);  // white: a reminder, no cost
     EXPECT_EQ(c.result, ClickResult::OffPath);
-    EXPECT_EQ(c.message, kFollowPathMessage);
+    EXPECT_EQ(c.message,
+              "You must follow the path of words to the end. The highlighted letters mark the "
+              "paths you can choose.");
     EXPECT_EQ(state.Score, 0);
 
     EXPECT_EQ(clickCell(state, m, 0, rng).result, ClickResult::Moved);
@@ -149,7 +153,8 @@ TEST(WordMazePlay, RetraceUndoAndFinish) {
     m.caption[3] = "D";
     c = clickCell(state, m, 3, rng);
     EXPECT_EQ(c.result, ClickResult::NotReady);
-    EXPECT_EQ(c.message, kNotReadyMessage);
+    EXPECT_EQ(c.message,
+              "You must follow the path of words to the end. You're not ready to get there yet...");
     m.caption[3] = "G";
 
     EXPECT_EQ(clickCell(state, m, 6, rng).result, ClickResult::Moved);

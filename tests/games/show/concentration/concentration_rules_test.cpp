@@ -53,16 +53,6 @@ TEST(ConcentrationDeal, AmbiguousAndShortListsEndInsteadOfSpinning) {
     EXPECT_EQ(rng.draws, kMaxDraws);  // the draws stop at the bound
     EXPECT_EQ(kMaxDraws, 20000);
     EXPECT_FALSE(deal(listOf({"apple"}), 2, rng).ready());
-    // Ten pairs from ten good words always deal, each entry once as word and once as meaning.
-    SharedState ten = listOf({"a1", "b2", "c3", "d4", "e5", "f6", "g7", "h8", "i9", "j10"});
-    SystemRng any;
-    for (int round = 0; round < 50; ++round) {
-        const Game d = deal(ten, 10, any);
-        ASSERT_EQ(d.cards.size(), 20u);
-        std::vector<int> words(11), meanings(11);
-        for (const Card& c : d.cards) (c.meaning ? meanings : words)[c.entry] += 1;
-        for (int k = 1; k <= 10; ++k) EXPECT_TRUE(words[k] == 1 && meanings[k] == 1) << k;
-    }
 }
 
 TEST(ConcentrationPlay, ScoresMissesAndTheThirdClick) {
@@ -118,6 +108,12 @@ TEST(ConcentrationPlay, TurnBackAndBonusBoundaries) {
     EXPECT_FALSE(g.cards[0].up || g.cards[1].up);
     EXPECT_EQ(kTurnBackMs, 1200);
 
+    // One pair is a whole game too; an empty table is never a win.
+    Game one = table(1, {{1, false}, {1, true}});
+    click(one, 0);
+    EXPECT_EQ(click(one, 1).flip, Flip::Won);
+    EXPECT_FALSE(Game{}.won());
+
     EXPECT_EQ(matchPoints(7), 700);
     EXPECT_EQ(missPoints(7), 70);
     EXPECT_EQ(finishBonus(299, 4), 4);
@@ -142,12 +138,5 @@ TEST(ConcentrationTable, GridFitsTheCardsToTheScreen) {
         const Grid gr = grid(r.cards, r.w, r.h);
         EXPECT_EQ(gr.columns, r.columns) << r.cards << " in " << r.w << "x" << r.h;
         EXPECT_EQ(gr.rows, r.rows) << r.cards << " in " << r.w << "x" << r.h;
-    }
-    // Every level at 1280x800, the table under the menu and the score line: big cards.
-    for (int cards = 4; cards <= 20; cards += 2) {
-        const Grid gr = grid(cards, 1240, 560);
-        EXPECT_GE(gr.columns * gr.rows, cards);
-        EXPECT_GE(560 / gr.rows, 100);
-        EXPECT_GE(1240 / gr.columns, 150);
     }
 }

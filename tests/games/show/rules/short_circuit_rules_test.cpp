@@ -90,7 +90,11 @@ TEST(ShortCircuitScore, SpeedBandsAndTheHiddenMeaningBonus) {
     SharedState s = listOf({"bulb"});
     s.TheMeaning = "a lamp";
     s.GameOptionOn = -1;
-    EXPECT_EQ(directions(s), std::string(kWithMeaning) + "\n\"a lamp\"");
+    EXPECT_EQ(directions(s),
+              "To connect the circuit, click on the correct letter in each column to spell out "
+              "the word that means:\n\"a lamp\"");
     s.GameOptionOn = 0;
-    EXPECT_EQ(directions(s), kWithoutMeaning);
+    EXPECT_EQ(directions(s),
+              "To connect the circuit, click on the correct letter in each column to spell out "
+              "one of your vocabulary words...");
 }

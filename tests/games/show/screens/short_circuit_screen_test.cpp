@@ -1,5 +1,5 @@
 // Short Circuit on its screen: spelling to a lit bulb and the table, a short circuit, clicks
-// outside the column in play, and the refusal of a list of long words.
+// outside the column in play.
 #include <QtTest>
 
 #include <cmath>
@@ -16,7 +16,6 @@ class ShortCircuitScreenTest : public QObject {
 private slots:
     void spellToTheLightAndTheTable();
     void wrongLetterShortsTheCircuit();
-    void longWordsAreRefused();
 };
 
 namespace {
@@ -51,7 +50,6 @@ void ShortCircuitScreenTest::spellToTheLightAndTheTable() {
         QVERIFY(!game->letter(col, 5)->isVisible());
         QCOMPARE(game->letter(col, c.rightRow[col])->text(), QString(QChar(c.word[col])));
     }
-    Shot(game, "short-circuit");
     // A click in a later column is ignored.
     clickLetter(game, 1, c.rightRow[1]);
     QCOMPARE(c.column, 0);
@@ -63,15 +61,12 @@ void ShortCircuitScreenTest::spellToTheLightAndTheTable() {
     for (int col = 0; col < int(c.word.size()); ++col) {
         clickLetter(game, col, c.rightRow[col]);
         if (col == 1) {
-            QCOMPARE(game->letter(0, c.rightRow[0])->isVisible(), true);
             for (int r = 0; r < c.rows; ++r)
-                if (r != c.rightRow[0]) QVERIFY(!game->letter(0, r)->isVisible());
-            Shot(game, "short-circuit-wiring");
+                QCOMPARE(game->letter(0, r)->isVisible(), r == c.rightRow[0]);
         }
     }
     QVERIFY(game->lit());
     QCOMPARE(fx.sound.played.count("laser.wav"), 1);
-    Shot(game, "short-circuit-lit");
     QVERIFY(driver.tables.isEmpty());
     Pump(3000);
     // The half seconds go on counting through the pause before the score: 3 + 6 of them.
@@ -113,14 +108,6 @@ void ShortCircuitScreenTest::wrongLetterShortsTheCircuit() {
              "Oops! You short-circuited the connection! The word you were "
              "trying to spell was \"" +
                  QString::fromStdString(word) + "\". Would you like to try again?");
-    Pump();
-    QVERIFY(Showing<Title>());
-}
-
-void ShortCircuitScreenTest::longWordsAreRefused() {
-    ShellFixture fx;
-    startGame(fx, 3, {{"electricity", "energy"}, {"transformers", "change voltage"}});
-    QVERIFY(fx.dialogs.saw(shortcircuit::kTooLong));
     Pump();
     QVERIFY(Showing<Title>());
 }

@@ -3,7 +3,7 @@
 // box follows the computer's line.
 #include <QtTest>
 
-#include "game_road.h"
+#include "road_kit.h"
 #include "games/show/tictactoe/tictactoe_screen.h"
 
 using namespace wm;
@@ -40,27 +40,6 @@ TicTacToe* startGame(ShellFixture& fx, int level) {
     return game;
 }
 
-// Whether the field shows the bare board everywhere but in `marked`, and something else in each
-// of those: the marks copied in, the sparks gone with nothing left where they flew.
-// On the board itself (the saucers keep to the sky beside it) only the marked squares differ
-// from the empty board.
-bool onlyMarksOnBoard(TicTacToe* game, const std::vector<QRect>& marked) {
-    const QImage& shown = game->field()->surface();
-    const QImage& board = game->field()->background();
-    QRegion inMarks;
-    for (const QRect& r : marked) inMarks += r;
-    const QRect area = game->logicalSquare(1, 1).united(game->logicalSquare(3, 3));
-    const QRect left(0, 0, area.left() - 30, shown.height());
-    if (shown.copy(left) == board.copy(left)) return false;  // a saucer is out
-    for (int y = area.top(); y <= area.bottom(); ++y)
-        for (int x = area.left(); x <= area.right(); ++x)
-            if (shown.pixel(x, y) != board.pixel(x, y) && !inMarks.contains(QPoint(x, y)))
-                return false;
-    for (const QRect& r : marked)
-        if (shown.copy(r) == board.copy(r)) return false;
-    return true;
-}
-
 void takeSquare(TicTacToe* game, int row, int col, bool right) {
     QTest::mouseClick(game, Qt::LeftButton, {}, game->squareCentre(row, col));
     QVERIFY(game->questionFrame()->isVisible());
@@ -72,23 +51,18 @@ void takeSquare(TicTacToe* game, int row, int col, bool right) {
 }  // namespace
 
 void TicTacToeScreenTest::winFromTheSideChoiceToTheTable() {
-    ShellFixture fx;
+    Road fx(0, {"OWL"});
     CycleRng rng;
     SetRng(&rng);
     auto* game = startGame(fx, 2);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
-    QVERIFY(game->sideFrame()->isVisible());
-    Shot(game, "tictactoe-sides");
     game->xButton()->click();
     QCOMPARE(game->info()->text(), "Click on the square you want to play...");
     QVERIFY(game->playerTurn());
 
     // A wrong answer loses the turn, not the square.
     QTest::mouseClick(game, Qt::LeftButton, {}, game->squareCentre(3, 3));
-    QCOMPARE(game->options()[0]->isVisible() + 0, 1);
-    QVERIFY(!game->options()[2]->isVisible());  // as many choices as the level
-    QVERIFY(!game->timeLabel()->isVisible());
-    Shot(game, "tictactoe-question");
+    QVERIFY(game->options()[1]->isVisible() && !game->options()[2]->isVisible());
     game->options()[(game->question().right + 1) % 2]->click();
     game->answerButton()->click();
     QVERIFY(fx.dialogs.last().startsWith("Sorry! The word you should have chosen was \""));
@@ -100,29 +74,20 @@ void TicTacToeScreenTest::winFromTheSideChoiceToTheTable() {
     Pump(1000);
     QVERIFY(game->playerTurn());
 
-    WinDriver driver({"OWL"});
-    SetModalHook(std::ref(driver));
     fx.dialogs.answerYes(false);
     for (int col = 1; col <= 3; ++col) {
         takeSquare(game, 1, col, true);
         QCOMPARE(game->board().at(1, col), int(tictactoe::Player));
-        if (col == 2) Shot(game, "tictactoe-play");
         Pump(col < 3 ? 4000 : 1000);
-        if (col < 3) {
-            std::vector<QRect> marked;
-            for (int c = 1; c <= col; ++c) marked.push_back(game->logicalSquare(1, c));
-            QVERIFY(onlyMarksOnBoard(game, marked));
-        }
     }
     QCOMPARE(game->info()->text(), "You win the game!");
     QVERIFY(fx.sound.played.contains("winner2.wav"));
     Pump(1000);
     QCOMPARE(Shared().Score, 1002.0);
-    QCOMPARE(driver.tables.size(), 1);
+    QCOMPARE(fx.win.tables.size(), 1);
     QCOMPARE(fx.dialogs.last(), "You got a high score of 1002! Would you like to try again?");
     Pump();
     QVERIFY(Showing<Title>());
-    SetRng(nullptr);
 }
 
 void TicTacToeScreenTest::computerOpensAndWinsWhileTheClockRunsOut() {
@@ -141,7 +106,6 @@ void TicTacToeScreenTest::computerOpensAndWinsWhileTheClockRunsOut() {
         QTest::mouseClick(game, Qt::LeftButton, {}, game->squareCentre(1, 1 + turn));
         QVERIFY(game->timeLabel()->isVisible());
         QCOMPARE(game->timeLabel()->text(), "Time Remaining: 10");
-        if (turn == 0) Shot(game, "tictactoe-clock");
         Pump(10000);
         QVERIFY(!game->questionFrame()->isVisible());
         QVERIFY(fx.dialogs.last().endsWith("\"...you did not win this square..."));

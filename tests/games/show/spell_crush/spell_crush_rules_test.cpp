@@ -42,21 +42,6 @@ TEST(Deal, DrawsInTheDesignedOrderAndMisspellsOneWord) {
     EXPECT_EQ(rng.pending(), 0u);
 }
 
-TEST(Deal, FourWordsAlwaysDealTheSameFour) {
-    SharedState s = ListOf({"ant", "bee", "cow", "dog"});
-    SpellCrushState g;
-    SystemRng rng;
-    rng.seed(7);
-    for (int round = 0; round < 20; ++round) {
-        deal(s, g, rng);
-        std::array<int, 4> n{g.DealWords[1], g.DealWords[2], g.DealWords[3], g.DealWords[4]};
-        std::sort(n.begin(), n.end());
-        EXPECT_EQ(n, (std::array<int, 4>{1, 2, 3, 4}));
-        EXPECT_GE(g.WrongWordPos, 1);
-        EXPECT_LE(g.WrongWordPos, 4);
-    }
-}
-
 TEST(Deal, NeverDealsTheEmptyEntryPastTheLimitAndNeverHangs) {
     SharedState s = ListOf({});
     for (int i = 1; i <= kMaxWords; ++i) s.Words[i] = "w" + std::to_string(i);

@@ -78,18 +78,6 @@ TEST(Wheel, OnlyASpinningWheelStopsAndTwentyFlashesEndOnTheStartColour) {
     EXPECT_EQ(flashes + 1, 20);
     EXPECT_FALSE(w.flashRed);
 
-    // A Restart in the middle of the flash starts from a blue first plate with no marker lit.
-    WheelState x;
-    SetupGame(s, x, rng);
-    AnimationEnded(x);
-    ClickCommand(x);
-    StopWheel(x);
-    Flash(x);
-    ASSERT_TRUE(x.flashRed);
-    SetupGame(s, x, rng);
-    EXPECT_FALSE(x.flashRed);
-    EXPECT_EQ(x.FlashCount, 0);
-    EXPECT_EQ(x.WheelPos, 0);
 }
 
 TEST(Mystery, ThiefLeavesANegativeTotalAndFortuneBringsItBack) {
@@ -169,75 +157,6 @@ TEST(MiniGames, TypeItDrawsPrizeThenWordAndJudgesWithoutTrimming) {
     EXPECT_EQ(w.Command1, "Click here give the wheel another spin...");
 }
 
-TEST(MiniGames, RightAnswerPaysThePrize) {
-    SharedState s = Animals(2);
-    ScriptedRng setup;
-    WheelState w = On(0, s, setup);
-    ScriptedRng rng;
-    rng.pick(10, 500).pick(2, 5);  // otter, then its letters in a scripted order
-    rng.pick(5, 5).pick(4, 5).pick(3, 5).pick(2, 5).pick(1, 5);
-    StartSlot(s, w, rng);
-    EXPECT_EQ(w.SecondsLeft, 32);
-    EXPECT_EQ(w.question, "retto");
-    ClickCommand(w);
-    Verdict v = CheckTyped(s, w, "OTTER");
-    EXPECT_TRUE(v.right);
-    EXPECT_EQ(s.Score, 20);
-    EXPECT_EQ(w.Label1, "Great job! $20.00 has been added to your winnings!");
-    EXPECT_FALSE(w.timer4);
-    EXPECT_EQ(w.frame, Frame::None);
-}
-
-TEST(MiniGames, DefinitionMatchRedrawsOnlyTheQuestionWord) {
-    SharedState s = Animals(2);
-    ScriptedRng setup;
-    WheelState w = On(4, s, setup);
-    ScriptedRng rng;
-    rng.pick(1, 500).pick(3, 5).pick(1, 4);  // the prize, lion, the right choice first
-    // The wrong choices: lion again (drawn anew), zebra; otter; otter once more (kept).
-    rng.pick(3, 5).pick(1, 5).pick(2, 5).pick(2, 5);
-    StartSlot(s, w, rng);
-    EXPECT_EQ(w.question, "\"lion\"");
-    EXPECT_EQ(w.RightChoice, 0);
-    EXPECT_EQ(w.choices, (std::array<std::string, kChoices>{"a big cat", "a striped horse",
-                                                            "a river swimmer", "a river swimmer"}));
-}
-
-TEST(MiniGames, SpellItUsesALaterRuleForEachWrongLabel) {
-    SharedState s = ListOf({{"feather", "a bird's covering"}, {"a", "b"}, {"c", "d"}, {"e", "f"}});
-    ScriptedRng setup;
-    WheelState w = On(2, s, setup);
-    ScriptedRng rng(0.0);
-    rng.pick(1, 500).pick(1, 4).pick(2, 4);  // prize, the word, the right label 1
-    StartSlot(s, w, rng);
-    EXPECT_EQ(w.SecondsLeft, 27);
-    EXPECT_EQ(w.RightChoice, 1);
-    EXPECT_EQ(w.choices,
-              (std::array<std::string, 4>{"pheather", "feather", "feether", "ffeather"}));
-    EXPECT_EQ(w.question, "\"a bird's covering\"");
-    ClickCommand(w);
-    ClickChoice(s, w, 0);
-    EXPECT_EQ(w.Label1, "Ooooh! So sorry. The correct choice was \"feather\".");
-}
-
-TEST(MiniGames, TrueOrFalseRedrawsOnlyAgainstTheRoll) {
-    SharedState s = Animals();
-    ScriptedRng setup;
-    WheelState w = On(7, s, setup);
-    ScriptedRng rng;
-    // Prize, word 2, the choice draw, then the roll 60 (false) and the word shown: word 2 again,
-    // which stays, since only the roll is checked.
-    rng.pick(1, 500).pick(2, 5).pick(3, 4).pick(60, 100).pick(2, 5);
-    StartSlot(s, w, rng);
-    EXPECT_EQ(rng.randomizeCount, 2);
-    EXPECT_EQ(w.RightChoice, 2);
-    EXPECT_EQ(w.question, "True or False: The word \"otter\" means \"a river swimmer\".");
-    EXPECT_EQ(w.choiceShown, (std::array<bool, 4>{false, true, true, false}));
-    ClickCommand(w);
-    EXPECT_FALSE(ClickChoice(s, w, 0).decided);  // a hidden label
-    EXPECT_TRUE(ClickChoice(s, w, 2).right);
-}
-
 TEST(MiniGames, BackWordsAndTheQuestionAsAsked) {
     SharedState s = Animals();
     ScriptedRng setup;
@@ -283,26 +202,6 @@ TEST(MiniGames, TooManyHidesTheWordAmongCapitalsAndAnyRightRemovalWins) {
     EXPECT_TRUE(ClickTile(s, w, 5).right);
 }
 
-TEST(MiniGames, LetterChangeClearsAWrongPairAndWinsOnTheSwappedOnes) {
-    SharedState s = ListOf({{"Otter", "a river swimmer"}, {"b", "x"}, {"c", "y"}, {"d", "z"}});
-    ScriptedRng setup;
-    WheelState w = On(6, s, setup);
-    ScriptedRng rng;
-    rng.pick(1, 500).pick(1, 4).pick(2, 5).pick(3, 5);  // t and t: drawn again
-    rng.pick(1, 5).pick(5, 5);
-    StartSlot(s, w, rng);
-    EXPECT_EQ(w.SwapFirst, 1);
-    EXPECT_EQ(w.SwapSecond, 5);
-    EXPECT_EQ((std::vector<std::string>(w.tiles.begin(), w.tiles.begin() + 5)),
-              (std::vector<std::string>{"r", "t", "t", "e", "O"}));
-    ClickCommand(w);
-    ClickTile(s, w, 2);
-    EXPECT_TRUE(ClickTile(s, w, 0).ooh);  // two marked, not the pair: all cleared
-    EXPECT_FALSE(w.TileMarked[0]);
-    EXPECT_FALSE(ClickTile(s, w, 0).decided);
-    EXPECT_TRUE(ClickTile(s, w, 4).right);
-}
-
 TEST(MiniGames, WordsTooLongOrOfOneLetterEndTheSpinInsteadOfHanging) {
     SharedState s = ListOf({{"pneumonoultramicroscopics", "long"},
                             {"supercalifragilisticexpi", "long"},
@@ -323,42 +222,6 @@ TEST(MiniGames, WordsTooLongOrOfOneLetterEndTheSpinInsteadOfHanging) {
               "Spin again for another game!");
     EXPECT_EQ(v.Command1, "Click here give the wheel another spin...");
 
-    // On the last spin nothing offers another.
-    WheelState last = On(6, same, setup);
-    last.SpinsLeft = 1;
-    StartSlot(same, last, rng);
-    EXPECT_EQ(last.Label1,
-              "None of the words on this list can be used for Letter Change! That was your last "
-              "spin.");
-    EXPECT_EQ(last.Command1, "Click here to continue...");
-    EXPECT_EQ(last.NextAction, Action::EndGame);
-}
-
-TEST(MiniGames, LetterChangePassesOverAWordWithOneLetterForOneWithTwo) {
-    // "a" and "Aa" have no two letters to swap; "Otter" has.
-    SharedState s = ListOf({{"a", "x"}, {"Aa", "y"}, {"Otter", "a river swimmer"}, {"d", "z"}});
-    ScriptedRng setup;
-    WheelState w = On(6, s, setup);
-    ScriptedRng rng;
-    rng.pick(1, 500).pick(1, 4).pick(2, 4).pick(3, 4);  // the prize, then a, Aa and Otter
-    rng.pick(1, 5).pick(5, 5);
-    const SlotStart st = StartSlot(s, w, rng);
-    EXPECT_TRUE(st.refusal.empty());
-    EXPECT_EQ(w.word, "Otter");
-    EXPECT_EQ(w.question, "a river swimmer");
-    EXPECT_EQ((std::vector<std::string>(w.tiles.begin(), w.tiles.begin() + 5)),
-              (std::vector<std::string>{"r", "t", "t", "e", "O"}));
-    EXPECT_EQ(w.NextAction, Action::Letters);
-
-    // A generator stuck on one place still swaps two different letters.
-    SharedState t = ListOf({{"ooze", "mud"}, {"b", "x"}, {"c", "y"}, {"d", "z"}});
-    WheelState v = On(6, t, setup);
-    ScriptedRng stuck(0.0);
-    EXPECT_TRUE(StartSlot(t, v, stuck).refusal.empty());
-    EXPECT_EQ(v.SwapFirst, 1);
-    EXPECT_EQ(v.SwapSecond, 3);
-    EXPECT_EQ((std::vector<std::string>(v.tiles.begin(), v.tiles.begin() + 4)),
-              (std::vector<std::string>{"z", "o", "o", "e"}));
 }
 
 TEST(Clock, TimeOutNamesTheWordOnlyForTheLetterGamesAndRestartLeavesItRunning) {

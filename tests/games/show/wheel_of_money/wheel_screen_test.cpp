@@ -1,6 +1,5 @@
-// The show on its screen: a whole game of ten spins through all ten mini-games to the table,
-// the thief and the fortune with their animations, the game that ends in the red, and Restarts
-// in the flash and in a mini-game.
+// The show on its screen: a whole game of ten spins through all ten mini-games to the table, and
+// the game that ends in the red.
 #include <QLineEdit>
 #include <QtTest>
 
@@ -27,19 +26,15 @@ void SpinTo(GameShowForm* game, int slot) {
     game->clickCommand();
     QVERIFY(game->state().Spinning);
     for (int i = 0; i < 200 && game->state().WheelPos != slot; ++i) Pump(16);
-    static bool shot = false;
-    if (!shot) Shot(game, "wheel-spinning");
-    shot = true;
     QTest::keyClick(game, Qt::Key_S);
     QVERIFY(!game->state().Spinning);
     Pump(1100);  // twenty flashes
 }
 
 // Plays the mini-game in hand and answers it right.
-void AnswerRight(GameShowForm* game, const QString& shot = {}) {
+void AnswerRight(GameShowForm* game) {
     const wheel::WheelState& w = game->state();
     game->clickCommand();  // "Click here when you are ready to play..."
-    if (!shot.isEmpty()) Shot(game, shot);
     switch (w.frame) {
         case wheel::Frame::Type:
             game->answerBox()->setText(QString::fromStdString(w.word));
@@ -77,9 +72,7 @@ class WheelScreenTest : public QObject {
     Q_OBJECT
 private slots:
     void tenSpinsThroughEveryMiniGameToTheTable();
-    void thiefAndFortune();
     void aGameInTheRedEndsWithAdvice();
-    void restartLeavesNoFreeButtonNorRedPlate();
 };
 
 void WheelScreenTest::tenSpinsThroughEveryMiniGameToTheTable() {
@@ -91,31 +84,18 @@ void WheelScreenTest::tenSpinsThroughEveryMiniGameToTheTable() {
     Pump(200);
     QVERIFY(game->movieScreen()->isVisible());  // the intro plays first
     QVERIFY(!game->command()->isEnabled());
-    Shot(game, "wheel-intro");
     UntilButton(game);
     QVERIFY(!game->movieScreen()->isVisible());
     QCOMPARE(game->command()->text(), "Click here to go to the wheel...");
     QVERIFY(game->state().Label1.rfind("Welcome to Wheel of Money", 0) == 0);
-    Shot(game, "wheel-welcome");
 
     const int stops[] = {0, 1, 2, 4, 5, 6, 7, 8, 10, 11};
-    const char* shots[] = {"wheel-scramble",
-                           "wheel-type-it",
-                           "wheel-spell-it",
-                           "",
-                           "wheel-too-many",
-                           "wheel-letter-change",
-                           "wheel-true-false",
-                           "",
-                           "",
-                           "wheel-fill-in"};
     double total = 0;
     for (int i = 0; i < 10; ++i) {
         SpinTo(game, stops[i]);
-        if (i == 0) Shot(game, "wheel-stopped");
         QCOMPARE(game->state().SpinsLeft, 9 - i);
         QCOMPARE(game->command()->text(), "Click here when you are ready to play...");
-        AnswerRight(game, shots[i]);
+        AnswerRight(game);
         total += double(game->state().PrizeAmount);
         QVERIFY2(game->state().Label1.rfind("Great job! $", 0) == 0, game->state().Label1.c_str());
         QCOMPARE(Shared().Score, total);
@@ -135,30 +115,6 @@ void WheelScreenTest::tenSpinsThroughEveryMiniGameToTheTable() {
     QVERIFY(Showing<Title>() != nullptr);
     const ScoreTable t = ReadScoreTable(fx.path("scores/Wheel of Money.dat").toStdString());
     QCOMPARE(t.score(1), total);
-}
-
-void WheelScreenTest::thiefAndFortune() {
-    ShellFixture fx;
-    auto* game = qobject_cast<GameShowForm*>(
-        ContinueWithList(ChooserFor("Wheel of Money", 5, true), "Human Body ("));
-    QVERIFY(game);
-    Pump();
-    fx.rng.setFallback(0.9);  // mystery draws of 10: the Thief
-    SpinTo(game, 3);
-    QVERIFY(game->movieScreen()->isVisible());
-    QVERIFY(!game->command()->isEnabled());  // until the animation ends
-    Pump(1500);
-    Shot(game, "wheel-thief");
-    QVERIFY(Shared().Score < 0);
-    QVERIFY(game->findChild<QLabel*>("PrizeLabel")->text().startsWith("Cash and Prize Total:  $-"));
-    QVERIFY(fx.sound.played.contains("ooh.wav"));
-    UntilButton(game);
-    fx.rng.setFallback(0.1);  // the Fortune
-    SpinTo(game, 9);
-    Pump(1500);
-    Shot(game, "wheel-fortune");
-    QVERIFY(game->state().Label1.rfind("Congratulations! You hit the FORTUNE.", 0) == 0);
-    QCOMPARE(game->state().SpinsLeft, 8);
 }
 
 void WheelScreenTest::aGameInTheRedEndsWithAdvice() {
@@ -181,54 +137,6 @@ void WheelScreenTest::aGameInTheRedEndsWithAdvice() {
              "Hmmm... maybe a bit more practice is needed before you're ready for this game. Go "
              "and learn your vocab words, then come back and try again later...");
     QVERIFY(Showing<Title>() != nullptr);
-}
-
-void WheelScreenTest::restartLeavesNoFreeButtonNorRedPlate() {
-    ShellFixture fx;
-    auto* game = qobject_cast<GameShowForm*>(
-        ContinueWithList(ChooserFor("Wheel of Money", 10, true), "Human Body ("));
-    QVERIFY(game);
-    Pump();
-    fx.rng.setFallback(0.1);
-    auto* scramble = game->findChild<QLabel*>("WheelLabel0");
-    QVERIFY(scramble);
-    const QString blue = scramble->styleSheet();
-
-    // A Restart during the flash: the next wheel shows "Scramble!" in blue, not red.
-    UntilButton(game);
-    game->clickCommand();
-    for (int i = 0; i < 200 && game->state().WheelPos != 4; ++i) Pump(16);
-    QTest::keyClick(game, Qt::Key_S);
-    Pump(50);
-    QVERIFY(game->state().flashRed);
-    QVERIFY(TriggerMenu(game, "RS"));
-    UntilButton(game);
-    game->clickCommand();
-    QVERIFY(game->state().Spinning);
-    QCOMPARE(scramble->styleSheet(), blue);
-
-    // A Restart inside a mini-game of three seconds: its countdown runs on and ends during the
-    // intro, and the big button stays locked until the intro is over.
-    for (int i = 0; i < 200 && game->state().WheelPos != 4; ++i) Pump(16);
-    QTest::keyClick(game, Qt::Key_S);
-    Pump(1100);
-    game->clickCommand();  // Definition Match, three seconds at level 10
-    QCOMPARE(game->state().frame, wheel::Frame::Choice);
-    Pump(1000);
-    QVERIFY(TriggerMenu(game, "RS"));
-    Pump(200);
-    QVERIFY(game->movieScreen()->isPlaying());
-    Pump(2000);
-    QCOMPARE(game->state().Label1, "Oops! Your time ran out! Try to be a little faster next time!");
-    for (int i = 0; i < 10 && game->movieScreen()->isPlaying(); ++i) {
-        QVERIFY(game->command()->isVisible());
-        QVERIFY(!game->command()->isEnabled());
-        Pump(100);
-    }
-    UntilButton(game);
-    QVERIFY(!game->movieScreen()->isVisible());
-    QVERIFY(game->command()->isEnabled());
-    QCOMPARE(scramble->styleSheet(), blue);
 }
 
 QTEST_MAIN(WheelScreenTest)

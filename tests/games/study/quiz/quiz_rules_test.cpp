@@ -59,32 +59,6 @@ TEST(QuizRules, ChoicesFollowTheDrawAndSkipTakenRows) {
     EXPECT_GE(rng.randomizeCount, 1);  // reseeded for each question
 }
 
-TEST(QuizRules, MeaningQuestionsOfferWords) {
-    SharedState s = List(4, 2, 4, 2);
-    ScriptedRng rng(0.5);
-    rng.pick(3, 4).pick(1, 2).pick(1, 4).pick(4, 4);
-    QuizRun run;
-    startRun(run, s, rng);
-    EXPECT_EQ(run.QuestionKind, 2);
-    EXPECT_EQ(questionText(run, s), "m3");
-    EXPECT_EQ(run.choices[0], "w3");
-    EXPECT_EQ(run.choices[1], "w4");
-    EXPECT_STREQ(directions(run.QuestionKind), kMeaningDirections);
-    EXPECT_EQ(answerPointSize(2), 18);
-    EXPECT_EQ(answerPointSize(1), 12);
-}
-
-TEST(QuizRules, NoWordIsAskedTwiceWhileTheListAllows) {
-    SharedState s = List(5, 2, 5);
-    SystemRng real;
-    real.seed(7);
-    QuizRun run;
-    startRun(run, s, real);
-    std::set<int> asked{run.asked};
-    while (next(run, s, real)) asked.insert(run.asked);
-    EXPECT_EQ(asked.size(), 5u);
-}
-
 TEST(QuizRules, RepeatsComeFromTheFirstQuestionWhenTheListIsShort) {
     // Five questions on five words: the second question draws row 2 again and is refused it.
     SharedState s = List(5, 2, 5);
@@ -147,28 +121,6 @@ TEST(QuizRules, KindsByQuizType) {
     s.QuizLength = 0;
     EXPECT_EQ(quizType(s), 1);
     EXPECT_EQ(quizLength(s), 10);
-}
-
-TEST(QuizRules, RunLengthAndCounters) {
-    for (int length : {1, 3}) {
-        SharedState s = List(4, 2, length);
-        ScriptedRng rng(0.4);
-        QuizRun run;
-        startRun(run, s, rng);
-        EXPECT_EQ(run.QuestionsLeft, length - 1);
-        int questions = 1;
-        while (next(run, s, rng)) ++questions;
-        EXPECT_EQ(questions, length);
-        EXPECT_EQ(run.QuestionsLeft, -1);
-    }
-    QuizRun run;
-    run.CorrectChoice = 3;
-    EXPECT_TRUE(answer(run, 3));
-    EXPECT_FALSE(answer(run, 1));
-    EXPECT_FALSE(answer(run, 2));
-    EXPECT_EQ(run.QuizRight, 1);
-    EXPECT_EQ(run.QuizWrong, 2);
-    EXPECT_EQ(run.PickedChoice, 2);
 }
 
 TEST(QuizRules, VerdictLinesAtTheirBoundaries) {
