@@ -97,9 +97,12 @@ Layout layOut(const std::vector<std::string>& words, int columns) {
 }
 
 int bestColumns(const std::vector<std::string>& words, double width, double height, double tall) {
+    // A word is broken over two lines only when it is longer than the longest line.
+    int longest = 4;
+    for (const std::string& w : words) longest = std::max(longest, Len(w));
     int best = kMostColumns;
     double bestSide = -1;
-    for (int c = 4; c <= kMostColumns; ++c) {
+    for (int c = std::min(longest, kMostColumns); c <= kMostColumns; ++c) {
         const Layout l = layOut(words, c);
         if (l.lines == 0) continue;
         const double side = std::min(width / l.columns, height / (l.lines * tall));

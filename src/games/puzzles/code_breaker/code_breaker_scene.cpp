@@ -112,7 +112,7 @@ void CodeScene::layOutTiles() {
     }
 }
 
-QPixmap CodeScene::sprite(const char* id, QSize size) const {
+QPixmap CodeScene::sprite(const char* id, QSize size) {
     QPixmap pm(size.expandedTo(QSize(1, 1)));
     pm.fill(Qt::transparent);
     if (!art_.isValid() || !art_.elementExists(id)) return pm;

@@ -68,7 +68,7 @@ private:
     void layOutTiles();
     void renderSprites();
     void composeBack();
-    QPixmap sprite(const char* id, QSize size) const;
+    QPixmap sprite(const char* id, QSize size);
     const QPixmap& glyph(char c, int ink, int px);
     void paintTile(QPainter& p, int i);
     void paintKeys(QPainter& p);
