@@ -17,7 +17,7 @@ using namespace code_breaker;
 namespace {
 constexpr double kTall = 1.5;      // a tile's height to its width
 constexpr double kColGap = 0.12;   // between two tiles, of a tile's width
-constexpr double kLineGap = 0.32;  // between two lines
+constexpr double kLineGap = 0.25;  // between two lines
 constexpr int kPopMs = 220;
 constexpr int kFlyMs = 340;
 constexpr int kHintMs = 900;

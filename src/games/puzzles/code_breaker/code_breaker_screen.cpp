@@ -31,7 +31,7 @@ const char* kHudWarn = "QLabel { color: #ff6b5e; background: transparent; paddin
 
 GameMenuNames menuNames() {
     GameMenuNames menu;
-    // The palette's key for this game; the score file follows it once the palette is used.
+    // The palette's key is the game's own name: the score file stays where it is.
     menu.foreignKey = "code breaker";
     return menu;
 }
@@ -329,7 +329,7 @@ void CodeBreaker::resizeEvent(QResizeEvent*) {
     Command1->setGeometry(bx, y(0.79), bw, int(H * 0.085));
     Command2->setGeometry(bx, y(0.895), bw, int(H * 0.085));
     for (QPushButton* b : {Command1, Command2}) b->setFont(ScreenFont(18, true));
-    scene_->setAreas(QRect(w / 25, y(0.225), w - 2 * w / 25, int(H * 0.47)), band,
+    scene_->setAreas(QRect(w / 25, y(0.215), w - 2 * w / 25, int(H * 0.485)), band,
                      QRect(w / 25, y(0.785), bx - w / 50 - w / 25, int(H * 0.2)));
     std::vector<QRect> panels{Label2->geometry(), Label3->geometry()};
     if (Label1->isVisibleTo(this)) panels.push_back(Label1->geometry());
