@@ -142,18 +142,21 @@ void CodeScene::composeBack() {
     backPic_ = backRaw_;
     QPainter p(&backPic_);
     p.setRenderHint(QPainter::Antialiasing);
+    if (art_.isValid() && !board_.isEmpty()) {
+        // The sheet round the tiles, never over the clue above them or the line below.
+        const QRect sheet = boardBounds()
+                                .adjusted(side_ / 2, side_ / 2, -side_ / 2, -side_ / 2)
+                                .intersected(board_.adjusted(-side_, -side_ / 8, side_, side_ / 8));
+        art_.render(&p, "sheet", QRectF(sheet));
+        art_.render(&p, "tray", QRectF(keys_.adjusted(-keys_.height() / 8, -keys_.height() / 10,
+                                                      keys_.height() / 8, keys_.height() / 10)));
+    }
     for (const QRect& r : panels_) {
         if (r.isEmpty()) continue;
         const double radius = std::min(16.0, r.height() / 3.0);
         p.setPen(QPen(QColor(236, 201, 120, 190), 2));
         p.setBrush(QColor(22, 20, 34, 200));
         p.drawRoundedRect(QRectF(r).adjusted(1, 1, -1, -1), radius, radius);
-    }
-    if (art_.isValid() && !board_.isEmpty()) {
-        const QRect sheet = boardBounds().adjusted(side_ / 2, side_ / 2, -side_ / 2, -side_ / 2);
-        art_.render(&p, "sheet", QRectF(sheet));
-        art_.render(&p, "tray", QRectF(keys_.adjusted(-keys_.height() / 8, -keys_.height() / 10,
-                                                      keys_.height() / 8, keys_.height() / 10)));
     }
     if (clue_) {
         // The highlighter stroke of the clue's word, line by line.
