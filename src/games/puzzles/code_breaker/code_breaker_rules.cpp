@@ -13,7 +13,7 @@ namespace {
 // Draws that hit a used or unfit word try again this many times; then the next fit word after
 // the last draw is taken, so a draw always ends.
 constexpr int kDrawTries = 50;
-constexpr int kMostColumns = 24;
+constexpr int kMostColumns = 26;  // two words of twelve letters on a line
 
 int Draw(Rng& rng, int n) {
     return std::clamp(static_cast<int>(Int(rng.Rnd() * n + 1)), 1, n);
