@@ -1,0 +1,268 @@
+// Code Breaker's rules over a scripted generator: the clock and the points, the draw of the words
+// (different, bounded, within the screen's room), the key that never leaves a letter as itself,
+// the accented letters' pictures, letters that move, hints, the endings and the layout.
+#include <gtest/gtest.h>
+
+#include "core/rng.h"
+#include "core/shared_state.h"
+#include "games/puzzles/code_breaker/code_breaker_rules.h"
+
+using namespace wm;
+using namespace wm::code_breaker;
+
+namespace {
+
+SharedState listOf(std::vector<std::string> words, int level = 10) {
+    SharedState s;
+    s.Words = {""};
+    s.Meanings = {""};
+    for (auto& w : words) {
+        s.Words.push_back(w);
+        s.Meanings.push_back("meaning of " + w);
+    }
+    s.WordCount = static_cast<short>(words.size());
+    s.Difficulty = level;
+    return s;
+}
+
+std::string guesses(const Game& g) {
+    std::string out;
+    for (const Symbol& s : g.symbols()) out += s.guess ? s.guess : '.';
+    return out;
+}
+
+}  // namespace
+
+TEST(CodeBreaker, ClockPointsAndTexts) {
+    const int seconds[][2] = {{1, 324}, {10, 270}, {50, 30}, {0, 324}, {51, 30}};
+    for (auto [level, s] : seconds) EXPECT_EQ(secondsFor(level), s) << level;
+    EXPECT_EQ(pointsFor(250, 10, 4), 2540);
+    EXPECT_EQ(pointsFor(0, 50, 5), 50);
+    for (char c : std::string("aZ\xE9\xC0\xFF\x9A\x8C\xDF")) EXPECT_TRUE(isLetter(c)) << int(c);
+    for (char c : std::string(" -'1.\xD7\xF7\xAA\xB5")) EXPECT_FALSE(isLetter(c)) << int(c);
+    EXPECT_EQ(fold('\xE9'), '\xC9');
+    EXPECT_EQ(clockText(65) + clockText(600) + clockText(-3), "1:0510:000:00");
+    EXPECT_EQ(timeUpText({"cat", "ice cream"}),
+              "Time's up! The code was \"cat\", \"ice cream\". Would you like to try again?");
+}
+
+TEST(CodeBreaker, DifferentWordsDrawnWithinTheRoom) {
+    const std::string tooLong(61, 'x');
+    SharedState s = listOf({"cat", "Cat ", "- -", "dog", tooLong, " owl"});
+    s.Score = 40;
+    ScriptedRng rng(0.0);
+    // cat; Cat is the same word; dog; "- -" has no letter; 61 characters are too many; owl.
+    rng.pick(1, 6).pick(2, 6).pick(4, 6).pick(3, 6).pick(5, 6).pick(6, 6);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    EXPECT_EQ(rng.randomizeCount, 1);
+    EXPECT_EQ(s.Score, 0);
+    EXPECT_EQ(g.words(), (std::vector<std::string>{"cat", "dog", "owl"}));
+    EXPECT_EQ(s.TheWord, "cat");
+    EXPECT_EQ(s.TheMeaning, "meaning of cat");
+    // Nothing fit was left for a fourth word: no draw for it; then the 26 draws of the key.
+    EXPECT_EQ(rng.draws, 6 + 26);
+    EXPECT_EQ(g.letters(), 9);
+
+    // 25 + 25 letters leave room for 10 more, not 25: the draw gives up on a word after 50 tries.
+    SharedState big = listOf({std::string(25, 'a'), std::string(25, 'b'), std::string(25, 'c'),
+                              std::string(10, 'd'), std::string(11, 'e')});
+    ScriptedRng zero(0.0);
+    ASSERT_TRUE(g.start(big, zero));
+    ASSERT_EQ(g.words().size(), 3u);
+    EXPECT_EQ(g.words()[2], std::string(10, 'd'));
+    EXPECT_EQ(zero.draws, 1 + 50 + 50 + 26);
+
+    SharedState many = listOf({"a", "b", "c", "d", "e", "f", "g"});
+    ASSERT_TRUE(g.start(many, zero));
+    EXPECT_EQ(g.words().size(), 5u);  // five at most
+    for (auto words : {std::vector<std::string>{"- -", "42", tooLong}, std::vector<std::string>{}}) {
+        SharedState none = listOf(words);
+        ScriptedRng r(0.4);
+        EXPECT_FALSE(g.start(none, r));
+        EXPECT_LT(r.draws, 60);
+    }
+}
+
+TEST(CodeBreaker, KeyNeverLeavesALetterAsItself) {
+    SharedState s = listOf({"z"});
+    ScriptedRng first(0.0);
+    Game g;
+    ASSERT_TRUE(g.start(s, first));
+    EXPECT_EQ(g.key(), "BADCFEHGJILKNMPORQTSVUXWZY");
+    // Each letter takes the next; Y takes A, and Z, left alone with itself, swaps with C.
+    ScriptedRng chain;
+    chain.pick(1, 1).pick(1, 25);
+    for (int i = 1; i <= 23; ++i) chain.pick(2, 26 - i);
+    chain.pick(1, 2).pick(3, 25);
+    ASSERT_TRUE(g.start(s, chain));
+    EXPECT_EQ(g.key(), "BCZEFGHIJKLMNOPQRSTUVWXYAD");
+    EXPECT_EQ(chain.pending(), 0u);
+    for (int f = 0; f < 100; f += 7) {
+        ScriptedRng r(f / 100.0);
+        ASSERT_TRUE(g.start(s, r));
+        std::string sorted = g.key();
+        std::sort(sorted.begin(), sorted.end());
+        EXPECT_EQ(sorted, "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+        for (int i = 0; i < 26; ++i) EXPECT_NE(g.key()[i], 'A' + i) << f;
+    }
+}
+
+TEST(CodeBreaker, AccentedLettersArePicturesOfTheirOwn) {
+    SharedState s = listOf({"\xE9t\xE8\xC9"});
+    ScriptedRng rng(0.0);
+    rng.pick(1, 1);
+    for (int i = 0; i < 26; ++i) rng.then(0.0);
+    rng.pick(3, 16).pick(3, 15);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    ASSERT_EQ(g.symbols().size(), 3u);  // É, T, È: é and É are one symbol
+    EXPECT_EQ(g.symbols()[0].plain, '\xC9');
+    EXPECT_EQ(g.symbols()[0].picture, 2);
+    EXPECT_EQ(g.symbols()[1].code, 'S');
+    EXPECT_EQ(g.symbols()[2].picture, 3);
+    // Sixteen pictures: a word that needs a seventeenth waits for one that needs none.
+    const std::string sixteen = "\xE0\xE1\xE2\xE3\xE4\xE5\xE6\xE7\xE8\xE9\xEA\xEB\xEC\xED\xEE\xEF";
+    SharedState list = listOf({sixteen, "\xF2x", "\xE9x", sixteen + "\xF1"});
+    ScriptedRng r(0.0);
+    r.pick(1, 4).pick(2, 4).pick(4, 4).pick(3, 4);
+    ASSERT_TRUE(g.start(list, r));
+    EXPECT_EQ(g.words(), (std::vector<std::string>{sixteen, "\xE9x"}));
+}
+
+TEST(CodeBreaker, LettersMoveAndTheCodeIsCracked) {
+    SharedState s = listOf({"bead"}, 10);
+    ScriptedRng rng(0.0);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    EXPECT_EQ(g.selected(), 0);
+    EXPECT_EQ(g.type('b'), Typed::Ignored);  // the clock has not started
+    g.begin();
+    // Symbols B, E, A, D. A letter typed moves on to the next tile without one.
+    EXPECT_EQ(g.type('x'), Typed::Placed);
+    EXPECT_EQ(g.selected(), 1);
+    EXPECT_EQ(g.type('X'), Typed::Moved);  // X leaves B for E
+    EXPECT_EQ(g.movedFrom(), 0);
+    EXPECT_EQ(guesses(g), ".X..");
+    EXPECT_EQ(g.holder('x'), 1);
+    EXPECT_EQ(g.selected(), 2);
+    EXPECT_EQ(g.type('1'), Typed::Ignored);
+    EXPECT_TRUE(g.select(0));
+    EXPECT_EQ(g.type('b'), Typed::Placed);
+    EXPECT_TRUE(g.select(0));
+    EXPECT_EQ(g.type('B'), Typed::Same);
+    EXPECT_TRUE(g.clear());
+    EXPECT_FALSE(g.clear());
+    EXPECT_EQ(g.type('b'), Typed::Placed);
+    EXPECT_TRUE(g.select(2));
+    EXPECT_EQ(g.type('a'), Typed::Placed);
+    EXPECT_EQ(g.selected(), 3);
+    for (int i = 0; i < 20; ++i) g.tick();
+    EXPECT_EQ(g.type('d'), Typed::Filled);  // every symbol has a letter; X is wrong
+    EXPECT_EQ(g.selected(), 3);
+    EXPECT_EQ(g.phase(), Phase::Playing);
+    EXPECT_TRUE(g.select(1));
+    EXPECT_EQ(g.type('e'), Typed::Won);
+    EXPECT_EQ(g.phase(), Phase::Won);
+    EXPECT_EQ(g.points(), 250 * 10 + 10 * 4);
+    EXPECT_EQ(g.type('q'), Typed::Ignored);
+    EXPECT_FALSE(g.select(0));
+}
+
+TEST(CodeBreaker, HintsCostThirtySecondsAndStay) {
+    SharedState s = listOf({"toe", "ox"}, 49);  // 36 seconds
+    ScriptedRng rng(0.0);
+    rng.pick(1, 2).pick(2, 2);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    EXPECT_FALSE(g.canHint());
+    EXPECT_EQ(g.hint(rng), -1);
+    g.begin();
+    // T O E X: the pupil gives E to T and T to O; a hint shows T and takes it off O.
+    EXPECT_EQ(g.type('e'), Typed::Placed);
+    EXPECT_EQ(g.type('t'), Typed::Placed);
+    rng.pick(1, 4);
+    EXPECT_EQ(g.hint(rng), 0);
+    EXPECT_EQ(g.movedFrom(), 1);
+    EXPECT_EQ(guesses(g), "T...");  // E went with T's wrong letter
+    EXPECT_EQ(g.secondsLeft(), 6);
+    EXPECT_FALSE(g.canHint());
+    EXPECT_TRUE(g.select(0));
+    EXPECT_EQ(g.type('o'), Typed::Locked);
+    EXPECT_FALSE(g.clear());
+    EXPECT_TRUE(g.select(1));
+    EXPECT_EQ(g.type('t'), Typed::Taken);
+    EXPECT_EQ(guesses(g), "T...");
+    // 31 seconds leave room for a hint, 30 do not.
+    SharedState t = listOf({"toe"}, 49);
+    ScriptedRng r(0.0);
+    ASSERT_TRUE(g.start(t, r));
+    g.begin();
+    for (int i = 0; i < 5; ++i) g.tick();
+    EXPECT_TRUE(g.canHint());
+    g.tick();
+    EXPECT_FALSE(g.canHint());
+    // A hint that shows the last symbol cracks the code.
+    ASSERT_TRUE(g.start(t, r));
+    g.begin();
+    g.type('t');
+    g.type('o');
+    EXPECT_EQ(g.hint(r), 2);
+    EXPECT_EQ(g.phase(), Phase::Won);
+    EXPECT_EQ(g.points(), 6 * 49 + 30);
+}
+
+TEST(CodeBreaker, TheClockRunsOut) {
+    SharedState s = listOf({"owl"}, 50);
+    ScriptedRng rng(0.0);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    EXPECT_FALSE(g.tick());  // not yet started
+    EXPECT_EQ(g.secondsLeft(), 30);
+    g.begin();
+    for (int i = 0; i < 29; ++i) ASSERT_FALSE(g.tick());
+    EXPECT_EQ(g.phase(), Phase::Playing);
+    EXPECT_TRUE(g.tick());
+    EXPECT_EQ(g.phase(), Phase::Lost);
+    EXPECT_EQ(g.secondsLeft(), 0);
+    EXPECT_FALSE(g.tick());
+    EXPECT_EQ(g.type('o'), Typed::Ignored);
+}
+
+TEST(CodeBreaker, WordsFlowAlongLinesAndKeysMoveBetweenThem) {
+    auto at = [](const Layout& l, int i) { return std::make_pair(l.places[i].line, l.places[i].column); };
+    const Layout a = layOut({"ab", "cde", "fg"}, 6);
+    EXPECT_EQ(at(a, 2), std::make_pair(0, 3));  // 2 + 1 + 3 fills the line exactly
+    EXPECT_EQ(at(a, 5), std::make_pair(1, 0));
+    EXPECT_EQ(a.lines, 2);
+    EXPECT_EQ(a.columns, 6);
+    const Layout b = layOut({"ab", "cdef"}, 6);
+    EXPECT_EQ(at(b, 2), std::make_pair(1, 0));
+    const Layout c = layOut({"abcdefghij"}, 4);  // a long word goes on over the next lines
+    EXPECT_EQ(at(c, 4), std::make_pair(1, 0));
+    EXPECT_EQ(at(c, 9), std::make_pair(2, 1));
+    EXPECT_EQ(c.lines, 3);
+    EXPECT_EQ(layOut({}, 5).lines, 0);
+    EXPECT_EQ(bestColumns({"ab", "ab", "ab", "ab", "ab"}, 1400, 100, 1.6), 14);
+    EXPECT_EQ(bestColumns({"abcdef", "abcdef"}, 100, 1400, 1.6), 6);
+
+    SharedState s = listOf({"a-bc", "def", "ghijk"});
+    ScriptedRng rng(0.0);
+    rng.pick(1, 3).pick(2, 3).pick(3, 3);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    const Layout l = layOut(g.words(), 8);  // a-bc def / ghijk
+    EXPECT_TRUE(g.select(6));                // f
+    EXPECT_FALSE(g.select(1));               // the hyphen is not a code letter
+    EXPECT_TRUE(g.stepLine(1, l));
+    EXPECT_EQ(g.selected(), 11);  // k, the nearest below
+    EXPECT_FALSE(g.stepLine(1, l));
+    EXPECT_TRUE(g.stepLine(-1, l));
+    EXPECT_EQ(g.selected(), 3);  // c and d are as near: the left one
+    EXPECT_TRUE(g.select(0));
+    EXPECT_TRUE(g.step(1));
+    EXPECT_EQ(g.selected(), 2);  // over the hyphen and the gap
+    EXPECT_TRUE(g.select(0));
+    EXPECT_TRUE(g.step(-1));
+    EXPECT_EQ(g.selected(), 11);  // round the end
+}
