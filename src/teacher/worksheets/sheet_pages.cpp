@@ -1,0 +1,614 @@
+// The pages of a worksheet: a header with the ornament, the title and the pupil's name line,
+// then the kind's blocks flowing down the page (in columns where they are short), onto more
+// pages as needed, and the answer key from a page of its own.
+#include <algorithm>
+#include <cmath>
+
+#include "core/strings.h"
+#include "teacher/worksheets/worksheet.h"
+
+namespace wm::sheets {
+
+namespace {
+
+constexpr double kSide = 42;    // left and right margins: 15 mm, inside any school printer's reach
+constexpr double kTop = 40;
+constexpr double kBottom = 48;  // room for the page number
+constexpr unsigned kInk = 0x1a1a1a;
+constexpr unsigned kAccent = 0x1d4f91;
+constexpr unsigned kSoft = 0x56657a;
+constexpr unsigned kFaint = 0xb8c4d6;
+constexpr unsigned kRing = 0xd0443e;
+constexpr unsigned kDim = 0x9aa5b1;
+
+constexpr Font kTitle{22, true};
+constexpr Font kSubtitle{12, true};
+constexpr Font kNameLine{12};
+constexpr Font kDirections{11, false, true};
+constexpr Font kHeading{13, true};
+constexpr Font kWord{12, true};
+constexpr Font kClue{11};
+constexpr Font kNumber{6.5};
+constexpr Font kFooter{9};
+constexpr Font kScrambled{16, true};
+constexpr double kGridLetter = 14;  // grid letters never print smaller than this
+constexpr int kMaxClueLines = 12;   // a runaway definition is cut rather than run off the page
+
+double lineHeight(const Font& f) {
+    return std::ceil(f.size * 1.3);
+}
+
+std::string lower(const std::string& s) {
+    return LCase(s);
+}
+
+// "(5)", or "(4, 5)" for a word of two parts.
+std::string lengthHint(const std::string& word) {
+    std::string out;
+    int run = 0;
+    for (char c : word + " ") {
+        if (c != ' ') {
+            ++run;
+        } else if (run) {
+            out += (out.empty() ? "" : ", ") + std::to_string(run);
+            run = 0;
+        }
+    }
+    return "(" + out + ")";
+}
+
+std::string spaced(const std::string& letters) {
+    std::string out;
+    for (char c : letters) {
+        if (!out.empty()) out += ' ';
+        out += c;
+    }
+    return out;
+}
+
+const char* directionName(int d) {
+    return d == 1 ? "across" : d == 2 ? "down" : "diagonal";
+}
+
+class Flow {
+public:
+    Flow(const SheetContent& c, const Options& o, const Measure& m)
+        : m(m), c_(c), size_(pageSize(o.paper)) {
+        left = kSide;
+        width = size_.width - 2 * kSide;
+        bottom_ = size_.height - kBottom;
+    }
+
+    const Measure& m;
+    double left, width;
+
+    Page& page() { return pages_.back(); }
+    double pageHeight() const { return size_.height; }
+    double bottom() const { return bottom_; }
+
+    // A new page with the full header: the pupil's pages have the name line and directions.
+    void section(bool key, const std::string& directions) {
+        pages_.push_back({{}, key});
+        key_ = key;
+        add({Item::Ornament, left, kTop, 44, 44});
+        Font title = fitted(c_.title, kTitle, width - 56, 14);
+        text(left + 56, kTop + 2, width - 56, fitText(c_.title, title, width - 56), title, kAccent);
+        text(left + 56, kTop + 31, width - 56, kind(), kSubtitle, kSoft);
+        line(left, kTop + 54, width, 0, kAccent, 1.2);
+        y_ = kTop + 64;
+        if (!key) nameLine();
+        if (!directions.empty()) {
+            for (const std::string& l : wrapText(directions, kDirections, width, m)) {
+                text(left, y_, width, l, kDirections, kSoft);
+                y_ += lineHeight(kDirections);
+            }
+        }
+        y_ += 10;
+        columns(1);
+    }
+
+    // A page with a slim header, for the pages a section runs on to.
+    void continued(const std::string& right = {}) {
+        pages_.push_back({{}, key_});
+        text(left, kTop, width * 0.6, fitText(c_.title, {10, true}, width * 0.6), {10, true}, kSoft);
+        text(left, kTop, width, right.empty() ? kind() : right, {10}, kSoft, Align::Right);
+        line(left, kTop + 17, width, 0, kFaint, 0.8);
+        y_ = colTop_ = kTop + 28;
+        col_ = 0;
+    }
+
+    // From here on blocks fill `n` columns, the first down to the foot, then the next.
+    void columns(int n) {
+        cols_ = n;
+        col_ = 0;
+        colTop_ = y_;
+    }
+    double colLeft() const { return left + col_ * (colWidth() + gap()); }
+    double colWidth() const { return (width - (cols_ - 1) * gap()) / cols_; }
+    static double gap() { return 18; }
+
+    // Room for a block `h` high (and `keep` more that must stand with it); returns its top.
+    double take(double h, double keep = 0) {
+        if (y_ + h + keep > bottom_ && y_ > colTop_ + 0.5) {
+            if (col_ + 1 < cols_) {
+                ++col_;
+                y_ = colTop_;
+            } else {
+                continued();
+            }
+        }
+        const double top = y_;
+        y_ += h;
+        return top;
+    }
+    void skip(double h) { y_ += h; }
+
+    void add(Item item) { page().items.push_back(std::move(item)); }
+    void text(double x, double y, double w, const std::string& s, const Font& f,
+              unsigned colour = kInk, Align align = Align::Left, double h = 0) {
+        Item t{Item::Text, x, y, w, h > 0 ? h : lineHeight(f), s, f, align, colour};
+        add(t);
+    }
+    void line(double x, double y, double w, double h, unsigned colour, double pen,
+              bool dashed = false) {
+        Item l{Item::Line, x, y, w, h};
+        l.colour = colour;
+        l.pen = pen;
+        l.dashed = dashed;
+        add(l);
+    }
+
+    // The largest size from `f` down to `smallest` at which the text fits the width.
+    Font fitted(const std::string& s, Font f, double w, double smallest) const {
+        while (f.size > smallest && m(s, f) > w) f.size -= 1;
+        return f;
+    }
+    std::string fitText(const std::string& s, const Font& f, double w) const {
+        if (m(s, f) <= w) return s;
+        std::string cut = s;
+        while (!cut.empty() && m(cut + "...", f) > w) cut.pop_back();
+        return cut + "...";
+    }
+    std::vector<std::string> wrap(const std::string& s, const Font& f, double w) const {
+        std::vector<std::string> lines = wrapText(s, f, w, m);
+        if (lines.size() > kMaxClueLines) {
+            lines.resize(kMaxClueLines);
+            lines.back() = fitText(lines.back() + " ...", f, w);
+        }
+        return lines;
+    }
+
+    // Numbers each page "Page n of N".
+    std::vector<Page> finish() {
+        const int n = static_cast<int>(pages_.size());
+        for (int i = 0; i < n; ++i) {
+            Item t{Item::Text, left, size_.height - kBottom + 16, width, lineHeight(kFooter),
+                   "Page " + std::to_string(i + 1) + " of " + std::to_string(n), kFooter,
+                   Align::Centre, kSoft};
+            pages_[i].items.push_back(t);
+        }
+        return std::move(pages_);
+    }
+
+private:
+    std::string kind() const {
+        return std::string(kindName(c_.kind)) + (key_ ? ": Answer Key" : "");
+    }
+
+    // "Name: ______  Date: ______", the blanks drawn wide enough to write on.
+    void nameLine() {
+        const std::string blank = "______";
+        const double nameW = m("Name: ", kNameLine), dateW = m("Date: ", kNameLine);
+        const double blankW = std::max(1.0, m(blank, kNameLine));
+        const double dateX = left + width * 0.66;
+        text(left, y_, nameW, "Name: ", kNameLine);
+        Item a{Item::Text, left + nameW, y_, dateX - 18 - left - nameW, lineHeight(kNameLine),
+               blank, kNameLine};
+        a.stretch = a.w / blankW;
+        add(a);
+        text(dateX, y_, dateW, "Date: ", kNameLine);
+        Item b = a;
+        b.x = dateX + dateW;
+        b.w = left + width - b.x;
+        b.stretch = b.w / blankW;
+        add(b);
+        y_ += 30;
+    }
+
+    const SheetContent& c_;
+    PageSize size_;
+    std::vector<Page> pages_;
+    double y_ = 0, bottom_ = 0, colTop_ = 0;
+    int cols_ = 1, col_ = 0;
+    bool key_ = false;
+};
+
+// A heading over the blocks after it, kept with the first of them.
+void heading(Flow& f, const std::string& s, double keep) {
+    const double top = f.take(lineHeight(kHeading) + 4, keep);
+    f.text(f.colLeft(), top, f.colWidth(), s, kHeading, kAccent);
+}
+
+// Numbered lines of the key, two to a row.
+void answers(Flow& f, const std::vector<std::string>& lines, int columns = 2) {
+    f.skip(8);
+    f.columns(columns);
+    for (const std::string& s : lines) {
+        const std::vector<std::string> wrapped = f.wrap(s, kClue, f.colWidth() - 14);
+        const double top = f.take(wrapped.size() * lineHeight(kClue) + 4);
+        for (std::size_t i = 0; i < wrapped.size(); ++i)
+            f.text(f.colLeft() + (i ? 14 : 0), top + i * lineHeight(kClue), f.colWidth(),
+                   wrapped[i], kClue);
+    }
+}
+
+// Short words in as many columns as the longest allows.
+void wordColumns(Flow& f, std::vector<std::string> words, double x, double w, double top) {
+    std::sort(words.begin(), words.end(),
+              [](const std::string& a, const std::string& b) { return lower(a) < lower(b); });
+    double widest = 0;
+    for (const auto& s : words) widest = std::max(widest, f.m(s, kWord));
+    const int per = std::clamp(static_cast<int>(w / (widest + 16)), 1, 4);
+    const double colW = w / per;
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        f.text(x + (i % per) * colW, top + (i / per) * lineHeight(kWord) * 1.2, colW - 6,
+               f.fitText(words[i], kWord, colW - 6), kWord);
+    }
+}
+double wordColumnsHeight(Flow& f, const std::vector<std::string>& words, double w) {
+    double widest = 0;
+    for (const auto& s : words) widest = std::max(widest, f.m(s, kWord));
+    const int per = std::clamp(static_cast<int>(w / (widest + 16)), 1, 4);
+    return std::ceil(words.size() / static_cast<double>(per)) * lineHeight(kWord) * 1.2;
+}
+
+// A numbered line of text with a line to write on: before the text or after its last line.
+void clueLine(Flow& f, const std::string& number, const std::string& s, bool blankFirst) {
+    const double blank = 118, indent = 24;
+    const double textX = indent + (blankFirst ? blank + 10 : 0);
+    const double textW = f.width - textX - (blankFirst ? 0 : blank + 10);
+    const std::vector<std::string> lines = f.wrap(s, kClue, textW);
+    const double lh = lineHeight(kClue);
+    const double top = f.take(std::max<double>(lines.size(), 1.4) * lh + 9);
+    f.text(f.left, top, indent, number, {11, true});
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        f.text(f.left + textX, top + i * lh, textW, lines[i], kClue);
+    const double lineY = top + (blankFirst ? 1 : lines.size()) * lh - 1.5;
+    f.line(f.left + (blankFirst ? indent : f.width - blank), lineY, blank, 0, kInk, 0.8);
+}
+
+// ---- Word search ----
+
+void searchGrid(Flow& f, const SheetContent& c, bool key) {
+    const double cell = std::min(28.0, f.width / c.cols);
+    const double side = cell * c.cols;
+    const double x0 = f.left + (f.width - side) / 2;
+    const double y0 = f.take(side + 16) + 4;
+    Item frame{Item::Box, x0 - 5, y0 - 5, side + 10, side + 10};
+    frame.colour = kAccent;
+    frame.pen = 1.6;
+    frame.radius = 6;
+    f.add(frame);
+    for (int i = 1; i < c.cols; ++i) {
+        f.line(x0 + i * cell, y0, 0, side, kFaint, 0.4);
+        f.line(x0, y0 + i * cell, side, 0, kFaint, 0.4);
+    }
+    std::vector<bool> inWord(c.grid.size(), false);
+    if (key) {
+        for (const Entry& e : c.entries) {
+            const int dx = e.direction == 2 ? 0 : 1, dy = e.direction == 1 ? 0 : 1;
+            for (int k = 0; k < e.length; ++k) inWord[(e.row + k * dy) * c.cols + e.col + k * dx] = true;
+            Item ring{Item::Ring, x0 + (e.col + 0.5) * cell, y0 + (e.row + 0.5) * cell,
+                      (e.length - 1) * dx * cell, (e.length - 1) * dy * cell};
+            ring.radius = cell * 0.4;
+            ring.colour = kRing;
+            ring.pen = 1.3;
+            f.add(ring);
+        }
+    }
+    const Font letter{std::max(kGridLetter, std::min(17.0, cell * 0.6)), key};
+    for (int y = 0; y < c.rows; ++y) {
+        for (int x = 0; x < c.cols; ++x) {
+            const char l = c.at(x, y);
+            if (!l) continue;
+            f.text(x0 + x * cell, y0 + y * cell, cell, std::string(1, l), letter,
+                   key && !inWord[y * c.cols + x] ? kDim : kInk, Align::Centre, cell);
+        }
+    }
+}
+
+void wordSearchPages(Flow& f, const SheetContent& c, const Options& o) {
+    const std::string runs = c.diagonals ? "across, down or diagonally." : "across or down.";
+    f.section(false, c.clueIsDefinition
+                         ? "Read each clue and write the word it describes on the line. Then find "
+                           "the word in the puzzle and draw a ring around it. Words run " + runs
+                         : "Find each word from the list in the puzzle and draw a ring around "
+                           "it. Words run " + runs);
+    searchGrid(f, c, false);
+    if (c.clueIsDefinition) {
+        heading(f, "Clues", 30);
+        for (std::size_t i = 0; i < c.entries.size(); ++i)
+            clueLine(f, std::to_string(i + 1) + ".", c.entries[i].clue, false);
+    } else {
+        std::vector<std::string> words;
+        for (const Entry& e : c.entries) words.push_back(e.word);
+        const double h = wordColumnsHeight(f, words, f.width);
+        heading(f, "Find these words", h);
+        wordColumns(f, words, f.left, f.width, f.take(h));
+    }
+    if (!o.answerKey) return;
+    f.section(true, {});
+    searchGrid(f, c, true);
+    std::vector<std::string> lines;
+    for (std::size_t i = 0; i < c.entries.size(); ++i) {
+        const Entry& e = c.entries[i];
+        lines.push_back(std::to_string(i + 1) + ". " + e.word + ": row " + std::to_string(e.row + 1) +
+                        ", column " + std::to_string(e.col + 1) + ", " + directionName(e.direction));
+    }
+    answers(f, lines);
+}
+
+// ---- Crossword ----
+
+void crossGrid(Flow& f, const SheetContent& c, bool key) {
+    const double cell = std::min({30.0, f.width / c.cols, f.pageHeight() * 0.5 / c.rows});
+    const double x0 = f.left + (f.width - cell * c.cols) / 2;
+    const double y0 = f.take(cell * c.rows + 16) + 4;
+    const Font letter{std::max(kGridLetter, cell * 0.6), true};
+    for (int y = 0; y < c.rows; ++y) {
+        for (int x = 0; x < c.cols; ++x) {
+            if (!c.at(x, y)) continue;
+            Item box{Item::Box, x0 + x * cell, y0 + y * cell, cell, cell};
+            box.pen = 0.9;
+            box.fill = 0xffffff;
+            f.add(box);
+            if (const int n = c.numbers[y * c.cols + x])
+                f.text(box.x + 1.5, box.y + 0.5, cell, std::to_string(n), kNumber, kInk,
+                       Align::Left, 8);
+            if (key)
+                f.text(box.x, box.y + cell * 0.06, cell, std::string(1, c.at(x, y)), letter,
+                       kInk, Align::Centre, cell);
+        }
+    }
+}
+
+void crosswordPages(Flow& f, const SheetContent& c, const Options& o) {
+    f.section(false,
+              "Read each clue and write the answer in the puzzle, one letter in each box. The "
+              "numbers in brackets tell you how many letters the answer has.");
+    crossGrid(f, c, false);
+    for (int d : {1, 2}) {
+        bool first = true;
+        for (const Entry& e : c.entries) {
+            if (e.direction != d) continue;
+            if (first) heading(f, d == 1 ? "Across" : "Down", 30);
+            first = false;
+            clueLine(f, e.label + ".", e.clue + " " + lengthHint(e.word), false);
+        }
+    }
+    if (!o.answerKey) return;
+    f.section(true, {});
+    crossGrid(f, c, true);
+    std::vector<std::string> lines;
+    for (const Entry& e : c.entries)
+        lines.push_back(e.label + (e.direction == 1 ? " Across: " : " Down: ") + e.word);
+    answers(f, lines);
+}
+
+// ---- Scramble, matching, fill in the blank ----
+
+void scramblePages(Flow& f, const SheetContent& c, const Options& o) {
+    const bool clues = !c.entries.empty() && !c.entries.front().clue.empty();
+    f.section(false, std::string("Unscramble the letters to spell a word from the list, and "
+                                 "write the word on the line.") +
+                         (clues ? " The meaning under the letters will help you." : ""));
+    const double indent = 26, lh = lineHeight(kClue);
+    for (std::size_t i = 0; i < c.entries.size(); ++i) {
+        const Entry& e = c.entries[i];
+        const std::string letters = spaced(e.shown);
+        const Font big = f.fitted(letters, kScrambled, f.width * 0.55, 11);
+        const std::vector<std::string> clue = clues ? f.wrap(e.clue, kDirections, f.width - indent)
+                                                    : std::vector<std::string>{};
+        const double top = f.take(26 + clue.size() * lh + 10);
+        f.text(f.left, top + 3, indent, std::to_string(i + 1) + ".", kWord);
+        f.text(f.left + indent, top, f.width * 0.55, letters, big, kAccent);
+        const double lineX = f.left + indent + std::max(f.m(letters, big) + 24, f.width * 0.45);
+        f.line(lineX, top + 20, f.left + f.width - lineX, 0, kInk, 0.8);
+        for (std::size_t k = 0; k < clue.size(); ++k)
+            f.text(f.left + indent, top + 26 + k * lh, f.width - indent, clue[k], kDirections, kSoft);
+    }
+    if (!o.answerKey) return;
+    f.section(true, {});
+    std::vector<std::string> lines;
+    for (std::size_t i = 0; i < c.entries.size(); ++i)
+        lines.push_back(std::to_string(i + 1) + ". " + c.entries[i].shown + ": " + c.entries[i].word);
+    answers(f, lines);
+}
+
+bool manySets(const SheetContent& c) {
+    return !c.entries.empty() && c.entries.back().set > 0;
+}
+
+void matchingPages(Flow& f, const SheetContent& c, const Options& o) {
+    f.section(false, "Write the letter of the matching definition on the line beside each word.");
+    const double leftW = f.width * 0.38, rightX = f.left + leftW + 16;
+    const double rightW = f.left + f.width - rightX, lh = lineHeight(kClue);
+    for (std::size_t i = 0; i < c.entries.size(); ++i) {
+        const Entry& e = c.entries[i];
+        const bool setStart = i == 0 || c.entries[i - 1].set != e.set;
+        const std::vector<std::string> word = f.wrap(std::to_string(i + 1) + ". " + e.word, kWord, leftW - 36);
+        const std::vector<std::string> def = f.wrap(e.shown, kClue, rightW - 22);
+        const double h = std::max(word.size() * lineHeight(kWord), def.size() * lh) + 10;
+        if (setStart) {
+            f.skip(i ? 8 : 0);
+            if (manySets(c)) heading(f, "Set " + std::to_string(e.set + 1), h);
+        }
+        const double top = f.take(h);
+        f.line(f.left, top + lineHeight(kWord) - 2, 28, 0, kInk, 0.8);
+        for (std::size_t k = 0; k < word.size(); ++k)
+            f.text(f.left + 36, top + k * lineHeight(kWord), leftW - 36, word[k], kWord);
+        const int row = static_cast<int>(i) - static_cast<int>(
+            std::find_if(c.entries.begin(), c.entries.end(), [&](const Entry& x) { return x.set == e.set; }) -
+            c.entries.begin());
+        f.text(rightX, top, 22, std::string(1, static_cast<char>('A' + row)) + ".", kWord, kAccent);
+        for (std::size_t k = 0; k < def.size(); ++k)
+            f.text(rightX + 22, top + 1 + k * lh, rightW - 22, def[k], kClue);
+    }
+    if (!o.answerKey) return;
+    f.section(true, {});
+    std::vector<std::string> lines;
+    for (std::size_t i = 0; i < c.entries.size(); ++i)
+        lines.push_back(std::to_string(i + 1) + ". " + c.entries[i].word + ": " + c.entries[i].label);
+    answers(f, lines);
+}
+
+void fillInPages(Flow& f, const SheetContent& c, const Options& o) {
+    f.section(false,
+              "Choose the word from the word bank that matches each definition, and write it on "
+              "the line. Use each word once.");
+    for (std::size_t i = 0; i < c.entries.size(); ++i) {
+        const Entry& e = c.entries[i];
+        if (i == 0 || c.entries[i - 1].set != e.set) {
+            std::vector<std::string> bank;
+            for (const Entry& x : c.entries)
+                if (x.set == e.set) bank.push_back(x.word);
+            const double inner = f.width - 24;
+            const double h = wordColumnsHeight(f, bank, inner) + lineHeight(kHeading) + 20;
+            f.skip(i ? 10 : 0);
+            const double top = f.take(h + 10, 40);
+            Item box{Item::Box, f.left, top, f.width, h};
+            box.colour = kAccent;
+            box.fill = 0xf1f5fb;
+            box.radius = 8;
+            f.add(box);
+            f.text(f.left + 12, top + 6, inner,
+                   manySets(c) ? "Word Bank " + std::to_string(e.set + 1) : "Word Bank", kHeading,
+                   kAccent);
+            wordColumns(f, bank, f.left + 12, inner, top + 8 + lineHeight(kHeading));
+        }
+        clueLine(f, std::to_string(i + 1) + ".", e.clue, true);
+    }
+    if (!o.answerKey) return;
+    f.section(true, {});
+    std::vector<std::string> lines;
+    for (std::size_t i = 0; i < c.entries.size(); ++i)
+        lines.push_back(std::to_string(i + 1) + ". " + c.entries[i].word);
+    answers(f, lines);
+}
+
+// ---- Flash cards ----
+
+// Text centred in a card, as large as it fits between `size` and `smallest`.
+void cardText(Flow& f, const std::string& s, double x, double y, double w, double h, Font font,
+              double smallest) {
+    std::vector<std::string> lines;
+    for (;; font.size -= 1) {
+        lines = wrapText(s, font, w, f.m);
+        if (font.size <= smallest || lines.size() * lineHeight(font) <= h) break;
+    }
+    const std::size_t fit = std::max<std::size_t>(1, static_cast<std::size_t>(h / lineHeight(font)));
+    if (lines.size() > fit) {
+        lines.resize(fit);
+        lines.back() = f.fitText(lines.back() + " ...", font, w);
+    }
+    const double top = y + (h - lines.size() * lineHeight(font)) / 2;
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        f.text(x, top + i * lineHeight(font), w, lines[i], font, kInk, Align::Centre);
+}
+
+void flashCardPages(Flow& f, const SheetContent& c, const Options& o) {
+    constexpr int kCols = 2, kRows = 4, kPerSheet = kCols * kRows;
+    const int n = static_cast<int>(c.entries.size());
+    const int sheets = (n + kPerSheet - 1) / kPerSheet;
+    for (int s = 0; s < sheets; ++s) {
+        for (bool back : {false, true}) {
+            f.continued("Flash Cards: " + std::string(back ? "backs" : "fronts") + ", sheet " +
+                        std::to_string(s + 1) + " of " + std::to_string(sheets));
+            const double top = f.take(0), cardW = f.width / kCols;
+            const double cardH = (f.bottom() - 6 - top) / kRows;
+            // Dashed cut lines round and between the cards.
+            for (int i = 0; i <= kCols; ++i) f.line(f.left + i * cardW, top, 0, cardH * kRows, kDim, 0.6, true);
+            for (int i = 0; i <= kRows; ++i) f.line(f.left, top + i * cardH, f.width, 0, kDim, 0.6, true);
+            for (int k = 0; k < kPerSheet && s * kPerSheet + k < n; ++k) {
+                const Entry& e = c.entries[s * kPerSheet + k];
+                // A back stands behind its front once the sheet is turned over its long edge:
+                // the columns swap, the rows stay.
+                const int col = back ? kCols - 1 - k % kCols : k % kCols;
+                const double x = f.left + col * cardW, y = top + (k / kCols) * cardH;
+                f.text(x + 8, y + 6, 40, std::to_string(s * kPerSheet + k + 1), {8}, kDim);
+                if (back)
+                    cardText(f, e.clue, x + 16, y + 18, cardW - 32, cardH - 36, {13}, 9);
+                else
+                    cardText(f, e.word, x + 14, y + 18, cardW - 28, cardH - 36, {24, true}, 12);
+            }
+        }
+    }
+    if (!o.answerKey) return;
+    f.section(true, {});
+    std::vector<std::string> lines;
+    for (int i = 0; i < n; ++i)
+        lines.push_back(std::to_string(i + 1) + ". " + c.entries[i].word + ": " + c.entries[i].clue);
+    answers(f, lines, 1);
+}
+
+}  // namespace
+
+PageSize pageSize(Paper paper) {
+    return paper == Paper::Letter ? PageSize{612, 792} : PageSize{595.276, 841.89};
+}
+
+double roughWidth(const std::string& text, const Font& font) {
+    return static_cast<double>(text.size()) * font.size * (font.bold ? 0.62 : 0.56);
+}
+
+std::vector<std::string> wrapText(const std::string& text, const Font& font, double width,
+                                  const Measure& measure) {
+    std::vector<std::string> lines;
+    std::string line;
+    auto push = [&](std::string word) {
+        const std::string joined = line.empty() ? word : line + " " + word;
+        if (measure(joined, font) <= width) {
+            line = joined;
+            return;
+        }
+        if (!line.empty()) lines.push_back(line);
+        line.clear();
+        // A word wider than the line is cut between letters.
+        while (word.size() > 1 && measure(word, font) > width) {
+            std::size_t k = 1;
+            while (k < word.size() && measure(word.substr(0, k + 1), font) <= width) ++k;
+            lines.push_back(word.substr(0, k));
+            word.erase(0, k);
+        }
+        line = word;
+    };
+    std::string word;
+    for (char ch : text) {
+        if (ch == ' ') {
+            if (!word.empty()) push(word);
+            word.clear();
+        } else {
+            word += ch;
+        }
+    }
+    if (!word.empty()) push(word);
+    if (!line.empty() || lines.empty()) lines.push_back(line);
+    return lines;
+}
+
+std::vector<Page> layOutPages(const SheetContent& content, const Options& options,
+                              const Measure& measure) {
+    if (!content.refusal.empty()) return {};
+    Flow f(content, options, measure);
+    switch (content.kind) {
+        case Kind::WordSearch: wordSearchPages(f, content, options); break;
+        case Kind::Crossword: crosswordPages(f, content, options); break;
+        case Kind::Scramble: scramblePages(f, content, options); break;
+        case Kind::Matching: matchingPages(f, content, options); break;
+        case Kind::FillIn: fillInPages(f, content, options); break;
+        case Kind::FlashCards: flashCardPages(f, content, options); break;
+    }
+    return f.finish();
+}
+
+}  // namespace wm::sheets
