@@ -22,6 +22,7 @@
 #include "core/shared_state.h"
 #include "core/strings.h"
 #include "platform/dialogs.h"
+#include "platform/services.h"
 #include "platform/text.h"
 #include "shell/choose_list.h"
 #include "shell/game_frame.h"

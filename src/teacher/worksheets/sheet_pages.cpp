@@ -34,6 +34,13 @@ constexpr Font kScrambled{16, true};
 constexpr double kGridLetter = 14;  // grid letters never print smaller than this
 constexpr int kMaxClueLines = 12;   // a runaway definition is cut rather than run off the page
 
+Item shape(Item::Type type, double x, double y, double w, double h) {
+    Item it;
+    it.type = type;
+    it.x = x, it.y = y, it.w = w, it.h = h;
+    return it;
+}
+
 double lineHeight(const Font& f) {
     return std::ceil(f.size * 1.3);
 }
@@ -90,7 +97,7 @@ public:
     void section(bool key, const std::string& directions) {
         pages_.push_back({{}, key});
         key_ = key;
-        add({Item::Ornament, left, kTop, 44, 44});
+        add(shape(Item::Ornament, left, kTop, 44, 44));
         Font title = fitted(c_.title, kTitle, width - 56, 14);
         text(left + 56, kTop + 2, width - 56, fitText(c_.title, title, width - 56), title, kAccent);
         text(left + 56, kTop + 31, width - 56, kind(), kSubtitle, kSoft);
@@ -151,7 +158,7 @@ public:
     }
     void line(double x, double y, double w, double h, unsigned colour, double pen,
               bool dashed = false) {
-        Item l{Item::Line, x, y, w, h};
+        Item l = shape(Item::Line, x, y, w, h);
         l.colour = colour;
         l.pen = pen;
         l.dashed = dashed;
@@ -280,11 +287,11 @@ void clueLine(Flow& f, const std::string& number, const std::string& s, bool bla
 // ---- Word search ----
 
 void searchGrid(Flow& f, const SheetContent& c, bool key) {
-    const double cell = std::min(28.0, f.width / c.cols);
+    const double cell = std::min(28.0, (f.width - 12) / c.cols);  // the frame stays inside
     const double side = cell * c.cols;
     const double x0 = f.left + (f.width - side) / 2;
     const double y0 = f.take(side + 16) + 4;
-    Item frame{Item::Box, x0 - 5, y0 - 5, side + 10, side + 10};
+    Item frame = shape(Item::Box, x0 - 5, y0 - 5, side + 10, side + 10);
     frame.colour = kAccent;
     frame.pen = 1.6;
     frame.radius = 6;
@@ -298,8 +305,8 @@ void searchGrid(Flow& f, const SheetContent& c, bool key) {
         for (const Entry& e : c.entries) {
             const int dx = e.direction == 2 ? 0 : 1, dy = e.direction == 1 ? 0 : 1;
             for (int k = 0; k < e.length; ++k) inWord[(e.row + k * dy) * c.cols + e.col + k * dx] = true;
-            Item ring{Item::Ring, x0 + (e.col + 0.5) * cell, y0 + (e.row + 0.5) * cell,
-                      (e.length - 1) * dx * cell, (e.length - 1) * dy * cell};
+            Item ring = shape(Item::Ring, x0 + (e.col + 0.5) * cell, y0 + (e.row + 0.5) * cell,
+                      (e.length - 1) * dx * cell, (e.length - 1) * dy * cell);
             ring.radius = cell * 0.4;
             ring.colour = kRing;
             ring.pen = 1.3;
@@ -358,7 +365,7 @@ void crossGrid(Flow& f, const SheetContent& c, bool key) {
     for (int y = 0; y < c.rows; ++y) {
         for (int x = 0; x < c.cols; ++x) {
             if (!c.at(x, y)) continue;
-            Item box{Item::Box, x0 + x * cell, y0 + y * cell, cell, cell};
+            Item box = shape(Item::Box, x0 + x * cell, y0 + y * cell, cell, cell);
             box.pen = 0.9;
             box.fill = 0xffffff;
             f.add(box);
@@ -476,7 +483,7 @@ void fillInPages(Flow& f, const SheetContent& c, const Options& o) {
             const double h = wordColumnsHeight(f, bank, inner) + lineHeight(kHeading) + 20;
             f.skip(i ? 10 : 0);
             const double top = f.take(h + 10, 40);
-            Item box{Item::Box, f.left, top, f.width, h};
+            Item box = shape(Item::Box, f.left, top, f.width, h);
             box.colour = kAccent;
             box.fill = 0xf1f5fb;
             box.radius = 8;

@@ -26,7 +26,8 @@ QFont face(const Font& f) {
     font.setBold(f.bold);
     font.setItalic(f.italic);
     font.setHintingPreference(QFont::PreferNoHinting);
-    font.setKerning(true);
+    // No ligatures: the text read out of the PDF (copied, searched, read aloud) is the list's.
+    font.setStyleStrategy(QFont::PreferNoShaping);
     return font;
 }
 
