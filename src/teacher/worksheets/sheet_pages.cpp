@@ -92,6 +92,7 @@ public:
     Page& page() { return pages_.back(); }
     double pageHeight() const { return size_.height; }
     double bottom() const { return bottom_; }
+    double y() const { return y_; }
 
     // A new page with the full header: the pupil's pages have the name line and directions.
     void section(bool key, const std::string& directions) {
@@ -269,25 +270,48 @@ double wordColumnsHeight(Flow& f, const std::vector<std::string>& words, double 
     return std::ceil(words.size() / static_cast<double>(per)) * lineHeight(kWord) * 1.2;
 }
 
-// A numbered line of text with a line to write on: before the text or after its last line.
-void clueLine(Flow& f, const std::string& number, const std::string& s, bool blankFirst) {
-    const double blank = 118, indent = 24;
-    const double textX = indent + (blankFirst ? blank + 10 : 0);
-    const double textW = f.width - textX - (blankFirst ? 0 : blank + 10);
-    const std::vector<std::string> lines = f.wrap(s, kClue, textW);
+// A numbered line of text, with a line to write on before the text, after it, or none.
+enum class Blank { None, Before, After };
+struct ClueShape {
+    double textX, textW;
+    std::vector<std::string> lines;
+    double height;
+};
+ClueShape clueShape(const Flow& f, const std::string& s, Blank blank) {
+    constexpr double kBlank = 118, kIndent = 24;
+    ClueShape c;
+    c.textX = kIndent + (blank == Blank::Before ? kBlank + 10 : 0);
+    c.textW = f.width - c.textX - (blank == Blank::After ? kBlank + 10 : 0);
+    c.lines = f.wrap(s, kClue, c.textW);
+    const double least = blank == Blank::None ? 1 : 1.4;
+    c.height = std::max<double>(c.lines.size(), least) * lineHeight(kClue) + (blank == Blank::None ? 5 : 9);
+    return c;
+}
+void clueLine(Flow& f, const std::string& number, const std::string& s, Blank blank) {
+    constexpr double kBlank = 118, kIndent = 24;
+    const ClueShape c = clueShape(f, s, blank);
     const double lh = lineHeight(kClue);
-    const double top = f.take(std::max<double>(lines.size(), 1.4) * lh + 9);
-    f.text(f.left, top, indent, number, {11, true});
-    for (std::size_t i = 0; i < lines.size(); ++i)
-        f.text(f.left + textX, top + i * lh, textW, lines[i], kClue);
-    const double lineY = top + (blankFirst ? 1 : lines.size()) * lh - 1.5;
-    f.line(f.left + (blankFirst ? indent : f.width - blank), lineY, blank, 0, kInk, 0.8);
+    const double top = f.take(c.height);
+    f.text(f.left, top, kIndent, number, {11, true});
+    for (std::size_t i = 0; i < c.lines.size(); ++i)
+        f.text(f.left + c.textX, top + i * lh, c.textW, c.lines[i], kClue);
+    if (blank == Blank::None) return;
+    const double lineY = top + (blank == Blank::Before ? 1 : c.lines.size()) * lh - 1.5;
+    f.line(f.left + (blank == Blank::Before ? kIndent : f.width - kBlank), lineY, kBlank, 0, kInk, 0.8);
+}
+
+// The side of a grid's cell: as large as suits the page, smaller so that `below` still fits
+// under the grid on this page, never so small that a letter would print under 14 points.
+double cellSide(const Flow& f, int cols, int rows, double largest, double below) {
+    const double room = (f.bottom() - f.y() - 20 - below) / rows;
+    const double side = std::min({largest, (f.width - 12) / cols, f.pageHeight() * 0.5 / rows});
+    return std::max(std::min(side, room), std::min(side, kGridLetter / 0.6));
 }
 
 // ---- Word search ----
 
-void searchGrid(Flow& f, const SheetContent& c, bool key) {
-    const double cell = std::min(28.0, (f.width - 12) / c.cols);  // the frame stays inside
+void searchGrid(Flow& f, const SheetContent& c, bool key, double below) {
+    const double cell = cellSide(f, c.cols, c.rows, 28, below);
     const double side = cell * c.cols;
     const double x0 = f.left + (f.width - side) / 2;
     const double y0 = f.take(side + 16) + 4;
@@ -297,8 +321,8 @@ void searchGrid(Flow& f, const SheetContent& c, bool key) {
     frame.radius = 6;
     f.add(frame);
     for (int i = 1; i < c.cols; ++i) {
-        f.line(x0 + i * cell, y0, 0, side, kFaint, 0.4);
-        f.line(x0, y0 + i * cell, side, 0, kFaint, 0.4);
+        f.line(x0 + i * cell, y0 - 5, 0, side + 10, kFaint, 0.4);
+        f.line(x0 - 5, y0 + i * cell, side + 10, 0, kFaint, 0.4);
     }
     std::vector<bool> inWord(c.grid.size(), false);
     if (key) {
@@ -331,34 +355,47 @@ void wordSearchPages(Flow& f, const SheetContent& c, const Options& o) {
                            "the word in the puzzle and draw a ring around it. Words run " + runs
                          : "Find each word from the list in the puzzle and draw a ring around "
                            "it. Words run " + runs);
-    searchGrid(f, c, false);
+    std::vector<std::string> words;
+    for (const Entry& e : c.entries) words.push_back(e.word);
+    double below = lineHeight(kHeading) + 4;
+    if (c.clueIsDefinition) {
+        for (const Entry& e : c.entries) below += clueShape(f, e.clue, Blank::After).height;
+    } else {
+        below += wordColumnsHeight(f, words, f.width);
+    }
+    searchGrid(f, c, false, below);
     if (c.clueIsDefinition) {
         heading(f, "Clues", 30);
         for (std::size_t i = 0; i < c.entries.size(); ++i)
-            clueLine(f, std::to_string(i + 1) + ".", c.entries[i].clue, false);
+            clueLine(f, std::to_string(i + 1) + ".", c.entries[i].clue, Blank::After);
     } else {
-        std::vector<std::string> words;
-        for (const Entry& e : c.entries) words.push_back(e.word);
         const double h = wordColumnsHeight(f, words, f.width);
         heading(f, "Find these words", h);
         wordColumns(f, words, f.left, f.width, f.take(h));
     }
     if (!o.answerKey) return;
     f.section(true, {});
-    searchGrid(f, c, true);
-    std::vector<std::string> lines;
+    searchGrid(f, c, true, 0);
+    // Numbered as the clues are, or in the order of the pupil's list of words.
+    std::vector<std::pair<std::string, std::string>> lines;
     for (std::size_t i = 0; i < c.entries.size(); ++i) {
         const Entry& e = c.entries[i];
-        lines.push_back(std::to_string(i + 1) + ". " + e.word + ": row " + std::to_string(e.row + 1) +
-                        ", column " + std::to_string(e.col + 1) + ", " + directionName(e.direction));
+        lines.emplace_back(c.clueIsDefinition ? std::string() : lower(e.word),
+                           (c.clueIsDefinition ? std::to_string(i + 1) + ". " : "") + e.word +
+                               ": row " + std::to_string(e.row + 1) + ", column " +
+                               std::to_string(e.col + 1) + ", " + directionName(e.direction));
     }
-    answers(f, lines);
+    std::stable_sort(lines.begin(), lines.end(),
+                     [](const auto& a, const auto& b) { return a.first < b.first; });
+    std::vector<std::string> text;
+    for (auto& l : lines) text.push_back(std::move(l.second));
+    answers(f, text);
 }
 
 // ---- Crossword ----
 
-void crossGrid(Flow& f, const SheetContent& c, bool key) {
-    const double cell = std::min({30.0, f.width / c.cols, f.pageHeight() * 0.5 / c.rows});
+void crossGrid(Flow& f, const SheetContent& c, bool key, double below) {
+    const double cell = cellSide(f, c.cols, c.rows, 30, below);
     const double x0 = f.left + (f.width - cell * c.cols) / 2;
     const double y0 = f.take(cell * c.rows + 16) + 4;
     const Font letter{std::max(kGridLetter, cell * 0.6), true};
@@ -383,19 +420,21 @@ void crosswordPages(Flow& f, const SheetContent& c, const Options& o) {
     f.section(false,
               "Read each clue and write the answer in the puzzle, one letter in each box. The "
               "numbers in brackets tell you how many letters the answer has.");
-    crossGrid(f, c, false);
+    double below = 2 * (lineHeight(kHeading) + 4);
+    for (const Entry& e : c.entries) below += clueShape(f, e.clue + " " + lengthHint(e.word), Blank::None).height;
+    crossGrid(f, c, false, below);
     for (int d : {1, 2}) {
         bool first = true;
         for (const Entry& e : c.entries) {
             if (e.direction != d) continue;
             if (first) heading(f, d == 1 ? "Across" : "Down", 30);
             first = false;
-            clueLine(f, e.label + ".", e.clue + " " + lengthHint(e.word), false);
+            clueLine(f, e.label + ".", e.clue + " " + lengthHint(e.word), Blank::None);
         }
     }
     if (!o.answerKey) return;
     f.section(true, {});
-    crossGrid(f, c, true);
+    crossGrid(f, c, true, 0);
     std::vector<std::string> lines;
     for (const Entry& e : c.entries)
         lines.push_back(e.label + (e.direction == 1 ? " Across: " : " Down: ") + e.word);
@@ -436,19 +475,32 @@ bool manySets(const SheetContent& c) {
     return !c.entries.empty() && c.entries.back().set > 0;
 }
 
+// The room a set wants kept with its heading: the whole set, when it fits on one page.
+double keepSet(const Flow& f, const SheetContent& c, const std::vector<double>& heights, std::size_t first) {
+    double h = 0;
+    for (std::size_t i = first; i < c.entries.size() && c.entries[i].set == c.entries[first].set; ++i)
+        h += heights[i];
+    return h < (f.bottom() - kTop) * 0.7 ? h : heights[first];
+}
+
 void matchingPages(Flow& f, const SheetContent& c, const Options& o) {
     f.section(false, "Write the letter of the matching definition on the line beside each word.");
     const double leftW = f.width * 0.38, rightX = f.left + leftW + 16;
     const double rightW = f.left + f.width - rightX, lh = lineHeight(kClue);
+    std::vector<double> heights;
+    for (std::size_t i = 0; i < c.entries.size(); ++i) {
+        const std::size_t words = f.wrap(std::to_string(i + 1) + ". " + c.entries[i].word, kWord, leftW - 36).size();
+        const std::size_t defs = f.wrap(c.entries[i].shown, kClue, rightW - 22).size();
+        heights.push_back(std::max(words * lineHeight(kWord), defs * lh) + 10);
+    }
     for (std::size_t i = 0; i < c.entries.size(); ++i) {
         const Entry& e = c.entries[i];
-        const bool setStart = i == 0 || c.entries[i - 1].set != e.set;
         const std::vector<std::string> word = f.wrap(std::to_string(i + 1) + ". " + e.word, kWord, leftW - 36);
         const std::vector<std::string> def = f.wrap(e.shown, kClue, rightW - 22);
-        const double h = std::max(word.size() * lineHeight(kWord), def.size() * lh) + 10;
-        if (setStart) {
+        const double h = heights[i];
+        if (i == 0 || c.entries[i - 1].set != e.set) {
             f.skip(i ? 8 : 0);
-            if (manySets(c)) heading(f, "Set " + std::to_string(e.set + 1), h);
+            if (manySets(c)) heading(f, "Set " + std::to_string(e.set + 1), keepSet(f, c, heights, i));
         }
         const double top = f.take(h);
         f.line(f.left, top + lineHeight(kWord) - 2, 28, 0, kInk, 0.8);
@@ -473,6 +525,8 @@ void fillInPages(Flow& f, const SheetContent& c, const Options& o) {
     f.section(false,
               "Choose the word from the word bank that matches each definition, and write it on "
               "the line. Use each word once.");
+    std::vector<double> heights;
+    for (const Entry& x : c.entries) heights.push_back(clueShape(f, x.clue, Blank::Before).height);
     for (std::size_t i = 0; i < c.entries.size(); ++i) {
         const Entry& e = c.entries[i];
         if (i == 0 || c.entries[i - 1].set != e.set) {
@@ -482,7 +536,7 @@ void fillInPages(Flow& f, const SheetContent& c, const Options& o) {
             const double inner = f.width - 24;
             const double h = wordColumnsHeight(f, bank, inner) + lineHeight(kHeading) + 20;
             f.skip(i ? 10 : 0);
-            const double top = f.take(h + 10, 40);
+            const double top = f.take(h + 10, keepSet(f, c, heights, i));
             Item box = shape(Item::Box, f.left, top, f.width, h);
             box.colour = kAccent;
             box.fill = 0xf1f5fb;
@@ -493,7 +547,7 @@ void fillInPages(Flow& f, const SheetContent& c, const Options& o) {
                    kAccent);
             wordColumns(f, bank, f.left + 12, inner, top + 8 + lineHeight(kHeading));
         }
-        clueLine(f, std::to_string(i + 1) + ".", e.clue, true);
+        clueLine(f, std::to_string(i + 1) + ".", e.clue, Blank::Before);
     }
     if (!o.answerKey) return;
     f.section(true, {});
