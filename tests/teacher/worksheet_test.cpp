@@ -344,6 +344,8 @@ private slots:
             QCOMPARE(box.lists()->item(1)->text(), QString("Spelling (2 words- no definitions)"));
             QCOMPARE(box.title()->text(), QString("Animals"));
             QCOMPARE(box.status(), QString("1 page for the pupil, 1 of answers."));
+            box.resize(1200, 760);
+            Shot(&box, "print-worksheets");
             box.title()->setText("Our Pets");
             emit box.title()->textEdited("Our Pets");
             box.kind()->setCurrentIndex(int(Kind::Matching));
@@ -366,6 +368,9 @@ private slots:
             box.reject();
         });
         Manager manager;
+        manager.resize(1280, 800);
+        manager.show();
+        Shot(&manager, "manager");
         QVERIFY(manager.command("Print Worksheets..."));
         QVERIFY(checked);
         QCOMPARE(f.opened, (QStringList{"PrintWorksheets", "SaveAs", "PrintDialog"}));

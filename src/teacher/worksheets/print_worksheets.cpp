@@ -90,38 +90,30 @@ PrintWorksheets::PrintWorksheets(QWidget* parent) : QDialog(parent) {
         kind_->addItem(sheets::kindName(static_cast<sheets::Kind>(k)));
     form->addRow(caption("Worksheet:", this), kind_);
 
-    // Word search: the game's size and clue choices, and the diagonals.
-    searchOptions_ = new QWidget(this);
-    auto* search = new QFormLayout(searchOptions_);
-    search->setContentsMargins(0, 0, 0, 0);
-    size_ = new QSpinBox(searchOptions_);
+    // Word search: the game's size and clue choices, and the diagonals; crossword: its words.
+    size_ = new QSpinBox(this);
     size_->setObjectName("PuzzleSize");
     size_->setRange(5, 20);
     size_->setValue(12);
     size_->setSuffix(" letters wide");
-    search->addRow(caption("Size:", this), size_);
-    diagonals_ = new QCheckBox("Words run diagonally too", searchOptions_);
+    form->addRow(caption("Size:", this), size_);
+    diagonals_ = new QCheckBox("Words run diagonally too", this);
     diagonals_->setObjectName("Diagonals");
     diagonals_->setChecked(true);
-    search->addRow(diagonals_);
-    Option1 = new QRadioButton("Clue is Word (Easy)", searchOptions_);
+    form->addRow({}, diagonals_);
+    Option1 = new QRadioButton("Clue is Word (Easy)", this);
     Option1->setObjectName("Option1");
-    Option2 = new QRadioButton("Clue is Definition", searchOptions_);
+    Option2 = new QRadioButton("Clue is Definition", this);
     Option2->setObjectName("Option2");
     Option1->setChecked(true);
-    search->addRow(Option1);
-    search->addRow(Option2);
-    form->addRow(searchOptions_);
-
-    crossOptions_ = new QWidget(this);
-    auto* cross = new QFormLayout(crossOptions_);
-    cross->setContentsMargins(0, 0, 0, 0);
-    words_ = new QSpinBox(crossOptions_);
+    form->addRow({}, Option1);
+    form->addRow({}, Option2);
+    words_ = new QSpinBox(this);
     words_->setObjectName("CrosswordWords");
     words_->setRange(2, 20);
     words_->setValue(10);
-    cross->addRow(caption("Words:", this), words_);
-    form->addRow(crossOptions_);
+    form->addRow(caption("Words:", this), words_);
+    form_ = form;
 
     title_ = new QLineEdit(this);
     title_->setObjectName("SheetTitle");
@@ -134,7 +126,7 @@ PrintWorksheets::PrintWorksheets(QWidget* parent) : QDialog(parent) {
     key_ = new QCheckBox("Print the answer key", this);
     key_->setObjectName("AnswerKey");
     key_->setChecked(true);
-    form->addRow(key_);
+    form->addRow({}, key_);
     for (QWidget* w : {static_cast<QWidget*>(kind_), static_cast<QWidget*>(size_),
                        static_cast<QWidget*>(diagonals_), static_cast<QWidget*>(Option1),
                        static_cast<QWidget*>(Option2), static_cast<QWidget*>(words_),
@@ -244,8 +236,10 @@ void PrintWorksheets::chooseList() {
 
 void PrintWorksheets::showOptions() {
     const auto k = static_cast<sheets::Kind>(kind_->currentIndex());
-    searchOptions_->setVisible(k == sheets::Kind::WordSearch);
-    crossOptions_->setVisible(k == sheets::Kind::Crossword);
+    for (QWidget* w : {static_cast<QWidget*>(size_), static_cast<QWidget*>(diagonals_),
+                       static_cast<QWidget*>(Option1), static_cast<QWidget*>(Option2)})
+        form_->setRowVisible(w, k == sheets::Kind::WordSearch);
+    form_->setRowVisible(words_, k == sheets::Kind::Crossword);
     hint_->setText(k == sheets::Kind::FlashCards
                        ? "Print the cards on both sides of the paper, turning over on the long "
                          "edge, so that each meaning is on the back of its word."

@@ -11,6 +11,7 @@
 
 class QCheckBox;
 class QComboBox;
+class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -55,8 +56,7 @@ private:
     QComboBox* Combo1;
     QListWidget* TheLists;
     QComboBox* kind_;
-    QWidget* searchOptions_;
-    QWidget* crossOptions_;
+    QFormLayout* form_;
     QSpinBox* size_;
     QSpinBox* words_;
     QCheckBox* diagonals_;

@@ -427,6 +427,7 @@ void crosswordPages(Flow& f, const SheetContent& c, const Options& o) {
         bool first = true;
         for (const Entry& e : c.entries) {
             if (e.direction != d) continue;
+            if (first && d == 2) f.skip(8);
             if (first) heading(f, d == 1 ? "Across" : "Down", 30);
             first = false;
             clueLine(f, e.label + ".", e.clue + " " + lengthHint(e.word), Blank::None);
