@@ -14,10 +14,10 @@ using namespace wm::sheets;
 namespace {
 
 WordList TwentyWords() {
-    const char* words[] = {"volcano", "glacier", "canyon", "delta", "plateau", "tundra",
-                           "savanna", "estuary", "peninsula", "archipelago", "lagoon", "fjord",
-                           "oasis", "prairie", "reef", "summit", "valley", "marsh", "geyser",
-                           "mountain range"};
+    const char* words[] = {"volcano", "glacier", "canyon",  "delta",     "plateau",
+                           "tundra",  "savanna", "estuary", "peninsula", "archipelago",
+                           "lagoon",  "fjord",   "oasis",   "prairie",   "reef",
+                           "summit",  "valley",  "marsh",   "geyser",    "mountain range"};
     WordList list{"Landforms", {}, false};
     for (const char* w : words)
         list.pairs.emplace_back(w, std::string("A place on the Earth called ") + w +

@@ -82,7 +82,10 @@ int PdfPages(const QString& pdf) {
     QProcess p;
     p.start("pdfinfo", {pdf});
     p.waitForFinished(30000);
-    return QRegularExpression("Pages:\\s+(\\d+)").match(p.readAllStandardOutput()).captured(1).toInt();
+    return QRegularExpression("Pages:\\s+(\\d+)")
+        .match(p.readAllStandardOutput())
+        .captured(1)
+        .toInt();
 }
 
 QString Q(const std::string& s) {
@@ -90,7 +93,8 @@ QString Q(const std::string& s) {
 }
 
 int KeyPages(const std::vector<Page>& pages) {
-    return static_cast<int>(std::count_if(pages.begin(), pages.end(), [](const Page& p) { return p.key; }));
+    return static_cast<int>(
+        std::count_if(pages.begin(), pages.end(), [](const Page& p) { return p.key; }));
 }
 
 // Every text of the pages, for looking words up without printing.
@@ -121,7 +125,8 @@ class WorksheetTest : public QObject {
 private slots:
     void initTestCase() {
         ShellFixture fixture;  // the pictures beside the program, for the title ornament
-        QVERIFY2(QProcess::execute("pdftotext", {"-v"}) == 0, "pdftotext (poppler-utils) is missing");
+        QVERIFY2(QProcess::execute("pdftotext", {"-v"}) == 0,
+                 "pdftotext (poppler-utils) is missing");
     }
 
     void factoryListsPrintWhole_data() {
@@ -142,7 +147,8 @@ private slots:
         for (const WordList& list : lists) {
             const Options o = Opt(kind, 12, true, definitionClues);
             const SheetContent c = makeContent(list, o, rng_);
-            const bool needs = definitionClues || (kind != Kind::Scramble && kind != Kind::WordSearch);
+            const bool needs =
+                definitionClues || (kind != Kind::Scramble && kind != Kind::WordSearch);
             if (list.wordsOnly && needs) {
                 QVERIFY(c.refusal.starts_with("The list you have selected contains words only"));
                 continue;
@@ -156,7 +162,9 @@ private slots:
             QVERIFY(keys >= 1);
             QVERIFY(pages.front().items.size() > 10 && !pages.front().key && pages.back().key);
             const int n = static_cast<int>(list.pairs.size());
-            const int puzzleWords = kind == Kind::WordSearch ? 12 : kind == Kind::Crossword ? 10 : n;
+            const int puzzleWords = kind == Kind::WordSearch  ? 12
+                                    : kind == Kind::Crossword ? 10
+                                                              : n;
             QVERIFY(int(c.entries.size()) <= puzzleWords);
             QVERIFY(int(c.entries.size()) >= (kind == Kind::Crossword ? 5 : puzzleWords));
             if (kind == Kind::FlashCards) QCOMPARE(int(pages.size()) - keys, (n + 7) / 8 * 2);
@@ -168,13 +176,15 @@ private slots:
             QVERIFY(sheet.contains("Page 1 of " + QString::number(pages.size())));
             QVERIFY(key.contains(QString(kindName(kind)) + ": Answer Key"));
             for (const Entry& e : c.entries) {
-                const bool wordShown = kind == Kind::WordSearch ? !definitionClues
-                                                                : kind != Kind::Crossword &&
-                                                                      kind != Kind::Scramble;
+                const bool wordShown = kind == Kind::WordSearch
+                                           ? !definitionClues
+                                           : kind != Kind::Crossword && kind != Kind::Scramble;
                 if (wordShown) QVERIFY2(sheet.contains(Q(e.word)), qPrintable(Q(e.word)));
-                if (!e.clue.empty() && kind != Kind::Matching && (kind != Kind::WordSearch || definitionClues))
+                if (!e.clue.empty() && kind != Kind::Matching &&
+                    (kind != Kind::WordSearch || definitionClues))
                     QVERIFY2(sheet.contains(Q(e.clue)), qPrintable(Q(e.clue)));
-                if (kind == Kind::Matching) QVERIFY2(sheet.contains(Q(e.shown)), qPrintable(Q(e.shown)));
+                if (kind == Kind::Matching)
+                    QVERIFY2(sheet.contains(Q(e.shown)), qPrintable(Q(e.shown)));
                 QVERIFY2(key.contains(Q(e.word)), qPrintable(toQ(list.name) + ": " + Q(e.word)));
             }
         }
@@ -183,7 +193,7 @@ private slots:
     // One word, a thousand words, and a list without definitions.
     void awkwardLists_data() {
         QTest::addColumn<Kind>("kind");
-        QTest::addColumn<QString>("oneWord");    // the refusal, or "" and then the pages
+        QTest::addColumn<QString>("oneWord");  // the refusal, or "" and then the pages
         QTest::addColumn<int>("oneWordPages");
         QTest::addColumn<QString>("wordsOnly");
         QTest::newRow("word search") << Kind::WordSearch << "" << 2 << "";
@@ -241,13 +251,14 @@ private slots:
             QVERIFY(e.direction == 1 || e.direction == 2);
             std::string spelt;
             for (int k = 0; k < e.length; ++k)
-                spelt += c.at(e.col + (e.direction == 1 ? k : 0), e.row + (e.direction == 2 ? k : 0));
+                spelt +=
+                    c.at(e.col + (e.direction == 1 ? k : 0), e.row + (e.direction == 2 ? k : 0));
             QCOMPARE(toQ(spelt), toQ(UCase(e.word)).remove(' '));
         }
         // "ICECREAM" needs a grid one longer than itself: 5 grows by twos to 9 at least.
         QVERIFY(c.cols >= 9 && c.cols % 2 == 1);
-        const SheetContent tooLong =
-            makeContent({"Long", {{std::string(20, 'a'), "x"}}, false}, Opt(Kind::WordSearch, 20), rng_);
+        const SheetContent tooLong = makeContent({"Long", {{std::string(20, 'a'), "x"}}, false},
+                                                 Opt(Kind::WordSearch, 20), rng_);
         QCOMPARE(toQ(tooLong.refusal),
                  QString("Unable to create this puzzle: some words on this list are too long for "
                          "it. Please try another word list."));
@@ -268,11 +279,14 @@ private slots:
                 QCOMPARE(std::to_string(c.numbers[e.row * c.cols + e.col]), e.label);
                 std::string spelt;
                 for (int k = 0; k < e.length; ++k)
-                    spelt += c.at(e.col + (e.direction == 1 ? k : 0), e.row + (e.direction == 2 ? k : 0));
+                    spelt += c.at(e.col + (e.direction == 1 ? k : 0),
+                                  e.row + (e.direction == 2 ? k : 0));
                 QCOMPARE(toQ(spelt), toQ(UCase(e.word)).remove(' '));
             }
         }
-        QCOMPARE(toQ(makeContent({"Apart", {{"abc", "1"}, {"xyz", "2"}}, false}, Opt(Kind::Crossword), rng_).refusal),
+        QCOMPARE(toQ(makeContent({"Apart", {{"abc", "1"}, {"xyz", "2"}}, false},
+                                 Opt(Kind::Crossword), rng_)
+                         .refusal),
                  kFailed);
     }
 
@@ -290,7 +304,8 @@ private slots:
             while (setStart > 0 && m.entries[setStart - 1].set == e.set) --setStart;
             QCOMPARE(m.entries[setStart + (e.label[0] - 'A')].shown, l.pairs[i].second);
         }
-        const SheetContent s = makeContent({"S", {{"table", ""}, {"aa", ""}, {"b", ""}}, false}, Opt(Kind::Scramble), rng_);
+        const SheetContent s = makeContent({"S", {{"table", ""}, {"aa", ""}, {"b", ""}}, false},
+                                           Opt(Kind::Scramble), rng_);
         QVERIFY(s.entries[0].shown != "TABLE");
         std::string letters = s.entries[0].shown;
         std::sort(letters.begin(), letters.end());
@@ -298,7 +313,8 @@ private slots:
         QCOMPARE(s.entries[1].shown, std::string("AA"));
 
         const Options cards = Opt(Kind::FlashCards);
-        const std::vector<Page> pages = layOutPages(makeContent(Made(5), cards, rng_), cards, roughWidth);
+        const std::vector<Page> pages =
+            layOutPages(makeContent(Made(5), cards, rng_), cards, roughWidth);
         auto numberAt = [](const Page& p, const std::string& n) {
             for (const Item& it : p.items)
                 if (it.type == Item::Text && it.text == n && it.font.size == 8) return it;
@@ -311,7 +327,7 @@ private slots:
             QCOMPARE(front.y, back.y);
             // Two cards across between margins of 42 points: the columns swap.
             QCOMPARE(front.x + back.x, 2 * (42 + 8) + (width - 84) / 2);
-            QCOMPARE(front.x < width / 2, back.x > width / 2);
+            QCOMPARE(front.x<width / 2, back.x> width / 2);
         }
     }
 
@@ -377,7 +393,8 @@ private slots:
         QCOMPARE(PdfPages(saved), 1);
         const QString text = PdfText(saved);
         QVERIFY2(text.startsWith("Our Pets Matching Name: ______ Date: ______"), qPrintable(text));
-        for (const char* s : {"1. cat", "2. dog", "a pet", "a loyal pet", "Page 1 of 1"}) QVERIFY(text.contains(s));
+        for (const char* s : {"1. cat", "2. dog", "a pet", "a loyal pet", "Page 1 of 1"})
+            QVERIFY(text.contains(s));
         SetRng(nullptr);
     }
 };

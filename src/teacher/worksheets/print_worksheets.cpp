@@ -176,8 +176,8 @@ PrintWorksheets::PrintWorksheets(QWidget* parent) : QDialog(parent) {
     });
     for (QSpinBox* box : {size_, words_})
         connect(box, &QSpinBox::valueChanged, this, &PrintWorksheets::remake);
-    for (QAbstractButton* b : {static_cast<QAbstractButton*>(diagonals_),
-                               static_cast<QAbstractButton*>(Option2)})
+    for (QAbstractButton* b :
+         {static_cast<QAbstractButton*>(diagonals_), static_cast<QAbstractButton*>(Option2)})
         connect(b, &QAbstractButton::toggled, this, &PrintWorksheets::remake);
     connect(title_, &QLineEdit::textEdited, this, [this] {
         titleTyped_ = true;
@@ -187,7 +187,8 @@ PrintWorksheets::PrintWorksheets(QWidget* parent) : QDialog(parent) {
     connect(key_, &QCheckBox::toggled, this, &PrintWorksheets::relayOut);
 
     Guarded([&] {
-        for (const auto& c : CategoryNames(ReadCategoryLines(FolderPath()))) Combo1->addItem(toQ(c));
+        for (const auto& c : CategoryNames(ReadCategoryLines(FolderPath())))
+            Combo1->addItem(toQ(c));
     });
     building_ = false;
     showOptions();
@@ -201,19 +202,22 @@ void PrintWorksheets::fillLists() {
     std::vector<std::string> folderList, lines;
     if (!Guarded([&] {
             if (!all)
-                folderList = CollectLists(ReadCategoryLines(FolderPath()), fromQ(Combo1->currentText()));
+                folderList =
+                    CollectLists(ReadCategoryLines(FolderPath()), fromQ(Combo1->currentText()));
             lines = ReadAllLines(ListPath());
         }))
         return;
     ListSummary summary = SummariseLists(lines, all, folderList);
     foreign_ = summary.foreign;
-    std::stable_sort(summary.lines.begin(), summary.lines.end(), [](const QString& a, const QString& b) {
-        return a.compare(b, Qt::CaseInsensitive) < 0;
-    });
+    std::stable_sort(
+        summary.lines.begin(), summary.lines.end(),
+        [](const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) < 0; });
     TheLists->clear();
     TheLists->addItems(summary.lines);
-    if (TheLists->count() > 0) TheLists->setCurrentRow(0);
-    else chooseList();
+    if (TheLists->count() > 0)
+        TheLists->setCurrentRow(0);
+    else
+        chooseList();
 }
 
 // Loads the picked list as the games load it; a foreign list keeps its stored direction.
@@ -276,7 +280,8 @@ void PrintWorksheets::relayOut() {
     content_.title = Trim(o.title).empty() ? list_.name : o.title;
     pages_ = sheets::layOutPages(content_, o, sheets::printWidth);
     printer_->setPageSize(sheets::qtPageSize(o.paper));
-    const auto keys = std::count_if(pages_.begin(), pages_.end(), [](const auto& p) { return p.key; });
+    const auto keys =
+        std::count_if(pages_.begin(), pages_.end(), [](const auto& p) { return p.key; });
     QString text;
     if (!TheLists->currentItem()) {
         text = "Choose a list.";
@@ -317,8 +322,7 @@ void PrintWorksheets::savePdf() {
     box.selectFile(title_->text().trimmed() + " - " + kind_->currentText() + ".pdf");
     if (RunModal(box) != QDialog::Accepted || box.selectedFiles().isEmpty()) return;
     const QString path = box.selectedFiles().constFirst();
-    const QString error =
-        sheets::writePdf(pages_, options().paper, toQ(content_.title), path);
+    const QString error = sheets::writePdf(pages_, options().paper, toQ(content_.title), path);
     if (!error.isEmpty()) {
         dialogs().message(error, kBoxTitle);
         return;

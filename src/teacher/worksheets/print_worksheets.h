@@ -51,7 +51,7 @@ private:
     void remake();    // the content, after a change of list, kind or option
     void relayOut();  // the pages, after a change of title, paper or key
     sheets::Options options() const;
-    bool refused();   // says why no sheet can be made, if so
+    bool refused();  // says why no sheet can be made, if so
 
     QComboBox* Combo1;
     QListWidget* TheLists;

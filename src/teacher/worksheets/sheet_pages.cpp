@@ -5,45 +5,11 @@
 #include <cmath>
 
 #include "core/strings.h"
-#include "teacher/worksheets/worksheet.h"
+#include "teacher/worksheets/page_flow.h"
 
 namespace wm::sheets {
 
 namespace {
-
-constexpr double kSide = 42;    // left and right margins: 15 mm, inside any school printer's reach
-constexpr double kTop = 40;
-constexpr double kBottom = 48;  // room for the page number
-constexpr unsigned kInk = 0x1a1a1a;
-constexpr unsigned kAccent = 0x1d4f91;
-constexpr unsigned kSoft = 0x56657a;
-constexpr unsigned kFaint = 0xb8c4d6;
-constexpr unsigned kRing = 0xd0443e;
-constexpr unsigned kDim = 0x9aa5b1;
-
-constexpr Font kTitle{22, true};
-constexpr Font kSubtitle{12, true};
-constexpr Font kNameLine{12};
-constexpr Font kDirections{11, false, true};
-constexpr Font kHeading{13, true};
-constexpr Font kWord{12, true};
-constexpr Font kClue{11};
-constexpr Font kNumber{6.5};
-constexpr Font kFooter{9};
-constexpr Font kScrambled{16, true};
-constexpr double kGridLetter = 14;  // grid letters never print smaller than this
-constexpr int kMaxClueLines = 12;   // a runaway definition is cut rather than run off the page
-
-Item shape(Item::Type type, double x, double y, double w, double h) {
-    Item it;
-    it.type = type;
-    it.x = x, it.y = y, it.w = w, it.h = h;
-    return it;
-}
-
-double lineHeight(const Font& f) {
-    return std::ceil(f.size * 1.3);
-}
 
 std::string lower(const std::string& s) {
     return LCase(s);
@@ -76,160 +42,6 @@ std::string spaced(const std::string& letters) {
 const char* directionName(int d) {
     return d == 1 ? "across" : d == 2 ? "down" : "diagonal";
 }
-
-class Flow {
-public:
-    Flow(const SheetContent& c, const Options& o, const Measure& m)
-        : m(m), c_(c), size_(pageSize(o.paper)) {
-        left = kSide;
-        width = size_.width - 2 * kSide;
-        bottom_ = size_.height - kBottom;
-    }
-
-    const Measure& m;
-    double left, width;
-
-    Page& page() { return pages_.back(); }
-    double pageHeight() const { return size_.height; }
-    double bottom() const { return bottom_; }
-    double y() const { return y_; }
-
-    // A new page with the full header: the pupil's pages have the name line and directions.
-    void section(bool key, const std::string& directions) {
-        pages_.push_back({{}, key});
-        key_ = key;
-        add(shape(Item::Ornament, left, kTop, 44, 44));
-        Font title = fitted(c_.title, kTitle, width - 56, 14);
-        text(left + 56, kTop + 2, width - 56, fitText(c_.title, title, width - 56), title, kAccent);
-        text(left + 56, kTop + 31, width - 56, kind(), kSubtitle, kSoft);
-        line(left, kTop + 54, width, 0, kAccent, 1.2);
-        y_ = kTop + 64;
-        if (!key) nameLine();
-        if (!directions.empty()) {
-            for (const std::string& l : wrapText(directions, kDirections, width, m)) {
-                text(left, y_, width, l, kDirections, kSoft);
-                y_ += lineHeight(kDirections);
-            }
-        }
-        y_ += 10;
-        columns(1);
-    }
-
-    // A page with a slim header, for the pages a section runs on to.
-    void continued(const std::string& right = {}) {
-        pages_.push_back({{}, key_});
-        text(left, kTop, width * 0.6, fitText(c_.title, {10, true}, width * 0.6), {10, true}, kSoft);
-        text(left, kTop, width, right.empty() ? kind() : right, {10}, kSoft, Align::Right);
-        line(left, kTop + 17, width, 0, kFaint, 0.8);
-        y_ = colTop_ = kTop + 28;
-        col_ = 0;
-    }
-
-    // From here on blocks fill `n` columns, the first down to the foot, then the next.
-    void columns(int n) {
-        cols_ = n;
-        col_ = 0;
-        colTop_ = y_;
-    }
-    double colLeft() const { return left + col_ * (colWidth() + gap()); }
-    double colWidth() const { return (width - (cols_ - 1) * gap()) / cols_; }
-    static double gap() { return 18; }
-
-    // Room for a block `h` high (and `keep` more that must stand with it); returns its top.
-    double take(double h, double keep = 0) {
-        if (y_ + h + keep > bottom_ && y_ > colTop_ + 0.5) {
-            if (col_ + 1 < cols_) {
-                ++col_;
-                y_ = colTop_;
-            } else {
-                continued();
-            }
-        }
-        const double top = y_;
-        y_ += h;
-        return top;
-    }
-    void skip(double h) { y_ += h; }
-
-    void add(Item item) { page().items.push_back(std::move(item)); }
-    void text(double x, double y, double w, const std::string& s, const Font& f,
-              unsigned colour = kInk, Align align = Align::Left, double h = 0) {
-        Item t{Item::Text, x, y, w, h > 0 ? h : lineHeight(f), s, f, align, colour};
-        add(t);
-    }
-    void line(double x, double y, double w, double h, unsigned colour, double pen,
-              bool dashed = false) {
-        Item l = shape(Item::Line, x, y, w, h);
-        l.colour = colour;
-        l.pen = pen;
-        l.dashed = dashed;
-        add(l);
-    }
-
-    // The largest size from `f` down to `smallest` at which the text fits the width.
-    Font fitted(const std::string& s, Font f, double w, double smallest) const {
-        while (f.size > smallest && m(s, f) > w) f.size -= 1;
-        return f;
-    }
-    std::string fitText(const std::string& s, const Font& f, double w) const {
-        if (m(s, f) <= w) return s;
-        std::string cut = s;
-        while (!cut.empty() && m(cut + "...", f) > w) cut.pop_back();
-        return cut + "...";
-    }
-    std::vector<std::string> wrap(const std::string& s, const Font& f, double w) const {
-        std::vector<std::string> lines = wrapText(s, f, w, m);
-        if (lines.size() > kMaxClueLines) {
-            lines.resize(kMaxClueLines);
-            lines.back() = fitText(lines.back() + " ...", f, w);
-        }
-        return lines;
-    }
-
-    // Numbers each page "Page n of N".
-    std::vector<Page> finish() {
-        const int n = static_cast<int>(pages_.size());
-        for (int i = 0; i < n; ++i) {
-            Item t{Item::Text, left, size_.height - kBottom + 16, width, lineHeight(kFooter),
-                   "Page " + std::to_string(i + 1) + " of " + std::to_string(n), kFooter,
-                   Align::Centre, kSoft};
-            pages_[i].items.push_back(t);
-        }
-        return std::move(pages_);
-    }
-
-private:
-    std::string kind() const {
-        return std::string(kindName(c_.kind)) + (key_ ? ": Answer Key" : "");
-    }
-
-    // "Name: ______  Date: ______", the blanks drawn wide enough to write on.
-    void nameLine() {
-        const std::string blank = "______";
-        const double nameW = m("Name: ", kNameLine), dateW = m("Date: ", kNameLine);
-        const double blankW = std::max(1.0, m(blank, kNameLine));
-        const double dateX = left + width * 0.66;
-        text(left, y_, nameW, "Name: ", kNameLine);
-        Item a{Item::Text, left + nameW, y_, dateX - 18 - left - nameW, lineHeight(kNameLine),
-               blank, kNameLine};
-        a.stretch = a.w / blankW;
-        add(a);
-        text(dateX, y_, dateW, "Date: ", kNameLine);
-        Item b = a;
-        b.x = dateX + dateW;
-        b.w = left + width - b.x;
-        b.stretch = b.w / blankW;
-        add(b);
-        y_ += 30;
-    }
-
-    const SheetContent& c_;
-    PageSize size_;
-    std::vector<Page> pages_;
-    double y_ = 0, bottom_ = 0, colTop_ = 0;
-    int cols_ = 1, col_ = 0;
-    bool key_ = false;
-};
 
 // A heading over the blocks after it, kept with the first of them.
 void heading(Flow& f, const std::string& s, double keep) {
@@ -284,7 +96,8 @@ ClueShape clueShape(const Flow& f, const std::string& s, Blank blank) {
     c.textW = f.width - c.textX - (blank == Blank::After ? kBlank + 10 : 0);
     c.lines = f.wrap(s, kClue, c.textW);
     const double least = blank == Blank::None ? 1 : 1.4;
-    c.height = std::max<double>(c.lines.size(), least) * lineHeight(kClue) + (blank == Blank::None ? 5 : 9);
+    c.height = std::max<double>(c.lines.size(), least) * lineHeight(kClue) +
+               (blank == Blank::None ? 5 : 9);
     return c;
 }
 void clueLine(Flow& f, const std::string& number, const std::string& s, Blank blank) {
@@ -297,7 +110,8 @@ void clueLine(Flow& f, const std::string& number, const std::string& s, Blank bl
         f.text(f.left + c.textX, top + i * lh, c.textW, c.lines[i], kClue);
     if (blank == Blank::None) return;
     const double lineY = top + (blank == Blank::Before ? 1 : c.lines.size()) * lh - 1.5;
-    f.line(f.left + (blank == Blank::Before ? kIndent : f.width - kBlank), lineY, kBlank, 0, kInk, 0.8);
+    f.line(f.left + (blank == Blank::Before ? kIndent : f.width - kBlank), lineY, kBlank, 0, kInk,
+           0.8);
 }
 
 // The side of a grid's cell: as large as suits the page, smaller so that `below` still fits
@@ -328,9 +142,10 @@ void searchGrid(Flow& f, const SheetContent& c, bool key, double below) {
     if (key) {
         for (const Entry& e : c.entries) {
             const int dx = e.direction == 2 ? 0 : 1, dy = e.direction == 1 ? 0 : 1;
-            for (int k = 0; k < e.length; ++k) inWord[(e.row + k * dy) * c.cols + e.col + k * dx] = true;
+            for (int k = 0; k < e.length; ++k)
+                inWord[(e.row + k * dy) * c.cols + e.col + k * dx] = true;
             Item ring = shape(Item::Ring, x0 + (e.col + 0.5) * cell, y0 + (e.row + 0.5) * cell,
-                      (e.length - 1) * dx * cell, (e.length - 1) * dy * cell);
+                              (e.length - 1) * dx * cell, (e.length - 1) * dy * cell);
             ring.radius = cell * 0.4;
             ring.colour = kRing;
             ring.pen = 1.3;
@@ -352,9 +167,11 @@ void wordSearchPages(Flow& f, const SheetContent& c, const Options& o) {
     const std::string runs = c.diagonals ? "across, down or diagonally." : "across or down.";
     f.section(false, c.clueIsDefinition
                          ? "Read each clue and write the word it describes on the line. Then find "
-                           "the word in the puzzle and draw a ring around it. Words run " + runs
+                           "the word in the puzzle and draw a ring around it. Words run " +
+                               runs
                          : "Find each word from the list in the puzzle and draw a ring around "
-                           "it. Words run " + runs);
+                           "it. Words run " +
+                               runs);
     std::vector<std::string> words;
     for (const Entry& e : c.entries) words.push_back(e.word);
     double below = lineHeight(kHeading) + 4;
@@ -410,8 +227,8 @@ void crossGrid(Flow& f, const SheetContent& c, bool key, double below) {
                 f.text(box.x + 1.5, box.y + 0.5, cell, std::to_string(n), kNumber, kInk,
                        Align::Left, 8);
             if (key)
-                f.text(box.x, box.y + cell * 0.06, cell, std::string(1, c.at(x, y)), letter,
-                       kInk, Align::Centre, cell);
+                f.text(box.x, box.y + cell * 0.06, cell, std::string(1, c.at(x, y)), letter, kInk,
+                       Align::Centre, cell);
         }
     }
 }
@@ -421,7 +238,8 @@ void crosswordPages(Flow& f, const SheetContent& c, const Options& o) {
               "Read each clue and write the answer in the puzzle, one letter in each box. The "
               "numbers in brackets tell you how many letters the answer has.");
     double below = 2 * (lineHeight(kHeading) + 4);
-    for (const Entry& e : c.entries) below += clueShape(f, e.clue + " " + lengthHint(e.word), Blank::None).height;
+    for (const Entry& e : c.entries)
+        below += clueShape(f, e.clue + " " + lengthHint(e.word), Blank::None).height;
     crossGrid(f, c, false, below);
     for (int d : {1, 2}) {
         bool first = true;
@@ -454,21 +272,23 @@ void scramblePages(Flow& f, const SheetContent& c, const Options& o) {
         const Entry& e = c.entries[i];
         const std::string letters = spaced(e.shown);
         const Font big = f.fitted(letters, kScrambled, f.width * 0.55, 11);
-        const std::vector<std::string> clue = clues ? f.wrap(e.clue, kDirections, f.width - indent)
-                                                    : std::vector<std::string>{};
+        const std::vector<std::string> clue =
+            clues ? f.wrap(e.clue, kDirections, f.width - indent) : std::vector<std::string>{};
         const double top = f.take(26 + clue.size() * lh + 10);
         f.text(f.left, top + 3, indent, std::to_string(i + 1) + ".", kWord);
         f.text(f.left + indent, top, f.width * 0.55, letters, big, kAccent);
         const double lineX = f.left + indent + std::max(f.m(letters, big) + 24, f.width * 0.45);
         f.line(lineX, top + 20, f.left + f.width - lineX, 0, kInk, 0.8);
         for (std::size_t k = 0; k < clue.size(); ++k)
-            f.text(f.left + indent, top + 26 + k * lh, f.width - indent, clue[k], kDirections, kSoft);
+            f.text(f.left + indent, top + 26 + k * lh, f.width - indent, clue[k], kDirections,
+                   kSoft);
     }
     if (!o.answerKey) return;
     f.section(true, {});
     std::vector<std::string> lines;
     for (std::size_t i = 0; i < c.entries.size(); ++i)
-        lines.push_back(std::to_string(i + 1) + ". " + c.entries[i].shown + ": " + c.entries[i].word);
+        lines.push_back(std::to_string(i + 1) + ". " + c.entries[i].shown + ": " +
+                        c.entries[i].word);
     answers(f, lines);
 }
 
@@ -477,9 +297,11 @@ bool manySets(const SheetContent& c) {
 }
 
 // The room a set wants kept with its heading: the whole set, when it fits on one page.
-double keepSet(const Flow& f, const SheetContent& c, const std::vector<double>& heights, std::size_t first) {
+double keepSet(const Flow& f, const SheetContent& c, const std::vector<double>& heights,
+               std::size_t first) {
     double h = 0;
-    for (std::size_t i = first; i < c.entries.size() && c.entries[i].set == c.entries[first].set; ++i)
+    for (std::size_t i = first; i < c.entries.size() && c.entries[i].set == c.entries[first].set;
+         ++i)
         h += heights[i];
     return h < (f.bottom() - kTop) * 0.7 ? h : heights[first];
 }
@@ -490,26 +312,31 @@ void matchingPages(Flow& f, const SheetContent& c, const Options& o) {
     const double rightW = f.left + f.width - rightX, lh = lineHeight(kClue);
     std::vector<double> heights;
     for (std::size_t i = 0; i < c.entries.size(); ++i) {
-        const std::size_t words = f.wrap(std::to_string(i + 1) + ". " + c.entries[i].word, kWord, leftW - 36).size();
+        const std::size_t words =
+            f.wrap(std::to_string(i + 1) + ". " + c.entries[i].word, kWord, leftW - 36).size();
         const std::size_t defs = f.wrap(c.entries[i].shown, kClue, rightW - 22).size();
         heights.push_back(std::max(words * lineHeight(kWord), defs * lh) + 10);
     }
     for (std::size_t i = 0; i < c.entries.size(); ++i) {
         const Entry& e = c.entries[i];
-        const std::vector<std::string> word = f.wrap(std::to_string(i + 1) + ". " + e.word, kWord, leftW - 36);
+        const std::vector<std::string> word =
+            f.wrap(std::to_string(i + 1) + ". " + e.word, kWord, leftW - 36);
         const std::vector<std::string> def = f.wrap(e.shown, kClue, rightW - 22);
         const double h = heights[i];
         if (i == 0 || c.entries[i - 1].set != e.set) {
             f.skip(i ? 8 : 0);
-            if (manySets(c)) heading(f, "Set " + std::to_string(e.set + 1), keepSet(f, c, heights, i));
+            if (manySets(c))
+                heading(f, "Set " + std::to_string(e.set + 1), keepSet(f, c, heights, i));
         }
         const double top = f.take(h);
         f.line(f.left, top + lineHeight(kWord) - 2, 28, 0, kInk, 0.8);
         for (std::size_t k = 0; k < word.size(); ++k)
             f.text(f.left + 36, top + k * lineHeight(kWord), leftW - 36, word[k], kWord);
-        const int row = static_cast<int>(i) - static_cast<int>(
-            std::find_if(c.entries.begin(), c.entries.end(), [&](const Entry& x) { return x.set == e.set; }) -
-            c.entries.begin());
+        const int row =
+            static_cast<int>(i) -
+            static_cast<int>(std::find_if(c.entries.begin(), c.entries.end(),
+                                          [&](const Entry& x) { return x.set == e.set; }) -
+                             c.entries.begin());
         f.text(rightX, top, 22, std::string(1, static_cast<char>('A' + row)) + ".", kWord, kAccent);
         for (std::size_t k = 0; k < def.size(); ++k)
             f.text(rightX + 22, top + 1 + k * lh, rightW - 22, def[k], kClue);
@@ -518,7 +345,8 @@ void matchingPages(Flow& f, const SheetContent& c, const Options& o) {
     f.section(true, {});
     std::vector<std::string> lines;
     for (std::size_t i = 0; i < c.entries.size(); ++i)
-        lines.push_back(std::to_string(i + 1) + ". " + c.entries[i].word + ": " + c.entries[i].label);
+        lines.push_back(std::to_string(i + 1) + ". " + c.entries[i].word + ": " +
+                        c.entries[i].label);
     answers(f, lines);
 }
 
@@ -568,7 +396,8 @@ void cardText(Flow& f, const std::string& s, double x, double y, double w, doubl
         lines = wrapText(s, font, w, f.m);
         if (font.size <= smallest || lines.size() * lineHeight(font) <= h) break;
     }
-    const std::size_t fit = std::max<std::size_t>(1, static_cast<std::size_t>(h / lineHeight(font)));
+    const std::size_t fit =
+        std::max<std::size_t>(1, static_cast<std::size_t>(h / lineHeight(font)));
     if (lines.size() > fit) {
         lines.resize(fit);
         lines.back() = f.fitText(lines.back() + " ...", font, w);
@@ -589,8 +418,10 @@ void flashCardPages(Flow& f, const SheetContent& c, const Options& o) {
             const double top = f.take(0), cardW = f.width / kCols;
             const double cardH = (f.bottom() - 6 - top) / kRows;
             // Dashed cut lines round and between the cards.
-            for (int i = 0; i <= kCols; ++i) f.line(f.left + i * cardW, top, 0, cardH * kRows, kDim, 0.6, true);
-            for (int i = 0; i <= kRows; ++i) f.line(f.left, top + i * cardH, f.width, 0, kDim, 0.6, true);
+            for (int i = 0; i <= kCols; ++i)
+                f.line(f.left + i * cardW, top, 0, cardH * kRows, kDim, 0.6, true);
+            for (int i = 0; i <= kRows; ++i)
+                f.line(f.left, top + i * cardH, f.width, 0, kDim, 0.6, true);
             for (int k = 0; k < kPerSheet && s * kPerSheet + k < n; ++k) {
                 const Entry& e = c.entries[s * kPerSheet + k];
                 // A back stands behind its front once the sheet is turned over its long edge:
@@ -609,66 +440,36 @@ void flashCardPages(Flow& f, const SheetContent& c, const Options& o) {
     f.section(true, {});
     std::vector<std::string> lines;
     for (int i = 0; i < n; ++i)
-        lines.push_back(std::to_string(i + 1) + ". " + c.entries[i].word + ": " + c.entries[i].clue);
+        lines.push_back(std::to_string(i + 1) + ". " + c.entries[i].word + ": " +
+                        c.entries[i].clue);
     answers(f, lines, 1);
 }
 
 }  // namespace
-
-PageSize pageSize(Paper paper) {
-    return paper == Paper::Letter ? PageSize{612, 792} : PageSize{595.276, 841.89};
-}
-
-double roughWidth(const std::string& text, const Font& font) {
-    return static_cast<double>(text.size()) * font.size * (font.bold ? 0.62 : 0.56);
-}
-
-std::vector<std::string> wrapText(const std::string& text, const Font& font, double width,
-                                  const Measure& measure) {
-    std::vector<std::string> lines;
-    std::string line;
-    auto push = [&](std::string word) {
-        const std::string joined = line.empty() ? word : line + " " + word;
-        if (measure(joined, font) <= width) {
-            line = joined;
-            return;
-        }
-        if (!line.empty()) lines.push_back(line);
-        line.clear();
-        // A word wider than the line is cut between letters.
-        while (word.size() > 1 && measure(word, font) > width) {
-            std::size_t k = 1;
-            while (k < word.size() && measure(word.substr(0, k + 1), font) <= width) ++k;
-            lines.push_back(word.substr(0, k));
-            word.erase(0, k);
-        }
-        line = word;
-    };
-    std::string word;
-    for (char ch : text) {
-        if (ch == ' ') {
-            if (!word.empty()) push(word);
-            word.clear();
-        } else {
-            word += ch;
-        }
-    }
-    if (!word.empty()) push(word);
-    if (!line.empty() || lines.empty()) lines.push_back(line);
-    return lines;
-}
 
 std::vector<Page> layOutPages(const SheetContent& content, const Options& options,
                               const Measure& measure) {
     if (!content.refusal.empty()) return {};
     Flow f(content, options, measure);
     switch (content.kind) {
-        case Kind::WordSearch: wordSearchPages(f, content, options); break;
-        case Kind::Crossword: crosswordPages(f, content, options); break;
-        case Kind::Scramble: scramblePages(f, content, options); break;
-        case Kind::Matching: matchingPages(f, content, options); break;
-        case Kind::FillIn: fillInPages(f, content, options); break;
-        case Kind::FlashCards: flashCardPages(f, content, options); break;
+        case Kind::WordSearch:
+            wordSearchPages(f, content, options);
+            break;
+        case Kind::Crossword:
+            crosswordPages(f, content, options);
+            break;
+        case Kind::Scramble:
+            scramblePages(f, content, options);
+            break;
+        case Kind::Matching:
+            matchingPages(f, content, options);
+            break;
+        case Kind::FillIn:
+            fillInPages(f, content, options);
+            break;
+        case Kind::FlashCards:
+            flashCardPages(f, content, options);
+            break;
     }
     return f.finish();
 }

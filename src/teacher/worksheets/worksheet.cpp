@@ -91,7 +91,8 @@ void crossword(SheetContent& c, const WordList& list, const Options& o, int n, R
     for (int i = 0; i < n; ++i) words[i + 1] = puzzleForm(list.pairs[i].first);
     const int wanted = std::min(std::clamp(o.words, 2, 20), n);
     const cross::LayoutResult laid =
-        n < 2 ? cross::LayoutResult{} : cross::layOut(words, n, wanted, cross::kCrosswordParams, rng);
+        n < 2 ? cross::LayoutResult{}
+              : cross::layOut(words, n, wanted, cross::kCrosswordParams, rng);
     // One word alone is no crossword.
     if (!laid.ok || laid.target < 2) {
         c.refusal = cross::kFailedMessage;
@@ -167,7 +168,8 @@ void matching(SheetContent& c, const WordList& list, int n, Rng& rng, bool fillI
             // own definition is that of the row its definition landed on.
             Entry e = plainEntry(list, first + r);
             e.shown = list.pairs[first + order[r]].second;
-            const int landed = static_cast<int>(std::find(order.begin(), order.end(), r) - order.begin());
+            const int landed =
+                static_cast<int>(std::find(order.begin(), order.end(), r) - order.begin());
             e.label = std::string(1, static_cast<char>('A' + landed));
             e.set = set;
             c.entries.push_back(e);
@@ -181,12 +183,18 @@ void matching(SheetContent& c, const WordList& list, int n, Rng& rng, bool fillI
 
 const char* kindName(Kind kind) {
     switch (kind) {
-        case Kind::WordSearch: return "Word Search";
-        case Kind::Crossword: return "Crossword";
-        case Kind::Scramble: return "Scramble";
-        case Kind::Matching: return "Matching";
-        case Kind::FillIn: return "Fill in the Blank";
-        case Kind::FlashCards: return "Flash Cards";
+        case Kind::WordSearch:
+            return "Word Search";
+        case Kind::Crossword:
+            return "Crossword";
+        case Kind::Scramble:
+            return "Scramble";
+        case Kind::Matching:
+            return "Matching";
+        case Kind::FillIn:
+            return "Fill in the Blank";
+        case Kind::FlashCards:
+            return "Flash Cards";
     }
     return "";
 }
@@ -207,11 +215,21 @@ SheetContent makeContent(const WordList& list, const Options& o, Rng& rng) {
     }
     if (!c.refusal.empty()) return c;
     switch (o.kind) {
-        case Kind::WordSearch: wordSearch(c, list, o, n, rng); break;
-        case Kind::Crossword: crossword(c, list, o, n, rng); break;
-        case Kind::Scramble: scramble(c, list, n, rng); break;
-        case Kind::Matching: matching(c, list, n, rng, false); break;
-        case Kind::FillIn: matching(c, list, n, rng, true); break;
+        case Kind::WordSearch:
+            wordSearch(c, list, o, n, rng);
+            break;
+        case Kind::Crossword:
+            crossword(c, list, o, n, rng);
+            break;
+        case Kind::Scramble:
+            scramble(c, list, n, rng);
+            break;
+        case Kind::Matching:
+            matching(c, list, n, rng, false);
+            break;
+        case Kind::FillIn:
+            matching(c, list, n, rng, true);
+            break;
         case Kind::FlashCards:
             for (int i = 0; i < n; ++i) c.entries.push_back(plainEntry(list, i));
             break;

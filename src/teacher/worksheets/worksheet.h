@@ -23,10 +23,10 @@ enum class Paper { A4, Letter };
 
 struct Options {
     Kind kind = Kind::WordSearch;
-    int size = 12;       // word search: the side of the grid and the number of words (5 to 20)
+    int size = 12;  // word search: the side of the grid and the number of words (5 to 20)
     bool diagonals = true;
     bool clueIsDefinition = false;  // word search: the definitions are the clues
-    int words = 10;      // crossword: the words wanted (2 to 20)
+    int words = 10;                 // crossword: the words wanted (2 to 20)
     bool answerKey = true;
     Paper paper = Paper::A4;
     std::string title;  // the list's name when empty
@@ -41,14 +41,14 @@ struct WordList {
 
 // One line of a sheet: a word with what the sheet shows for it.
 struct Entry {
-    std::string word;       // as in the list
-    std::string clue;       // its definition; empty on a words-only list
-    std::string shown;      // scramble: the letters scrambled; matching: the definition on this row
-    std::string label;      // crossword: the clue's number; matching: the letter of its definition
-    int direction = 0;      // puzzles: 1 across, 2 down, 3 diagonal down to the right
-    int col = 0, row = 0;   // puzzles: the first cell, 0-based
-    int length = 0;         // puzzles: cells the word takes
-    int set = 0;            // matching, fill in the blank: the group it is printed in
+    std::string word;      // as in the list
+    std::string clue;      // its definition; empty on a words-only list
+    std::string shown;     // scramble: the letters scrambled; matching: the definition on this row
+    std::string label;     // crossword: the clue's number; matching: the letter of its definition
+    int direction = 0;     // puzzles: 1 across, 2 down, 3 diagonal down to the right
+    int col = 0, row = 0;  // puzzles: the first cell, 0-based
+    int length = 0;        // puzzles: cells the word takes
+    int set = 0;           // matching, fill in the blank: the group it is printed in
 };
 
 struct SheetContent {
@@ -101,9 +101,9 @@ struct Item {
     Align align = Align::Left;
     unsigned colour = 0x000000;  // text or stroke
     unsigned fill = kNoFill;
-    double pen = 0.75;     // stroke width
-    double radius = 0;     // Box: the corners; Ring: half its thickness
-    double stretch = 1;    // Text: drawn this many times as wide (the write-on lines)
+    double pen = 0.75;   // stroke width
+    double radius = 0;   // Box: the corners; Ring: half its thickness
+    double stretch = 1;  // Text: drawn this many times as wide (the write-on lines)
     bool dashed = false;
     static constexpr unsigned kNoFill = 0xffffffffu;
 };

@@ -36,7 +36,7 @@ QColor colour(unsigned rgb) {
 }
 
 Qt::Alignment alignment(Align a) {
-    const Qt::Alignment h = a == Align::Centre ? Qt::AlignHCenter
+    const Qt::Alignment h = a == Align::Centre  ? Qt::AlignHCenter
                             : a == Align::Right ? Qt::AlignRight
                                                 : Qt::AlignLeft;
     return h | Qt::AlignVCenter;
@@ -56,8 +56,8 @@ void paintItem(QPainter& p, const Item& it, double scale, QSvgRenderer& ornament
             p.save();
             p.translate(it.x, it.y);
             p.scale(it.stretch, 1);
-            p.drawText(QRectF(0, 0, it.w / it.stretch, it.h), alignment(it.align) | Qt::TextDontClip,
-                       toQ(it.text));
+            p.drawText(QRectF(0, 0, it.w / it.stretch, it.h),
+                       alignment(it.align) | Qt::TextDontClip, toQ(it.text));
             p.restore();
             break;
         }
