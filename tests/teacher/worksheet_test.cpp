@@ -259,6 +259,9 @@ private slots:
         QVERIFY(c.cols >= 9 && c.cols % 2 == 1);
         const SheetContent tooLong = makeContent({"Long", {{std::string(20, 'a'), "x"}}, false},
                                                  Opt(Kind::WordSearch, 20), rng_);
+        QCOMPARE(toQ(makeContent(Made(3, true), Opt(Kind::WordSearch, 12, true, true), rng_).refusal),
+                 QString("The list you have selected contains words only, with no definitions. "
+                         "Choose \"Clue is Word (Easy)\" to make a word search from it."));
         QCOMPARE(toQ(tooLong.refusal),
                  QString("Unable to create this puzzle: some words on this list are too long for "
                          "it. Please try another word list."));
@@ -284,6 +287,12 @@ private slots:
                 QCOMPARE(toQ(spelt), toQ(UCase(e.word)).remove(' '));
             }
         }
+        // Two pairs that share letters only within each pair: two of the four words fit.
+        const SheetContent pairs =
+            makeContent({"Pairs", {{"abc", "1"}, {"cbd", "2"}, {"xyz", "3"}, {"zyw", "4"}}, false},
+                        Opt(Kind::Crossword), rng_);
+        QCOMPARE(pairs.entries.size(), std::size_t(2));
+        QCOMPARE(toQ(pairs.note), QString("Only 2 of the 4 words asked for fit in this crossword."));
         QCOMPARE(toQ(makeContent({"Apart", {{"abc", "1"}, {"xyz", "2"}}, false},
                                  Opt(Kind::Crossword), rng_)
                          .refusal),

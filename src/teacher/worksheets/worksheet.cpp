@@ -22,6 +22,8 @@ std::string puzzleForm(const std::string& word) {
     return out;
 }
 
+constexpr int kCrosswordTries = 4;
+
 bool needsDefinitions(const Options& o) {
     return o.kind != Kind::Scramble && o.kind != Kind::WordSearch;
 }
@@ -90,9 +92,13 @@ void crossword(SheetContent& c, const WordList& list, const Options& o, int n, R
     std::vector<std::string> words(static_cast<std::size_t>(n + 1));
     for (int i = 0; i < n; ++i) words[i + 1] = puzzleForm(list.pairs[i].first);
     const int wanted = std::min(std::clamp(o.words, 2, 20), n);
-    const cross::LayoutResult laid =
-        n < 2 ? cross::LayoutResult{}
-              : cross::layOut(words, n, wanted, cross::kCrosswordParams, rng);
+    // A first word that lands in the first column can be crossed by nothing, and the layout
+    // then settles for fewer words: a few fresh layouts are drawn and the fullest kept.
+    cross::LayoutResult laid;
+    for (int tries = 0; n >= 2 && tries < kCrosswordTries && laid.target < wanted; ++tries) {
+        cross::LayoutResult next = cross::layOut(words, n, wanted, cross::kCrosswordParams, rng);
+        if (next.ok && next.target > laid.target) laid = std::move(next);
+    }
     // One word alone is no crossword.
     if (!laid.ok || laid.target < 2) {
         c.refusal = cross::kFailedMessage;
