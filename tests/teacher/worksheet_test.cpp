@@ -223,6 +223,7 @@ private slots:
         const PageSize paper = pageSize(Paper::A4);
         for (const Page& p : pages) {
             for (const Item& it : p.items) {
+                if (it.type == Item::Line) QVERIFY(it.w == 0 || it.h == 0);  // rules run true
                 QVERIFY(it.x >= 40 && std::max(it.x, it.x + it.w) <= paper.width - 40 + 0.01);
                 QVERIFY(it.y >= 40 && std::max(it.y, it.y + it.h) <= paper.height - 18);
             }
@@ -237,7 +238,10 @@ private slots:
             const QString pdf = Pdf(pages, "scramble - 1000 words");
             QCOMPARE(PdfPages(pdf), int(pages.size()));
             const QString key = PdfText(pdf, int(pages.size()) - KeyPages(pages) + 1);
-            for (const Entry& e : c.entries) QVERIFY(key.contains(": " + Q(e.word) + " "));
+            for (std::size_t i = 0; i < c.entries.size(); ++i)
+                QVERIFY(key.contains(QString("%1. %2: %3 ")
+                                         .arg(i + 1)
+                                         .arg(Q(c.entries[i].shown), Q(c.entries[i].word))));
         }
     }
 
@@ -259,9 +263,10 @@ private slots:
         QVERIFY(c.cols >= 9 && c.cols % 2 == 1);
         const SheetContent tooLong = makeContent({"Long", {{std::string(20, 'a'), "x"}}, false},
                                                  Opt(Kind::WordSearch, 20), rng_);
-        QCOMPARE(toQ(makeContent(Made(3, true), Opt(Kind::WordSearch, 12, true, true), rng_).refusal),
-                 QString("The list you have selected contains words only, with no definitions. "
-                         "Choose \"Clue is Word (Easy)\" to make a word search from it."));
+        QCOMPARE(
+            toQ(makeContent(Made(3, true), Opt(Kind::WordSearch, 12, true, true), rng_).refusal),
+            QString("The list you have selected contains words only, with no definitions. "
+                    "Choose \"Clue is Word (Easy)\" to make a word search from it."));
         QCOMPARE(toQ(tooLong.refusal),
                  QString("Unable to create this puzzle: some words on this list are too long for "
                          "it. Please try another word list."));
@@ -292,7 +297,8 @@ private slots:
             makeContent({"Pairs", {{"abc", "1"}, {"cbd", "2"}, {"xyz", "3"}, {"zyw", "4"}}, false},
                         Opt(Kind::Crossword), rng_);
         QCOMPARE(pairs.entries.size(), std::size_t(2));
-        QCOMPARE(toQ(pairs.note), QString("Only 2 of the 4 words asked for fit in this crossword."));
+        QCOMPARE(toQ(pairs.note),
+                 QString("Only 2 of the 4 words asked for fit in this crossword."));
         QCOMPARE(toQ(makeContent({"Apart", {{"abc", "1"}, {"xyz", "2"}}, false},
                                  Opt(Kind::Crossword), rng_)
                          .refusal),
@@ -313,6 +319,13 @@ private slots:
             while (setStart > 0 && m.entries[setStart - 1].set == e.set) --setStart;
             QCOMPARE(m.entries[setStart + (e.label[0] - 'A')].shown, l.pairs[i].second);
         }
+        // The shuffle's draws, as scripted: Int(Rnd * i + 1) for i = 3, then 2.
+        ScriptedRng scripted;
+        scripted.pick(1, 3).pick(2, 2);
+        QStringList labels;
+        for (const Entry& e : makeContent(Made(3), Opt(Kind::Matching), scripted).entries)
+            labels << toQ(e.label);
+        QCOMPARE(labels, (QStringList{"C", "B", "A"}));
         const SheetContent s = makeContent({"S", {{"table", ""}, {"aa", ""}, {"b", ""}}, false},
                                            Opt(Kind::Scramble), rng_);
         QVERIFY(s.entries[0].shown != "TABLE");

@@ -142,7 +142,6 @@ std::vector<std::string> wrapText(const std::string& text, const Font& font, dou
             return;
         }
         if (!line.empty()) lines.push_back(line);
-        line.clear();
         // A word wider than the line is cut between letters.
         while (word.size() > 1 && measure(word, font) > width) {
             std::size_t k = 1;
