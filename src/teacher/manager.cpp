@@ -33,6 +33,7 @@
 #include "teacher/merge_form.h"
 #include "teacher/program_options.h"
 #include "teacher/teacher_kit.h"
+#include "teacher/worksheets/print_worksheets.h"
 
 namespace wm {
 
@@ -108,6 +109,8 @@ Manager::Manager(QWidget* parent) : Backdrop("images/wm-back.jpg", parent) {
     addCommand(0, "Import List...", "From a CSV, tab separated or KVTML file",
                [this] { ImportList(this); });
     addCommand(0, "Export List...", "Save a list for other programs", [this] { ExportList(this); });
+    addCommand(0, "Print Worksheets...", "Word searches, crosswords and more, with answers",
+               [this] { printWorksheets(); });
     addCommand(1, "Backup Lists", "Keep a copy of every list", [this] { backupLists(); });
     addCommand(1, "Restore Backup Lists", "Bring back the copy", [this] { restoreLists(); });
     addCommand(1, "Link to Alternate Vocabulary List File", "Share lists with another computer",
@@ -245,6 +248,11 @@ void Manager::categories() {
     }
     Categories form(this);
     if (!form.loaded()) return;
+    RunModal(form);
+}
+
+void Manager::printWorksheets() {
+    PrintWorksheets form(this);
     RunModal(form);
 }
 

@@ -30,6 +30,7 @@ public:
     void mergeLists();
     void buildList();
     void categories();
+    void printWorksheets();
     void changePassword();
     void soundOptions();
     void showHideGames();

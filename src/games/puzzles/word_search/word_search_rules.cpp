@@ -60,6 +60,7 @@ bool placeInDirection(WordSearchState& ws, const std::string& word, int directio
             if (direction == 2) std::swap(x, y);
             if (!fits(ws, word, x, y, dx, dy)) continue;
             for (int k = 0; k < Len(word); ++k) ws.LetterGrid[x + k * dx][y + k * dy] = word[k];
+            ws.hidden.push_back({x, y, direction});
             return true;
         }
     }
@@ -72,6 +73,7 @@ bool attempt(const SharedState& state, WordSearchState& ws, Rng& rng) {
     const int count = state.PuzzleWordCount;
     std::vector<bool> used(state.WordCount + 1, false);
     ws.PickedWords.clear();
+    ws.hidden.clear();
     for (int n = 0; n < count; ++n)
         ws.PickedWords.push_back(drawUnused(used, state.WordCount, rng));
 

@@ -36,6 +36,12 @@ struct WordSearchState {
     bool clueIsDefinition = false;                                          // GameOptionOn
     std::array<std::array<char, kMaxGrid + 1>, kMaxGrid + 1> LetterGrid{};  // [x][y], 1-based
     std::vector<int> PickedWords;
+    // Where each picked word was written, in the order of PickedWords: first cell (1-based
+    // column, row) and direction (1 across, 2 down, 3 diagonal). For printing the answer key.
+    struct Hidden {
+        int x = 0, y = 0, direction = 0;
+    };
+    std::vector<Hidden> hidden;
     std::vector<std::string> WordList;    // words not yet found
     std::vector<std::string> AnswerList;  // their definitions, or the words again
     std::string cardText;                 // CardLabel
