@@ -32,6 +32,7 @@ public:
     void categories();
     void changePassword();
     void soundOptions();
+    void speechOptions();
     void showHideGames();
     void clearHighScores();
     void backupLists();
