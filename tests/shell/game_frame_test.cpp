@@ -5,6 +5,7 @@
 
 #include "core/score_table.h"
 #include "game_road.h"
+#include "platform/speech.h"
 #include "shell/game_frame.h"
 
 using namespace wm;
@@ -52,6 +53,9 @@ private slots:
     void restartDropsTheLastRoundsContinuations();
     void refusalTellsThenLeaves();
     void musicByKind();
+    void sayItSaysWhatTheGameAllowsInTheListsLanguage();
+    void sayItIsGreyedWithTheReason_data();
+    void sayItIsGreyedWithTheReason();
     void wonGameTextsAndOffers_data();
     void wonGameTextsAndOffers();
     void smallestFirstTableTakesTheTie();
@@ -63,10 +67,11 @@ void GameFrameTest::menuKeepsItsOrderAndNames() {
     QCOMPARE(MenuTexts(game->frame),
              (QStringList{"Restart=RS", "High Scores=HS", "How To Play=mnuHowTo", "Quit=Return"}));
     game->frame.setForeign([](const QString&) {});
-    // The palette entry takes its place after Restart, whenever it is added.
+    game->frame.setSayIt([] { return Spoken{}; });
+    // The palette entry and Say It take their places after Restart, whenever they are added.
     QCOMPARE(MenuTexts(game->frame),
-             (QStringList{"Restart=RS", "Foreign Language Characters=FLang", "High Scores=HS",
-                          "How To Play=mnuHowTo", "Quit=Return"}));
+             (QStringList{"Restart=RS", "Say It=mnuSayIt", "Foreign Language Characters=FLang",
+                          "High Scores=HS", "How To Play=mnuHowTo", "Quit=Return"}));
     Shared().HowToText = "Play nicely.";
     QVERIFY(TriggerMenu(game, "mnuHowTo"));
     QCOMPARE(fx.dialogs.last(), "Play nicely.");
@@ -333,6 +338,90 @@ void GameFrameTest::smallestFirstTableTakesTheTie() {
     QCOMPARE(QString::fromStdString(after.initials(1)), "ONE");
     QCOMPARE(QString::fromStdString(after.initials(2)), "TWO");
     QCOMPARE(QString::fromStdString(after.initials(3)), "NEW");
+}
+
+void GameFrameTest::sayItSaysWhatTheGameAllowsInTheListsLanguage() {
+    ShellFixture fx;
+    RecordingSpeech voice;
+    services().speech = &voice;
+    TinyGame* game = OpenTiny();
+    Spoken now{"perro", ListSide::Word};
+    game->frame.setSayIt([&] { return now; });
+    QAction* entry = game->frame.entry(GameFrame::Entry::SayIt);
+    SharedState& s = Shared();
+    s.WordsLanguage = "S";  // a Spanish list played from its Spanish side
+    s.SpeechRate = -4;
+    QVERIFY(TriggerMenu(game, "mnuSayIt"));
+    now = {"dog", ListSide::Meaning};
+    game->frame.refreshSayIt();
+    QCOMPARE(entry->toolTip(), "Hear the meaning");
+    QVERIFY(TriggerMenu(game, "mnuSayIt"));
+    QCOMPARE(voice.said.size(), 2);
+    QCOMPARE(voice.said[0].text, "perro");
+    QCOMPARE(voice.said[0].locale.language(), QLocale::Spanish);
+    QCOMPARE(voice.said[0].rate, -4);
+    QCOMPARE(voice.said[1].locale.language(), QLocale::English);
+
+    // Nothing to hear yet: greyed, with the game's reason, and nothing is said.
+    now = {{}, ListSide::Word, "Not yet."};
+    game->frame.refreshSayIt();
+    QVERIFY(!entry->isEnabled());
+    QCOMPARE(entry->toolTip(), "Not yet.");
+    QVERIFY(!game->frame.sayIt());
+    QCOMPARE(voice.said.size(), 2);
+    // The engine that comes up late brings the entry back by itself.
+    now = {"gato", ListSide::Word};
+    voice.setStatus(SpeechStatus::Starting);
+    QVERIFY(!entry->isEnabled());
+    voice.setStatus(SpeechStatus::Ready);
+    QVERIFY(entry->isEnabled());
+    // Leaving stops the voice.
+    QPointer<TinyGame> gone(game);
+    QVERIFY(TriggerMenu(game, "Return"));
+    Pump();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    delete gone;
+    QVERIFY(voice.stops >= 1);
+    services().speech = nullptr;
+}
+
+void GameFrameTest::sayItIsGreyedWithTheReason_data() {
+    QTest::addColumn<int>("status");
+    QTest::addColumn<bool>("speechOn");
+    QTest::addColumn<QString>("tooltip");
+    QTest::newRow("no engine") << int(SpeechStatus::NoEngine) << true
+                               << "No speech engine is installed on this computer, so words "
+                                  "cannot be said aloud.";
+    QTest::newRow("no voice") << int(SpeechStatus::NoVoice) << true
+                              << "This computer has no voice that speaks Spanish.";
+    QTest::newRow("starting") << int(SpeechStatus::Starting) << true
+                              << "The voice is getting ready. Try again in a moment.";
+    QTest::newRow("teacher") << int(SpeechStatus::Ready) << false
+                             << "Your teacher has turned off speech in Teacher Management.";
+}
+
+void GameFrameTest::sayItIsGreyedWithTheReason() {
+    QFETCH(int, status);
+    QFETCH(bool, speechOn);
+    QFETCH(QString, tooltip);
+    ShellFixture fx;
+    RecordingSpeech voice;
+    voice.answer = SpeechStatus(status);
+    if (voice.answer == SpeechStatus::NoVoice) {
+        voice.answer = SpeechStatus::Ready;
+        voice.voices = {QLocale::English};
+    }
+    services().speech = &voice;
+    Shared().SpeechOn = speechOn ? kTrue : kFalse;
+    Shared().WordsLanguage = "S";
+    TinyGame* game = OpenTiny();
+    game->frame.setSayIt([] { return Spoken{"perro"}; });
+    QAction* entry = game->frame.entry(GameFrame::Entry::SayIt);
+    QVERIFY(!entry->isEnabled());
+    QCOMPARE(entry->toolTip(), tooltip);
+    QVERIFY(!game->frame.sayIt());
+    QVERIFY(voice.said.isEmpty());
+    services().speech = nullptr;
 }
 
 QTEST_MAIN(GameFrameTest)

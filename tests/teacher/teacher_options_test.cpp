@@ -5,10 +5,12 @@
 #include <QCheckBox>
 #include <QListWidget>
 #include <QRadioButton>
+#include <QSlider>
 #include <QtTest>
 
 #include "core/category_file.h"
 #include "core/display_file.h"
+#include "platform/speech.h"
 #include "platform/text.h"
 #include "shell/catalogue.h"
 #include "shell/title.h"
@@ -59,6 +61,7 @@ private slots:
     void visibilityCountsFromTheNextStart();
     void gamesNotInThisBuildAreNotOfferedAndKeepTheirState();
     void soundDefaultCountsFromTheNextStart();
+    void speechSettingCountsAtOnceAndIsKeptBehindTheSix();
 };
 
 void TeacherOptionsTest::categoriesSaveHoldsTheLockWhileOpen() {
@@ -200,6 +203,41 @@ void TeacherOptionsTest::soundDefaultCountsFromTheNextStart() {
     RewriteSettingsLine(f.dir.path().toStdString(), kSoundLine, "loud");
     SoundOptions odd;
     QVERIFY(!odd.on()->isChecked() && !odd.off()->isChecked());
+}
+
+void TeacherOptionsTest::speechSettingCountsAtOnceAndIsKeptBehindTheSix() {
+    TeacherFixture f;
+    RecordingSpeech voice;
+    services().speech = &voice;
+    OpenScreen("Title");
+    SpeechOptions box;
+    Shot(&box, "speech-options");
+    // The factory file has no speech lines: on, at the normal rate.
+    QVERIFY(box.speechOn()->isChecked());
+    QCOMPARE(box.rate()->value(), 0);
+    box.rate()->setValue(-6);
+    box.tryIt()->click();
+    QCOMPARE(voice.said.size(), 1);
+    QCOMPARE(voice.said[0].rate, -6);
+    box.speechOn()->setChecked(false);
+    box.save();
+    QCOMPARE(f.read("wmdata.dat"),
+             f.crlf({"Wordmere settings", "Version 1.01", "Sound On", "mapleton", "listpath",
+                     "folderpath", "Speech Off", "-6"}));
+    QCOMPARE(Shared().SpeechOn, kFalse);
+    QCOMPARE(Shared().SpeechRate, -6);
+    // Read back at the next start, and the box shows it.
+    Shared().SpeechOn = kTrue;
+    OpenScreen("Title", CurrentScreen());
+    QCOMPARE(Shared().SpeechOn, kFalse);
+    SpeechOptions again;
+    QVERIFY(!again.speechOn()->isChecked());
+    QCOMPARE(again.rate()->value(), -6);
+    // No engine: Try It is greyed, saying why.
+    voice.setStatus(SpeechStatus::NoEngine);
+    QVERIFY(!again.tryIt()->isEnabled());
+    QVERIFY(again.tryIt()->toolTip().startsWith("No speech engine"));
+    services().speech = nullptr;
 }
 
 QTEST_MAIN(TeacherOptionsTest)

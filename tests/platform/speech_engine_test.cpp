@@ -1,0 +1,47 @@
+// The real speech engine, where the machine has one: it starts in the background, finds an
+// English voice, says a word without holding anything up, and goes away promptly. This one
+// test waits in real time, for the speech service to come up.
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include "platform/qt_speech.h"
+
+using namespace wm;
+
+class SpeechEngineTest : public QObject {
+    Q_OBJECT
+private slots:
+    void startsOffTheScreensThreadAndSpeaks();
+};
+
+void SpeechEngineTest::startsOffTheScreensThreadAndSpeaks() {
+    QElapsedTimer clock;
+    clock.start();
+    auto* engine = new QtSpeech;
+    QSignalSpy changed(engine, &Speech::statusChanged);
+    const QLocale english(QLocale::English);
+    QCOMPARE(engine->status(english), SpeechStatus::Starting);
+    QVERIFY2(clock.elapsed() < 500, "asking must not wait for the engine");
+    QVERIFY(changed.wait(QtSpeech::kStartLimitMs + 1000));
+    const SpeechStatus status = engine->status(english);
+    if (status == SpeechStatus::NoEngine) {
+        delete engine;
+        QSKIP("No speech engine on this machine (Qt TextToSpeech with the speech-dispatcher "
+              "plugin and espeak-ng): nothing to test.");
+    }
+    QCOMPARE(status, SpeechStatus::Ready);
+    QVERIFY(!engine->engineName().isEmpty());
+    QCOMPARE(engine->status(QLocale::c()), SpeechStatus::NoVoice);
+    clock.restart();
+    engine->say("hello", english, 0);
+    engine->say("hola", QLocale(QLocale::Spanish), 5);
+    QVERIFY(clock.elapsed() < 500);
+    QTest::qWait(300);  // the worker takes the words while the screen goes on
+    clock.restart();
+    delete engine;
+    QVERIFY2(clock.elapsed() < 3000, "leaving must not wait for the voice");
+}
+
+QTEST_MAIN(SpeechEngineTest)
+#include "speech_engine_test.moc"
