@@ -1,6 +1,8 @@
 #include "platform/qt_speech.h"
 
 #include <QHash>
+#include <QAudioDevice>
+#include <QMediaDevices>
 #include <QTextToSpeech>
 #include <QThread>
 #include <QTimer>
@@ -86,6 +88,9 @@ QtSpeech::~QtSpeech() {
 
 void QtSpeech::start() {
     state_ = State::Starting;
+    // With no sound output the speech service cannot finish a word, and then hangs for every
+    // program that asks it anything: nothing is said at all.
+    soundOutput_ = !QMediaDevices::defaultAudioOutput().isNull();
     thread_ = new QThread;
     thread_->setObjectName("Speech");
     worker_ = new SpeechWorker(link_);
@@ -127,9 +132,13 @@ SpeechStatus QtSpeech::status(const QLocale& locale) {
         case State::Up:
             break;
     }
-    if (locale.language() == QLocale::C) return SpeechStatus::NoVoice;
-    return ChooseLocale(locales_, locale).language() == QLocale::C ? SpeechStatus::NoVoice
-                                                                   : SpeechStatus::Ready;
+    if (!hasVoiceFor(locale)) return SpeechStatus::NoVoice;
+    return soundOutput_ ? SpeechStatus::Ready : SpeechStatus::NoSound;
+}
+
+bool QtSpeech::hasVoiceFor(const QLocale& locale) const {
+    return state_ == State::Up && locale.language() != QLocale::C &&
+           ChooseLocale(locales_, locale).language() != QLocale::C;
 }
 
 void QtSpeech::say(const QString& text, const QLocale& locale, int rate) {

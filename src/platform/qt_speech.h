@@ -23,12 +23,15 @@ public:
     void say(const QString& text, const QLocale& locale, int rate) override;
     void stop() override;
 
-    // The engine's name once it is up ("speechd"), for the test of the real engine.
+    // The engine's name once it is up ("speechd"), and whether it has a voice for a
+    // language whatever the sound output: for the test of the real engine.
     QString engineName() const { return engine_; }
+    bool hasVoiceFor(const QLocale& locale) const;
     // How long the engine may take to come up before it counts as missing.
     static constexpr int kStartLimitMs = 15000;
 
 private:
+    friend class SpeechWorker;  // reports the engine's start
     void start();
     void started(const QString& engine, const QList<QLocale>& locales);
     void failed();
@@ -39,6 +42,7 @@ private:
     std::shared_ptr<SpeechLink> link_;
     QList<QLocale> locales_;
     QString engine_;
+    bool soundOutput_ = false;
 };
 
 }  // namespace wm

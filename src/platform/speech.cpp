@@ -18,6 +18,8 @@ QString SpeechStatusText(SpeechStatus status, const QLocale& locale) {
         case SpeechStatus::NoEngine:
             return "No speech engine is installed on this computer, so words cannot be said "
                    "aloud.";
+        case SpeechStatus::NoSound:
+            return "This computer has no sound output, so words cannot be said aloud.";
         case SpeechStatus::NoVoice:
             return "This computer has no voice that speaks " + language + ".";
     }

@@ -18,6 +18,7 @@ enum class SpeechStatus {
     Ready,     // a voice for the language is there
     NoEngine,  // no speech engine on this computer, or it failed to start
     NoVoice,   // an engine, but no voice for this language
+    NoSound,   // no sound output to say anything on
 };
 
 class Speech : public QObject {

@@ -53,6 +53,9 @@ enum class ListSide { Word, Meaning };
 // What "Say It" says at this moment. An empty text says nothing, and `why` tells the pupil
 // when there will be something to hear.
 struct Spoken {
+    Spoken() = default;
+    Spoken(QString said, ListSide from = ListSide::Word, QString reason = {})
+        : text(std::move(said)), side(from), why(std::move(reason)) {}
     QString text;
     ListSide side = ListSide::Word;
     QString why;

@@ -39,8 +39,8 @@ void SayItTest::whatEachGameLetsYouHear() {
     QFETCH(QString, game);
     QFETCH(int, difficulty);
     QFETCH(QString, heard);
+    RecordingSpeech voice;  // outlives the screens the fixture closes
     ShellFixture fx;
-    RecordingSpeech voice;
     services().speech = &voice;
     WriteOneList(fx, "Zoo", {{"giraffe", "a tall animal"}});
     QWidget* screen = ContinueWithList(ChooserFor(game, difficulty, true), "Zoo");
@@ -55,12 +55,11 @@ void SayItTest::whatEachGameLetsYouHear() {
     entry->trigger();
     QCOMPARE(voice.said.size(), heard.isEmpty() ? 0 : 1);
     if (!heard.isEmpty()) QCOMPARE(voice.said[0].text, heard);
-    services().speech = nullptr;
 }
 
 void SayItTest::flashCardSpeakerSaysTheSideShowing() {
+    RecordingSpeech voice;  // outlives the screens the fixture closes
     ShellFixture fx;
-    RecordingSpeech voice;
     services().speech = &voice;
     WriteOneList(fx, "Zoo", {{"giraffe", "a tall animal"}});
     Shared().FlashCardMode = 1;
@@ -80,7 +79,6 @@ void SayItTest::flashCardSpeakerSaysTheSideShowing() {
     voice.setStatus(SpeechStatus::NoEngine);
     QVERIFY(!speaker->isEnabled());
     QVERIFY(speaker->toolTip().startsWith("No speech engine"));
-    services().speech = nullptr;
 }
 
 QTEST_MAIN(SayItTest)

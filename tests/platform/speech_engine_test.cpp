@@ -1,6 +1,6 @@
 // The real speech engine, where the machine has one: it starts in the background, finds an
-// English voice, says a word without holding anything up, and goes away promptly. This one
-// test waits in real time, for the speech service to come up.
+// English voice, says a word without holding anything up (where there is a sound output), and
+// goes away promptly. This one test waits in real time, for the speech service to come up.
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QtTest>
@@ -24,15 +24,21 @@ void SpeechEngineTest::startsOffTheScreensThreadAndSpeaks() {
     QCOMPARE(engine->status(english), SpeechStatus::Starting);
     QVERIFY2(clock.elapsed() < 500, "asking must not wait for the engine");
     QVERIFY(changed.wait(QtSpeech::kStartLimitMs + 1000));
-    const SpeechStatus status = engine->status(english);
-    if (status == SpeechStatus::NoEngine) {
+    if (engine->engineName().isEmpty()) {
         delete engine;
-        QSKIP("No speech engine on this machine (Qt TextToSpeech with the speech-dispatcher "
-              "plugin and espeak-ng): nothing to test.");
+        QSKIP("No speech engine answered on this machine (Qt TextToSpeech with the "
+              "speech-dispatcher plugin and espeak-ng): nothing to test.");
     }
-    QCOMPARE(status, SpeechStatus::Ready);
-    QVERIFY(!engine->engineName().isEmpty());
+    QVERIFY(engine->hasVoiceFor(english));
+    QVERIFY(engine->hasVoiceFor(QLocale(QLocale::Spanish)));
+    QVERIFY(!engine->hasVoiceFor(QLocale::c()));
     QCOMPARE(engine->status(QLocale::c()), SpeechStatus::NoVoice);
+    if (engine->status(english) == SpeechStatus::NoSound) {
+        delete engine;
+        QSKIP("The speech engine started and has voices, but this machine has no sound output "
+              "to say a word on.");
+    }
+    QCOMPARE(engine->status(english), SpeechStatus::Ready);
     clock.restart();
     engine->say("hello", english, 0);
     engine->say("hola", QLocale(QLocale::Spanish), 5);

@@ -341,8 +341,8 @@ void GameFrameTest::smallestFirstTableTakesTheTie() {
 }
 
 void GameFrameTest::sayItSaysWhatTheGameAllowsInTheListsLanguage() {
+    RecordingSpeech voice;  // outlives the screens the fixture closes
     ShellFixture fx;
-    RecordingSpeech voice;
     services().speech = &voice;
     TinyGame* game = OpenTiny();
     Spoken now{"perro", ListSide::Word};
@@ -382,7 +382,6 @@ void GameFrameTest::sayItSaysWhatTheGameAllowsInTheListsLanguage() {
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     delete gone;
     QVERIFY(voice.stops >= 1);
-    services().speech = nullptr;
 }
 
 void GameFrameTest::sayItIsGreyedWithTheReason_data() {
@@ -394,6 +393,9 @@ void GameFrameTest::sayItIsGreyedWithTheReason_data() {
                                   "cannot be said aloud.";
     QTest::newRow("no voice") << int(SpeechStatus::NoVoice) << true
                               << "This computer has no voice that speaks Spanish.";
+    QTest::newRow("no sound") << int(SpeechStatus::NoSound) << true
+                              << "This computer has no sound output, so words cannot be said "
+                                 "aloud.";
     QTest::newRow("starting") << int(SpeechStatus::Starting) << true
                               << "The voice is getting ready. Try again in a moment.";
     QTest::newRow("teacher") << int(SpeechStatus::Ready) << false
@@ -404,24 +406,23 @@ void GameFrameTest::sayItIsGreyedWithTheReason() {
     QFETCH(int, status);
     QFETCH(bool, speechOn);
     QFETCH(QString, tooltip);
+    RecordingSpeech voice;  // outlives the screens the fixture closes
     ShellFixture fx;
-    RecordingSpeech voice;
     voice.answer = SpeechStatus(status);
     if (voice.answer == SpeechStatus::NoVoice) {
         voice.answer = SpeechStatus::Ready;
         voice.voices = {QLocale::English};
     }
     services().speech = &voice;
+    TinyGame* game = OpenTiny();
     Shared().SpeechOn = speechOn ? kTrue : kFalse;
     Shared().WordsLanguage = "S";
-    TinyGame* game = OpenTiny();
     game->frame.setSayIt([] { return Spoken{"perro"}; });
     QAction* entry = game->frame.entry(GameFrame::Entry::SayIt);
     QVERIFY(!entry->isEnabled());
     QCOMPARE(entry->toolTip(), tooltip);
     QVERIFY(!game->frame.sayIt());
     QVERIFY(voice.said.isEmpty());
-    services().speech = nullptr;
 }
 
 QTEST_MAIN(GameFrameTest)

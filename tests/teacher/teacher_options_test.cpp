@@ -206,8 +206,8 @@ void TeacherOptionsTest::soundDefaultCountsFromTheNextStart() {
 }
 
 void TeacherOptionsTest::speechSettingCountsAtOnceAndIsKeptBehindTheSix() {
+    RecordingSpeech voice;  // outlives the screens the fixture closes
     TeacherFixture f;
-    RecordingSpeech voice;
     services().speech = &voice;
     OpenScreen("Title");
     SpeechOptions box;
@@ -237,7 +237,6 @@ void TeacherOptionsTest::speechSettingCountsAtOnceAndIsKeptBehindTheSix() {
     voice.setStatus(SpeechStatus::NoEngine);
     QVERIFY(!again.tryIt()->isEnabled());
     QVERIFY(again.tryIt()->toolTip().startsWith("No speech engine"));
-    services().speech = nullptr;
 }
 
 QTEST_MAIN(TeacherOptionsTest)
