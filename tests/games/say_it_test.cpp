@@ -52,6 +52,7 @@ void SayItTest::whatEachGameLetsYouHear() {
     if (auto* frame = screen->findChild<GameFrame*>()) frame->refreshSayIt();
     QCOMPARE(entry->isEnabled(), !heard.isEmpty());
     if (heard.isEmpty()) QVERIFY(!entry->toolTip().isEmpty());
+    Shot(screen, "say-it-" + game);
     entry->trigger();
     QCOMPARE(voice.said.size(), heard.isEmpty() ? 0 : 1);
     if (!heard.isEmpty()) QCOMPARE(voice.said[0].text, heard);
@@ -70,7 +71,10 @@ void SayItTest::flashCardSpeakerSaysTheSideShowing() {
     auto* speaker = cards->findChild<QToolButton*>("SayButton");
     QVERIFY(speaker && speaker->isEnabled());
     speaker->click();
+    Shot(cards, "flash-speaker-meaning");
     cards->findChild<QPushButton*>("Gimme")->click();
+    Pump(60);
+    Shot(cards, "flash-speaker-word");
     speaker->click();
     QCOMPARE(voice.said.size(), 2);
     QCOMPARE(voice.said[0].text, "a tall animal");

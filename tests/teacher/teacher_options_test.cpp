@@ -4,6 +4,7 @@
 #include <unistd.h>
 #include <QCheckBox>
 #include <QListWidget>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
 #include <QtTest>
