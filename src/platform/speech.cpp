@@ -83,12 +83,6 @@ int ChooseVoice(const QList<VoiceInfo>& voices, const QLocale& locale) {
     return best;
 }
 
-SpeechStatus RecordingSpeech::status(const QLocale& locale) {
-    if (answer == SpeechStatus::Ready && !voices.isEmpty() && !voices.contains(locale.language()))
-        return SpeechStatus::NoVoice;
-    return answer;
-}
-
 void RecordingSpeech::say(const QString& text, const QLocale& locale, int rate) {
     if (status(locale) != SpeechStatus::Ready) return;
     said.push_back({text, locale, rate});

@@ -247,6 +247,7 @@ void GameFrame::newGame() {
         if (!keptOnRestart_.count(name)) t->stop();
     ++round_;
     if (newGame_) newGame_();
+    refreshSayIt();
 }
 
 std::function<void()> GameFrame::later(std::function<void()> then) {

@@ -78,46 +78,29 @@ TEST(Settings, RewriteKeepsLinesPastFive) {
     EXPECT_EQ(back[0], "r0");
 }
 
-TEST(Settings, SpeechLinesFollowTheSixAndOlderFilesStillRead) {
+TEST(Settings, SpeechLinesBehindTheSixReadOldFilesAndKeepLaterLines) {
     TempFolder dir;
     SharedState s;
-    // A file of the six lines alone: speech on, normal rate.
-    dir.writeLines("wmdata.dat", kFactory);
     s.SpeechOn = kFalse;
     s.SpeechRate = 3;
-    ApplySettings(ReadSettings(dir.path()), dir.path(), s);
-    EXPECT_EQ(s.SpeechOn, kTrue);
-    EXPECT_EQ(s.SpeechRate, 0);
-
-    struct Case {
-        std::string speech, rate;
-        int on, expectedRate;
-    };
-    for (const Case& c : {Case{"Speech Off", "-4", kFalse, -4}, Case{"speech off", "x", kTrue, 0},
-                          Case{"Speech On", "25", kTrue, 10}, Case{"", " -12 ", kTrue, -10},
-                          Case{"Speech On", "3x", kTrue, 0}, Case{"Speech On", "10", kTrue, 10}}) {
+    const std::tuple<std::vector<std::string>, int, int> cases[] = {
+        {{}, kTrue, 0},           {{"Speech Off", "-4"}, kFalse, -4}, {{"speech off", "3x"}, kTrue, 0},
+        {{"Speech On", "25"}, kTrue, 10}, {{"", " -12 "}, kTrue, -10}, {{"Speech Off"}, kFalse, 0}};
+    for (const auto& [extra, on, rate] : cases) {
         auto lines = kFactory;
-        lines.insert(lines.end(), {c.speech, c.rate});
+        lines.insert(lines.end(), extra.begin(), extra.end());
         dir.writeLines("wmdata.dat", lines);
         ApplySettings(ReadSettings(dir.path()), dir.path(), s);
-        EXPECT_EQ(s.SpeechOn, c.on) << c.speech;
-        EXPECT_EQ(s.SpeechRate, c.expectedRate) << c.rate;
+        EXPECT_EQ(s.SpeechOn, on);
+        EXPECT_EQ(s.SpeechRate, rate);
     }
-}
-
-TEST(Settings, SpeechWriteKeepsEveryOtherLine) {
-    TempFolder dir;
-    dir.writeLines("wmdata.dat", kFactory);
+    // Both lines in one rewrite, the rate held to -10..10; a later line stays, through a
+    // password change too.
+    dir.writeLines("wmdata.dat", {"r0", "r1", "Sound On", "pw", "listpath", "folderpath",
+                                  "Speech On", "0", "later"});
     WriteSpeechSettings(dir.path(), false, 99);
-    EXPECT_EQ(dir.read("wmdata.dat"),
-              "r0\r\nr1\r\nSound On\r\nmapleton\r\nlistpath\r\nfolderpath\r\nSpeech Off\r\n10\r\n");
-    // A line behind ours stays, and a password change keeps the speech lines.
-    auto lines = kFactory;
-    lines.insert(lines.end(), {"Speech Off", "2", "later"});
-    dir.writeLines("wmdata.dat", lines);
-    WriteSpeechSettings(dir.path(), true, -3);
     RewriteSettingsLine(dir.path(), kPasswordLine, "secret");
-    EXPECT_EQ(ReadLines(dir.file("wmdata.dat")),
-              (std::vector<std::string>{"r0", "r1", "Sound On", "secret", "listpath", "folderpath",
-                                        "Speech On", "-3", "later"}));
+    EXPECT_EQ(dir.read("wmdata.dat"),
+              "r0\r\nr1\r\nSound On\r\nsecret\r\nlistpath\r\nfolderpath\r\nSpeech Off\r\n10\r\n"
+              "later\r\n");
 }

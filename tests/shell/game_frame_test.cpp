@@ -54,8 +54,6 @@ private slots:
     void refusalTellsThenLeaves();
     void musicByKind();
     void sayItSaysWhatTheGameAllowsInTheListsLanguage();
-    void sayItIsGreyedWithTheReason_data();
-    void sayItIsGreyedWithTheReason();
     void wonGameTextsAndOffers_data();
     void wonGameTextsAndOffers();
     void smallestFirstTableTakesTheTie();
@@ -345,16 +343,13 @@ void GameFrameTest::sayItSaysWhatTheGameAllowsInTheListsLanguage() {
     ShellFixture fx;
     services().speech = &voice;
     TinyGame* game = OpenTiny();
-    Spoken now{"perro", ListSide::Word};
+    Spoken now("perro");
     game->frame.setSayIt([&] { return now; });
     QAction* entry = game->frame.entry(GameFrame::Entry::SayIt);
-    SharedState& s = Shared();
-    s.WordsLanguage = "S";  // a Spanish list played from its Spanish side
-    s.SpeechRate = -4;
+    Shared().WordsLanguage = "S";  // a Spanish list played from its Spanish side
+    Shared().SpeechRate = -4;
     QVERIFY(TriggerMenu(game, "mnuSayIt"));
-    now = {"dog", ListSide::Meaning};
-    game->frame.refreshSayIt();
-    QCOMPARE(entry->toolTip(), "Hear the meaning");
+    now = Spoken("dog", ListSide::Meaning);
     QVERIFY(TriggerMenu(game, "mnuSayIt"));
     QCOMPARE(voice.said.size(), 2);
     QCOMPARE(voice.said[0].text, "perro");
@@ -362,67 +357,27 @@ void GameFrameTest::sayItSaysWhatTheGameAllowsInTheListsLanguage() {
     QCOMPARE(voice.said[0].rate, -4);
     QCOMPARE(voice.said[1].locale.language(), QLocale::English);
 
-    // Nothing to hear yet: greyed, with the game's reason, and nothing is said.
-    now = {{}, ListSide::Word, "Not yet."};
-    game->frame.refreshSayIt();
-    QVERIFY(!entry->isEnabled());
-    QCOMPARE(entry->toolTip(), "Not yet.");
-    QVERIFY(!game->frame.sayIt());
-    QCOMPARE(voice.said.size(), 2);
-    // The engine that comes up late brings the entry back by itself.
-    now = {"gato", ListSide::Word};
-    voice.setStatus(SpeechStatus::Starting);
-    QVERIFY(!entry->isEnabled());
+    // Greyed, saying why, and silent; the engine that comes up late brings the entry back.
+    now = Spoken("perro");
+    const std::pair<SpeechStatus, QString> reasons[] = {
+        {SpeechStatus::NoEngine,
+         "No speech engine is installed on this computer, so words cannot be said aloud."},
+        {SpeechStatus::NoSound, "This computer has no sound output, so words cannot be said aloud."},
+        {SpeechStatus::NoVoice, "This computer has no voice that speaks Spanish."}};
+    for (const auto& [status, why] : reasons) {
+        voice.setStatus(status);
+        QCOMPARE(entry->toolTip(), why);
+        QVERIFY(!entry->isEnabled() && !game->frame.sayIt());
+    }
     voice.setStatus(SpeechStatus::Ready);
     QVERIFY(entry->isEnabled());
-    // Leaving stops the voice.
-    QPointer<TinyGame> gone(game);
-    QVERIFY(TriggerMenu(game, "Return"));
-    Pump();
-    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    delete gone;
-    QVERIFY(voice.stops >= 1);
-}
-
-void GameFrameTest::sayItIsGreyedWithTheReason_data() {
-    QTest::addColumn<int>("status");
-    QTest::addColumn<bool>("speechOn");
-    QTest::addColumn<QString>("tooltip");
-    QTest::newRow("no engine") << int(SpeechStatus::NoEngine) << true
-                               << "No speech engine is installed on this computer, so words "
-                                  "cannot be said aloud.";
-    QTest::newRow("no voice") << int(SpeechStatus::NoVoice) << true
-                              << "This computer has no voice that speaks Spanish.";
-    QTest::newRow("no sound") << int(SpeechStatus::NoSound) << true
-                              << "This computer has no sound output, so words cannot be said "
-                                 "aloud.";
-    QTest::newRow("starting") << int(SpeechStatus::Starting) << true
-                              << "The voice is getting ready. Try again in a moment.";
-    QTest::newRow("teacher") << int(SpeechStatus::Ready) << false
-                             << "Your teacher has turned off speech in Teacher Management.";
-}
-
-void GameFrameTest::sayItIsGreyedWithTheReason() {
-    QFETCH(int, status);
-    QFETCH(bool, speechOn);
-    QFETCH(QString, tooltip);
-    RecordingSpeech voice;  // outlives the screens the fixture closes
-    ShellFixture fx;
-    voice.answer = SpeechStatus(status);
-    if (voice.answer == SpeechStatus::NoVoice) {
-        voice.answer = SpeechStatus::Ready;
-        voice.voices = {QLocale::English};
-    }
-    services().speech = &voice;
-    TinyGame* game = OpenTiny();
-    Shared().SpeechOn = speechOn ? kTrue : kFalse;
-    Shared().WordsLanguage = "S";
-    game->frame.setSayIt([] { return Spoken{"perro"}; });
-    QAction* entry = game->frame.entry(GameFrame::Entry::SayIt);
-    QVERIFY(!entry->isEnabled());
-    QCOMPARE(entry->toolTip(), tooltip);
+    now = Spoken({}, ListSide::Word, "Not yet.");
     QVERIFY(!game->frame.sayIt());
-    QVERIFY(voice.said.isEmpty());
+    QCOMPARE(entry->toolTip(), "Not yet.");
+    Shared().SpeechOn = kFalse;
+    QVERIFY(!game->frame.sayIt());
+    QCOMPARE(entry->toolTip(), "Your teacher has turned off speech in Teacher Management.");
+    QCOMPARE(voice.said.size(), 2);
 }
 
 QTEST_MAIN(GameFrameTest)
