@@ -40,7 +40,7 @@ struct Settings {
     std::vector<std::string> lines;  // at least six
     bool soundOn() const;            // exactly "Sound On"
     std::string password() const;
-    bool speechOn() const;  // off only when line 6 reads exactly "Speech Off"
+    bool speechOn() const;   // off only when line 6 reads exactly "Speech Off"
     int speechRate() const;  // 0 when missing or not a number; held to -10..10
 };
 

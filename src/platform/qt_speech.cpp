@@ -1,7 +1,7 @@
 #include "platform/qt_speech.h"
 
-#include <QHash>
 #include <QAudioDevice>
+#include <QHash>
 #include <QMediaDevices>
 #include <QTextToSpeech>
 #include <QThread>
@@ -62,7 +62,8 @@ private:
     void report(F call) {
         std::lock_guard lock(link_->m);
         if (QtSpeech* owner = link_->owner)
-            QMetaObject::invokeMethod(owner, [owner, call] { call(owner); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                owner, [owner, call] { call(owner); }, Qt::QueuedConnection);
     }
 
     std::shared_ptr<SpeechLink> link_;
@@ -97,7 +98,8 @@ void QtSpeech::start() {
     worker_->moveToThread(thread_);
     connect(thread_, &QThread::finished, worker_, &QObject::deleteLater);
     thread_->start(QThread::LowPriority);
-    QMetaObject::invokeMethod(worker_, [w = worker_] { w->start(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        worker_, [w = worker_] { w->start(); }, Qt::QueuedConnection);
     QTimer::singleShot(kStartLimitMs, this, [this] {
         if (state_ == State::Starting) failed();
     });
@@ -151,8 +153,8 @@ void QtSpeech::say(const QString& text, const QLocale& locale, int rate) {
 
 void QtSpeech::stop() {
     if (worker_)
-        QMetaObject::invokeMethod(worker_, [w = worker_] { w->stop(); },
-                                  Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            worker_, [w = worker_] { w->stop(); }, Qt::QueuedConnection);
 }
 
 }  // namespace wm

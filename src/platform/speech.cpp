@@ -73,8 +73,8 @@ int ChooseVoice(const QList<VoiceInfo>& voices, const QLocale& locale) {
         if (v.locale.language() != locale.language()) continue;
         // Variants of a voice carry a "+" (espeak's "Spanish (Spain)+Adam"): a plain voice is
         // the clearest for a pupil.
-        const int score = (v.locale.territory() == locale.territory() ? 2 : 0) +
-                          (v.name.contains('+') ? 0 : 1);
+        const int score =
+            (v.locale.territory() == locale.territory() ? 2 : 0) + (v.name.contains('+') ? 0 : 1);
         if (score > bestScore) {
             best = i;
             bestScore = score;

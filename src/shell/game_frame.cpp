@@ -43,8 +43,7 @@ QLocale SpeechLocale(ListSide side) {
     } catch (const FileError&) {
         // An unreadable language file leaves only English lists with a voice.
     }
-    return LocaleForLanguage(side == ListSide::Word ? s.WordsLanguage : s.MeaningsLanguage,
-                             codes);
+    return LocaleForLanguage(side == ListSide::Word ? s.WordsLanguage : s.MeaningsLanguage, codes);
 }
 
 QString SpeechBlocked(ListSide side) {
@@ -200,9 +199,9 @@ void GameFrame::refreshSayIt() {
     QString why = SpeechBlocked(spoken.side);
     if (why.isEmpty() && spoken.text.trimmed().isEmpty()) why = spoken.why;
     a->setEnabled(why.isEmpty());
-    a->setToolTip(why.isEmpty() ? (spoken.side == ListSide::Word ? "Hear the word"
-                                                                 : "Hear the meaning")
-                                : why);
+    a->setToolTip(why.isEmpty()
+                      ? (spoken.side == ListSide::Word ? "Hear the word" : "Hear the meaning")
+                      : why);
 }
 
 bool GameFrame::sayIt() {

@@ -2,12 +2,12 @@
 
 #include <QButtonGroup>
 #include <QCheckBox>
-#include <QSlider>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSlider>
 #include <QVBoxLayout>
 
 #include "core/display_file.h"
@@ -79,8 +79,8 @@ SpeechOptions::SpeechOptions(QWidget* parent) : QDialog(parent) {
     auto* frame = new QGroupBox("Hear the words", this);
     frame->setFont(ScreenFont(12, true));
     auto* inner = new QVBoxLayout(frame);
-    SpeechOn = new QCheckBox("Games may say the words aloud (\"Say It\" and the flash cards' speaker)",
-                             frame);
+    SpeechOn = new QCheckBox(
+        "Games may say the words aloud (\"Say It\" and the flash cards' speaker)", frame);
     SpeechOn->setObjectName("SpeechOn");
     SpeechOn->setFont(ScreenFont(12));
     inner->addWidget(SpeechOn);

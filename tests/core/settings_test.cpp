@@ -84,8 +84,12 @@ TEST(Settings, SpeechLinesBehindTheSixReadOldFilesAndKeepLaterLines) {
     s.SpeechOn = kFalse;
     s.SpeechRate = 3;
     const std::tuple<std::vector<std::string>, int, int> cases[] = {
-        {{}, kTrue, 0},           {{"Speech Off", "-4"}, kFalse, -4}, {{"speech off", "3x"}, kTrue, 0},
-        {{"Speech On", "25"}, kTrue, 10}, {{"", " -12 "}, kTrue, -10}, {{"Speech Off"}, kFalse, 0}};
+        {{}, kTrue, 0},
+        {{"Speech Off", "-4"}, kFalse, -4},
+        {{"speech off", "3x"}, kTrue, 0},
+        {{"Speech On", "25"}, kTrue, 10},
+        {{"", " -12 "}, kTrue, -10},
+        {{"Speech Off"}, kFalse, 0}};
     for (const auto& [extra, on, rate] : cases) {
         auto lines = kFactory;
         lines.insert(lines.end(), extra.begin(), extra.end());

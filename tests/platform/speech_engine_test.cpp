@@ -25,13 +25,15 @@ void SpeechEngineTest::startsOffTheScreensThreadAndSpeaks() {
     QVERIFY2(clock.elapsed() < 500, "asking must not wait for the engine");
     QVERIFY(changed.wait(QtSpeech::kStartLimitMs + 1000));
     if (engine.engineName().isEmpty())
-        QSKIP("No speech engine answered on this machine (Qt TextToSpeech with the "
-              "speech-dispatcher plugin and espeak-ng): nothing to test.");
+        QSKIP(
+            "No speech engine answered on this machine (Qt TextToSpeech with the "
+            "speech-dispatcher plugin and espeak-ng): nothing to test.");
     QVERIFY(engine.hasVoiceFor(english) && !engine.hasVoiceFor(QLocale::c()));
     QCOMPARE(engine.status(QLocale::c()), SpeechStatus::NoVoice);
     if (engine.status(english) == SpeechStatus::NoSound)
-        QSKIP("The speech engine started and has voices, but this machine has no sound output "
-              "to say a word on.");
+        QSKIP(
+            "The speech engine started and has voices, but this machine has no sound output "
+            "to say a word on.");
     QCOMPARE(engine.status(english), SpeechStatus::Ready);
     engine.say("hello", english, 0);
     engine.say("hola", QLocale(QLocale::Spanish), 5);

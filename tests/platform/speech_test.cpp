@@ -11,9 +11,11 @@ TEST(Speech, ListCodesMapToTheLanguageNamedOnTheirLine) {
         {"S", "Spanish - English words, Spanish meanings", "x"},
         {"R", "Russian", "x"},
         {"K", "Klingon - English words, Klingon meanings", "x"}};
-    const std::pair<std::string, QLocale::Language> cases[] = {
-        {"", QLocale::English}, {" S ", QLocale::Spanish}, {"R", QLocale::Russian},
-        {"K", QLocale::C},      {"Q", QLocale::C}};
+    const std::pair<std::string, QLocale::Language> cases[] = {{"", QLocale::English},
+                                                               {" S ", QLocale::Spanish},
+                                                               {"R", QLocale::Russian},
+                                                               {"K", QLocale::C},
+                                                               {"Q", QLocale::C}};
     for (const auto& [code, language] : cases)
         EXPECT_EQ(LocaleForLanguage(code, codes).language(), language) << code;
 }

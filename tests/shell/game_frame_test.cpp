@@ -362,7 +362,8 @@ void GameFrameTest::sayItSaysWhatTheGameAllowsInTheListsLanguage() {
     const std::pair<SpeechStatus, QString> reasons[] = {
         {SpeechStatus::NoEngine,
          "No speech engine is installed on this computer, so words cannot be said aloud."},
-        {SpeechStatus::NoSound, "This computer has no sound output, so words cannot be said aloud."},
+        {SpeechStatus::NoSound,
+         "This computer has no sound output, so words cannot be said aloud."},
         {SpeechStatus::NoVoice, "This computer has no voice that speaks Spanish."}};
     for (const auto& [status, why] : reasons) {
         voice.setStatus(status);

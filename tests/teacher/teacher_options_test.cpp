@@ -218,9 +218,9 @@ void TeacherOptionsTest::speechSettingCountsAtOnceAndIsKeptBehindTheSix() {
     QCOMPARE(voice.said.value(0).rate, -6);
     box.speechOn()->setChecked(false);
     box.save();
-    QCOMPARE(f.read("wmdata.dat"), f.crlf({"Wordmere settings", "Version 1.01", "Sound On",
-                                           "mapleton", "listpath", "folderpath", "Speech Off",
-                                           "-6"}));
+    QCOMPARE(f.read("wmdata.dat"),
+             f.crlf({"Wordmere settings", "Version 1.01", "Sound On", "mapleton", "listpath",
+                     "folderpath", "Speech Off", "-6"}));
     QCOMPARE(Shared().SpeechOn, kFalse);
     voice.setStatus(SpeechStatus::NoEngine);
     QVERIFY(!box.tryIt()->isEnabled());
