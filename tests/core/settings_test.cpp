@@ -81,15 +81,13 @@ TEST(Settings, RewriteKeepsLinesPastFive) {
 TEST(Settings, SpeechLinesBehindTheSixReadOldFilesAndKeepLaterLines) {
     TempFolder dir;
     SharedState s;
-    s.SpeechOn = kFalse;
-    s.SpeechRate = 3;
+    // An old file of six lines comes after one that set speech off and slow.
     const std::tuple<std::vector<std::string>, int, int> cases[] = {
-        {{}, kTrue, 0},
         {{"Speech Off", "-4"}, kFalse, -4},
+        {{}, kTrue, 0},
         {{"speech off", "3x"}, kTrue, 0},
         {{"Speech On", "25"}, kTrue, 10},
-        {{"", " -12 "}, kTrue, -10},
-        {{"Speech Off"}, kFalse, 0}};
+        {{"", " -12 "}, kTrue, -10}};
     for (const auto& [extra, on, rate] : cases) {
         auto lines = kFactory;
         lines.insert(lines.end(), extra.begin(), extra.end());

@@ -29,7 +29,6 @@ void SpeechEngineTest::startsOffTheScreensThreadAndSpeaks() {
             "No speech engine answered on this machine (Qt TextToSpeech with the "
             "speech-dispatcher plugin and espeak-ng): nothing to test.");
     QVERIFY(engine.hasVoiceFor(english) && !engine.hasVoiceFor(QLocale::c()));
-    QCOMPARE(engine.status(QLocale::c()), SpeechStatus::NoVoice);
     if (engine.status(english) == SpeechStatus::NoSound)
         QSKIP(
             "The speech engine started and has voices, but this machine has no sound output "

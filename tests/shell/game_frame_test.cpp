@@ -360,8 +360,6 @@ void GameFrameTest::sayItSaysWhatTheGameAllowsInTheListsLanguage() {
     // Greyed, saying why, and silent; the engine that comes up late brings the entry back.
     now = Spoken("perro");
     const std::pair<SpeechStatus, QString> reasons[] = {
-        {SpeechStatus::NoEngine,
-         "No speech engine is installed on this computer, so words cannot be said aloud."},
         {SpeechStatus::NoSound,
          "This computer has no sound output, so words cannot be said aloud."},
         {SpeechStatus::NoVoice, "This computer has no voice that speaks Spanish."}};
