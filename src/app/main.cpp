@@ -8,6 +8,10 @@
 #include "platform/music.h"
 #include "platform/services.h"
 #include "platform/sound.h"
+#include "platform/speech.h"
+#ifdef WM_HAVE_SPEECH
+#include "platform/qt_speech.h"
+#endif
 #include "shell/catalogue.h"
 #include "shell/screens.h"
 #include "shell/style.h"
@@ -25,7 +29,14 @@ int main(int argc, char** argv) {
     wm::QtDialogs dialogs;
     wm::QtSound sound(QCoreApplication::applicationDirPath() + "/sounds");
     wm::FluidMusic music;
-    wm::services() = {&dialogs, &sound, &music};
+    // The speech engine starts only when a game first offers "Say It", never here.
+#ifdef WM_HAVE_SPEECH
+    wm::QtSpeech speech;
+#else
+    wm::RecordingSpeech speech;
+    speech.answer = wm::SpeechStatus::NoEngine;
+#endif
+    wm::services() = {&dialogs, &sound, &music, &speech};
 
     wm::ApplyAppStyle();
     wm::RegisterBuiltInScenes();

@@ -109,12 +109,16 @@ void LoadList(const std::string& path, SharedState& state, const std::vector<For
 
     std::string key = state.CurrentListName;
     bool swapped = false;
+    state.WordsLanguage.clear();
+    state.MeaningsLanguage.clear();
     for (const auto& f : foreign) {
         if (f.plain == state.CurrentListName) {
             key = "[" + Trim(f.code) + "]" + Trim(f.plain);
             state.ListLanguage = f.code;
             if (hooks.chooseDirection) state.ListLanguage = hooks.chooseDirection(f.code);
             swapped = state.ListLanguage != "E";
+            // The file keeps English on the word line and the translation under it.
+            (swapped ? state.WordsLanguage : state.MeaningsLanguage) = Trim(f.code);
             break;
         }
     }

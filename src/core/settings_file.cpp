@@ -1,6 +1,8 @@
 #include "core/settings_file.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <utility>
 
 #include "core/line_file.h"
 #include "core/shared_state.h"
@@ -41,6 +43,24 @@ std::string Settings::password() const {
     return lines.size() > kPasswordLine ? lines[kPasswordLine] : std::string();
 }
 
+bool Settings::speechOn() const {
+    return lines.size() <= kSpeechLine || lines[kSpeechLine] != "Speech Off";
+}
+
+int Settings::speechRate() const {
+    if (lines.size() <= kSpeechRateLine) return 0;
+    const std::string text = Trim(lines[kSpeechRateLine]);
+    int rate = 0;
+    std::size_t used = 0;
+    try {
+        rate = std::stoi(text, &used);
+    } catch (const std::exception&) {
+        return 0;
+    }
+    if (used != text.size()) return 0;
+    return std::clamp(rate, kMinSpeechRate, kMaxSpeechRate);
+}
+
 Settings ReadSettings(const std::string& appPath) {
     const std::string path = JoinPath(appPath, kSettingsName);
     Settings s;
@@ -65,15 +85,32 @@ void ApplySettings(const Settings& settings, const std::string& appPath, SharedS
         ResolvePath(settings.lines[kListPathLine], "listpath", appPath, kListFileName);
     state.FolderFilePath =
         ResolvePath(settings.lines[kFolderPathLine], "folderpath", appPath, kFolderFileName);
+    state.SpeechOn = settings.speechOn() ? kTrue : kFalse;
+    state.SpeechRate = settings.speechRate();
 }
 
-void RewriteSettingsLine(const std::string& appPath, int line, const std::string& text) {
+namespace {
+void RewriteLines(const std::string& appPath,
+                  const std::vector<std::pair<int, std::string>>& changes) {
     const std::string path = JoinPath(appPath, kSettingsName);
     std::vector<std::string> lines = ReadLines(path);
-    if (line < 0) return;
-    if (static_cast<std::size_t>(line) >= lines.size()) lines.resize(line + 1);
-    lines[line] = text;
+    for (const auto& [line, text] : changes) {
+        if (line < 0) return;
+        if (static_cast<std::size_t>(line) >= lines.size()) lines.resize(line + 1);
+        lines[line] = text;
+    }
     WriteLinesAtomic(path, lines);
+}
+}  // namespace
+
+void RewriteSettingsLine(const std::string& appPath, int line, const std::string& text) {
+    RewriteLines(appPath, {{line, text}});
+}
+
+void WriteSpeechSettings(const std::string& appPath, bool on, int rate) {
+    rate = std::clamp(rate, kMinSpeechRate, kMaxSpeechRate);
+    RewriteLines(appPath, {{kSpeechLine, on ? "Speech On" : "Speech Off"},
+                           {kSpeechRateLine, std::to_string(rate)}});
 }
 
 }  // namespace wm

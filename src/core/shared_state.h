@@ -66,6 +66,13 @@ struct SharedState {
     std::string StartLetter;  // flash cards from a letter: one character
     int ListChanged = kFalse;
     int SoundResult = 0;
+
+    // Our own: the teacher's speech setting (lines 6 and 7 of the settings file), and the
+    // language of each column of the loaded list, a code of flcodelist.dat ("" is English).
+    int SpeechOn = kTrue;
+    int SpeechRate = 0;  // -10 slow .. 10 fast
+    std::string WordsLanguage;
+    std::string MeaningsLanguage;
 };
 
 // The single instance every screen sees. Tests reset it with `Shared() = SharedState{}`.

@@ -7,6 +7,7 @@
 #include "platform/dialogs.h"
 #include "platform/music.h"
 #include "platform/sound.h"
+#include "platform/speech.h"
 
 namespace wm {
 
@@ -30,6 +31,11 @@ Sound& sound() {
 Music& music() {
     static RecordingMusic fallback;
     return services().music ? *services().music : fallback;
+}
+
+Speech& speech() {
+    static RecordingSpeech fallback;
+    return services().speech ? *services().speech : fallback;
 }
 
 QString appFile(const QString& relative) {

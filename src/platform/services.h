@@ -9,17 +9,20 @@ namespace wm {
 class Dialogs;
 class Sound;
 class Music;
+class Speech;
 
 struct Services {
     Dialogs* dialogs = nullptr;
     Sound* sound = nullptr;
     Music* music = nullptr;
+    Speech* speech = nullptr;
 };
 
 Services& services();
 Dialogs& dialogs();
 Sound& sound();
 Music& music();
+Speech& speech();
 
 // A path inside the application folder ("sounds/x.wav"; "\sounds\x.wav" works too).
 QString appFile(const QString& relative);

@@ -1,16 +1,21 @@
 #include "shell/game_frame.h"
 
 #include <QEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QTimer>
+#include <QToolTip>
 
+#include "core/language_codes.h"
+#include "core/line_file.h"
 #include "core/score_table.h"
 #include "core/shared_state.h"
 #include "core/strings.h"
 #include "platform/dialogs.h"
 #include "platform/music.h"
 #include "platform/services.h"
+#include "platform/speech.h"
 #include "platform/text.h"
 #include "shell/enter_initials_form.h"
 #include "shell/fl_form.h"
@@ -29,6 +34,41 @@ QString withScore(QString text, const QString& score) {
     return text.replace("{score}", score);
 }
 }  // namespace
+
+QLocale SpeechLocale(ListSide side) {
+    const SharedState& s = Shared();
+    std::vector<LanguageCode> codes;
+    try {
+        codes = ReadLanguageCodes(JoinPath(s.AppPath, kLanguageFileName));
+    } catch (const FileError&) {
+        // An unreadable language file leaves only English lists with a voice.
+    }
+    return LocaleForLanguage(side == ListSide::Word ? s.WordsLanguage : s.MeaningsLanguage, codes);
+}
+
+QString SpeechBlocked(ListSide side) {
+    if (Shared().SpeechOn != kTrue)
+        return "Your teacher has turned off speech in Teacher Management.";
+    const QLocale locale = SpeechLocale(side);
+    return SpeechStatusText(speech().status(locale), locale);
+}
+
+bool SayAloud(const Spoken& spoken) {
+    if (spoken.text.trimmed().isEmpty() || !SpeechBlocked(spoken.side).isEmpty()) return false;
+    speech().say(spoken.text, SpeechLocale(spoken.side), Shared().SpeechRate);
+    return true;
+}
+
+Spoken SecretWord(bool wordShown, bool meaningShown) {
+    const SharedState& s = Shared();
+    if (wordShown) return {toQ(s.TheWord), ListSide::Word};
+    if (meaningShown) return {toQ(s.TheMeaning), ListSide::Meaning};
+    return {{}, ListSide::Word, "You can hear the word once you have found it."};
+}
+
+Spoken ShownWord() {
+    return {toQ(Shared().TheWord), ListSide::Word};
+}
 
 int RunModal(QDialog& dialog) {
     if (modalHook()) {
@@ -96,6 +136,7 @@ GameFrame::GameFrame(QWidget* screen, GameMenuNames names, std::function<void()>
 GameFrame::~GameFrame() {
     // The screen is going: nothing of this game may run any more.
     leaving_ = true;
+    if (sayWhat_) speech().stop();
     for (auto& [name, t] : timers_) t->stop();
     stopMusic();
 }
@@ -141,6 +182,35 @@ void GameFrame::setForeign(std::function<void(const QString&)> insert) {
     });
 }
 
+void GameFrame::setSayIt(std::function<Spoken()> what) {
+    if (entry(Entry::SayIt)) return;
+    sayWhat_ = std::move(what);
+    addEntry(Entry::SayIt, "Say It", "mnuSayIt", [this] { sayIt(); });
+    connect(&speech(), &Speech::statusChanged, this, &GameFrame::refreshSayIt);
+    // The entry is brought up to date as the pointer comes to the menu, before any click.
+    menu_->installEventFilter(this);
+    refreshSayIt();
+}
+
+void GameFrame::refreshSayIt() {
+    QAction* a = entry(Entry::SayIt);
+    if (!a || !sayWhat_) return;
+    const Spoken spoken = sayWhat_();
+    QString why = SpeechBlocked(spoken.side);
+    if (why.isEmpty() && spoken.text.trimmed().isEmpty()) why = spoken.why;
+    a->setEnabled(why.isEmpty());
+    a->setToolTip(why.isEmpty()
+                      ? (spoken.side == ListSide::Word ? "Hear the word" : "Hear the meaning")
+                      : why);
+}
+
+bool GameFrame::sayIt() {
+    if (!sayWhat_ || leaving_) return false;
+    const bool said = SayAloud(sayWhat_());
+    refreshSayIt();
+    return said;
+}
+
 GameTimer& GameFrame::timer(const QString& name, int intervalMs, std::function<void()> tick,
                             bool singleShot) {
     auto it = timers_.find(name);
@@ -176,6 +246,7 @@ void GameFrame::newGame() {
         if (!keptOnRestart_.count(name)) t->stop();
     ++round_;
     if (newGame_) newGame_();
+    refreshSayIt();
 }
 
 std::function<void()> GameFrame::later(std::function<void()> then) {
@@ -276,6 +347,28 @@ void GameFrame::wonGame(const EndTexts& texts) {
 }
 
 bool GameFrame::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == menu_) {
+        switch (event->type()) {
+            case QEvent::Enter:
+            case QEvent::MouseButtonPress:
+                refreshSayIt();
+                break;
+            case QEvent::ToolTip: {
+                // A menu bar shows no tooltips of its own; this one says why the entry is grey.
+                auto* help = static_cast<QHelpEvent*>(event);
+                QAction* a = menu_->actionAt(help->pos());
+                if (a && a == entry(Entry::SayIt)) {
+                    refreshSayIt();
+                    QToolTip::showText(help->globalPos(), a->toolTip(), menu_);
+                    return true;
+                }
+                break;
+            }
+            default:
+                break;
+        }
+        return QObject::eventFilter(watched, event);
+    }
     if (watched == screen_) {
         if (event->type() == QEvent::Resize) {
             menu_->setGeometry(0, 0, screen_->width(), menuHeight());

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QLocale>
 #include <QMenuBar>
 #include <QObject>
 #include <QPointer>
@@ -46,6 +47,34 @@ struct EndTexts {
     bool wholeScore = true;      // Score := Int(Score) before the table is searched
 };
 
+// Which column of the list a spoken text comes from, for its language.
+enum class ListSide { Word, Meaning };
+
+// What "Say It" says at this moment. An empty text says nothing, and `why` tells the pupil
+// when there will be something to hear.
+struct Spoken {
+    Spoken() = default;
+    Spoken(QString said, ListSide from = ListSide::Word, QString reason = {})
+        : text(std::move(said)), side(from), why(std::move(reason)) {}
+    QString text;
+    ListSide side = ListSide::Word;
+    QString why;
+};
+
+// The language a column of the loaded list is said in.
+QLocale SpeechLocale(ListSide side);
+// Why nothing in that column's language can be said now: the teacher's setting, no engine, no
+// voice. "" when it can.
+QString SpeechBlocked(ListSide side);
+// Says the text in its column's language at the teacher's rate; false when nothing was said.
+bool SayAloud(const Spoken& spoken);
+// What may be heard where finding the word is the game: TheWord once the game shows it,
+// TheMeaning once the game shows that (a hint), and nothing before.
+Spoken SecretWord(bool wordShown, bool meaningShown);
+// What may be heard where the word stands on the screen, or where building it from its given
+// letters is the exercise: TheWord.
+Spoken ShownWord();
+
 // Where music comes from: none, the shared BGM alias (BgmOpen), or a flag of the game's own.
 enum class MusicKind { None, Shared, Own };
 
@@ -62,7 +91,7 @@ std::string FilterInitials(const std::string& typed);
 class GameFrame : public QObject {
     Q_OBJECT
 public:
-    enum class Entry { Restart, Foreign, Scores, HowTo, Quit };
+    enum class Entry { Restart, SayIt, Foreign, Scores, HowTo, Quit };
 
     // Builds the menu on `screen` and watches it for Escape and resizes. `newGame` is the
     // game's routine that starts a game, used by Restart and by "try again".
@@ -76,6 +105,14 @@ public:
 
     // Adds the palette entry; a picked character goes to `insert`.
     void setForeign(std::function<void(const QString&)> insert);
+    // Adds "Say It" (for the games where hearing the word helps); `what` tells what may be
+    // heard at this moment. The entry is greyed, with a tooltip saying why, while there is
+    // nothing to say or no voice to say it.
+    void setSayIt(std::function<Spoken()> what);
+    // Brings the entry's state up to date; the game calls it when what may be heard changes.
+    void refreshSayIt();
+    // Says what may be heard now; false when nothing was said.
+    bool sayIt();
     // Escape acts as Quit unless the game reads it itself.
     void setEscapeQuits(bool on) { escapeQuits_ = on; }
 
@@ -139,6 +176,7 @@ private:
     MusicKind musicKind_ = MusicKind::None;
     QString tune_;
     bool ownMusicOpen_ = false;  // the game's own MusicOpen flag
+    std::function<Spoken()> sayWhat_;
 };
 
 }  // namespace wm

@@ -40,6 +40,7 @@ void ApplyAppStyle() {
         QMenuBar { background: #26466d; color: white; }
         QMenuBar::item { padding: 6px 14px; background: transparent; }
         QMenuBar::item:selected { background: #3d7fd6; }
+        QMenuBar::item:disabled { color: #8196b3; }
         QMenu { background: white; border: 1px solid #9bb7d4; }
         QMenu::item { padding: 6px 24px; }
         QMenu::item:selected { background: #3d7fd6; color: white; }

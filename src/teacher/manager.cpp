@@ -118,6 +118,7 @@ Manager::Manager(QWidget* parent) : Backdrop("images/wm-back.jpg", parent) {
     addCommand(2, "Change Password", "Keep the teacher's screens safe",
                [this] { changePassword(); });
     addCommand(2, "Sound Options", "Sound on or off at start", [this] { soundOptions(); });
+    addCommand(2, "Speech Options", "Words said aloud, and how fast", [this] { speechOptions(); });
     addCommand(2, "Show/Hide Games", "Choose the games on the title screen",
                [this] { showHideGames(); });
     addCommand(2, "Clear High Scores", "Empty every high score table",
@@ -263,6 +264,11 @@ void Manager::changePassword() {
 
 void Manager::soundOptions() {
     SoundOptions form(this);
+    RunModal(form);
+}
+
+void Manager::speechOptions() {
+    SpeechOptions form(this);
     RunModal(form);
 }
 

@@ -33,6 +33,7 @@ public:
     void printWorksheets();
     void changePassword();
     void soundOptions();
+    void speechOptions();
     void showHideGames();
     void clearHighScores();
     void backupLists();

@@ -1,11 +1,13 @@
 #include "teacher/program_options.h"
 
 #include <QButtonGroup>
+#include <QCheckBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSlider>
 #include <QVBoxLayout>
 
 #include "core/display_file.h"
@@ -13,6 +15,7 @@
 #include "core/shared_state.h"
 #include "platform/dialogs.h"
 #include "platform/services.h"
+#include "platform/speech.h"
 #include "platform/text.h"
 #include "shell/catalogue.h"
 #include "shell/style.h"
@@ -68,6 +71,64 @@ void SoundOptions::save() {
                                 SoundOn->isChecked() ? "Sound On" : "Sound Off");
         }))
         accept();
+}
+
+SpeechOptions::SpeechOptions(QWidget* parent) : QDialog(parent) {
+    setObjectName("SpeechOptions");
+    QVBoxLayout* layout = DialogBody(this, "Speech Options");
+    auto* frame = new QGroupBox("Hear the words", this);
+    frame->setFont(ScreenFont(12, true));
+    auto* inner = new QVBoxLayout(frame);
+    SpeechOn = new QCheckBox(
+        "Games may say the words aloud (\"Say It\" and the flash cards' speaker)", frame);
+    SpeechOn->setObjectName("SpeechOn");
+    SpeechOn->setFont(ScreenFont(12));
+    inner->addWidget(SpeechOn);
+    inner->addWidget(NamedLabel("RateLabel", "Speaking rate:", frame, 12));
+    auto* row = new QHBoxLayout;
+    RateSlider = new QSlider(Qt::Horizontal, frame);
+    RateSlider->setObjectName("RateSlider");
+    RateSlider->setRange(kMinSpeechRate, kMaxSpeechRate);
+    RateSlider->setTickPosition(QSlider::TicksBelow);
+    RateSlider->setTickInterval(5);
+    row->addWidget(NamedLabel("SlowLabel", "Slower", frame, 11));
+    row->addWidget(RateSlider, 1);
+    row->addWidget(NamedLabel("FastLabel", "Faster", frame, 11));
+    inner->addLayout(row);
+    Command3 = NamedButton("Command3", "Try It", frame);
+    inner->addWidget(Command3, 0, Qt::AlignLeft);
+    layout->addWidget(frame);
+    QPushButton* ok;
+    layout->addLayout(SaveCancelRow(this, "Save", &ok));
+    connect(ok, &QPushButton::clicked, this, &SpeechOptions::save);
+
+    const QLocale english(QLocale::English);
+    auto refresh = [this, english] {
+        const QString why = SpeechStatusText(speech().status(english), english);
+        Command3->setEnabled(why.isEmpty());
+        Command3->setToolTip(why);
+    };
+    connect(&speech(), &Speech::statusChanged, this, refresh);
+    refresh();
+    connect(Command3, &QPushButton::clicked, this, [this, english] {
+        speech().say("Hello! This is how the words will sound.", english, RateSlider->value());
+    });
+
+    const SharedState& s = Shared();
+    SpeechOn->setChecked(s.SpeechOn == kTrue);
+    RateSlider->setValue(s.SpeechRate);
+    WidenToScreen(this, 0.4);
+}
+
+void SpeechOptions::save() {
+    SharedState& s = Shared();
+    const bool on = SpeechOn->isChecked();
+    if (Guarded([&] { WriteSpeechSettings(s.AppPath, on, RateSlider->value()); })) {
+        // Unlike the sound default, this counts at once.
+        s.SpeechOn = on ? kTrue : kFalse;
+        s.SpeechRate = RateSlider->value();
+        accept();
+    }
 }
 
 EnableDisable::EnableDisable(QWidget* parent) : QDialog(parent) {

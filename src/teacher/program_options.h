@@ -4,7 +4,10 @@
 
 #include <QDialog>
 
+class QCheckBox;
 class QListWidget;
+class QPushButton;
+class QSlider;
 class QRadioButton;
 
 namespace wm {
@@ -20,6 +23,23 @@ public:
 private:
     QRadioButton* SoundOn;
     QRadioButton* SoundOff;
+};
+
+// Whether games may say words aloud, and how fast. Counts at once, and is kept in the
+// settings file behind the lines of the sound default, password and paths.
+class SpeechOptions : public QDialog {
+    Q_OBJECT
+public:
+    explicit SpeechOptions(QWidget* parent = nullptr);
+    QCheckBox* speechOn() const { return SpeechOn; }
+    QSlider* rate() const { return RateSlider; }
+    QPushButton* tryIt() const { return Command3; }
+    void save();  // Command1
+
+private:
+    QCheckBox* SpeechOn;
+    QSlider* RateSlider;
+    QPushButton* Command3;  // Try It
 };
 
 class EnableDisable : public QDialog {

@@ -70,6 +70,13 @@ TEST_F(ListFileTest, LastRecordWithoutSeparatorLoadsAllPairs) {
     EXPECT_EQ(state.WordCount, 2);
     EXPECT_EQ(state.Words[1], "red");
     EXPECT_EQ(state.ListLanguage, "E");
+    // Played from the English side: the meanings are the Spanish ones.
+    EXPECT_EQ(state.WordsLanguage, "");
+    EXPECT_EQ(state.MeaningsLanguage, "S");
+    // A plain list after it is English on both sides, though ListLanguage stays as it was.
+    load("Animals", {{"S", "Colours"}});
+    EXPECT_EQ(state.ListLanguage, "E");
+    EXPECT_EQ(state.WordsLanguage + state.MeaningsLanguage, "");
 }
 
 TEST_F(ListFileTest, ForeignListPlayedTheOtherWaySwapsColumns) {
@@ -84,6 +91,8 @@ TEST_F(ListFileTest, ForeignListPlayedTheOtherWaySwapsColumns) {
     EXPECT_EQ(askedFor, "S");
     EXPECT_EQ(state.Words[1], "rojo");
     EXPECT_EQ(state.Meanings[2], "green");
+    EXPECT_EQ(state.WordsLanguage, "S");
+    EXPECT_EQ(state.MeaningsLanguage, "");
 }
 
 TEST_F(ListFileTest, WordsOnlyIsDecidedByTheFirstDefinition) {

@@ -86,3 +86,32 @@ TEST(Settings, RewriteKeepsLinesPastFive) {
     EXPECT_EQ(ReadLines(dir.file("wmdata.dat")).size(), 9u);
     EXPECT_EQ(dir.read("wmdata.dat").substr(dir.read("wmdata.dat").size() - 11), "\r\n\r\nninth\r\n");
 }
+
+TEST(Settings, SpeechLinesBehindTheSixReadOldFilesAndKeepLaterLines) {
+    TempFolder dir;
+    SharedState s;
+    // An old file of six lines comes after one that set speech off and slow.
+    const std::tuple<std::vector<std::string>, int, int> cases[] = {
+        {{"Speech Off", "-4"}, kFalse, -4},
+        {{}, kTrue, 0},
+        {{"speech off", "3x"}, kTrue, 0},
+        {{"Speech On", "25"}, kTrue, 10},
+        {{"", " -12 "}, kTrue, -10}};
+    for (const auto& [extra, on, rate] : cases) {
+        auto lines = kFactory;
+        lines.insert(lines.end(), extra.begin(), extra.end());
+        dir.writeLines("wmdata.dat", lines);
+        ApplySettings(ReadSettings(dir.path()), dir.path(), s);
+        EXPECT_EQ(s.SpeechOn, on);
+        EXPECT_EQ(s.SpeechRate, rate);
+    }
+    // Both lines in one rewrite, the rate held to -10..10; a later line stays, through a
+    // password change too.
+    dir.writeLines("wmdata.dat", {"r0", "r1", "Sound On", "pw", "listpath", "folderpath",
+                                  "Speech On", "0", "later"});
+    WriteSpeechSettings(dir.path(), false, 99);
+    RewriteSettingsLine(dir.path(), kPasswordLine, "secret");
+    EXPECT_EQ(dir.read("wmdata.dat"),
+              "r0\r\nr1\r\nSound On\r\nsecret\r\nlistpath\r\nfolderpath\r\nSpeech Off\r\n10\r\n"
+              "later\r\n");
+}

@@ -5,6 +5,7 @@
 
 #include "core/score_table.h"
 #include "game_road.h"
+#include "platform/speech.h"
 #include "shell/game_frame.h"
 
 using namespace wm;
@@ -52,6 +53,7 @@ private slots:
     void restartDropsTheLastRoundsContinuations();
     void refusalTellsThenLeaves();
     void musicByKind();
+    void sayItSaysWhatTheGameAllowsInTheListsLanguage();
     void wonGameTextsAndOffers_data();
     void wonGameTextsAndOffers();
 };
@@ -62,10 +64,11 @@ void GameFrameTest::menuKeepsItsOrderAndNames() {
     QCOMPARE(MenuTexts(game->frame),
              (QStringList{"Restart=RS", "High Scores=HS", "How To Play=mnuHowTo", "Quit=Return"}));
     game->frame.setForeign([](const QString&) {});
-    // The palette entry takes its place after Restart, whenever it is added.
+    game->frame.setSayIt([] { return Spoken{}; });
+    // The palette entry and Say It take their places after Restart, whenever they are added.
     QCOMPARE(MenuTexts(game->frame),
-             (QStringList{"Restart=RS", "Foreign Language Characters=FLang", "High Scores=HS",
-                          "How To Play=mnuHowTo", "Quit=Return"}));
+             (QStringList{"Restart=RS", "Say It=mnuSayIt", "Foreign Language Characters=FLang",
+                          "High Scores=HS", "How To Play=mnuHowTo", "Quit=Return"}));
     Shared().HowToText = "Play nicely.";
     QVERIFY(TriggerMenu(game, "mnuHowTo"));
     QCOMPARE(fx.dialogs.last(), "Play nicely.");
@@ -302,6 +305,47 @@ void GameFrameTest::wonGameTextsAndOffers() {
         QCOMPARE(QString::fromStdString(t.initials(1)), "WIN");
         QCOMPARE(t.score(1), 1234.0);
     }
+}
+
+void GameFrameTest::sayItSaysWhatTheGameAllowsInTheListsLanguage() {
+    RecordingSpeech voice;  // outlives the screens the fixture closes
+    ShellFixture fx;
+    services().speech = &voice;
+    TinyGame* game = OpenTiny();
+    Spoken now("perro");
+    game->frame.setSayIt([&] { return now; });
+    QAction* entry = game->frame.entry(GameFrame::Entry::SayIt);
+    Shared().WordsLanguage = "S";  // a Spanish list played from its Spanish side
+    Shared().SpeechRate = -4;
+    QVERIFY(TriggerMenu(game, "mnuSayIt"));
+    now = Spoken("dog", ListSide::Meaning);
+    QVERIFY(TriggerMenu(game, "mnuSayIt"));
+    QCOMPARE(voice.said.size(), 2);
+    QCOMPARE(voice.said[0].text, "perro");
+    QCOMPARE(voice.said[0].locale.language(), QLocale::Spanish);
+    QCOMPARE(voice.said[0].rate, -4);
+    QCOMPARE(voice.said[1].locale.language(), QLocale::English);
+
+    // Greyed, saying why, and silent; the engine that comes up late brings the entry back.
+    now = Spoken("perro");
+    const std::pair<SpeechStatus, QString> reasons[] = {
+        {SpeechStatus::NoSound,
+         "This computer has no sound output, so words cannot be said aloud."},
+        {SpeechStatus::NoVoice, "This computer has no voice that speaks Spanish."}};
+    for (const auto& [status, why] : reasons) {
+        voice.setStatus(status);
+        QCOMPARE(entry->toolTip(), why);
+        QVERIFY(!entry->isEnabled() && !game->frame.sayIt());
+    }
+    voice.setStatus(SpeechStatus::Ready);
+    QVERIFY(entry->isEnabled());
+    now = Spoken({}, ListSide::Word, "Not yet.");
+    QVERIFY(!game->frame.sayIt());
+    QCOMPARE(entry->toolTip(), "Not yet.");
+    Shared().SpeechOn = kFalse;
+    QVERIFY(!game->frame.sayIt());
+    QCOMPARE(entry->toolTip(), "Your teacher has turned off speech in Teacher Management.");
+    QCOMPARE(voice.said.size(), 2);
 }
 
 QTEST_MAIN(GameFrameTest)

@@ -4,11 +4,14 @@
 #include <unistd.h>
 #include <QCheckBox>
 #include <QListWidget>
+#include <QPushButton>
 #include <QRadioButton>
+#include <QSlider>
 #include <QtTest>
 
 #include "core/category_file.h"
 #include "core/display_file.h"
+#include "platform/speech.h"
 #include "platform/text.h"
 #include "shell/catalogue.h"
 #include "shell/title.h"
@@ -58,6 +61,7 @@ private slots:
     void lockHeldByAnotherProcess();
     void visibilityCountsFromTheNextStart();
     void soundDefaultCountsFromTheNextStart();
+    void speechSettingCountsAtOnceAndIsKeptBehindTheSix();
 };
 
 void TeacherOptionsTest::categoriesSaveHoldsTheLockWhileOpen() {
@@ -199,6 +203,24 @@ void TeacherOptionsTest::soundDefaultCountsFromTheNextStart() {
     RewriteSettingsLine(f.dir.path().toStdString(), kSoundLine, "loud");
     SoundOptions odd;
     QVERIFY(!odd.on()->isChecked() && !odd.off()->isChecked());
+}
+
+void TeacherOptionsTest::speechSettingCountsAtOnceAndIsKeptBehindTheSix() {
+    RecordingSpeech voice;  // outlives the screens the fixture closes
+    TeacherFixture f;
+    services().speech = &voice;
+    OpenScreen("Title");
+    SpeechOptions box;
+    QVERIFY(box.speechOn()->isChecked());  // the factory file has no speech lines
+    box.rate()->setValue(-6);
+    box.tryIt()->click();
+    QCOMPARE(voice.said.value(0).rate, -6);
+    box.speechOn()->setChecked(false);
+    box.save();
+    QCOMPARE(f.read("wmdata.dat"),
+             f.crlf({"Wordmere settings", "Version 1.01", "Sound On", "mapleton", "listpath",
+                     "folderpath", "Speech Off", "-6"}));
+    QCOMPARE(Shared().SpeechOn, kFalse);
 }
 
 QTEST_MAIN(TeacherOptionsTest)

@@ -91,6 +91,13 @@ LetterFall::LetterFall(QWidget* parent)
       Timer4(frame_.timer("Timer4", 1, [this] { starTick(); })) {
     setObjectName("LetterFall");
     setWindowTitle("Letter Drop!");
+    // Hearing the word and building it from its falling letters is the exercise. The game keeps
+    // the word in capitals, which a voice might spell out letter by letter.
+    frame_.setSayIt([] {
+        Spoken word = ShownWord();
+        word.text = word.text.toLower();
+        return word;
+    });
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
     QPalette pal = palette();

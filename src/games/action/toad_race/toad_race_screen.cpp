@@ -49,6 +49,8 @@ ToadRace::ToadRace(QWidget* parent)
         Text1->insert(c);
         Text1->setFocus();
     });
+    // The word stands on the sign: it may be heard.
+    frame_.setSayIt(ShownWord);
 
     pond_ = new Pond(this);
     Label1 = new QLabel(this);

@@ -30,6 +30,8 @@ GuessScreen::GuessScreen(const QString& picture, GameMenuNames menu, QWidget* pa
         const std::string bytes = fromQ(c);
         if (!bytes.empty()) guessKey(bytes[0]);
     });
+    // Finding the word is the game: it is heard once found, its meaning once a hint showed it.
+    frame_.setSayIt([this] { return SecretWord(roundOver_, hintTaken_); });
 
     Frame1 = new QGroupBox("WORD:", this);
     Frame1->setObjectName("Frame1");
@@ -61,6 +63,7 @@ GuessScreen::GuessScreen(const QString& picture, GameMenuNames menu, QWidget* pa
 void GuessScreen::NewGame() {
     SharedState& s = Shared();
     roundOver_ = false;
+    hintTaken_ = false;
     // No definition to show on a words-only list.
     Command1->setVisible(s.WordsOnly == kFalse);
     Label2->clear();
@@ -136,6 +139,7 @@ void GuessScreen::hint() {
     if (frame_.leaving()) return;
     SharedState& s = Shared();
     dialogs().message(toQ(guess::hintText(s, round_)), windowTitle());
+    hintTaken_ = true;
     guess::payForHint(s, TheRng());
     setFocus();
 }

@@ -59,6 +59,7 @@ private:
     QPushButton* Command2;  // Solve
     QVector<QLabel*> LetterLabel;
     bool roundOver_ = false;
+    bool hintTaken_ = false;  // the meaning has been shown this round
 };
 
 }  // namespace wm

@@ -81,6 +81,11 @@ CowForm::CowForm(QWidget* parent)
         const std::string bytes = fromQ(c);
         if (!bytes.empty()) guessKey(bytes[0]);
     });
+    // Finding the word is the game: it is heard once decided, its meaning once a hint showed it.
+    frame_.setSayIt([this] {
+        return SecretWord(phase_ == Phase::Won || phase_ == Phase::Lost,
+                          game_.hinted() && Shared().WordsOnly == kFalse);
+    });
 
     auto hud = [this](const char* name) {
         auto* l = new QLabel(this);

@@ -60,6 +60,13 @@ FreezeIt::FreezeIt(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     frame_.setMusic(MusicKind::Shared, "freeze.mid");
     frame_.setForeign([this](const QString& c) { insertChar(c); });
+    // The word is hidden in the ice: its meaning, the clue on the screen, is heard until the
+    // word is answered or has melted into view.
+    frame_.setSayIt([this] {
+        const SharedState& s = Shared();
+        return SecretWord(game_.phase() == Phase::Right || game_.phase() == Phase::Melted,
+                          s.WordsOnly == kFalse && !Trim(s.TheMeaning).empty());
+    });
 
     scene_ = new FreezeScene(this);
     frame_.menuBar()->raise();

@@ -52,6 +52,8 @@ SpeedType::SpeedType(QWidget* parent)
     setWindowTitle("Speed Type");
     setFocusPolicy(Qt::StrongFocus);
     frame_.setForeign([this](const QString& c) { typeKey(speedtype::KeyKind::Char, c); });
+    // The word is heard once it stands on the screen after "Set...".
+    frame_.setSayIt([this] { return SecretWord(!round_.WaitingForGo, false); });
     frame_.scoreText = [this](double) { return timeText_; };
 
     Label1 = new QLabel("Ready...", this);

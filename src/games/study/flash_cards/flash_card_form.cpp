@@ -49,6 +49,24 @@ void fitText(QLabel* l, int designed, bool bold) {
 }
 // A white arrow head for the card buttons, pointing right or left; drawn, so that the button's
 // text stays the card's own words.
+// A loudspeaker with two sound waves, white, for the card's speaker button.
+QIcon speakerIcon() {
+    const int size = 64;
+    QPixmap pix(size, size);
+    pix.fill(Qt::transparent);
+    QPainter p(&pix);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(Qt::NoPen);
+    p.setBrush(Qt::white);
+    p.drawPolygon(QPolygonF{QPointF(8, 24), QPointF(20, 24), QPointF(34, 10), QPointF(34, 54),
+                            QPointF(20, 40), QPointF(8, 40)});
+    p.setBrush(Qt::NoBrush);
+    p.setPen(QPen(Qt::white, 4.5, Qt::SolidLine, Qt::RoundCap));
+    p.drawArc(QRectF(26, 20, 16, 24), -50 * 16, 100 * 16);
+    p.drawArc(QRectF(24, 10, 30, 44), -50 * 16, 100 * 16);
+    return QIcon(pix);
+}
+
 QIcon arrowIcon(bool right) {
     const int size = 64;
     QPixmap pix(size, size);
@@ -120,8 +138,36 @@ FlashCardForm::FlashCardForm(QWidget* parent)
         l->setStyleSheet("color: white;");
     }
 
+    SayButton = new QToolButton(this);
+    SayButton->setObjectName("SayButton");
+    SayButton->setIcon(speakerIcon());
+    SayButton->setCursor(Qt::PointingHandCursor);
+    SayButton->setFocusPolicy(Qt::NoFocus);
+    SayButton->setStyleSheet(
+        "QToolButton { background: #2f6fc4; border: 2px solid #1f4f94; border-radius: 10px; }"
+        "QToolButton:hover { background: #3d82dc; }"
+        "QToolButton:disabled { background: #9aa7b6; border-color: #7d8896; }");
+    connect(SayButton, &QToolButton::clicked, this, [this] { frame_.sayIt(); });
+    frame_.setSayIt([this] { return showingSide(); });
+    // The button follows the menu entry: greyed with the same reason.
+    QAction* sayEntry = frame_.entry(GameFrame::Entry::SayIt);
+    auto follow = [this, sayEntry] {
+        SayButton->setEnabled(sayEntry->isEnabled());
+        SayButton->setToolTip(sayEntry->toolTip());
+    };
+    connect(sayEntry, &QAction::changed, this, follow);
+    follow();
+
     resize(ScreenMetrics::screenSize());
     QTimer::singleShot(0, &frame_, [this] { frame_.newGame(); });
+}
+
+Spoken FlashCardForm::showingSide() const {
+    const SharedState& s = Shared();
+    const bool covering = coverState() == Cover::Covering;
+    const ListSide side = covering == flash::coversWord(s) ? ListSide::Meaning : ListSide::Word;
+    if (s.TheWord.empty()) return {{}, side, toQ(flash::kEndText)};
+    return {toQ(side == ListSide::Word ? s.TheWord : s.TheMeaning), side};
 }
 
 FlashCardForm::Cover FlashCardForm::coverState() const {
@@ -176,7 +222,20 @@ void FlashCardForm::showCard() {
     TheWord->setText(toQ(s.TheWord));
     TheDefinition->setText(toQ(s.TheMeaning));
     fitFaces();
+    placeSpeaker();
+    frame_.refreshSayIt();
     Gimme->setFocus();
+}
+
+// The speaker sits in the top corner of the card that is showing.
+void FlashCardForm::placeSpeaker() {
+    const bool onWord = showingSide().side == ListSide::Word;
+    const QRect card = (onWord ? TheWord : TheDefinition)->geometry();
+    const int side = std::max(28, height() / 16);
+    SayButton->setIconSize(QSize(side * 3 / 4, side * 3 / 4));
+    SayButton->setGeometry(card.right() - side + width() / 160, card.top() - height() / 160, side,
+                           side);
+    SayButton->raise();
 }
 
 void FlashCardForm::showView() {
@@ -205,6 +264,8 @@ void FlashCardForm::gimme() {
     transparent_ = true;
     MovieBox->play(false);
     sound().effect("zap.wav");
+    placeSpeaker();
+    frame_.refreshSayIt();
 }
 
 void FlashCardForm::keyPressEvent(QKeyEvent* e) {
@@ -253,6 +314,7 @@ void FlashCardForm::resizeEvent(QResizeEvent*) {
     Label2->setGeometry(0, 0, bw, bh);
     CardScroll->setGeometry(x, rowY + bh + h / 30, cardW, std::max(18, h / 40));
     Label1->setGeometry(x, CardScroll->geometry().bottom() + h / 80, cardW, h / 20);
+    placeSpeaker();
 }
 
 WM_REGISTER_GAME("Flash Cards", FlashCardForm, "images/flash-back.svg", "images/card.svg",

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QToolButton>
 
 #include "games/study/flash_cards/flash_card_rules.h"
 #include "platform/movie.h"
@@ -36,6 +37,11 @@ public:
     QScrollBar* CardScroll;
     QLabel* Label1;
     QLabel* total_;
+    QToolButton* SayButton;  // the speaker: says the side that is showing
+
+    // The side that is showing: the meaning while the word is covered, then the word the
+    // cover opened on.
+    Spoken showingSide() const;
 
     void nextCard();
     void previousCard();
@@ -51,6 +57,7 @@ private:
     void showCard();  // the picked card's texts, the position line, a fresh cover
     void showView();
     void fitFaces();
+    void placeSpeaker();
     void scrolled(int value);
 
     GameFrame frame_;

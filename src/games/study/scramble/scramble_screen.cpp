@@ -55,6 +55,8 @@ Scramble::Scramble(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     SharedState& s = Shared();
     frame_.setForeign([this](const QString& c) { FLForm::InsertAt(Guess, c); });
+    // Hearing the word and building it from its letters is the exercise.
+    frame_.setSayIt(ShownWord);
 
     heading_ = new QLabel("Unscramble the word!", this);
     heading_->setFont(ScreenFont(24, true));
