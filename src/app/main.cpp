@@ -44,12 +44,8 @@ int saveTitleShot(const QString& file, wm::ScriptedDialogs& boxes) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    QApplication app(argc, argv);
-    QApplication::setApplicationName("Wordmere");
-    QApplication::setApplicationVersion("1.01");
-    // The desktop entry's name, so the window is matched with its entry and icon.
-    QGuiApplication::setDesktopFileName("org.wordmere.wordmere");
-
+    QCoreApplication::setApplicationName("Wordmere");
+    QCoreApplication::setApplicationVersion("1.01");
     QCommandLineParser options;
     options.setApplicationDescription(
         "Vocabulary games for the classroom. Installed, the lists, settings and scores are kept "
@@ -59,7 +55,16 @@ int main(int argc, char** argv) {
     const QCommandLineOption shot("screenshot", "Save a picture of the title to <file> and end.",
                                   "file");
     options.addOption(shot);
-    options.process(app);
+    {
+        // Read before any window is opened, so --help and --version answer on a machine
+        // without a display too (a technician's remote shell).
+        QCoreApplication console(argc, argv);
+        options.process(console);
+    }
+
+    QApplication app(argc, argv);
+    // The desktop entry's name, so the window is matched with its entry and icon.
+    QGuiApplication::setDesktopFileName("org.wordmere.wordmere");
 
     // Every file is found through these folders, never in the current folder.
     const wm::AppFolders folders = wm::ChooseAppFolders(
