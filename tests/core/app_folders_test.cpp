@@ -1,107 +1,68 @@
+// The choice between a build's folder and an installed layout, and the first start's seeding.
+// tests/package starts the real package for the rest (the folder it cannot make, seeded bytes).
 #include <gtest/gtest.h>
 
 #include <filesystem>
 
 #include "core/app_folders.h"
 #include "core/line_file.h"
-#include "core/settings_file.h"
 #include "temp_folder.h"
 
 using namespace wm;
-using wm::test::TempFolder;
+namespace fs = std::filesystem;
 
-namespace {
-
-// A program folder and, when `installed`, the factory files where the package puts them.
-struct Layout {
-    const char* name;
-    std::vector<const char*> besideProgram;  // files in <root>/usr/bin
-    bool shareHasFactory;
-    const char* variable;
-    bool installed;
-    const char* data;  // "" = the program's folder; a relative name = under the working folder
-};
-
-}  // namespace
-
-TEST(AppFolders, BesideTheProgramOrInstalled) {
-    const Layout cases[] = {
-        {"build folder, first start", {"wmdata.new"}, false, "", false, ""},
-        {"build folder, later starts", {"wmdata.dat"}, false, "/tmp/x", false, ""},
-        {"files beside the program win", {"wmdata.dat"}, true, "", false, ""},
-        {"nothing anywhere: the title names the file", {}, false, "", false, ""},
-        {"installed", {}, true, "", true, "/var/lib/wordmere"},
-        {"installed, moved data", {}, true, "/srv/class 2", true, "/srv/class 2"},
-        {"installed, relative data", {}, true, "class", true, "class"},
+TEST(AppFolders, BesideTheProgramUnlessInstalled) {
+    struct Case {
+        const char* besideProgram;  // a file in usr/bin, or ""
+        bool packaged;              // usr/share/wordmere/wmdata.new is there
+        const char* variable;
+        const char* data;  // "" = the program's folder
     };
-    for (const Layout& c : cases) {
-        SCOPED_TRACE(c.name);
-        TempFolder root;
-        std::filesystem::create_directories(root.file("usr/bin"));
-        std::filesystem::create_directories(root.file("usr/share/wordmere"));
-        for (const char* f : c.besideProgram) root.write(std::string("usr/bin/") + f, "x");
-        if (c.shareHasFactory) root.write("usr/share/wordmere/wmdata.new", "x");
-
-        const std::string program = root.file("usr/bin");
-        const AppFolders got = ChooseAppFolders(program, c.variable);
-        EXPECT_EQ(got.installed, c.installed);
-        EXPECT_EQ(got.assets, c.installed ? root.file("usr/share/wordmere") : program);
-        const std::string data = c.data;
-        if (data.empty())
-            EXPECT_EQ(got.data, program);
-        else if (data.front() == '/')
-            EXPECT_EQ(got.data, data);
-        else
-            EXPECT_EQ(got.data, (std::filesystem::current_path() / data).string());
+    const std::string here = fs::current_path().string();
+    const Case cases[] = {
+        {"wmdata.new", true, "", ""},
+        {"wmdata.dat", true, "/srv/x", ""},
+        {"", false, "/srv/x", ""},
+        {"", true, "", "/var/lib/wordmere"},
+        {"", true, "/srv/class 2", "/srv/class 2"},
+    };
+    for (const Case& c : cases) {
+        test::TempFolder root;
+        fs::create_directories(root.file("usr/bin"));
+        fs::create_directories(root.file("usr/share/wordmere"));
+        if (*c.besideProgram) root.write(std::string("usr/bin/") + c.besideProgram, "x");
+        if (c.packaged) root.write("usr/share/wordmere/wmdata.new", "x");
+        const AppFolders got = ChooseAppFolders(root.file("usr/bin"), c.variable);
+        const bool installed = *c.data != 0;
+        EXPECT_EQ(got.installed, installed);
+        EXPECT_EQ(got.assets, root.file(installed ? "usr/share/wordmere" : "usr/bin"));
+        EXPECT_EQ(got.data, installed ? c.data : root.file("usr/bin"));
     }
+    test::TempFolder root;
+    fs::create_directories(root.file("share/wordmere"));
+    root.write("share/wordmere/wmdata.new", "x");
+    EXPECT_EQ(ChooseAppFolders(root.file("bin"), "class").data, here + "/class");
 }
 
-TEST(AppFolders, FirstStartSeedsTheDataFolderAndLaterStartsKeepIt) {
-    TempFolder assets, root;
-    assets.writeLines("wmdata.new", {"r0", "r1", "Sound On", "mapleton", "listpath", "folderpath"});
-    assets.writeLines("thelists.new", {"Animals", "cat", "a pet"});
-    assets.write("wmgdisplay.dat", "3\r\n");
-    assets.write("flcodelist.dat", "S,Spanish\r\n");
-    const AppFolders folders{assets.path(), root.file("var/lib/wordmere"), true};
+TEST(AppFolders, SeedingFillsOnlyWhatIsMissing) {
+    test::TempFolder assets, data;
+    for (const char* f : {"wmdata.new", "thelists.new", "wmgdisplay.dat", "flcodelist.dat"})
+        assets.write(f, std::string("factory ") + f);
+    data.write("thelists.dat", "the teacher's");
+    data.write("wmdata.new", "a waiting factory file");  // the title's first-run rename takes it
+    SeedDataFolder({assets.path(), data.path(), true});
+    EXPECT_EQ(data.read("thelists.dat"), "the teacher's");
+    EXPECT_FALSE(data.exists("wmdata.dat"));
+    EXPECT_EQ(data.read("wmgdisplay.dat"), "factory wmgdisplay.dat");
+    EXPECT_EQ(data.read("flcodelist.dat"), "factory flcodelist.dat");
+    EXPECT_TRUE(DirExists(data.file("scores")));
+    fs::remove(data.file("wmdata.new"));
+    fs::remove(data.file("thelists.dat"));
+    SeedDataFolder({assets.path(), data.path(), true});
+    EXPECT_EQ(data.read("wmdata.dat"), "factory wmdata.new");
+    EXPECT_EQ(data.read("thelists.dat"), "factory thelists.new");
 
-    SeedDataFolder(folders);
-    auto data = [&](const char* name) { return "var/lib/wordmere/" + std::string(name); };
-    EXPECT_TRUE(DirExists(root.file(data("scores"))));
-    EXPECT_EQ(root.read(data("wmdata.dat")), assets.read("wmdata.new"));
-    EXPECT_EQ(root.read(data("thelists.dat")), assets.read("thelists.new"));
-    EXPECT_EQ(root.read(data("wmgdisplay.dat")), "3\r\n");
-    EXPECT_EQ(root.read(data("flcodelist.dat")), "S,Spanish\r\n");
-    EXPECT_FALSE(root.exists(data("wmdata.new")));
-    EXPECT_FALSE(root.exists(data("thelists.new")));
-
-    // The teacher's data stays; only what has gone comes back from the factory.
-    root.write(data("thelists.dat"), "Mine\r\n");
-    std::filesystem::remove(root.file(data("flcodelist.dat")));
-    SeedDataFolder(folders);
-    EXPECT_EQ(root.read(data("thelists.dat")), "Mine\r\n");
-    EXPECT_EQ(root.read(data("flcodelist.dat")), "S,Spanish\r\n");
-
-    // A .new file waiting in the data folder is the title's to rename, as in a build folder.
-    std::filesystem::remove(root.file(data("wmdata.dat")));
-    root.writeLines(data("wmdata.new"), {"own", "r1", "Sound Off", "pw", "listpath", "folderpath"});
-    SeedDataFolder(folders);
-    EXPECT_FALSE(root.exists(data("wmdata.dat")));
-    FirstRunRenames(root.file("var/lib/wordmere"));
-    EXPECT_EQ(ReadSettings(root.file("var/lib/wordmere")).lines[0], "own");
-}
-
-TEST(AppFolders, SeedingLeavesABuildFolderAloneAndNamesAFolderItCannotMake) {
-    TempFolder dir;
-    SeedDataFolder({dir.path(), dir.file("data"), false});
-    EXPECT_FALSE(dir.exists("data"));
-
-    dir.write("data", "a file where the folder should be");
-    try {
-        SeedDataFolder({dir.path(), dir.file("data"), true});
-        FAIL();
-    } catch (const FileError& e) {
-        EXPECT_EQ(e.path(), dir.file("data"));
-        EXPECT_NE(std::string(e.what()).find("The data folder " + dir.file("data")),
-                  std::string::npos);
-    }
+    // A build's folder is the program's own: nothing to seed.
+    SeedDataFolder({assets.path(), data.file("build"), false});
+    EXPECT_FALSE(data.exists("build"));
 }
