@@ -40,11 +40,11 @@ void SeedDataFolder(const AppFolders& folders) {
     for (const std::string& folder : {folders.data, JoinPath(folders.data, "scores")}) {
         std::error_code ec;
         fs::create_directories(folder, ec);
-        if (ec || !DirExists(folder)) {
-            throw FileError(folder, "The data folder " + folder + " cannot be made: " +
-                                        (ec ? ec.message() : "a file has its name") +
-                                        ". Ask the person who looks after this computer to "
-                                        "reinstall Wordmere.");
+        if (!DirExists(folder)) {
+            throw FileError(folder, "The data folder " + folder + " cannot be made (" +
+                                        ec.message() +
+                                        "). Ask the person who looks after this computer to "
+                                        "make it, writable for you.");
         }
     }
     auto factory = [&](const char* name) { return JoinPath(folders.assets, name); };

@@ -87,7 +87,8 @@ touch "$work/blocked"
 if start "$work/blocked/data" "$work/none.png" >"$work/run.log" 2>&1; then
     fail "the program started without a data folder"
 fi
-grep -q "The data folder $work/blocked/data cannot be made" "$work/run.log" ||
+grep -qxF "wordmere: The data folder $work/blocked/data cannot be made (Not a directory). Ask \
+the person who looks after this computer to make it, writable for you." "$work/run.log" ||
     { cat "$work/run.log"; fail "no message naming the data folder"; }
 
 listing >"$work/after"
