@@ -18,11 +18,7 @@ AppFolders ChooseAppFolders(const std::string& programFolder, const std::string&
         return beside;
     const std::string shared = JoinPath(FolderOf(programFolder), "share/wordmere");
     if (!FileExists(JoinPath(shared, kSettingsFactoryName))) return beside;
-    // The program never works from the current folder; a relative folder is made whole once.
-    std::error_code ec;
-    const std::string data =
-        dataVariable.empty() ? kSharedDataFolder : fs::absolute(dataVariable, ec).string();
-    return {shared, ec ? dataVariable : data, true};
+    return {shared, dataVariable.empty() ? kSharedDataFolder : dataVariable, true};
 }
 
 namespace {

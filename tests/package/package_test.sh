@@ -1,11 +1,12 @@
 #!/bin/sh
-# package_test.sh <build folder> <cpack>: the package made by CPack, unpacked with dpkg-deb into
+# package_test.sh <build folder> <cpack> <program>: the package made by CPack, unpacked with dpkg-deb into
 # a scratch root and started from there offscreen with a data folder of its own. The title must
 # appear, the first start must fill the data folder from the factory files, a later start must
 # keep what the teacher changed, and nothing may be written beside the program.
 set -eu
 build=$1
 cpack=$2
+program=$3
 command -v dpkg-deb >/dev/null || { echo "package_test: no dpkg-deb here"; exit 77; }
 work=$(mktemp -d "${TMPDIR:-/tmp}/wm-package.XXXXXX")
 trap 'rm -rf "$work"' EXIT
@@ -36,7 +37,8 @@ for f in usr/bin/wordmere usr/share/wordmere/wmdata.new usr/share/wordmere/theli
     usr/share/doc/wordmere/copyright usr/share/doc/wordmere/changelog.gz; do
     [ -f "$root/$f" ] || fail "$f is not in the package"
 done
-[ -x "$root/usr/bin/wordmere" ] || fail "usr/bin/wordmere cannot be run"
+[ "$(env -u DISPLAY "$root/usr/bin/wordmere" --version)" = "$(env -u DISPLAY "$program" --version)" ] ||
+    fail "usr/bin/wordmere is not the program just built"
 [ -x "$work/control/postinst" ] || fail "the package has no postinst to make the data folder"
 writable=$(find "$root/usr/share" -type f -perm /133)
 [ -z "$writable" ] || fail "not read only (rw-r--r--): $writable"
