@@ -16,8 +16,12 @@ struct ScoreTable;
 struct SharedState {
     SharedState();
 
-    // Our own: the folder that holds the program and its files.
+    // Our own: the folder of the files the program reads and writes (settings, lists,
+    // categories, display file, scores): beside the program in a build, the shared data folder
+    // once installed.
     std::string AppPath;
+    // Our own: the folder of the pictures, sounds, movies, buttons and help; AppPath when empty.
+    std::string AssetPath;
 
     std::vector<std::string> GameNames;  // 1-based, room for 200
     int GameCount = 0;

@@ -46,7 +46,8 @@ QString appFile(const QString& relative) {
     if (designForm) {
         while (rel.startsWith(QLatin1Char('/'))) rel.remove(0, 1);
     }
-    const QString base = QString::fromStdString(Shared().AppPath);
+    const SharedState& s = Shared();
+    const QString base = QString::fromStdString(s.AssetPath.empty() ? s.AppPath : s.AssetPath);
     if (base.isEmpty() || QDir::isAbsolutePath(rel)) return rel;
     return QDir(base).filePath(rel);
 }

@@ -24,7 +24,8 @@ Sound& sound();
 Music& music();
 Speech& speech();
 
-// A path inside the application folder ("sounds/x.wav"; "\sounds\x.wav" works too).
+// A path inside the asset folder ("sounds/x.wav"; "\sounds\x.wav" works too): the application
+// folder in a build, the installed assets once installed.
 QString appFile(const QString& relative);
 // An asset by the name the design gives it: the exact file, else a picture with the same stem
 // (.png, .jpg, .jpeg, .bmp), matched without regard to case as a last resort; "" when none.

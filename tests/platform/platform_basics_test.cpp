@@ -97,6 +97,12 @@ private slots:
         QCOMPARE(findAsset("images/notes.gif"), QString());  // same stem, not a picture
         QCOMPARE(findAsset("images/missing.jpg"), QString());
         QCOMPARE(findAsset("nofolder/x.jpg"), QString());
+
+        // Installed, the assets have a folder of their own; the data stays in AppPath.
+        Shared().AssetPath = "/usr/share/wordmere";
+        QCOMPARE(appFile(QStringLiteral("sounds/a.wav")),
+                 QStringLiteral("/usr/share/wordmere/sounds/a.wav"));
+        Shared().AssetPath.clear();
     }
 
     void effectsFollowSoundOn() {
