@@ -243,6 +243,7 @@ void TeacherTypingTest::textTheFileCannotHold() {
             box.reject();
         });
         edit->editWord();
+        QVERIFY(f.hands.empty());  // the box was shown
         QCOMPARE(edit->words()->count(), 2);
         QCOMPARE(edit->words()->item(0)->text(), "cat");
     } else if (where == "edit rename") {
