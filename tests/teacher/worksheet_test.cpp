@@ -171,10 +171,15 @@ private slots:
             if (kind == Kind::WordSearch && !definitionClues) QCOMPARE(int(pages.size()), 2);
             const QString sheet = PdfText(pdf, 1, int(pages.size()) - keys);
             const QString key = PdfText(pdf, int(pages.size()) - keys + 1);
+            const QString laid = LaidText(pages);
             QVERIFY(sheet.startsWith(Q(list.name) + " " + kindName(kind) + " Name: ") ||
                     kind == Kind::FlashCards);
             QVERIFY(sheet.contains("Page 1 of " + QString::number(pages.size())));
             QVERIFY(key.contains(QString(kindName(kind)) + ": Answer Key"));
+            int rings = 0;
+            for (const Page& p : pages)
+                for (const Item& it : p.items) rings += p.key && it.type == Item::Ring;
+            QCOMPARE(rings, kind == Kind::WordSearch ? int(c.entries.size()) : 0);
             for (const Entry& e : c.entries) {
                 const bool wordShown = kind == Kind::WordSearch
                                            ? !definitionClues
@@ -183,6 +188,8 @@ private slots:
                 if (!e.clue.empty() && kind != Kind::Matching &&
                     (kind != Kind::WordSearch || definitionClues))
                     QVERIFY2(sheet.contains(Q(e.clue)), qPrintable(Q(e.clue)));
+                if (kind == Kind::Scramble)  // printed spaced out, to be read one by one
+                    QVERIFY(laid.contains(Q(e.shown).split("", Qt::SkipEmptyParts).join(" ")));
                 if (kind == Kind::Matching)
                     QVERIFY2(sheet.contains(Q(e.shown)), qPrintable(Q(e.shown)));
                 QVERIFY2(key.contains(Q(e.word)), qPrintable(toQ(list.name) + ": " + Q(e.word)));

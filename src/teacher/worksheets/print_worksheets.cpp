@@ -228,7 +228,8 @@ void PrintWorksheets::chooseList() {
         const int paren = InStrRev(line, "(");
         SharedState state;
         state.CurrentListName = paren > 2 ? Left(line, paren - 2) : line;
-        if (!Guarded([&] { LoadList(ListPath(), state, foreign_); })) return;
+        // A list that cannot be read leaves no words, never the sheet of the list before.
+        if (!Guarded([&] { LoadList(ListPath(), state, foreign_); })) state.WordCount = 0;
         list_.name = state.CurrentListName;
         list_.wordsOnly = state.WordsOnly != kFalse;
         for (int i = 1; i <= std::min<int>(state.WordCount, kMaxWords); ++i)
