@@ -262,6 +262,7 @@ TEST(SpeedType, FiguresAndTheTimePerLetterAreCutFromTheirTexts) {
              {1.15625, "00", "1", "562"},  // kept: the first decimal is skipped
              {12.34567, "00", "12", "345"},
              {75.5, "01", "15", "5"},
+             {75.123456, "01", "15", "123"},
          }) {
         auto f = figures(c.t);
         EXPECT_EQ(f.minutes + ":" + f.seconds + "." + f.decimals,

@@ -93,18 +93,14 @@ TEST(CrunchManTick, TurnsAtOnceAndPressesAgainstBorders) {
     r.wanted = 4;  // reversing is allowed, with no grid alignment
     TickResult t = tick(r, s, rng);
     EXPECT_EQ(t.newX, t.oldX - 4);
-    for (int n = 0; n < 400; ++n) t = tick(r, s, rng);
-    EXPECT_EQ(t.newX, 0);
-    r.wanted = 2;
-    for (int n = 0; n < 400; ++n) t = tick(r, s, rng);
-    EXPECT_EQ(t.newX, 1280 - 46);
-    r.wanted = 1;
-    for (int n = 0; n < 400; ++n) t = tick(r, s, rng);
-    EXPECT_EQ(t.newY, 67 + 10);
-    r.wanted = 3;
-    for (int n = 0; n < 400; ++n) t = tick(r, s, rng);
-    EXPECT_EQ(t.newY, 800 - 67 + 5 - 44 - 5);
-    EXPECT_EQ(t.event, Event::None);
+    // Left to 0, right to the width less the mouth, up to Line1 + 10, down to Line2 - 44 - 5.
+    const int borders[][2] = {{4, 0}, {2, 1280 - 46}, {1, 67 + 10}, {3, 800 - 67 + 5 - 44 - 5}};
+    for (auto [heading, border] : borders) {
+        r.wanted = heading;
+        for (int n = 0; n < 400; ++n) t = tick(r, s, rng);
+        EXPECT_EQ(heading % 2 == 0 ? t.newX : t.newY, border) << heading;
+        EXPECT_EQ(t.event, Event::None);
+    }
 }
 
 TEST(CrunchManEating, SpellingOrderOnTheBoard) {
