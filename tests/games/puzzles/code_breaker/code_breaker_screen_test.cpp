@@ -215,13 +215,18 @@ void CodeBreakerScreenTest::aFullCodeFitsAndUnusableListsAreRefused() {
     ShellFixture fx;
     WriteOneList(fx, "Long", {{"photographer", "one who takes pictures"},
                               {"thunderstorm", "rain with lightning"},
-                              {"marshmallows", "soft sweets"},
+                              {"marshmallows", "soft, spongy sweets of sugar, toasted over a camp "
+                                               "fire until golden brown, then squashed between "
+                                               "two crackers with a square of chocolate"},
                               {"kaleidoscope", "a tube of bright turning patterns"},
                               {"encyclopedia", "a book of facts about many subjects, from aardvarks "
                                                "to zebras, in order from A to Z"}});
     QPointer<CodeBreaker> game = qobject_cast<CodeBreaker*>(PlayFromTitle("Code Breaker", "Long", 10));
     QVERIFY(game);
     QCOMPARE(game->game().letters(), 60);
+    QCOMPARE(game->hintButton()->text() + "|" + game->clearButton()->text(), QString("Hint|Clear"));
+    for (const char* name : {"Label1", "Label2", "Label3", "Label4", "Command1", "Command2"})
+        QVERIFY2(game->findChild<QWidget*>(name), name);  // the design's control names
     for (const QSize size : {QSize(1280, 800), QSize(1920, 1080)}) {
         game->resize(size);
         Pump();
@@ -241,6 +246,12 @@ void CodeBreakerScreenTest::aFullCodeFitsAndUnusableListsAreRefused() {
         for (QWidget* w : std::initializer_list<QWidget*>{game->clue(), game->levelLabel(),
                                                           game->clockLabel(), game->helpLabel()})
             QVERIFY2(game->rect().contains(w->geometry()), qPrintable(w->objectName()));
+        for (QLabel* l : {game->levelLabel(), game->clockLabel(), game->helpLabel()})
+            QVERIFY(l->fontMetrics().horizontalAdvance(l->text()) <= l->contentsRect().width());
+        QLabel* clue = game->clue();  // a long clue takes a smaller type and shows whole
+        QVERIFY(clue->fontMetrics().boundingRect(QRect(0, 0, clue->width() - 40, 9999),
+                                                 Qt::TextWordWrap, clue->text()).height() <=
+                clue->height() - 14);
         Shot(game, QString("code-breaker-full-%1").arg(size.width()));
     }
     game->frame().quit();
