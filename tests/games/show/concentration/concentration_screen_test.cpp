@@ -87,7 +87,7 @@ void ConcentrationScreenTest::fromTheTitleThroughAWinToTheTable() {
     // otter and its own definition: +100 x 3, green once turned.
     clickCard(g, 0);
     clickCard(g, 1);
-    QCOMPARE(g->shownFace(1), Face::Back);  // green only once it has turned over
+    QCOMPARE(g->shownFace(1), Face::Back);  // the back shows until half the turn is done
     QCOMPARE(fx.sound.played.last(), "conc-match.wav");
     QCOMPARE(g->ScoreLabel->text(), "Score: 300");
     QCOMPARE(g->PairsLabel->text(), "Pairs: 1 of 3");
