@@ -20,8 +20,6 @@ struct SharedState {
     // categories, display file, scores): beside the program in a build, the shared data folder
     // once installed.
     std::string AppPath;
-    // Our own: the folder of the pictures, sounds, movies, buttons and help; AppPath when empty.
-    std::string AssetPath;
 
     std::vector<std::string> GameNames;  // 1-based, room for 200
     int GameCount = 0;
@@ -70,6 +68,9 @@ struct SharedState {
     std::string StartLetter;  // flash cards from a letter: one character
     int ListChanged = kFalse;
     int SoundResult = 0;
+
+    // Our own: the folder of the pictures, sounds, movies, buttons and help; AppPath when empty.
+    std::string AssetPath;
 };
 
 // The single instance every screen sees. Tests reset it with `Shared() = SharedState{}`.
