@@ -20,8 +20,6 @@ struct SharedState {
     // categories, display file, scores): beside the program in a build, the shared data folder
     // once installed.
     std::string AppPath;
-    // Our own: the folder of the pictures, sounds, movies, buttons and help; AppPath when empty.
-    std::string AssetPath;
 
     std::vector<std::string> GameNames;  // 1-based, room for 200
     int GameCount = 0;
@@ -77,6 +75,9 @@ struct SharedState {
     int SpeechRate = 0;  // -10 slow .. 10 fast
     std::string WordsLanguage;
     std::string MeaningsLanguage;
+
+    // Our own: the folder of the pictures, sounds, movies, buttons and help; AppPath when empty.
+    std::string AssetPath;
 };
 
 // The single instance every screen sees. Tests reset it with `Shared() = SharedState{}`.
