@@ -40,18 +40,6 @@ TEST(DisplayFile, HugeOrFractionalCountsKeepThePreset) {
     }
 }
 
-TEST(LineFile, LineReaderAgreesWithReadLinesOnMixedEnds) {
-    TempFolder dir;
-    // Every order of CR and LF, including LF CR (two ends) and a CR at the very end.
-    const std::string bytes = "a\r\nb\n\rc\r\rd\n\ne\r\n\r\nf\r";
-    dir.write("m.dat", bytes);
-    LineReader in(bytes);
-    std::vector<std::string> seen;
-    while (!in.atEnd()) seen.emplace_back(in.next());
-    EXPECT_EQ(seen, ReadLines(dir.file("m.dat")));
-    EXPECT_EQ(seen, (std::vector<std::string>{"a", "b", "", "c", "", "d", "", "e", "", "f"}));
-}
-
 TEST(Settings, AFolderAtTheListFilesNameDoesNotStopTheStart) {
     TempFolder dir;
     dir.writeLines("wmdata.new", {"r0", "r1", "Sound On", "pw", "listpath", "folderpath"});

@@ -92,19 +92,6 @@ TEST(Strings, ReplaceTakesEveryMatchAndNothingForAnEmptyPattern) {
 }
 
 // The scripted generator every rules test leans on: picks, then fallback; and the installed one.
-TEST(Rng, ScriptedRngPicksThenFallsBackAndCanBeInstalled) {
-    ScriptedRng rng(0.25);
-    rng.pick(3, 10).then(0.9);
-    EXPECT_EQ(Int(rng.Rnd() * 10 + 1), 3);
-    EXPECT_DOUBLE_EQ(rng.Rnd(), 0.9);
-    EXPECT_DOUBLE_EQ(rng.Rnd(), 0.25);
-    EXPECT_EQ(rng.draws, 3);
-    SetRng(&rng);
-    EXPECT_DOUBLE_EQ(TheRng().Rnd(), 0.25);
-    SetRng(nullptr);
-    EXPECT_NE(&TheRng(), static_cast<Rng*>(&rng));
-}
-
 // Seconds since midnight with their fraction, against midnight found another way.
 TEST(Clock, TimerIsSecondsSinceLocalMidnight) {
     auto secondsSinceMidnight = [] {
@@ -133,12 +120,3 @@ TEST(Clock, TimerIsSecondsSinceLocalMidnight) {
     EXPECT_NEAR(TheClock().Timer(), secondsSinceMidnight(), 0.5);
 }
 
-TEST(Rng, SystemRngStaysInRange) {
-    SystemRng rng;
-    rng.seed(42);
-    for (int i = 0; i < 10000; ++i) {
-        double v = rng.Rnd();
-        ASSERT_GE(v, 0.0);
-        ASSERT_LT(v, 1.0);
-    }
-}

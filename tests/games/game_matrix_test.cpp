@@ -229,8 +229,6 @@ void GameMatrix::everyGameSurvivesAwkwardLists() {
         if (!screen || CurrentScreen() != screen) break;
         Pump(int(dice() % 400));
     }
-    qInfo("%s: %d steps played, %zu boxes", qPrintable(game + " / " + ml.name), step,
-          fx.dialogs.shown.size());
     if (screen && CurrentScreen() == screen) {
         QTest::keyClick(screen, Qt::Key_Escape);
         Pump();

@@ -198,7 +198,6 @@ void RoadTest::optionsRowsAndClamping() {
     s.CurrentGame = "Speed Type";
     opts = qobject_cast<GameOptions*>(OpenScreen("GameOptions", CurrentScreen()));
     QVERIFY(!opts->Frame3->isVisible());
-    Shot(opts, "options-speed-type");
     QTest::keyClick(opts, Qt::Key_Escape);
     QVERIFY(Showing<Title>() != nullptr);
 }

@@ -81,7 +81,6 @@ void TitleTest::emptyStoreSaysNoLists() {
     QCOMPARE(title->noListsLabel()->text(), "No Lists Available!");
     // The buttons stay.
     QVERIFY(title->buttons().first()->isVisible());
-    Shot(title, "title-no-lists");
 
     // A list file that has gone missing is named.
     QFile::remove(fx.path("thelists.dat"));
@@ -115,10 +114,8 @@ void TitleTest::splashSkipsToTitle() {
     QVERIFY(splash);
     Pump(50);
     QCOMPARE(fx.sound.played.value(0), "tolvane.wav");
-    Shot(splash, "splash-start");
     static_cast<BlackBack*>(splash)->movie()->advance(2.5);
     Pump(60);
-    Shot(splash, "splash-middle");
     QTest::keyClick(splash, Qt::Key_Space);
     Pump();
     QVERIFY(Showing<Title>() != nullptr);

@@ -92,7 +92,6 @@ void TeacherOptionsTest::categoriesSaveHoldsTheLockWhileOpen() {
     f.dialogs.answerYes();
     c.deleteCategory();
     QCOMPARE(c.categories()->count(), 2);
-    Shot(&c, "categories");
     c.save();  // No: still open and locked
     QVERIFY(f.exists("folders.lok"));
     f.dialogs.answerYes();
@@ -164,7 +163,6 @@ void TeacherOptionsTest::visibilityCountsFromTheNextStart() {
         e.option(2)->setChecked(true);
         e.games()->item(0)->setCheckState(Qt::Unchecked);
         e.games()->item(2)->setCheckState(Qt::Unchecked);
-        Shot(&e, "enable-disable");
         e.apply();  // No
         QCOMPARE(f.dialogs.last(), "Apply these changes?");
         f.dialogs.answerYes();
@@ -190,7 +188,6 @@ void TeacherOptionsTest::soundDefaultCountsFromTheNextStart() {
     OpenScreen("Title");
     QCOMPARE(Shared().SoundDefault, kTrue);
     SoundOptions box;
-    Shot(&box, "sound-options");
     QVERIFY(box.on()->isChecked());
     box.off()->setChecked(true);
     box.save();

@@ -72,7 +72,6 @@ void TeacherRoadTest::wholeRoadFromTheTitle() {
     auto* manager = Showing<Manager>();
     QVERIFY(manager);
     QVERIFY(!title->isVisible());
-    Shot(manager, "manager");
 
     f.then<CreateList>([](CreateList& c) {
         c.name()->setText("Fruit");
@@ -96,7 +95,6 @@ void TeacherRoadTest::wholeRoadFromTheTitle() {
     make->meaningEntered();
     QCOMPARE(make->totalText(), "Total words in this list: 3");
     QCOMPARE(make->numberText(), "Word Number: 4");
-    Shot(make, "make-new-list");
     f.dialogs.answerYes();
     make->saveAndQuit();
     QCOMPARE(f.dialogs.shown.back().title, "Confirm Save");
@@ -132,7 +130,6 @@ void TeacherRoadTest::wholeRoadFromTheTitle() {
     edit->deleteWord();
     QCOMPARE(f.dialogs.shown.back().text, "Are you sure you want to delete the word Banana");
     QCOMPARE(edit->totalText(), "Total Words In This List: 3");
-    Shot(edit, "edit-list");
     // The rename is only written by the save.
     QVERIFY(f.lists().contains("Fruit\r\n"));
     f.dialogs.answerYes();

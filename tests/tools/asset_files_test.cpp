@@ -59,14 +59,6 @@ private slots:
         first_ = snapshot(dir_.path());
     }
 
-    void toolbarIconsAreDrawnOnATransparentGround() {
-        for (const QString& icon : toolbarIconNames()) {
-            const QImage img(dir_.filePath("images/tb-" + icon + ".png"));
-            QCOMPARE(img.pixelColor(0, 0).alpha(), 0);
-            QVERIFY2(img.pixelColor(48, 48).alpha() > 200, qPrintable(icon));
-        }
-    }
-
     void everyGameHasItsOwnButton() {
         QSet<QByteArray> seen;
         for (int i = 0; i < wm::kGameCount; ++i) {

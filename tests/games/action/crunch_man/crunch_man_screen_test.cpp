@@ -65,7 +65,6 @@ void CrunchManScreenTest::roadToAWinAndTheTable() {
     QCOMPARE(game->definition(), "Definition: a small furry pet");
 
     QVERIFY(TickUntil([&] { return CentreColumn(game) == 12; }));
-    Shot(game, "crunch-man");
     SendKey(game, Qt::Key_Up);
     QVERIFY(TickUntil([&] { return game->spelled() == "C"; }));
     QCOMPARE(game->scoreCaption(), "Score: 202");  // (Int(0.5 x 200) + 1) x 2 mines

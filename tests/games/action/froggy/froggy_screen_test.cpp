@@ -53,7 +53,6 @@ void FroggyScreenTest::roadToTheRightSlotAndTheTable() {
     QCOMPARE(game->windowTitle(), "Froggy!");
     QCOMPARE(game->board().slotWords[2], std::string("cat"));
     Pump(16 * 40);
-    Shot(game, "froggy");
     ClearTheWay(game);
     WinDriver driver({"FRG"});
     SetModalHook(std::ref(driver));

@@ -83,7 +83,6 @@ void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
             // Halfway, the computer's toads have had their first hop (every 6700 ms at level 2).
             Pump(6000);
             for (int t = 1; t <= 3; ++t) QCOMPARE(game->pond()->shownPad(t), 1);
-            Shot(game, "toadrace-racing");
         }
         Pump(16);
     }
@@ -132,7 +131,6 @@ void ToadRaceScreenTest::aRaceLostNamesTheWinnerAndTheWord() {
     QCOMPARE(game->pond()->call(), "Ruby wins!");
     QVERIFY(fx.sound.played.contains("toadlose.wav"));
     Pump(400);
-    Shot(game, "toadrace-1920-lost");
     QVERIFY(fx.dialogs.shown.empty());
     fx.dialogs.answerYes(true);
     Pump(ToadRace::kCheerMs - 400);

@@ -62,7 +62,6 @@ void WordZapScreenTest::roadToTheInitialsAndTheTable() {
     QCOMPARE(game->scoreText(), "Score: 1190");
     QVERIFY(fx.sound.played.contains("crumble.wav"));
     Pump(16 * 5);
-    Shot(game, "word-zap");
     Click(game, game->targetRect(RightTarget(game)));  // the last of the round: a new deal
     QCOMPARE(game->gallery().definition, 1);
     QCOMPARE(game->scoreText(), "Score: 2385");

@@ -65,7 +65,6 @@ void BasketballScreenTest::tenGoodShotsToTheTable() {
              ++t)
             Pump(16);
         QCOMPARE(g->shootLabel()->text(), QString::fromStdString(s.TheWord));
-        if (shot == 3) Shot(g, "basketball-1280");
         const int shown = g->game().wordsShown();
         Drop(g, g->netPoint());
         animations << g->playing();

@@ -88,7 +88,6 @@ void LetterDropScreenTest::steerEveryLetterHomeToTheTable() {
     QCOMPARE(colours.size(), 2);
     QVERIFY(colours.contains("#ff8080"));
     QCOMPARE(game->tile(1)->property("back").toString(), QString("#c0c0ff"));
-    Shot(game, "letter-drop-1280");
 
     WinDriver driver({"OWL"});
     SetModalHook(std::ref(driver));

@@ -158,8 +158,6 @@ void FlyingCowScreenTest::paletteWordsOnlyAndSilence() {
     QVERIFY(TriggerMenu(game, "FLang"));
     QCOMPARE(boxes(game), "...\u00e9_....");
     QCOMPARE(label(game, "Label2"), "Tried: e \u00e9");
-    QVERIFY(fx.sound.played.isEmpty());
-    QVERIFY(fx.music.opened.isEmpty());
     QVERIFY(TriggerMenu(game, "Return"));
     Pump();
     QVERIFY(Showing<Title>());
