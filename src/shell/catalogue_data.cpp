@@ -313,10 +313,10 @@ std::vector<GameCard> BuildCatalogue() {
         "Code Breaker", Elig(WO::Allowed, "", "CodeBreaker"), Slider(1, 50, 10),
         "You will be given one of your vocabulary words written in a secret code, and up to four "
         "more words in the same code. Every letter has been swapped for another letter, and a "
-        "letter with an accent is a little picture. Click a code letter (or move with the arrow "
-        "keys), then type the real letter you think it stands for: every copy fills in at "
-        "once, and if you used that letter somewhere else, it moves here. The meaning of the first word is your clue. \"Hint\" shows "
-        "one letter but costs 30 seconds. Crack the whole code before the clock runs out! The "
+        "letter with an accent is a little picture. Click a code letter (or use the arrow "
+        "keys), then type the real letter you think it stands for: every copy fills in, and a "
+        "letter used elsewhere moves here. The meaning of the first word is your clue. "
+        "\"Hint\" shows one letter but costs 30 seconds. Crack the whole code before the clock runs out! The "
         "higher the level, the less time you have, and the more each second left is worth."));
 
     cards.push_back(Card(
