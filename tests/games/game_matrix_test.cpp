@@ -64,10 +64,7 @@ std::vector<MatrixList> Lists() {
                       {"caf\xE9", "a small restaurant"},
                       {"pi\xF1"
                        "ata",
-                       "a party game full of sweets"},
-                      {"na\xEFve", "too trusting"},
-                      {"x-ray", "a picture of your bones"},
-                      {"o'clock", "of the clock"}}});
+                       "a party game full of sweets"}}});
     return lists;
 }
 

@@ -24,14 +24,13 @@ AsteroidBlast* Start(ShellFixture& fx, bool optionOn = true) {
 // close behind the shot that wins, so it is watched through a guarded pointer.
 bool ShootColumn(AsteroidBlast* game, int k) {
     const QPointer<AsteroidBlast> alive(game);
+    const auto flying = [](const asteroid::Shot& s) { return s.flying; };
     for (int n = 0; n < 100; ++n) {
         if (!alive) return true;  // the last rock won the game, and the screen has gone
         auto& r = game->round();
         if (!r.rocks[k].shown || r.over) return true;
         // Aims and fires again whenever nothing is on its way.
-        const bool flying = std::any_of(r.shots.begin(), r.shots.end(),
-                                        [](const auto& s) { return s.flying; });
-        if (!flying && !r.fireWanted) {
+        if (!r.fireWanted && std::none_of(r.shots.begin(), r.shots.end(), flying)) {
             r.shipX = r.g.boxLeft(k) + r.g.boxWidth() / 2 - r.g.shipW / 2;
             SendKey(game, Qt::Key_Space);
         }
