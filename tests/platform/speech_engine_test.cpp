@@ -35,8 +35,7 @@ void SpeechEngineTest::startsOffTheScreensThreadAndSpeaks() {
             "to say a word on.");
     QCOMPARE(engine.status(english), SpeechStatus::Ready);
     engine.say("hello", english, 0);
-    engine.say("hola", QLocale(QLocale::Spanish), 5);
-    QTest::qWait(300);  // the worker takes the words while the screen goes on
+    engine.say("hola", QLocale(QLocale::Spanish), 5);  // neither call waits for the voice
 }
 
 QTEST_MAIN(SpeechEngineTest)
