@@ -70,10 +70,13 @@ bool IsEmptyStore(const std::vector<std::string>& lines) {
 }
 
 void CleanHead(std::vector<std::string>& lines, bool alsoNoLists) {
+    // Blanks and separators may stand behind a "No Lists" line too: the head is clean only
+    // when a list's name comes first.
     std::size_t n = 0;
-    while (n < lines.size() && (lines[n].empty() || lines[n] == kSeparator)) ++n;
+    while (n < lines.size() && (lines[n].empty() || lines[n] == kSeparator ||
+                                (alsoNoLists && lines[n] == kNoLists)))
+        ++n;
     lines.erase(lines.begin(), lines.begin() + static_cast<long>(n));
-    if (alsoNoLists && !lines.empty() && lines.front() == kNoLists) lines.erase(lines.begin());
 }
 
 void RemoveRecordAt(std::vector<std::string>& lines, std::size_t pos) {

@@ -190,7 +190,7 @@ TEST(ListFileEdits, DeletingTheOnlyListLeavesNoLists) {
 }
 
 TEST(ListFileEdits, CleanHeadDropsBlanksSeparatorsAndNoLists) {
-    Lines lines = {"", "<New List>", "", "No Lists", "A"};
+    Lines lines = {"", "<New List>", "", "No Lists", "", "<New List>", "A"};
     CleanHead(lines, false);
     EXPECT_EQ(lines.front(), "No Lists");
     CleanHead(lines, true);
