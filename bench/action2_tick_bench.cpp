@@ -1,18 +1,9 @@
 // One tick of Letter Drop's fall and of Mini Golf's ball on a 1920x1080 screen: the rules, the
 // sprites erased and drawn on the field, and the changed rectangles painted, scaled.
-#include "qt_bench.h"
+#include "screen_bench.h"
 
-#include <QApplication>
-
-#include "core/shared_state.h"
 #include "games/action/letter_drop/letter_drop_screen.h"
 #include "games/action/mini_golf/mini_golf_screen.h"
-#include "platform/dialogs.h"
-#include "platform/music.h"
-#include "platform/screen_metrics.h"
-#include "platform/services.h"
-#include "platform/sound.h"
-#include "platform/ticker.h"
 
 using namespace wm;
 
@@ -67,13 +58,4 @@ WM_TICK_BENCHMARK(BM_MiniGolfTick);
 
 }  // namespace
 
-int main(int argc, char** argv) {
-    ScriptedDialogs dialogs;
-    RecordingSound sound;
-    RecordingMusic music;
-    return bench::RunInQt(argc, argv, [&] {
-        services() = {&dialogs, &sound, &music};
-        Ticker::get().setManual(true);  // only the benchmark moves the games
-        ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
-    });
-}
+WM_SCREEN_BENCH_MAIN()

@@ -1,17 +1,8 @@
 // One frame of Code Breaker on a 1920x1080 screen at its busiest: a full code of sixty tiles
 // turning green in a wave with sparkles, while a letter flies to every copy of a symbol.
-#include "qt_bench.h"
+#include "screen_bench.h"
 
-#include <QApplication>
-
-#include "core/shared_state.h"
 #include "games/puzzles/code_breaker/code_breaker_screen.h"
-#include "platform/dialogs.h"
-#include "platform/music.h"
-#include "platform/screen_metrics.h"
-#include "platform/services.h"
-#include "platform/sound.h"
-#include "platform/ticker.h"
 
 using namespace wm;
 
@@ -48,13 +39,4 @@ WM_TICK_BENCHMARK(BM_CodeBreakerFrame);
 
 }  // namespace
 
-int main(int argc, char** argv) {
-    ScriptedDialogs dialogs;
-    RecordingSound sound;
-    RecordingMusic music;
-    return bench::RunInQt(argc, argv, [&] {
-        services() = {&dialogs, &sound, &music};
-        Ticker::get().setManual(true);
-        ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
-    });
-}
+WM_SCREEN_BENCH_MAIN()

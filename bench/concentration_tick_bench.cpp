@@ -1,20 +1,13 @@
 // One animation tick of Concentration on a 1920x1080 screen with twenty cards, several of them
 // turning over: the flips moved on and the changed cards painted on the felt.
-#include "qt_bench.h"
+#include "screen_bench.h"
 
 #include <QApplication>
 #include <QPoint>
 #include <QTest>
 
 #include "core/rng.h"
-#include "core/shared_state.h"
 #include "games/show/concentration/concentration_screen.h"
-#include "platform/dialogs.h"
-#include "platform/music.h"
-#include "platform/screen_metrics.h"
-#include "platform/services.h"
-#include "platform/sound.h"
-#include "platform/ticker.h"
 
 using namespace wm;
 
@@ -61,13 +54,4 @@ WM_TICK_BENCHMARK(BM_ConcentrationFlipTick);
 
 }  // namespace
 
-int main(int argc, char** argv) {
-    ScriptedDialogs dialogs;
-    RecordingSound sound;
-    RecordingMusic music;
-    return bench::RunInQt(argc, argv, [&] {
-        services() = {&dialogs, &sound, &music};
-        Ticker::get().setManual(true);
-        ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
-    });
-}
+WM_SCREEN_BENCH_MAIN()

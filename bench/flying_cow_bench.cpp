@@ -1,18 +1,9 @@
 // Flying Cow's frame at 1920x1080, drawing included: the cow dangling on the top rung of a
 // level-1 beam (eleven rungs, sparkles, legs swinging), and the happy ending of a word (the cow
 // let down, the moo, the saucer wobbling off and back).
-#include "qt_bench.h"
+#include "screen_bench.h"
 
-#include <QApplication>
-
-#include "core/shared_state.h"
 #include "games/guess/flying_cow/flying_cow_screen.h"
-#include "platform/dialogs.h"
-#include "platform/music.h"
-#include "platform/screen_metrics.h"
-#include "platform/services.h"
-#include "platform/sound.h"
-#include "platform/ticker.h"
 
 using namespace wm;
 
@@ -73,13 +64,4 @@ WM_TICK_BENCHMARK(BM_FlyingCowHappyEndTick);
 
 }  // namespace
 
-int main(int argc, char** argv) {
-    ScriptedDialogs dialogs;
-    RecordingSound sound;
-    RecordingMusic music;
-    return bench::RunInQt(argc, argv, [&] {
-        services() = {&dialogs, &sound, &music};
-        Ticker::get().setManual(true);  // only the benchmark moves the game
-        ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
-    });
-}
+WM_SCREEN_BENCH_MAIN()

@@ -1,17 +1,8 @@
 // One animation frame of Jailbreak on a 1920x1080 screen, drawing included: the guard walking
 // while a padlock springs open and the alarm flashes, and the door swinging open for the escape.
-#include "qt_bench.h"
+#include "screen_bench.h"
 
-#include <QApplication>
-
-#include "core/shared_state.h"
 #include "games/action/jailbreak/jailbreak_screen.h"
-#include "platform/dialogs.h"
-#include "platform/music.h"
-#include "platform/screen_metrics.h"
-#include "platform/services.h"
-#include "platform/sound.h"
-#include "platform/ticker.h"
 
 using namespace wm;
 
@@ -102,13 +93,4 @@ WM_TICK_BENCHMARK(BM_JailbreakEscapeTick);
 
 }  // namespace
 
-int main(int argc, char** argv) {
-    ScriptedDialogs dialogs;
-    RecordingSound sound;
-    RecordingMusic music;
-    return bench::RunInQt(argc, argv, [&] {
-        services() = {&dialogs, &sound, &music};
-        Ticker::get().setManual(true);  // only the benchmark moves the game
-        ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
-    });
-}
+WM_SCREEN_BENCH_MAIN()

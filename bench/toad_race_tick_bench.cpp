@@ -1,18 +1,9 @@
 // One frame of Toad Race at its busiest on a 1920x1080 screen: all four toads in the air at
 // once, splash rings spreading, the winner's sparkles and a call popping in, the changed
 // rectangles painted.
-#include "qt_bench.h"
+#include "screen_bench.h"
 
-#include <QApplication>
-
-#include "core/shared_state.h"
 #include "games/action/toad_race/toad_race_screen.h"
-#include "platform/dialogs.h"
-#include "platform/music.h"
-#include "platform/screen_metrics.h"
-#include "platform/services.h"
-#include "platform/sound.h"
-#include "platform/ticker.h"
 
 using namespace wm;
 
@@ -52,13 +43,4 @@ WM_TICK_BENCHMARK(BM_ToadRaceTick);
 
 }  // namespace
 
-int main(int argc, char** argv) {
-    ScriptedDialogs dialogs;
-    RecordingSound sound;
-    RecordingMusic music;
-    return bench::RunInQt(argc, argv, [&] {
-        services() = {&dialogs, &sound, &music};
-        Ticker::get().setManual(true);  // only the benchmark moves the game
-        ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
-    });
-}
+WM_SCREEN_BENCH_MAIN()
