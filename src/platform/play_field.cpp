@@ -252,13 +252,48 @@ QRect PlayField::toWidget(const QRect& logical) const {
 void PlayField::render(QPainter& painter, const QRegion& region) const {
     const QRect t = targetRect();
     const QRegion bars = region.subtracted(QRegion(t));
-    for (const QRect& bar : bars) painter.fillRect(bar, Qt::black);
+    if (!bars.isEmpty()) {
+        const QImage& around = surround();
+        for (const QRect& bar : bars) painter.drawImage(bar.topLeft(), around, bar);
+    }
     for (const QRect& r : region.intersected(t)) renderField(painter, r);
 }
 
 void PlayField::render(QPainter& painter, const QList<QRect>& rects) const {
     const QRect t = targetRect();
     for (const QRect& r : rects) renderField(painter, r.intersected(t));
+}
+
+const QImage& PlayField::surround() const {
+    if (surround_.size() == size() && surroundOf_ == background_.cacheKey()) return surround_;
+    surroundOf_ = background_.cacheKey();
+    surround_ = QImage(size(), kFormat);
+    surround_.fill(Qt::black);
+    const QRect t = targetRect();
+    if (background_.isNull() || t.isEmpty()) return surround_;
+    // Each bar is the strip of the background beside it, turned over like a reflection: the
+    // horizon and the ground run on unbroken across the edge.
+    const QImage shown =
+        background_.scaled(t.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QPainter p(&surround_);
+    const int side = std::min(t.left(), t.width());
+    const int above = std::min(t.top(), t.height());
+    if (side > 0) {
+        p.drawImage(t.left() - side, t.top(),
+                    shown.copy(0, 0, side, t.height()).mirrored(true, false));
+        p.drawImage(t.right() + 1, t.top(),
+                    shown.copy(t.width() - side, 0, side, t.height()).mirrored(true, false));
+    }
+    if (above > 0) {
+        p.drawImage(t.left(), t.top() - above,
+                    shown.copy(0, 0, t.width(), above).mirrored(false, true));
+        p.drawImage(t.left(), t.bottom() + 1,
+                    shown.copy(0, t.height() - above, t.width(), above).mirrored(false, true));
+    }
+    p.fillRect(surround_.rect(), QColor(0, 0, 0, 140));
+    // A soft shadow where the field meets the bars, as if it stood a little in front.
+    for (int i = 1; i <= 10; ++i) p.fillRect(t.adjusted(-i, -i, i, i), QColor(0, 0, 0, 20));
+    return surround_;
 }
 
 void PlayField::syncScaler() const {

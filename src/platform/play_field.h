@@ -60,7 +60,8 @@ public:
     // rectangles asked to repaint (overlapping ones merged). Call once a tick.
     QList<QRect> flush();
 
-    // Where the field sits in the widget: aspect kept, centred, black bars round it.
+    // Where the field sits in the widget: aspect kept, centred. The bars round it show the
+    // background's edges mirrored and dimmed, so that the scene seems to go on.
     QRect targetRect() const;
     QPoint toLogical(const QPoint& widgetPos) const;  // may fall outside the field, in the bars
     QRect toWidget(const QRect& logical) const;       // covers every pixel `logical` touches
@@ -83,6 +84,7 @@ protected:
 private:
     void renderField(QPainter& painter, const QRect& area) const;
     void syncScaler() const;  // the scaled picture at the present widget size
+    const QImage& surround() const;  // what the bars show, at the present widget size
     QImage surface_;
     QImage background_;
     // Plain lists, not QRegion: sixty sprites a tick would cost more in band merging than in
@@ -90,6 +92,8 @@ private:
     std::vector<QRect> dirty_;    // field pixels changed since the last flush
     QList<QRect> pushed_;         // widget rectangles flushed since the last paint
     mutable FieldScaler scaler_;  // the field as shown: scaled once, kept up to date by flush()
+    mutable QImage surround_;
+    mutable qint64 surroundOf_ = 0;  // the background's key it was made from
 };
 
 // The mask and picture of a picture with alpha, for drawMasked().

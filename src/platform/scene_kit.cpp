@@ -2,9 +2,26 @@
 
 #include <QLinearGradient>
 #include <QPainter>
+#include <QPixmap>
 #include <QRadialGradient>
+#include <QSvgRenderer>
 
 namespace wm::scene {
+
+QPixmap coverPicture(QSvgRenderer& drawing, QSize size, const QColor& fill) {
+    QPixmap out(size);
+    out.fill(fill);
+    if (!drawing.isValid() || size.isEmpty()) return out;
+    QPainter p(&out);
+    p.setRenderHint(QPainter::Antialiasing);
+    const QSizeF vb = drawing.viewBoxF().size();
+    const double k = std::max(size.width() / vb.width(), size.height() / vb.height());
+    const QSizeF sz = vb * k;
+    drawing.render(
+        &p,
+        QRectF(QPointF((size.width() - sz.width()) / 2, (size.height() - sz.height()) / 2), sz));
+    return out;
+}
 
 QRectF fitStage(const QRectF& rect, const QSizeF& stage) {
     const double scale = std::min(rect.width() / stage.width(), rect.height() / stage.height());

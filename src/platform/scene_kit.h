@@ -1,5 +1,5 @@
 // Small drawing helpers shared by the animation scenes: easing curves, fitting a fixed stage
-// into any rectangle, letter tiles and sparkles.
+// into any rectangle, backdrops cut to the screen, letter tiles and sparkles.
 #pragma once
 
 #include <QColor>
@@ -10,6 +10,9 @@
 #include <cmath>
 
 class QPainter;
+class QPixmap;
+class QSize;
+class QSvgRenderer;
 
 namespace wm::scene {
 
@@ -44,6 +47,9 @@ inline QColor withAlpha(QColor c, double alpha) {
     return c;
 }
 
+// A drawing made into a backdrop of `size`: it keeps its shape and is cut to fill the whole, on
+// `fill` where the drawing is missing.
+QPixmap coverPicture(QSvgRenderer& drawing, QSize size, const QColor& fill);
 // The largest rectangle of the stage's shape centred in `rect`.
 QRectF fitStage(const QRectF& rect, const QSizeF& stage);
 QPainterPath letterTilePath(const QRectF& r);

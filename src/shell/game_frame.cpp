@@ -257,6 +257,23 @@ std::function<void()> GameFrame::later(std::function<void()> then) {
     };
 }
 
+GameTimer& GameFrame::pauseTimer(const QString& name, int intervalMs) {
+    pause_ = &timer(
+        name, intervalMs,
+        [this] {
+            auto then = std::move(paused_);
+            paused_ = nullptr;
+            if (then) then();
+        },
+        true);
+    return *pause_;
+}
+
+void GameFrame::pauseThen(int ms, std::function<void()> then) {
+    paused_ = later(std::move(then));
+    if (pause_) pause_->start(ms);
+}
+
 void GameFrame::setMusic(MusicKind kind, QString tune) {
     musicKind_ = kind;
     tune_ = std::move(tune);

@@ -134,6 +134,11 @@ public:
     int round() const { return round_; }
     void newGame();
     std::function<void()> later(std::function<void()> then);
+    // A one-shot named timer for the pauses between a game's moments (the wait before the next
+    // word, the moment a won code is admired). pauseThen() runs `then` once `ms` have passed,
+    // unless a newer pause replaces it first; a new round drops it.
+    GameTimer& pauseTimer(const QString& name, int intervalMs);
+    void pauseThen(int ms, std::function<void()> then);
 
     void setMusic(MusicKind kind, QString tune = {});
     void startMusic();
@@ -177,6 +182,8 @@ private:
     QString tune_;
     bool ownMusicOpen_ = false;  // the game's own MusicOpen flag
     std::function<Spoken()> sayWhat_;
+    GameTimer* pause_ = nullptr;
+    std::function<void()> paused_;  // what the pause runs when it is over
 };
 
 }  // namespace wm

@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "game_road.h"
+#include "game_start.h"  // LabelText
 
 namespace wm::test {
 
@@ -35,11 +36,6 @@ inline bool ClickTitleButton(const QString& game) {
                 return true;
             }
     return false;
-}
-
-inline QString LabelText(QWidget* w, const char* name) {
-    auto* l = w ? w->findChild<QLabel*>(name) : nullptr;
-    return l ? l->text() : QString("<no %1>").arg(name);
 }
 
 inline QPushButton* Button(QWidget* w, const char* name) {

@@ -74,7 +74,8 @@ bool guardStep(Jail& j);
 // is free. Nothing for an open lock or no lock.
 std::optional<std::string> hint(SharedState& s, Jail& j, int lock);
 
-// The selection moves to `lock`, or to the first shut lock when `lock` is open or out of range.
+// The selection moves to `lock` when it is a shut lock; a click on an open lock or beside the
+// locks leaves it where it was.
 void select(Jail& j, int lock);
 
 std::string caughtText(const Jail& j);

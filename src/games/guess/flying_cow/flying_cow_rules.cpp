@@ -51,7 +51,7 @@ int drawWord(const SharedState& s, Rng& rng, const std::vector<int>& drawn) {
     auto fresh = [&](int k) {
         const std::string w = UCase(s.Words[k]);
         for (int d : drawn)
-            if (d >= 0 && d < static_cast<int>(s.Words.size()) && UCase(s.Words[d]) == w)
+            if (static_cast<std::size_t>(d) < s.Words.size() && UCase(s.Words[d]) == w)
                 return false;
         return true;
     };
@@ -112,7 +112,9 @@ bool Game::drawNext(SharedState& s, Rng& rng) {
 }
 
 Key Game::press(SharedState& s, char key) {
-    if (over_ || key == 0 || !guessed(key)) return Key::Ignored;
+    // A space, hyphen or apostrophe is never a guess: no letter of the word is one, and none is
+    // a letter (below).
+    if (over_ || key == 0) return Key::Ignored;
     const std::string up = upper1(key);
     bool inWord = false;
     for (char c : word_)

@@ -6,6 +6,7 @@
 #include <QRandomGenerator>
 #include <cmath>
 
+#include "platform/scene_kit.h"
 #include "platform/services.h"
 #include "platform/text.h"
 #include "platform/ticker.h"
@@ -218,18 +219,7 @@ void FreezeScene::composeBack() {
 }
 
 void FreezeScene::resizeEvent(QResizeEvent*) {
-    backRaw_ = QPixmap(size());
-    backRaw_.fill(QColor(18, 40, 86));
-    if (back_.isValid()) {
-        QPainter p(&backRaw_);
-        p.setRenderHint(QPainter::Antialiasing);
-        // The scene keeps its shape: cut to the screen rather than stretched.
-        const QSizeF vb = back_.viewBoxF().size();
-        const double k = std::max(width() / vb.width(), height() / vb.height());
-        const QSizeF sz = vb * k;
-        back_.render(&p,
-                     QRectF(QPointF((width() - sz.width()) / 2, (height() - sz.height()) / 2), sz));
-    }
+    backRaw_ = scene::coverPicture(back_, size(), QColor(18, 40, 86));
     composeBack();
     const int fs = std::max(10, height() / 60);
     flake_ = sprite("flake", QSize(fs, fs));

@@ -45,14 +45,7 @@ FreezeIt::FreezeIt(QWidget* parent)
       frame_(this, menuNames(), [this] { NewGame(); }),
       Timer1(frame_.timer("Timer1", thawInterval(3), [this] { thawTick(); })),
       Timer2(frame_.timer("Timer2", kFrameMs, [this] { frameTick(); })),
-      Timer3(frame_.timer(
-          "Timer3", kReadyMs,
-          [this] {
-              auto then = std::move(then_);
-              then_ = nullptr;
-              if (then) then();
-          },
-          true)),
+      Timer3(frame_.pauseTimer("Timer3", kReadyMs)),
       Timer4(frame_.timer(
           "Timer4", 1300, [this] { scene_->banner({}); }, true)) {
     setObjectName("FreezeIt");
@@ -110,7 +103,6 @@ FreezeIt::FreezeIt(QWidget* parent)
 
 void FreezeIt::NewGame() {
     SharedState& s = Shared();
-    then_ = nullptr;
     showBox(false);
     Command2->hide();
     Label4->clear();
@@ -125,7 +117,7 @@ void FreezeIt::NewGame() {
     showScore();
     scene_->banner("Get ready!");
     setFocus();
-    pauseThen(kReadyMs, [this] {
+    frame_.pauseThen(kReadyMs, [this] {
         frame_.startMusic();
         startThaw();
     });
@@ -192,7 +184,7 @@ void FreezeIt::checkAnswer() {
             scene_->right();
             scene_->banner(QString("Right! +%1").arg(game_.lastPoints()), FreezeScene::Mood::Good);
             sound().effect("freeze-right.wav");
-            pauseThen(kRightMs, [this] { nextWord(); });
+            frame_.pauseThen(kRightMs, [this] { nextWord(); });
             return;
         case Answer::Wrong:
             showBox(false);
@@ -226,7 +218,7 @@ void FreezeIt::wordMelted() {
     scene_->melted();
     scene_->banner(toQ("The word was: " + game_.word()), FreezeScene::Mood::Cold);
     sound().effect("freeze-melt.wav");
-    pauseThen(kMeltedMs, [this] { nextWord(); });
+    frame_.pauseThen(kMeltedMs, [this] { nextWord(); });
 }
 
 void FreezeIt::nextWord() {
@@ -240,7 +232,7 @@ void FreezeIt::nextWord() {
     }
     showWord();
     scene_->banner(QString("Word %1 of %2").arg(game_.wordNumber()).arg(kWordsPerGame));
-    pauseThen(kBetweenMs, [this] { startThaw(); });
+    frame_.pauseThen(kBetweenMs, [this] { startThaw(); });
 }
 
 void FreezeIt::endGame() {
@@ -252,7 +244,7 @@ void FreezeIt::endGame() {
         scene_->banner(QString("You did it! %1 points").arg(frame_.scoreText(s.Score)),
                        FreezeScene::Mood::Good);
         sound().effect("freeze-win.wav");
-        pauseThen(kEndMs, [this] { frame_.wonGame(); });
+        frame_.pauseThen(kEndMs, [this] { frame_.wonGame(); });
         return;
     }
     // Nothing won: no table, the words shown, and another go offered.
@@ -264,7 +256,7 @@ void FreezeIt::endGame() {
     words.removeDuplicates();
     const QString text = "The ice kept its secrets this time! The words were: " + words.join(", ") +
                          ". Would you like to try again?";
-    pauseThen(kEndMs, [this, text] { frame_.askTryAgain(text, "Try Again?"); });
+    frame_.pauseThen(kEndMs, [this, text] { frame_.askTryAgain(text, "Try Again?"); });
 }
 
 void FreezeIt::showPanels() {
@@ -282,11 +274,6 @@ void FreezeIt::showBox(bool on) {
     Text1->setVisible(on);
     Command1->setVisible(on);
     if (on) Text1->setFocus();
-}
-
-void FreezeIt::pauseThen(int ms, std::function<void()> then) {
-    then_ = frame_.later(std::move(then));
-    Timer3.start(ms);
 }
 
 void FreezeIt::insertChar(const QString& c) {

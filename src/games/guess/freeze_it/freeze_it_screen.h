@@ -53,7 +53,6 @@ private:
     void showScore();
     void showPanels();
     void showBox(bool on);
-    void pauseThen(int ms, std::function<void()> then);
     void insertChar(const QString& c);
     void fitClue();
 
@@ -71,7 +70,6 @@ private:
     GameTimer& Timer2;      // the picture's frames
     GameTimer& Timer3;      // a pause between moments
     GameTimer& Timer4;      // clears a passing banner
-    std::function<void()> then_;
 };
 
 }  // namespace wm

@@ -172,18 +172,7 @@ void CodeScene::composeBack() {
 }
 
 void CodeScene::resizeEvent(QResizeEvent*) {
-    backRaw_ = QPixmap(size());
-    backRaw_.fill(QColor(24, 22, 40));
-    if (back_.isValid()) {
-        QPainter p(&backRaw_);
-        p.setRenderHint(QPainter::Antialiasing);
-        // The room keeps its shape: cut to the screen rather than stretched.
-        const QSizeF vb = back_.viewBoxF().size();
-        const double k = std::max(width() / vb.width(), height() / vb.height());
-        const QSizeF sz = vb * k;
-        back_.render(&p,
-                     QRectF(QPointF((width() - sz.width()) / 2, (height() - sz.height()) / 2), sz));
-    }
+    backRaw_ = scene::coverPicture(back_, size(), QColor(24, 22, 40));
     composeBack();
 }
 

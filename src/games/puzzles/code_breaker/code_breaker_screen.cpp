@@ -42,14 +42,7 @@ CodeBreaker::CodeBreaker(QWidget* parent)
       frame_(this, menuNames(), [this] { NewGame(); }),
       Timer1(frame_.timer("Timer1", 1000, [this] { clockTick(); })),
       Timer2(frame_.timer("Timer2", Ticker::kFrameMs, [this] { frameTick(); })),
-      Timer3(frame_.timer(
-          "Timer3", kReadyMs,
-          [this] {
-              auto then = std::move(then_);
-              then_ = nullptr;
-              if (then) then();
-          },
-          true)),
+      Timer3(frame_.pauseTimer("Timer3", kReadyMs)),
       Timer4(frame_.timer(
           "Timer4", kPassingMs,
           [this] {
@@ -104,7 +97,6 @@ CodeBreaker::CodeBreaker(QWidget* parent)
 
 void CodeBreaker::NewGame() {
     SharedState& s = Shared();
-    then_ = nullptr;
     const bool ok = game_.start(s, TheRng());
     scene_->newCode();
     Label2->setText(QString("Level %1").arg(game_.level()));
@@ -128,7 +120,7 @@ void CodeBreaker::NewGame() {
     moved();
     scene_->banner("Get ready!");
     setFocus();
-    pauseThen(kReadyMs, [this] { begin(); });
+    frame_.pauseThen(kReadyMs, [this] { begin(); });
 }
 
 void CodeBreaker::begin() {
@@ -245,7 +237,7 @@ void CodeBreaker::codeCracked() {
     scene_->won();
     scene_->banner(QString("Code cracked! %1 points").arg(game_.points()), CodeScene::Mood::Good);
     sound().effect("cb-win.wav");
-    pauseThen(kEndMs, [this] { frame_.wonGame(); });
+    frame_.pauseThen(kEndMs, [this] { frame_.wonGame(); });
 }
 
 void CodeBreaker::timeUp() {
@@ -259,12 +251,7 @@ void CodeBreaker::timeUp() {
     scene_->banner("Time's up!", CodeScene::Mood::Bad);
     sound().effect("cb-lose.wav");
     const QString text = toQ(timeUpText(game_.words()));
-    pauseThen(kEndMs, [this, text] { frame_.askTryAgain(text, "Time's up!"); });
-}
-
-void CodeBreaker::pauseThen(int ms, std::function<void()> then) {
-    then_ = frame_.later(std::move(then));
-    Timer3.start(ms);
+    frame_.pauseThen(kEndMs, [this, text] { frame_.askTryAgain(text, "Time's up!"); });
 }
 
 void CodeBreaker::keyPressEvent(QKeyEvent* e) {

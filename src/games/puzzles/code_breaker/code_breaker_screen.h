@@ -49,7 +49,6 @@ private:
     void moved();
     void showClock();
     void passing(const QString& text, CodeScene::Mood mood);
-    void pauseThen(int ms, std::function<void()> then);
     void fitClue();
 
     GameFrame frame_;
@@ -65,7 +64,6 @@ private:
     GameTimer& Timer2;      // the picture's frames
     GameTimer& Timer3;      // a pause before the next moment
     GameTimer& Timer4;      // clears a passing message
-    std::function<void()> then_;
 };
 
 }  // namespace wm

@@ -95,13 +95,15 @@ TEST(FlyingCowRules, LettersCaseAccentsAndWhatShowsFromTheStart) {
     EXPECT_EQ(Shown(g), ".... ..-....'.");
     for (char c : {' ', '-', '\'', '1', '.', '\0'}) EXPECT_EQ(g.press(s, c), Key::Ignored) << c;
     EXPECT_EQ(g.misses(), 0);
-    EXPECT_EQ(g.press(s, 'e'), Key::Miss);  // the accent counts: e is not é
+    EXPECT_EQ(g.press(s, 'e'), Key::Miss);    // the accent counts: e is not é
     EXPECT_EQ(g.press(s, '\xC9'), Key::Hit);  // É is é
     EXPECT_EQ(g.press(s, '\xE9'), Key::Repeat);
     EXPECT_EQ(g.press(s, 'E'), Key::Repeat);
     EXPECT_EQ(g.press(s, 'C'), Key::Hit);
     EXPECT_EQ(Shown(g), "c..\xE9 ..-....'.");
-    EXPECT_EQ(g.tried(), "e\xE9" "c");
+    EXPECT_EQ(g.tried(),
+              "e\xE9"
+              "c");
     EXPECT_EQ(g.triedState('e'), -1);
     EXPECT_EQ(g.triedState('C'), 1);
     EXPECT_EQ(g.triedState('z'), 0);
@@ -117,6 +119,20 @@ TEST(FlyingCowRules, LettersCaseAccentsAndWhatShowsFromTheStart) {
     ASSERT_TRUE(g.start(owl, rng));
     EXPECT_EQ(g.press(owl, '\xD7'), Key::Ignored);
     EXPECT_EQ(g.press(owl, '\xC0'), Key::Miss);
+    // What stands before the first letter shows from the start too.
+    SharedState twas = ListOf({"'twas"}, 4);
+    ASSERT_TRUE(g.start(twas, rng));
+    EXPECT_EQ(Shown(g), "'....");
+}
+
+TEST(FlyingCowRules, WhatCountsAsALetter) {
+    // The edges of the alphabets, and the scattered accented letters of Windows-1252 below 0xC0.
+    for (int c : std::initializer_list<int>{'A', 'Z', 'a', 'z', 0x8A, 0x8C, 0x8E, 0x9A, 0x9C, 0x9E,
+                                            0x9F, 0xC0, 0xFF})
+        EXPECT_TRUE(isLetter(char(c))) << c;
+    for (int c : std::initializer_list<int>{'@', '[', '`', '{', '0', 0x80, 0x8B, 0x8D, 0x9B, 0xBF,
+                                            0xD7, 0xF7})
+        EXPECT_FALSE(isLetter(char(c))) << c;
 }
 
 TEST(FlyingCowRules, RungsUpOnMissesDownOnADoubleFill) {
