@@ -71,6 +71,9 @@ TEST(FreezeIt, ThawTakesTheDrawnHiddenBlockUntilTheWordMelts) {
     EXPECT_EQ(s.Score, 0);
     EXPECT_EQ(g.thaw(rng), -1);
     EXPECT_FALSE(g.freeze());
+    // A new game forgets the words the last one lost.
+    ASSERT_TRUE(g.start(s, rng));
+    EXPECT_TRUE(g.missed().empty());
 }
 
 TEST(FreezeIt, FreezeStopsTheThawAndAnswersAreChecked) {
@@ -141,15 +144,20 @@ TEST(FreezeIt, ShortListStartsOverButNotWithTheWordJustPlayed) {
         std::vector<std::string> words;
         double first;  // the fallback draw: 0.0 word 1, 0.99 the last
         const char* order;
+        std::vector<int> picks = {};  // draws made before the fallback, of the list's words
     };
     const Row rows[] = {
         {{"owl", "- -", "bat"}, 0.0, "owl bat owl bat owl"},  // a word without letters never
         {{"owl", "bat"}, 0.99, "bat owl bat owl bat"},          // just played, whichever it was
         {{"  owl "}, 0.5, "owl owl owl owl owl"},                 // one word, again and again
+        {{"owl", "- -"}, 0.5, "owl owl owl owl owl"},             // the only word with letters
+        // The fourth draw says the word just played: the next free one comes instead.
+        {{"owl", "bat", "cat"}, 0.0, "owl bat cat owl bat", {1, 2, 3, 3}},
     };
     for (const Row& r : rows) {
         SharedState s = ListOf(r.words, 3);
         ScriptedRng rng(r.first);
+        for (int k : r.picks) rng.pick(k, int(r.words.size()));
         Game g;
         ASSERT_TRUE(g.start(s, rng));
         std::string order = g.word();
