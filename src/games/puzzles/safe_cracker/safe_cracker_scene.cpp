@@ -1,0 +1,264 @@
+#include "games/puzzles/safe_cracker/safe_cracker_scene.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QRadialGradient>
+#include <QSvgRenderer>
+#include <cmath>
+
+#include "platform/scene_kit.h"
+#include "platform/services.h"
+
+namespace wm::safe {
+
+namespace {
+using namespace scene;
+
+constexpr double kRoomW = 1600, kRoomH = 1000;
+const QRectF kDoor(70, 58, 1060, 636);        // the door, hinged on its left edge
+const QRectF kGrid(112, 92, 772, 568);         // where the rows of tumblers sit
+const QPointF kDial(1010, 250), kHandle(1010, 505);
+constexpr double kRowPitch = 568.0 / 6;
+constexpr double kCellH = 80, kCellGap = 8, kCellMaxW = 84;
+constexpr double kPi = 3.14159265358979;
+
+QColor markColour(int mark) {
+    switch (mark) {
+        case 1: return QColor(110, 118, 132);
+        case 2: return QColor(240, 164, 32);
+        case 3: return QColor(52, 168, 83);
+        default: return QColor(250, 244, 224);
+    }
+}
+}  // namespace
+
+SafePicture::SafePicture()
+    : room_(std::make_unique<QSvgRenderer>(appFile("images/safe-vault.svg"))),
+      parts_(std::make_unique<QSvgRenderer>(appFile("images/safe-parts.svg"))) {}
+
+SafePicture::~SafePicture() = default;
+
+void SafePicture::resize(QSize screen, const QRect& safeArea) {
+    if (screen.isEmpty() || safeArea.isEmpty()) return;
+    if (screen != size_) {
+        size_ = screen;
+        // The room covers the screen: kept in shape, centred, its edges cut as need be.
+        const double s = std::max(screen.width() / kRoomW, screen.height() / kRoomH);
+        roomPixmap_ = QPixmap(screen);
+        roomPixmap_.fill(QColor(34, 44, 58));
+        if (room_->isValid()) {
+            QPainter p(&roomPixmap_);
+            p.setRenderHint(QPainter::Antialiasing);
+            p.translate((screen.width() - kRoomW * s) / 2, (screen.height() - kRoomH * s) / 2);
+            p.scale(s, s);
+            room_->render(&p, QRectF(0, 0, kRoomW, kRoomH));
+        }
+    }
+    if (safeArea == safeArea_) return;
+    safeArea_ = safeArea;
+    const QRectF fit = fitStage(QRectF(safeArea), QSizeF(kArtW, kArtH));
+    safeRect_ = fit.toAlignedRect();
+    scale_ = fit.width() / kArtW;
+    art_ = QTransform::fromTranslate(fit.left(), fit.top()).scale(scale_, scale_);
+    const int b = int(std::clamp(safeArea.height() * 0.16, 40.0, 150.0));
+    beaconRect_ = QRect(0, 0, b, b);
+    cache_.clear();
+    doorLayer_ = QPixmap();
+}
+
+// A part of the safe drawing, rendered once at the safe's size.
+QPixmap SafePicture::part(const QString& id) const {
+    for (const auto& [name, pm] : cache_)
+        if (name == id) return pm;
+    QPixmap pm;
+    if (parts_->isValid() && parts_->elementExists(id)) {
+        const QRectF b = parts_->boundsOnElement(id);
+        const QSize px = (b.size() * scale_).toSize().expandedTo(QSize(1, 1));
+        QImage img(px, QImage::Format_ARGB32_Premultiplied);
+        img.fill(Qt::transparent);
+        QPainter p(&img);
+        p.setRenderHint(QPainter::Antialiasing);
+        parts_->render(&p, id, QRectF(QPointF(0, 0), QSizeF(px)));
+        p.end();
+        pm = QPixmap::fromImage(img);
+    }
+    cache_.emplace_back(id, pm);
+    return pm;
+}
+
+void SafePicture::paintRoom(QPainter& p, const QRect& area) const {
+    p.drawPixmap(area, roomPixmap_, area);
+}
+
+QRectF SafePicture::cellRect(int row, int col, int columns) const {
+    const int n = std::max(1, columns);
+    const double w = std::min(kCellMaxW, (kGrid.width() - (n - 1) * kCellGap) / n);
+    const double left = kGrid.left() + (kGrid.width() - (n * w + (n - 1) * kCellGap)) / 2;
+    const double top = kGrid.top() + row * kRowPitch + (kRowPitch - kCellH) / 2;
+    return art_.mapRect(QRectF(left + col * (w + kCellGap), top, w, kCellH));
+}
+
+void SafePicture::paintTumbler(QPainter& p, const QRectF& r, const Tumbler& t, bool active) const {
+    QFont f("DejaVu Sans");
+    f.setBold(true);
+    f.setPixelSize(std::max(6, int(std::min(r.height() * 0.58, r.width() * 0.78))));
+    p.setFont(f);
+    if (t.mark < 0) {
+        // A blank or a hyphen stands fixed: no tumbler, the sign engraved on the panel.
+        p.setPen(QColor(200, 210, 222));
+        p.drawText(r, Qt::AlignCenter, t.letter);
+        return;
+    }
+    const double radius = r.width() * 0.16;
+    const bool lit = t.flip >= 0.5 && t.mark > 0;
+    if (t.letter.isEmpty() && !lit) {
+        // An empty tumbler: a dark slot in the panel.
+        p.setPen(QPen(active ? QColor(255, 205, 90) : QColor(90, 102, 118), active ? 3 : 2));
+        QLinearGradient g(r.topLeft(), r.bottomLeft());
+        g.setColorAt(0, QColor(16, 20, 28));
+        g.setColorAt(1, QColor(44, 52, 64));
+        p.setBrush(g);
+        p.drawRoundedRect(r, radius, radius);
+        return;
+    }
+    // Turning: squeezed top to bottom around the middle, lit from half way.
+    const double squeeze = std::abs(std::cos(kPi * clamp01(t.flip)));
+    const QRectF box(r.left(), r.center().y() - r.height() / 2 * squeeze, r.width(),
+                     r.height() * squeeze);
+    const QColor face = markColour(lit ? t.mark : 0);
+    QLinearGradient g(box.topLeft(), box.bottomLeft());
+    g.setColorAt(0, face.lighter(125));
+    g.setColorAt(0.5, face);
+    g.setColorAt(1, face.darker(130));
+    p.setPen(QPen(active ? QColor(255, 205, 90) : face.darker(170), active ? 3 : 2));
+    p.setBrush(g);
+    p.drawRoundedRect(box, radius, radius * squeeze);
+    // The drum's band across the middle.
+    p.setPen(QPen(withAlpha(Qt::white, 0.35), 1));
+    p.drawLine(QPointF(box.left() + 4, box.top() + box.height() * 0.16),
+               QPointF(box.right() - 4, box.top() + box.height() * 0.16));
+    if (squeeze > 0.25) {
+        p.save();
+        p.translate(box.center());
+        p.scale(1, squeeze);
+        p.setPen(lit ? QColor(Qt::white) : QColor(40, 44, 60));
+        p.drawText(QRectF(-r.width() / 2, -r.height() / 2, r.width(), r.height()), Qt::AlignCenter,
+                   t.letter);
+        p.restore();
+    }
+}
+
+void SafePicture::paintDoor(QPainter& p, const SafeView& v) const {
+    const QPixmap door = part("door");
+    if (!door.isNull()) p.drawPixmap(art_.mapRect(parts_->boundsOnElement("door")), door, door.rect());
+    for (int row = 0; row < int(v.rows.size()); ++row) {
+        const bool active = row == v.activeRow;
+        const double dx = active ? v.shake * scale_ : 0;
+        for (int col = 0; col < int(v.rows[row].size()) && col < v.columns; ++col)
+            paintTumbler(p, cellRect(row, col, v.columns).translated(dx, 0), v.rows[row][col],
+                         active);
+    }
+    auto spin = [&](const char* id, QPointF centre, double angle) {
+        const QPixmap pm = part(id);
+        if (pm.isNull()) return;
+        const QRectF b = parts_->boundsOnElement(id);
+        const QPointF c = toScreen(centre);
+        p.save();
+        p.translate(c);
+        p.rotate(angle);
+        const QRectF at((b.left() - centre.x()) * scale_, (b.top() - centre.y()) * scale_,
+                        b.width() * scale_, b.height() * scale_);
+        p.drawPixmap(at, pm, pm.rect());
+        p.restore();
+    };
+    spin("dial", kDial, v.dial);
+    spin("handle", kHandle, v.handle);
+}
+
+void SafePicture::paintSafe(QPainter& p, const SafeView& v) const {
+    p.save();
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    const QPixmap body = part("body");
+    if (!body.isNull()) p.drawPixmap(art_.mapRect(parts_->boundsOnElement("body")), body, body.rect());
+    if (v.door <= 0) {
+        doorLayer_ = QPixmap();
+        paintDoor(p, v);
+    } else {
+        const QRectF doorRect = art_.mapRect(kDoor);
+        const QPixmap inside = part("inside");
+        if (!inside.isNull())
+            p.drawPixmap(art_.mapRect(parts_->boundsOnElement("inside")), inside, inside.rect());
+        // Glints on the gold.
+        for (int i = 0; i < 5; ++i) {
+            const double phase = std::fmod(v.time * 0.9 + i * 0.37, 1.0);
+            const QPointF at = toScreen(QPointF(260 + i * 170, 470 + 60 * std::sin(i * 2.1)));
+            paintSparkle(p, at, 26 * scale_ * std::sin(phase * kPi), phase * 90,
+                         std::sin(phase * kPi) * clamp01(v.door * 2));
+        }
+        if (doorLayer_.isNull()) {
+            // The door swings as one picture: its rows as they stood when it opened.
+            doorLayer_ = QPixmap(size_);
+            doorLayer_.fill(Qt::transparent);
+            QPainter d(&doorLayer_);
+            d.setRenderHint(QPainter::Antialiasing);
+            d.setClipRect(doorRect.adjusted(-4, -4, 4, 4));
+            SafeView shut = v;
+            shut.door = 0;
+            paintDoor(d, shut);
+        }
+        const double angle = 108 * v.door;
+        QTransform t;
+        t.translate(doorRect.left(), doorRect.center().y());
+        t.rotate(-angle, Qt::YAxis, 1600 * scale_);
+        t.translate(-doorRect.left(), -doorRect.center().y());
+        p.save();
+        p.setTransform(t, true);
+        p.drawPixmap(doorRect, doorLayer_, doorRect);
+        // The door's face darkens as it turns away from the lamp.
+        p.fillRect(doorRect, withAlpha(QColor(10, 12, 20), 0.55 * v.door));
+        p.restore();
+    }
+    if (v.alarm > 0) {
+        // The alarm's red light washes over the steel.
+        QRadialGradient g(QPointF(safeRect_.center()), safeRect_.width() * 0.7);
+        g.setColorAt(0, withAlpha(QColor(255, 40, 30), 0.10 * v.alarm));
+        g.setColorAt(1, withAlpha(QColor(255, 40, 30), 0.34 * v.alarm));
+        p.fillRect(safeRect_, g);
+    }
+    if (v.pointsAlpha > 0 && !v.points.isEmpty()) {
+        QFont f("DejaVu Sans");
+        f.setBold(true);
+        f.setPixelSize(std::max(10, int(90 * scale_)));
+        p.setFont(f);
+        const QPointF at = toScreen(QPointF(600, 380 - v.pointsRise));
+        const QRectF box(at.x() - 400 * scale_, at.y() - 60 * scale_, 800 * scale_, 120 * scale_);
+        p.setPen(withAlpha(QColor(60, 30, 0), v.pointsAlpha));
+        p.drawText(box.translated(3 * scale_ + 1, 3 * scale_ + 1), Qt::AlignCenter, v.points);
+        p.setPen(withAlpha(QColor(255, 220, 90), v.pointsAlpha));
+        p.drawText(box, Qt::AlignCenter, v.points);
+    }
+    p.restore();
+}
+
+void SafePicture::paintBeacon(QPainter& p, double glow) const {
+    const QRectF r(beaconRect_);
+    p.save();
+    p.setRenderHint(QPainter::Antialiasing);
+    if (glow > 0) {
+        QRadialGradient g(r.center(), r.width() * 0.5);
+        g.setColorAt(0, withAlpha(QColor(255, 90, 60), 0.85 * glow));
+        g.setColorAt(0.45, withAlpha(QColor(255, 40, 30), 0.45 * glow));
+        g.setColorAt(1, withAlpha(QColor(255, 40, 30), 0));
+        p.setPen(Qt::NoPen);
+        p.setBrush(g);
+        p.drawEllipse(r);
+    }
+    const QPixmap lamp = part(glow > 0.5 ? "beacon_1" : "beacon_0");
+    const QRectF inner(r.center().x() - r.width() * 0.28, r.center().y() - r.height() * 0.3,
+                       r.width() * 0.56, r.height() * 0.6);
+    if (!lamp.isNull()) p.drawPixmap(fitStage(inner, lamp.size()), lamp, lamp.rect());
+    p.restore();
+}
+
+}  // namespace wm::safe
