@@ -4,6 +4,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QTimer>
+#include <cctype>
 #include <cmath>
 
 #include "core/rng.h"

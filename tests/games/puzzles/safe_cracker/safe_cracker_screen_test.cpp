@@ -88,6 +88,7 @@ void SafeCrackerScreenTest::fiveSafesFromTheTitleToTheTable() {
     QCOMPARE(label(game, "TriesLabel"), "Tries left: 5");
     Pump(600);
     QCOMPARE(Lights(game, 0), "GGxG");
+    Shot(game, "safe-cracker-rows");
     QCOMPARE(Look(game, 'g'), 4);
     QCOMPARE(Look(game, 'o'), 4);  // green somewhere beats grey elsewhere
     QCOMPARE(Look(game, 'l'), 1);
@@ -107,6 +108,7 @@ void SafeCrackerScreenTest::fiveSafesFromTheTitleToTheTable() {
     QCOMPARE(game->game().typedCount(), 0);
     Pump(1900);
     QVERIFY(game->view().door > 0.3);
+    Shot(game, "safe-cracker-open");
     Pump(1700);
     QCOMPARE(label(game, "ReadyLabel"), "Safe 2 of 5");
     QCOMPARE(label(game, "MeaningLabel"), "Clue: it opens a lock");
@@ -166,7 +168,9 @@ void SafeCrackerScreenTest::everySafeShutLosesTheGame() {
         for (const char* t : {"zzz", "zzy", "zyz", "yzz", "yyz", "zyy"}) Guess(game, t);
         QCOMPARE(game->phase(), SafeCracker::Phase::Alarm);
         if (safe == 5) fx.dialogs.answerYes(true);
-        Pump(3900);
+        Pump(1000);
+        if (safe == 1) Shot(game, "safe-cracker-alarm-1920");
+        Pump(2900);
     }
     QCOMPARE(fx.sound.played.last(), "sc-lose.wav");
     const auto& w = game->game().words();
