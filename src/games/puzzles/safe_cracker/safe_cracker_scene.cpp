@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QPolygonF>
 #include <QRadialGradient>
 #include <QSvgRenderer>
 #include <cmath>
@@ -207,17 +208,23 @@ void SafePicture::paintSafe(QPainter& p, const SafeView& v) const {
             shut.door = 0;
             paintDoor(d, shut);
         }
-        const double angle = 108 * v.door;
+        // Swung on its hinge towards us: the free edge comes round and grows as it nears.
+        const double th = 100 * v.door * kPi / 180;
+        const double edgeX = doorRect.left() + doorRect.width() * std::cos(th);
+        const double grow = doorRect.height() * 0.16 * std::sin(th);
+        const QPolygonF from{doorRect.topLeft(), doorRect.topRight(), doorRect.bottomRight(),
+                             doorRect.bottomLeft()};
+        const QPolygonF to{doorRect.topLeft(), QPointF(edgeX, doorRect.top() - grow),
+                           QPointF(edgeX, doorRect.bottom() + grow), doorRect.bottomLeft()};
         QTransform t;
-        t.translate(doorRect.left(), doorRect.center().y());
-        t.rotate(-angle, Qt::YAxis, 1600 * scale_);
-        t.translate(-doorRect.left(), -doorRect.center().y());
-        p.save();
-        p.setTransform(t, true);
-        p.drawPixmap(doorRect, doorLayer_, doorRect);
-        // The door's face darkens as it turns away from the lamp.
-        p.fillRect(doorRect, withAlpha(QColor(10, 12, 20), 0.55 * v.door));
-        p.restore();
+        if (std::abs(edgeX - doorRect.left()) > 2 && QTransform::quadToQuad(from, to, t)) {
+            p.save();
+            p.setTransform(t, true);
+            p.drawPixmap(doorRect, doorLayer_, doorRect);
+            // The door's face darkens as it turns away from the lamp.
+            p.fillRect(doorRect, withAlpha(QColor(10, 12, 20), 0.6 * v.door));
+            p.restore();
+        }
     }
     if (v.alarm > 0) {
         // The alarm's red light washes over the steel.

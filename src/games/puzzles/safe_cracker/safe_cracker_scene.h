@@ -51,6 +51,12 @@ public:
     // Where the alarm lamp hangs, on the wall above the safe.
     QRect beaconRect() const { return beaconRect_; }
     void placeBeacon(QPoint centre) { beaconRect_.moveCenter(centre); }
+    // All a frame may paint: the safe, its door swung out, and the lamp.
+    QRect frameRect() const {
+        return safeRect_.adjusted(-safeRect_.width() / 5, -safeRect_.height() / 5, 0,
+                                  safeRect_.height() / 5) |
+               beaconRect_;
+    }
     void paintRoom(QPainter& p, const QRect& area) const;
     void paintSafe(QPainter& p, const SafeView& v) const;
     void paintBeacon(QPainter& p, double glow) const;

@@ -309,7 +309,7 @@ void SafeCracker::animate() {
     if (!dirty_ && !moving(now)) return;
     dirty_ = false;
     view_ = viewAt(now);
-    update(picture_.safeRect().united(picture_.beaconRect()));
+    update(picture_.frameRect());
 }
 
 bool SafeCracker::moving(qint64 now) const {
@@ -367,7 +367,7 @@ void SafeCracker::refresh() {
     showHud();
     dirty_ = true;
     view_ = viewAt(nowMs());
-    update(picture_.safeRect().united(picture_.beaconRect()));
+    update(picture_.frameRect());
 }
 
 void SafeCracker::showKeys() {
