@@ -94,10 +94,6 @@ SafeCracker::SafeCracker(QWidget* parent)
         const std::string bytes = fromQ(c);
         if (!bytes.empty()) typeKey(bytes[0]);
     });
-    // The combination is the game: heard once the safe is decided; the clue whenever shown.
-    frame_.setSayIt([this] {
-        return SecretWord(game_.decided() && phase_ != Phase::Ready, MeaningLabel->isVisible());
-    });
 
     auto label = [this](const char* name, const char* style, int points) {
         auto* l = new QLabel(this);
@@ -138,6 +134,11 @@ SafeCracker::SafeCracker(QWidget* parent)
         b->setFocusPolicy(Qt::NoFocus);
         b->setCursor(Qt::PointingHandCursor);
     }
+
+    // The combination is the game: heard once the safe is decided; the clue whenever shown.
+    frame_.setSayIt([this] {
+        return SecretWord(game_.decided() && phase_ != Phase::Ready, MeaningLabel->isVisible());
+    });
 
     resize(ScreenMetrics::screenSize());
     QTimer::singleShot(0, &frame_, [this] { frame_.newGame(); });
