@@ -61,7 +61,7 @@ void SafePicture::resize(QSize screen, const QRect& safeArea) {
     safeRect_ = fit.toAlignedRect();
     scale_ = fit.width() / kArtW;
     art_ = QTransform::fromTranslate(fit.left(), fit.top()).scale(scale_, scale_);
-    const int b = int(std::clamp(safeArea.height() * 0.16, 40.0, 150.0));
+    const int b = int(std::clamp(safeArea.height() * 0.24, 48.0, 200.0));
     beaconRect_ = QRect(0, 0, b, b);
     cache_.clear();
     doorLayer_ = QPixmap();
@@ -226,12 +226,34 @@ void SafePicture::paintSafe(QPainter& p, const SafeView& v) const {
             p.restore();
         }
     }
+    const QRectF bodyRect = art_.mapRect(QRectF(28, 24, 1144, 702));
     if (v.alarm > 0) {
         // The alarm's red light washes over the steel.
-        QRadialGradient g(QPointF(safeRect_.center()), safeRect_.width() * 0.7);
+        QRadialGradient g(bodyRect.center(), bodyRect.width() * 0.7);
         g.setColorAt(0, withAlpha(QColor(255, 40, 30), 0.10 * v.alarm));
         g.setColorAt(1, withAlpha(QColor(255, 40, 30), 0.34 * v.alarm));
-        p.fillRect(safeRect_, g);
+        p.setPen(Qt::NoPen);
+        p.setBrush(g);
+        p.drawRoundedRect(bodyRect, 30 * scale_, 30 * scale_);
+    }
+    if (!v.reveal.isEmpty()) {
+        // The combination on a plaque across the tumblers.
+        const QRectF plaque = art_.mapRect(QRectF(150, 300, 696, 150));
+        p.setPen(QPen(QColor(255, 214, 120), std::max(2.0, 6 * scale_)));
+        QLinearGradient g(plaque.topLeft(), plaque.bottomLeft());
+        g.setColorAt(0, QColor(214, 52, 44));
+        g.setColorAt(1, QColor(140, 18, 20));
+        p.setBrush(g);
+        p.drawRoundedRect(plaque, 20 * scale_, 20 * scale_);
+        QFont f("DejaVu Sans");
+        f.setBold(true);
+        f.setPixelSize(std::max(8, int(84 * scale_)));
+        const int room = int(plaque.width() * 0.92);
+        while (f.pixelSize() > 8 && QFontMetrics(f).horizontalAdvance(v.reveal) > room)
+            f.setPixelSize(f.pixelSize() - 2);
+        p.setFont(f);
+        p.setPen(Qt::white);
+        p.drawText(plaque, Qt::AlignCenter, v.reveal);
     }
     if (v.pointsAlpha > 0 && !v.points.isEmpty()) {
         QFont f("DejaVu Sans");
@@ -262,8 +284,8 @@ void SafePicture::paintBeacon(QPainter& p, double glow) const {
         p.drawEllipse(r);
     }
     const QPixmap lamp = part(glow > 0.5 ? "beacon_1" : "beacon_0");
-    const QRectF inner(r.center().x() - r.width() * 0.28, r.center().y() - r.height() * 0.3,
-                       r.width() * 0.56, r.height() * 0.6);
+    const QRectF inner(r.center().x() - r.width() * 0.36, r.center().y() - r.height() * 0.4,
+                       r.width() * 0.72, r.height() * 0.8);
     if (!lamp.isNull()) p.drawPixmap(fitStage(inner, lamp.size()), lamp, lamp.rect());
     p.restore();
 }

@@ -37,6 +37,7 @@ struct SafeView {
     double door = 0;                         // 0 shut .. 1 wide open
     double alarm = 0;                        // 0..1: the red of the alarm
     double time = 0;                         // seconds, for the glints
+    QString reveal;                          // the combination, shown across a shut safe
     QString points;                          // "+290", rising out of the open safe
     double pointsRise = 0, pointsAlpha = 0;
 };

@@ -357,6 +357,7 @@ SafeView SafeCracker::viewAt(qint64 now) const {
         v.pointsAlpha = clamp01((after - kHandleMs) / 250) * clamp01((kEndMs - after) / 400);
     }
     if (phase_ == Phase::Alarm && after > 0) {
+        v.reveal = toQ(UCase(w));
         v.alarm = 0.5 + 0.5 * std::sin(after / 1000.0 * 2 * kPi * 2.5);
         v.shake = 6 * std::sin(after / 1000.0 * 50) * clamp01(1 - after / 900);
     }
@@ -380,6 +381,7 @@ void SafeCracker::showKeys() {
         if (b->property("look").toInt() != markValue(m) + 1) {
             b->setProperty("look", markValue(m) + 1);
             b->setStyleSheet(keyStyle(m));
+            b->setFont(keyFont_);  // a new style sheet takes the font back to the sheet's
         }
     }
     Command1->setEnabled(open);
@@ -442,17 +444,17 @@ void SafeCracker::resizeEvent(QResizeEvent*) {
     const double unit = (w - 2 * mx - 13 * keyGap) / 14.6;
     const int keyH = (keysH - keyGap) / 2;
     const int keysTop = h - gap - keysH;
-    QFont kf = ScreenFont(16, true);
-    kf.setPixelSize(std::max(8, std::min(int(unit), keyH) / 2));
+    keyFont_ = ScreenFont(16, true);
+    keyFont_.setPixelSize(std::max(8, std::min(int(unit), keyH) / 2));
     for (int i = 0; i < Keys.size(); ++i) {
         const int row = i / 13, col = i % 13;
-        Keys[i]->setFont(kf);
+        Keys[i]->setFont(keyFont_);
         Keys[i]->setGeometry(mx + int(col * (unit + keyGap)), keysTop + row * (keyH + keyGap),
                              int(unit), keyH);
     }
     const int endX = mx + int(13 * (unit + keyGap));
     QFont bf = ScreenFont(14, true);
-    bf.setPixelSize(std::max(8, keyH * 2 / 5));
+    bf.setPixelSize(std::max(8, std::min(keyH * 2 / 5, (w - mx - endX) / 7)));
     Command2->setFont(bf);
     Command1->setFont(bf);
     Command2->setGeometry(endX, keysTop, w - mx - endX, keyH);

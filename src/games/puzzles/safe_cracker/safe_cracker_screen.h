@@ -69,6 +69,7 @@ private:
     double dialFrom_ = 0, dialTo_ = 0;
     int dialTurn_ = 1;
     bool dirty_ = true;
+    QFont keyFont_;
 
     QLabel* SafeLabel;     // "Safe 1 of 5"
     QLabel* ScoreLabel;    // "Score: 0"
