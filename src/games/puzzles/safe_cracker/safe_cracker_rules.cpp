@@ -64,8 +64,6 @@ std::vector<Mark> markGuess(const std::string& word, const std::string& guess) {
             left.erase(at, 1);
         }
     }
-    for (std::size_t i = n; i < word.size(); ++i)
-        if (!fixedChar(word[i])) marks[i] = Mark::Grey;
     return marks;
 }
 

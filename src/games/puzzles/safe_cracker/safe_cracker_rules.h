@@ -39,7 +39,7 @@ int safePoints(int triesUsed, int length);
 // The tumblers of a whole guess (the word's length, fixed signs in place) against the word.
 // Case does not matter, accents do. A letter the word has n times lights (green or amber) at
 // most n times: the greens take their share first, then the ambers from the left.
-// Fixed places come back as Unknown.
+// Fixed places, and places past a short guess, come back as Unknown.
 std::vector<Mark> markGuess(const std::string& word, const std::string& guess);
 
 // The next word: Int(Rnd x WordCount + 1), skipping words not playable and, while unplayed ones
