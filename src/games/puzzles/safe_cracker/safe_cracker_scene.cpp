@@ -87,6 +87,27 @@ QPixmap SafePicture::part(const QString& id) const {
     return pm;
 }
 
+// The door swung on its hinge towards us: the free edge comes round and grows as it nears.
+QPolygonF SafePicture::swung(double door) const {
+    const QRectF r = art_.mapRect(kDoor);
+    const double th = 96 * door * kPi / 180;
+    const double edgeX = r.left() + r.width() * std::cos(th);
+    const double grow = r.height() * 0.08 * std::sin(th);
+    return QPolygonF{r.topLeft(), QPointF(edgeX, r.top() - grow), QPointF(edgeX, r.bottom() + grow),
+                     r.bottomLeft()};
+}
+
+QRect SafePicture::frameRect(double door) const {
+    QRect r = safeRect_ | beaconRect_;
+    if (door > 0) r |= swung(door).boundingRect().toAlignedRect().adjusted(-2, -2, 2, 2);
+    return r;
+}
+
+// Where a part's picture goes: its drawing's place, on whole pixels, so it is drawn unscaled.
+QPoint SafePicture::placed(const QString& id) const {
+    return art_.map(parts_->boundsOnElement(id).topLeft()).toPoint();
+}
+
 void SafePicture::paintRoom(QPainter& p, const QRect& area) const {
     p.drawPixmap(area, roomPixmap_, area);
 }
@@ -151,7 +172,7 @@ void SafePicture::paintTumbler(QPainter& p, const QRectF& r, const Tumbler& t, b
 
 void SafePicture::paintDoor(QPainter& p, const SafeView& v) const {
     const QPixmap door = part("door");
-    if (!door.isNull()) p.drawPixmap(art_.mapRect(parts_->boundsOnElement("door")), door, door.rect());
+    if (!door.isNull()) p.drawPixmap(placed("door"), door);
     for (int row = 0; row < int(v.rows.size()); ++row) {
         const bool active = row == v.activeRow;
         const double dx = active ? v.shake * scale_ : 0;
@@ -181,7 +202,7 @@ void SafePicture::paintSafe(QPainter& p, const SafeView& v) const {
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::SmoothPixmapTransform);
     const QPixmap body = part("body");
-    if (!body.isNull()) p.drawPixmap(art_.mapRect(parts_->boundsOnElement("body")), body, body.rect());
+    if (!body.isNull()) p.drawPixmap(placed("body"), body);
     if (v.door <= 0) {
         doorLayer_ = QPixmap();
         paintDoor(p, v);
@@ -189,7 +210,7 @@ void SafePicture::paintSafe(QPainter& p, const SafeView& v) const {
         const QRectF doorRect = art_.mapRect(kDoor);
         const QPixmap inside = part("inside");
         if (!inside.isNull())
-            p.drawPixmap(art_.mapRect(parts_->boundsOnElement("inside")), inside, inside.rect());
+            p.drawPixmap(placed("inside"), inside);
         // Glints on the gold.
         for (int i = 0; i < 5; ++i) {
             const double phase = std::fmod(v.time * 0.9 + i * 0.37, 1.0);
@@ -199,28 +220,26 @@ void SafePicture::paintSafe(QPainter& p, const SafeView& v) const {
         }
         if (doorLayer_.isNull()) {
             // The door swings as one picture: its rows as they stood when it opened.
-            doorLayer_ = QPixmap(size_);
+            doorLayer_ = QPixmap(doorRect.toAlignedRect().size());
             doorLayer_.fill(Qt::transparent);
             QPainter d(&doorLayer_);
             d.setRenderHint(QPainter::Antialiasing);
-            d.setClipRect(doorRect.adjusted(-4, -4, 4, 4));
+            d.translate(-doorRect.toAlignedRect().topLeft());
             SafeView shut = v;
             shut.door = 0;
             paintDoor(d, shut);
         }
-        // Swung on its hinge towards us: the free edge comes round and grows as it nears.
-        const double th = 100 * v.door * kPi / 180;
-        const double edgeX = doorRect.left() + doorRect.width() * std::cos(th);
-        const double grow = doorRect.height() * 0.16 * std::sin(th);
         const QPolygonF from{doorRect.topLeft(), doorRect.topRight(), doorRect.bottomRight(),
                              doorRect.bottomLeft()};
-        const QPolygonF to{doorRect.topLeft(), QPointF(edgeX, doorRect.top() - grow),
-                           QPointF(edgeX, doorRect.bottom() + grow), doorRect.bottomLeft()};
+        const QPolygonF to = swung(v.door);
+        const double edgeX = to[1].x();
         QTransform t;
         if (std::abs(edgeX - doorRect.left()) > 2 && QTransform::quadToQuad(from, to, t)) {
             p.save();
             p.setTransform(t, true);
-            p.drawPixmap(doorRect, doorLayer_, doorRect);
+            // Moving fast, the door needs no smoothing, and a frame stays cheap.
+            p.setRenderHint(QPainter::SmoothPixmapTransform, false);
+            p.drawPixmap(doorRect.toAlignedRect().topLeft(), doorLayer_);
             // The door's face darkens as it turns away from the lamp.
             p.fillRect(doorRect, withAlpha(QColor(10, 12, 20), 0.6 * v.door));
             p.restore();
@@ -256,16 +275,30 @@ void SafePicture::paintSafe(QPainter& p, const SafeView& v) const {
         p.drawText(plaque, Qt::AlignCenter, v.reveal);
     }
     if (v.pointsAlpha > 0 && !v.points.isEmpty()) {
-        QFont f("DejaVu Sans");
-        f.setBold(true);
-        f.setPixelSize(std::max(10, int(90 * scale_)));
-        p.setFont(f);
+        if (v.points != pointsText_) {
+            // Drawn once: large type is slow to draw afresh every frame.
+            pointsText_ = v.points;
+            QFont f("DejaVu Sans");
+            f.setBold(true);
+            f.setPixelSize(std::max(10, int(90 * scale_)));
+            const QSize box = QFontMetrics(f).size(0, v.points) + QSize(8, 8);
+            QImage img(box, QImage::Format_ARGB32_Premultiplied);
+            img.fill(Qt::transparent);
+            QPainter q(&img);
+            q.setRenderHint(QPainter::TextAntialiasing);
+            q.setFont(f);
+            q.setPen(QColor(60, 30, 0));
+            q.drawText(img.rect().translated(3, 3), Qt::AlignCenter, v.points);
+            q.setPen(QColor(255, 220, 90));
+            q.drawText(img.rect(), Qt::AlignCenter, v.points);
+            q.end();
+            pointsPixmap_ = QPixmap::fromImage(img);
+        }
         const QPointF at = toScreen(QPointF(600, 380 - v.pointsRise));
-        const QRectF box(at.x() - 400 * scale_, at.y() - 60 * scale_, 800 * scale_, 120 * scale_);
-        p.setPen(withAlpha(QColor(60, 30, 0), v.pointsAlpha));
-        p.drawText(box.translated(3 * scale_ + 1, 3 * scale_ + 1), Qt::AlignCenter, v.points);
-        p.setPen(withAlpha(QColor(255, 220, 90), v.pointsAlpha));
-        p.drawText(box, Qt::AlignCenter, v.points);
+        p.setOpacity(v.pointsAlpha);
+        p.drawPixmap((at - QPointF(pointsPixmap_.width(), pointsPixmap_.height()) / 2).toPoint(),
+                     pointsPixmap_);
+        p.setOpacity(1);
     }
     p.restore();
 }

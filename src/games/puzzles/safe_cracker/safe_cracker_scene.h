@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QPixmap>
+#include <QPolygonF>
 #include <QRect>
 #include <QSize>
 #include <QString>
@@ -52,12 +53,8 @@ public:
     // Where the alarm lamp hangs, on the wall above the safe.
     QRect beaconRect() const { return beaconRect_; }
     void placeBeacon(QPoint centre) { beaconRect_.moveCenter(centre); }
-    // All a frame may paint: the safe, its door swung out, and the lamp.
-    QRect frameRect() const {
-        return safeRect_.adjusted(-safeRect_.width() / 5, -safeRect_.height() / 5, 0,
-                                  safeRect_.height() / 5) |
-               beaconRect_;
-    }
+    // All a frame may paint: the safe, its door swung out by `door`, and the lamp.
+    QRect frameRect(double door) const;
     void paintRoom(QPainter& p, const QRect& area) const;
     void paintSafe(QPainter& p, const SafeView& v) const;
     void paintBeacon(QPainter& p, double glow) const;
@@ -66,6 +63,8 @@ public:
 
 private:
     QPixmap part(const QString& id) const;
+    QPoint placed(const QString& id) const;
+    QPolygonF swung(double door) const;
     void paintDoor(QPainter& p, const SafeView& v) const;
     void paintTumbler(QPainter& p, const QRectF& r, const Tumbler& t, bool active) const;
     QPointF toScreen(QPointF art) const { return art_.map(art); }
@@ -79,6 +78,8 @@ private:
     QPixmap roomPixmap_;
     mutable std::vector<std::pair<QString, QPixmap>> cache_;
     mutable QPixmap doorLayer_;  // the door with its rows, for the swing
+    mutable QPixmap pointsPixmap_;
+    mutable QString pointsText_;
 };
 
 }  // namespace wm::safe

@@ -309,8 +309,9 @@ void SafeCracker::animate() {
     }
     if (!dirty_ && !moving(now)) return;
     dirty_ = false;
+    const double door = view_.door;
     view_ = viewAt(now);
-    update(picture_.frameRect());
+    update(picture_.frameRect(door) | picture_.frameRect(view_.door));
 }
 
 bool SafeCracker::moving(qint64 now) const {
@@ -369,7 +370,7 @@ void SafeCracker::refresh() {
     showHud();
     dirty_ = true;
     view_ = viewAt(nowMs());
-    update(picture_.frameRect());
+    update(picture_.frameRect(view_.door));
 }
 
 void SafeCracker::showKeys() {
