@@ -126,7 +126,6 @@ bool Game::drawNext(SharedState& s, Rng& rng) {
     open_ = int(std::count_if(word_.begin(), word_.end(), typable));
     typed_.clear();
     rows_.clear();
-    lastPoints_ = 0;
     opened_ = false;
     decided_ = false;
     ++number_;

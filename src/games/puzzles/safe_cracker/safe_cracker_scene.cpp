@@ -97,9 +97,9 @@ QPolygonF SafePicture::swung(double door) const {
                      r.bottomLeft()};
 }
 
-QRect SafePicture::frameRect(double door) const {
-    QRect r = safeRect_ | beaconRect_;
-    if (door > 0) r |= swung(door).boundingRect().toAlignedRect().adjusted(-2, -2, 2, 2);
+QRegion SafePicture::frameRegion(double door) const {
+    QRegion r = QRegion(safeRect_) + QRegion(beaconRect_);
+    if (door > 0) r += swung(door).boundingRect().toAlignedRect().adjusted(-2, -2, 2, 2);
     return r;
 }
 

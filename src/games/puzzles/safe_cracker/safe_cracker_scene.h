@@ -7,6 +7,7 @@
 #include <QPixmap>
 #include <QPolygonF>
 #include <QRect>
+#include <QRegion>
 #include <QSize>
 #include <QString>
 #include <QTransform>
@@ -54,7 +55,7 @@ public:
     QRect beaconRect() const { return beaconRect_; }
     void placeBeacon(QPoint centre) { beaconRect_.moveCenter(centre); }
     // All a frame may paint: the safe, its door swung out by `door`, and the lamp.
-    QRect frameRect(double door) const;
+    QRegion frameRegion(double door) const;
     void paintRoom(QPainter& p, const QRect& area) const;
     void paintSafe(QPainter& p, const SafeView& v) const;
     void paintBeacon(QPainter& p, double glow) const;

@@ -311,7 +311,7 @@ void SafeCracker::animate() {
     dirty_ = false;
     const double door = view_.door;
     view_ = viewAt(now);
-    update(picture_.frameRect(door) | picture_.frameRect(view_.door));
+    update(picture_.frameRegion(door) + picture_.frameRegion(view_.door));
 }
 
 bool SafeCracker::moving(qint64 now) const {
@@ -370,7 +370,7 @@ void SafeCracker::refresh() {
     showHud();
     dirty_ = true;
     view_ = viewAt(nowMs());
-    update(picture_.frameRect(view_.door));
+    update(picture_.frameRegion(view_.door));
 }
 
 void SafeCracker::showKeys() {
