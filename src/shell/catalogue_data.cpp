@@ -363,10 +363,13 @@ std::vector<GameCard> BuildCatalogue() {
 
     cards.push_back(Card(
         "Safe Cracker", Elig(WO::WarnIfOption, kMsgW1, "SafeCracker"), NoDifficulty(Shown),
-        "Try to crack the safe! The combination is a hidden vocabulary word, shown as a row of "
-        "blanks. Turn the dial to a letter and press ENTER to try it. A right letter fills in "
-        "its blanks; a wrong one costs points. If you chose to show the word meaning, it appears "
-        "above the safe as your clue. Fill in the word to open the safe!"));
+        "Try to crack the safe! The combination is a hidden vocabulary word, with one tumbler "
+        "for each letter. Type a whole word that long (or click the letter keys) and press "
+        "ENTER. A tumbler turns green for a right letter in the right place, amber for a letter "
+        "that is in the word somewhere else, and grey for a letter that is not in it at all. "
+        "The keys below remember what you found. You have six tries for each safe, and the "
+        "fewer you need, the more points you get. Open five safes! If you chose to show the "
+        "word meaning, it appears above the safe as your clue."));
 
     cards.push_back(Card(
         "Word Bricks", AtLeastDifficulty(Elig(WO::Allowed, "", "WordBricks"), kMsgE1),

@@ -1,0 +1,161 @@
+// Safe Cracker's rules over a scripted generator: the tumblers' colours with the repeated-letter
+// rule, case and accents; what stands fixed; the draw without repeats and its bound; typing a
+// row, the tries and the alarm; the points of an opened safe.
+#include <gtest/gtest.h>
+
+#include "core/rng.h"
+#include "core/shared_state.h"
+#include "games/puzzles/safe_cracker/safe_cracker_rules.h"
+#include "word_lists.h"
+
+using namespace wm;
+using namespace wm::safe;
+using wm::test::ListOf;
+
+namespace {
+// The tumblers as letters: G green, A amber, x grey, . fixed.
+std::string Lights(const std::vector<Mark>& marks) {
+    std::string out;
+    for (Mark m : marks)
+        out += m == Mark::Green ? 'G' : m == Mark::Amber ? 'A' : m == Mark::Grey ? 'x' : '.';
+    return out;
+}
+
+Entry Try(Game& g, SharedState& s, const std::string& letters) {
+    for (char c : letters) g.type(c);
+    return g.enter(s);
+}
+}  // namespace
+
+TEST(SafeCrackerRules, TumblersLightAsOftenAsTheWordHasTheLetter) {
+    struct Row {
+        const char* word;
+        const char* guess;
+        const char* lights;
+    } rows[] = {
+        {"crane", "crane", "GGGGG"},
+        {"crane", "nacre", "AAAAG"},
+        {"crane", "doubt", "xxxxx"},
+        {"apple", "paper", "AAGAx"},
+        {"apple", "ppppp", "xGGxx"},  // two p's: the greens take them, the rest are grey
+        {"abbey", "bxbbx", "AxGxx"},  // two b's: one green, then one amber from the left
+        {"llama", "alloy", "AGAxx"},
+        {"CaT", "cAt", "GGG"},        // case does not matter
+        {"caf\xE9", "cafe", "GGGx"},  // accents do
+        {"caf\xE9", "CAF\xC9", "GGGG"},
+        {"ice-cream", "ice-maker", "GGG.AAxAA"},
+        {"x-ray", "y-arx", "A.AAA"},
+        {"up to", "tu op", "AA.AA"},
+        {"r2d2", "2r2d", "AAAA"},
+        {"mom's", "mmm's", "GxG.G"},
+    };
+    for (auto r : rows)
+        EXPECT_EQ(Lights(markGuess(r.word, r.guess)), r.lights) << r.word << "/" << r.guess;
+}
+
+TEST(SafeCrackerRules, WhatIsTypedAndWhatStandsFixed) {
+    for (char c : {'a', 'Z', '7', '\xE9', '\x8A'}) EXPECT_TRUE(typable(c)) << int(c);
+    for (char c : {' ', '-', '\'', '.', '\xD7'}) EXPECT_TRUE(fixedChar(c)) << int(c);
+    EXPECT_TRUE(playable("abcdefghijkl"));
+    EXPECT_FALSE(playable("abcdefghijklm"));  // thirteen letters
+    EXPECT_FALSE(playable("- -"));
+    EXPECT_EQ(safePoints(1, 5), 350);
+    EXPECT_EQ(safePoints(6, 12), 170);
+    EXPECT_EQ(alarmText("x-ray"), "The alarm went off! The combination was x-ray.");
+    EXPECT_EQ(lostText({"a", "b", "c"}),
+              "The alarm went off at every safe! The combinations were a, b and c.");
+    EXPECT_EQ(lostText({"owl"}), "The alarm went off at every safe! The combinations were owl.");
+}
+
+TEST(SafeCrackerRules, DrawsWithoutRepeatsSkipsWhatCannotBePlayedAndIsBounded) {
+    SharedState s = ListOf({"apple", "abcdefghijklm", "APPLE", "berry", "- -"});
+    ScriptedRng rng;
+    // Int(Rnd x 5 + 1): 1; then 3 ("APPLE" is "apple" again), 2 (too long), 4.
+    rng.pick(1, 5).pick(3, 5).pick(2, 5).pick(4, 5);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    EXPECT_EQ(rng.randomizeCount, 1);
+    EXPECT_EQ(g.word(), "apple");
+    EXPECT_EQ(s.TheWord, "apple");
+    EXPECT_EQ(s.TheMeaning, "meaning of apple");
+    EXPECT_EQ(Try(g, s, "paple"), Entry::Wrong);
+    ASSERT_TRUE(g.nextSafe(s, rng));
+    EXPECT_EQ(g.word(), "berry");
+    EXPECT_EQ(g.safeNumber(), 2);
+    EXPECT_EQ(g.triesUsed(), 0);
+    EXPECT_EQ(g.keyMark('p'), Mark::Unknown);  // each safe starts with a fresh keyboard
+    EXPECT_EQ(rng.draws, 4);
+    // Every word had its safe: repeats come back.
+    rng.pick(3, 5);
+    ASSERT_TRUE(g.nextSafe(s, rng));
+    EXPECT_EQ(g.word(), "APPLE");
+    // A generator stuck on a drawn word: 200 draws, then the walk on from the last one.
+    ScriptedRng stuck((1 - 0.5) / 5);
+    EXPECT_EQ(drawWord(s, stuck, {1}), 4);
+    EXPECT_EQ(stuck.draws, 200);
+    SharedState none = ListOf({"", "--", "abcdefghijklmn"});
+    EXPECT_EQ(drawWord(none, rng, {}), 0);
+    EXPECT_FALSE(g.start(none, rng));
+    EXPECT_EQ(g.type('a'), Entry::Ignored);
+    SharedState empty = ListOf({});
+    EXPECT_EQ(drawWord(empty, rng, {}), 0);
+}
+
+TEST(SafeCrackerRules, TypingARowAndTheTriesOfASafe) {
+    SharedState s = ListOf({"ice-cream"});
+    ScriptedRng rng;
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    EXPECT_EQ(g.openCount(), 8);
+    EXPECT_EQ(g.current(), "   -     ");
+    EXPECT_EQ(g.type('-'), Entry::Ignored);  // the hyphen stands in its place
+    EXPECT_EQ(g.erase(), Entry::Ignored);
+    for (char c : std::string("ICEC")) EXPECT_EQ(g.type(c), Entry::Typed);
+    EXPECT_EQ(g.enter(s), Entry::Short);
+    EXPECT_EQ(g.erase(), Entry::Erased);
+    EXPECT_EQ(g.current(), "ICE-     ");
+    for (char c : std::string("makerx")) g.type(c);
+    EXPECT_EQ(g.type('z'), Entry::Ignored);  // the row is full
+    EXPECT_EQ(g.current(), "ICE-maker");
+    EXPECT_EQ(g.enter(s), Entry::Wrong);
+    EXPECT_EQ(g.triesUsed(), 1);
+    // The same guess again, in any case, costs no try.
+    EXPECT_EQ(Try(g, s, "icemaker"), Entry::Repeat);
+    EXPECT_EQ(g.triesUsed(), 1);
+    for (char c = 0; c < 8; ++c) g.erase();
+    // The keyboard: the best each letter is known to be.
+    EXPECT_EQ(Try(g, s, "cearmerk"), Entry::Wrong);
+    EXPECT_EQ(g.keyMark('i'), Mark::Green);
+    EXPECT_EQ(g.keyMark('A'), Mark::Amber);
+    EXPECT_EQ(g.keyMark('e'), Mark::Green);  // amber once, green once
+    EXPECT_EQ(g.keyMark('k'), Mark::Grey);
+    EXPECT_EQ(g.keyMark('q'), Mark::Unknown);
+    EXPECT_EQ(g.triesLeft(), 4);
+    EXPECT_EQ(Try(g, s, "IceCream"), Entry::Opened);
+    // Opened on the third try: (7 - 3) x 50 + 9 x 10.
+    EXPECT_EQ(g.lastPoints(), 290);
+    EXPECT_EQ(s.Score, 290);
+    EXPECT_EQ(g.type('a'), Entry::Ignored);
+}
+
+TEST(SafeCrackerRules, TheSixthWrongTrySetsOffTheAlarm) {
+    SharedState s = ListOf({"owl"});
+    ScriptedRng rng;
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    const char* tries[] = {"abc", "def", "ghi", "jkm", "npq"};
+    for (const char* t : tries) ASSERT_EQ(Try(g, s, t), Entry::Wrong) << t;
+    EXPECT_FALSE(g.decided());
+    EXPECT_EQ(Try(g, s, "rst"), Entry::Alarm);
+    EXPECT_TRUE(g.decided());
+    EXPECT_FALSE(g.opened());
+    EXPECT_EQ(g.triesUsed(), 6);
+    EXPECT_EQ(s.Score, 0);
+    EXPECT_EQ(g.safesOpened(), 0);
+    EXPECT_EQ(Try(g, s, "owl"), Entry::Ignored);
+    // Opened on the sixth try instead: the least a safe scores.
+    ASSERT_TRUE(g.start(s, rng));
+    for (const char* t : tries) Try(g, s, t);
+    EXPECT_EQ(Try(g, s, "OWL"), Entry::Opened);
+    EXPECT_EQ(s.Score, 50 + 30);
+}
