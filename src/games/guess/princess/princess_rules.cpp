@@ -68,6 +68,7 @@ std::vector<int> layStones(const std::string& word, Rng& rng) {
     for (int p = 0; p < static_cast<int>(word.size()); ++p)
         if (onStone(word[p])) order.push_back(p);
     const int n = static_cast<int>(order.size());
+    if (n < 2) return order;
     // Read in the moat's order, the stones spell the word: no puzzle left.
     const std::vector<int> inWord = order;
     auto readsAsWord = [&] {
