@@ -23,7 +23,6 @@ constexpr double kGateX = 1270, kHingeY = 482, kGateTop = 342, kGateHalf = 74;
 constexpr double kBridgeFoot = 752;                  // the near bank, where the bridge lands
 const QPointF kPrincessHome(1270, 918);
 const QPointF kDragonFeet(1474, 268);
-const QRectF kMeterArea(1296, 132, 288, 50);
 
 // A cheap fixed hash in [0, 1), so droplets and hearts keep their places from frame to frame.
 double hash01(int i) {
@@ -293,19 +292,21 @@ void PrincessPicture::paintDragon(QPainter& p, const View& v) const {
     if (v.wake > 0) {
         // Up on its hind legs, wings spread, breathing fire over the moat.
         const double u = clamp01(v.wake * 3);
-        const QPointF feet = kDragonFeet + QPointF(0, -18 * std::sin(kPi * clamp01(v.wake * 2)));
-        drawSprite(p, "dragon-awake", feet, lerp(0.8, 1.05, easeOut(u)));
-        const double fire = clamp01((v.wake - 0.3) / 0.5) * clamp01((1 - v.wake) / 0.12);
-        const QPointF mouth = feet + QPointF(-112, -168);
+        const QPointF feet = kDragonFeet + QPointF(0, -14 * std::sin(kPi * clamp01(v.wake * 2)));
+        const double s = lerp(0.55, 0.78, easeOut(u));
+        drawSprite(p, "dragon-awake", feet, s);
+        const double fire = clamp01((v.wake - 0.15) / 0.2) * clamp01((1 - v.wake) / 0.12);
+        const QPointF mouth = feet + QPointF(-112, -168) * s;  // its mouth in the drawing
         p.setPen(Qt::NoPen);
         for (int k = 0; k < 22; ++k) {
             double f = v.time * 1.8 + hash01(k);
             f -= std::floor(f);
-            const QPointF at = mouth + QPointF(-380 * f, 190 * f * f + (hash01(k + 9) - 0.5) * 60 * f);
-            const double rad = 14 + 46 * f;
+            const QPointF at =
+                mouth + QPointF(-330 * f, 260 * f * f + (hash01(k + 9) - 0.5) * 80 * f);
+            const double rad = 16 + 60 * f;
             QRadialGradient g(at, rad);
-            g.setColorAt(0, withAlpha(QColor(255, 240, 150), fire * (1 - f)));
-            g.setColorAt(0.5, withAlpha(QColor(255, 140, 30), fire * (1 - f) * 0.8));
+            g.setColorAt(0, withAlpha(QColor(255, 246, 170), fire * (1 - 0.6 * f)));
+            g.setColorAt(0.5, withAlpha(QColor(255, 130, 20), fire * (1 - 0.6 * f) * 0.9));
             g.setColorAt(1, withAlpha(QColor(220, 40, 20), 0));
             p.setBrush(g);
             p.drawEllipse(at, rad, rad);
@@ -335,20 +336,23 @@ void PrincessPicture::paintDragon(QPainter& p, const View& v) const {
 
 // The sleep meter: eight marks, lit one by one as the dragon stirs.
 void PrincessPicture::paintMeter(QPainter& p, const View& v) const {
-    p.setPen(QPen(QColor(255, 228, 150), 3));
-    p.setBrush(QColor(40, 24, 70, 215));
-    p.drawRoundedRect(kMeterArea, 22, 22);
-    const double step = (kMeterArea.width() - 28) / 8;
+    const QRectF& m = v.meter;
+    if (m.isEmpty()) return;
+    p.setPen(QPen(QColor(255, 222, 140, 200), 2));
+    p.setBrush(QColor(52, 30, 84, 205));
+    p.drawRoundedRect(m, m.height() / 2.6, m.height() / 2.6);
+    const double step = (m.width() - m.height() * 0.4) / 8;
+    const double r = std::min(step * 0.4, m.height() * 0.3);
     for (int k = 0; k < 8; ++k) {
-        const QPointF c(kMeterArea.left() + 14 + step * (k + 0.5), kMeterArea.center().y());
+        const QPointF c(m.left() + m.height() * 0.2 + step * (k + 0.5), m.center().y());
         const bool lit = k < v.marks;
         const double pulse = (lit && k == v.marks - 1) ? 1 + 0.35 * v.stir : 1;
-        QRadialGradient g(c - QPointF(4, 4), 16 * pulse);
+        QRadialGradient g(c - QPointF(r / 3, r / 3), r * 1.4 * pulse);
         g.setColorAt(0, lit ? QColor(255, 200, 90) : QColor(170, 200, 255));
         g.setColorAt(1, lit ? QColor(214, 54, 30) : QColor(70, 90, 160));
         p.setPen(QPen(QColor(20, 10, 40), 2));
         p.setBrush(g);
-        p.drawEllipse(c, 12 * pulse, 12 * pulse);
+        p.drawEllipse(c, r * pulse, r * pulse);
     }
 }
 
@@ -414,7 +418,7 @@ QRegion PrincessPicture::movingRegion() const {
 
 QRegion PrincessPicture::busyRegion(const View& v) const {
     // The dragon breathes and snores, and the meter pulses, all the time.
-    QRegion r = toScreen_.mapRect(QRectF(1280, 110, 320, 180)).toAlignedRect().adjusted(-2, -2, 2, 2);
+    QRegion r = toScreen_.mapRect(QRectF(1280, 110, 320, 180) | v.meter).toAlignedRect().adjusted(-2, -2, 2, 2);
     bool moat = v.splash < 1 || (!v.points.isEmpty() && v.pointsU < 1);
     for (double u : v.rise) moat = moat || u < 1;
     if (moat) r += toScreen_.mapRect(QRectF(30, 470, 1140, 500)).toAlignedRect();

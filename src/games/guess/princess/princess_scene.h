@@ -34,6 +34,7 @@ struct View {
     int splashStone = -1;        // the stone that splashed last
     double splash = 1;           // 0..1 through its splash
     int marks = 0;               // the meter's marks lit
+    QRectF meter;                // where the meter stands, beside its label
     double stir = 0;             // 0..1: the dragon stirring (1 at its start)
     double wake = 0;             // 0..1: the dragon waking up and breathing fire
     double bridge = 0;           // 0 up .. 1 all the way down

@@ -100,7 +100,6 @@ void frmPrincess::NewGame() {
         return;
     }
     bridgeFrom_ = bridgeTo_ = 0;
-    view_ = View{};
     frame_.startMusic();
     startWord(true);
     Timer1.start();
@@ -324,11 +323,12 @@ void frmPrincess::resizeEvent(QResizeEvent*) {
     const int hudW = std::max(w / 7, ScoreLabel->sizeHint().width());
     WordLabel->setGeometry(sky.left(), hudTop, std::max(hudW, WordLabel->sizeHint().width()), hudH);
     ScoreLabel->setGeometry(WordLabel->geometry().right() + gap, hudTop, hudW, hudH);
-    // The splash count stands over the meter's marks by the dragon.
-    const QRect meter = m.mapRect(QRectF(1296, 132, 288, 50)).toRect();
-    const int meterW = std::max(meter.width(), MeterLabel->sizeHint().width());
-    MeterLabel->setGeometry(std::min(meter.left(), w - meterW - 4),
-                            std::max(hudTop, meter.top() - hudH - 4), meterW, hudH);
+    // The splash count and the dragon's sleep meter at the top right, clear of the dragon.
+    const int marksW = hudH * 7;
+    const int meterW = MeterLabel->sizeHint().width();
+    const int right = std::min(w - gap, int(m.map(QPointF(kStageW - 16, 0)).x()));
+    MeterLabel->setGeometry(right - marksW - gap - meterW, hudTop, meterW, hudH);
+    view_.meter = m.inverted().mapRect(QRectF(right - marksW, hudTop, marksW, hudH));
     MeaningLabel->setGeometry(sky.left(), std::max(sky.top(), hudTop + hudH + gap), sky.width(),
                               sky.bottom() - std::max(sky.top(), hudTop + hudH + gap));
     ReadyLabel->adjustSize();
