@@ -69,6 +69,8 @@ void PrincessPicture::resize(QSize size) {
     }
     cache_.clear();
     tiles_.clear();
+    fireball_ = QPixmap();
+    bridge_ = QPixmap();
 }
 
 QRectF PrincessPicture::stoneRect(int i, int n) {
@@ -105,14 +107,14 @@ QPointF PrincessPicture::readyPoint() {
     return {600, 470};
 }
 
-const QPixmap& PrincessPicture::sprite(const QString& id, double scale) const {
-    const QString key = id + QString::number(scale);
-    auto it = cache_.find(key);
+// The sprite rendered once at its full size on this screen; smaller poses shrink the picture.
+const QPixmap& PrincessPicture::sprite(const QString& id) const {
+    auto it = cache_.find(id);
     if (it != cache_.end()) return it->second;
-    QPixmap& pm = cache_[key];
+    QPixmap& pm = cache_[id];
     if (!sprites_->isValid() || !sprites_->elementExists(id)) return pm;
     const QRectF b = sprites_->boundsOnElement(id);
-    const QSize px = (b.size() * scale_ * scale).toSize().expandedTo(QSize(1, 1));
+    const QSize px = (b.size() * scale_).toSize().expandedTo(QSize(1, 1));
     QImage img(px, QImage::Format_ARGB32_Premultiplied);
     img.fill(Qt::transparent);
     QPainter p(&img);
@@ -129,7 +131,7 @@ void PrincessPicture::drawSprite(QPainter& p, const QString& id, const QPointF& 
                                  double scale, double anchorY) const {
     if (!sprites_->isValid() || !sprites_->elementExists(id)) return;
     const QSizeF s = sprites_->boundsOnElement(id).size() * scale;
-    const QPixmap& pm = sprite(id, scale);
+    const QPixmap& pm = sprite(id);
     p.drawPixmap(QRectF(anchor.x() - s.width() / 2, anchor.y() - s.height() * anchorY, s.width(),
                         s.height()),
                  pm, QRectF(pm.rect()));
@@ -167,6 +169,26 @@ const QPixmap& PrincessPicture::tile(bool plank, char letter, bool lost, QSizeF 
     return tiles_[key] = QPixmap::fromImage(img);
 }
 
+// One puff of flame, drawn once: the fire is many of them, grown and faded as they fly.
+const QPixmap& PrincessPicture::fireball() const {
+    if (!fireball_.isNull()) return fireball_;
+    const int d = std::max(8, int(152 * scale_));
+    QImage img(d, d, QImage::Format_ARGB32_Premultiplied);
+    img.fill(Qt::transparent);
+    QPainter p(&img);
+    p.setRenderHint(QPainter::Antialiasing);
+    QRadialGradient g(QPointF(d / 2.0, d / 2.0), d / 2.0);
+    g.setColorAt(0, QColor(255, 246, 170));
+    g.setColorAt(0.5, withAlpha(QColor(255, 130, 20), 0.9));
+    g.setColorAt(1, withAlpha(QColor(220, 40, 20), 0));
+    p.setPen(Qt::NoPen);
+    p.setBrush(g);
+    p.drawEllipse(QRectF(0, 0, d, d));
+    p.end();
+    fireball_ = QPixmap::fromImage(img);
+    return fireball_;
+}
+
 void PrincessPicture::paintField(QPainter& p, const QRect& area) const {
     p.drawPixmap(area, fieldPixmap_, area);
 }
@@ -194,23 +216,42 @@ void PrincessPicture::paintBridge(QPainter& p, const View& v) const {
     const double endY = kHingeY - (kHingeY - kGateTop) * std::cos(a) +
                         (kBridgeFoot - kHingeY) * std::sin(a);
     const double endHalf = kGateHalf + 18 * std::sin(a);
-    const QPolygonF quad({QPointF(kGateX - endHalf, endY), QPointF(kGateX + endHalf, endY),
-                          QPointF(kGateX + kGateHalf, kHingeY), QPointF(kGateX - kGateHalf, kHingeY)});
-    // The chains, from the top of the gate to the bridge's far corners.
-    p.setPen(QPen(QColor(60, 60, 70), 4, Qt::DotLine, Qt::RoundCap));
-    p.drawLine(QPointF(kGateX - kGateHalf - 16, kGateTop - 18), quad[0]);
-    p.drawLine(QPointF(kGateX + kGateHalf + 16, kGateTop - 18), quad[1]);
-    const QPixmap& pm = sprite("bridge", 1);
-    if (pm.isNull()) return;
-    QTransform t;
-    const QRectF src(pm.rect());
-    if (!QTransform::quadToQuad(QPolygonF({src.topLeft(), src.topRight(), src.bottomRight(), src.bottomLeft()}), quad, t)) return;
-    p.save();
-    p.setTransform(t, true);
-    p.drawPixmap(src, pm, src);
-    // Standing up, its underside is in shadow.
-    p.fillRect(src, QColor(20, 10, 0, int(110 * std::cos(a))));
-    p.restore();
+    const QRectF box(kGateX - kGateHalf - 40, kGateTop - 30, 2 * (kGateHalf + 40),
+                     std::max(endY, kHingeY) + 8 - (kGateTop - 30));
+    // Turned pictures are dear to draw: the bridge at this angle is drawn once and kept.
+    if (bridge_.isNull() || bridgeAngle_ != a) {
+        bridgeAngle_ = a;
+        QImage img((box.size() * scale_).toSize().expandedTo(QSize(1, 1)),
+                   QImage::Format_ARGB32_Premultiplied);
+        img.fill(Qt::transparent);
+        QPainter q(&img);
+        q.setRenderHint(QPainter::Antialiasing);
+        q.setRenderHint(QPainter::SmoothPixmapTransform);
+        q.scale(scale_, scale_);
+        q.translate(-box.topLeft());
+        const QPolygonF quad({QPointF(kGateX - endHalf, endY), QPointF(kGateX + endHalf, endY),
+                              QPointF(kGateX + kGateHalf, kHingeY),
+                              QPointF(kGateX - kGateHalf, kHingeY)});
+        // The chains, from the top of the gate to the bridge's far corners.
+        q.setPen(QPen(QColor(60, 60, 70), 4, Qt::DotLine, Qt::RoundCap));
+        q.drawLine(QPointF(kGateX - kGateHalf - 16, kGateTop - 18), quad[0]);
+        q.drawLine(QPointF(kGateX + kGateHalf + 16, kGateTop - 18), quad[1]);
+        const QPixmap& pm = sprite("bridge");
+        const QRectF src(pm.rect());
+        QTransform t;
+        if (!pm.isNull() &&
+            QTransform::quadToQuad(
+                QPolygonF({src.topLeft(), src.topRight(), src.bottomRight(), src.bottomLeft()}),
+                quad, t)) {
+            q.setTransform(t, true);
+            q.drawPixmap(src, pm, src);
+            // Standing up, its underside is in shadow.
+            q.fillRect(src, QColor(20, 10, 0, int(110 * std::cos(a))));
+        }
+        q.end();
+        bridge_ = QPixmap::fromImage(img);
+    }
+    blit(p, box, bridge_);
 }
 
 void PrincessPicture::paintStones(QPainter& p, const View& v) const {
@@ -297,20 +338,19 @@ void PrincessPicture::paintDragon(QPainter& p, const View& v) const {
         drawSprite(p, "dragon-awake", feet, s);
         const double fire = clamp01((v.wake - 0.15) / 0.2) * clamp01((1 - v.wake) / 0.12);
         const QPointF mouth = feet + QPointF(-112, -168) * s;  // its mouth in the drawing
-        p.setPen(Qt::NoPen);
-        for (int k = 0; k < 22; ++k) {
+        if (fire <= 0) return;
+        const QPixmap& ball = fireball();
+        for (int k = 0; k < 16; ++k) {
             double f = v.time * 1.8 + hash01(k);
             f -= std::floor(f);
             const QPointF at =
-                mouth + QPointF(-330 * f, 260 * f * f + (hash01(k + 9) - 0.5) * 80 * f);
-            const double rad = 16 + 60 * f;
-            QRadialGradient g(at, rad);
-            g.setColorAt(0, withAlpha(QColor(255, 246, 170), fire * (1 - 0.6 * f)));
-            g.setColorAt(0.5, withAlpha(QColor(255, 130, 20), fire * (1 - 0.6 * f) * 0.9));
-            g.setColorAt(1, withAlpha(QColor(220, 40, 20), 0));
-            p.setBrush(g);
-            p.drawEllipse(at, rad, rad);
+                mouth + QPointF(-280 * f, 240 * f * f + (hash01(k + 9) - 0.5) * 80 * f);
+            const double rad = 16 + 54 * f;
+            p.setOpacity(fire * (1 - 0.6 * f));
+            p.drawPixmap(QRectF(at.x() - rad, at.y() - rad, 2 * rad, 2 * rad), ball,
+                         QRectF(ball.rect()));
         }
+        p.setOpacity(1);
         return;
     }
     // Asleep: breathing slowly; a splash makes it twitch and lift its head.
@@ -328,7 +368,7 @@ void PrincessPicture::paintDragon(QPainter& p, const View& v) const {
     for (int k = 0; k < 3; ++k) {
         double u = v.time * 0.35 + k / 3.0;
         u -= std::floor(u);
-        const QPointF at = kDragonFeet + QPointF(-110 - 40 * u, -70 - 120 * u);
+        const QPointF at = kDragonFeet + QPointF(-110 - 40 * u, -50 - 70 * u);
         p.setPen(withAlpha(QColor(250, 250, 255), std::sin(kPi * u) * (1 - v.stir)));
         p.drawText(at, k == 1 ? "Z" : "z");
     }
@@ -408,23 +448,20 @@ void PrincessPicture::paintPoints(QPainter& p, const View& v) const {
     p.drawText(QRectF(at.x() - 300, at.y() - 40, 600, 80), Qt::AlignCenter, v.points);
 }
 
-QRegion PrincessPicture::movingRegion() const {
-    QRegion r;
-    for (const QRectF& s : {QRectF(30, 470, 1140, 500), QRectF(1150, 300, 250, 680),
-                            QRectF(980, 80, 620, 440)})
-        r += toScreen_.mapRect(s).toAlignedRect().adjusted(-2, -2, 2, 2);
-    return r;
-}
-
 QRegion PrincessPicture::busyRegion(const View& v) const {
     // The dragon breathes and snores, and the meter pulses, all the time.
-    QRegion r = toScreen_.mapRect(QRectF(1280, 110, 320, 180) | v.meter).toAlignedRect().adjusted(-2, -2, 2, 2);
+    QRegion r = toScreen_.mapRect(QRectF(1300, 130, 300, 160)).toAlignedRect().adjusted(-2, -2, 2, 2);
+    if (v.stir > 0) r += toScreen_.mapRect(v.meter).toAlignedRect().adjusted(-2, -2, 2, 2);
     bool moat = v.splash < 1 || (!v.points.isEmpty() && v.pointsU < 1);
     for (double u : v.rise) moat = moat || u < 1;
     if (moat) r += toScreen_.mapRect(QRectF(30, 470, 1140, 500)).toAlignedRect();
     if (v.walk > 0 || v.cheer > 0 || (v.bridge > 0 && v.bridge < 1))
         r += toScreen_.mapRect(QRectF(1050, 300, 450, 680)).toAlignedRect();
-    if (v.wake > 0 || v.stir > 0) r += movingRegion();
+    // The dragon up and its fire; the princess takes fright once.
+    if (v.wake > 0 || v.stir > 0)
+        r += toScreen_.mapRect(QRectF(1030, 60, 570, 420)).toAlignedRect();
+    if (v.wake > 0.25 && v.wake < 0.35)
+        r += toScreen_.mapRect(QRectF(1150, 640, 240, 320)).toAlignedRect();
     return r;
 }
 

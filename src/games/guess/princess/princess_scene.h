@@ -64,11 +64,10 @@ public:
     void paintActors(QPainter& p, const View& v) const;
     // The parts of the screen that change while `v` is animating.
     QRegion busyRegion(const View& v) const;
-    // The whole stage area of the stones and planks, the bridge, the dragon, the princess.
-    QRegion movingRegion() const;
 
 private:
-    const QPixmap& sprite(const QString& id, double scale) const;
+    const QPixmap& sprite(const QString& id) const;
+    const QPixmap& fireball() const;
     const QPixmap& tile(bool plank, char letter, bool lost, QSizeF size) const;
     void drawSprite(QPainter& p, const QString& id, const QPointF& anchor, double scale = 1,
                     double anchorY = 1) const;
@@ -88,6 +87,9 @@ private:
     QPixmap fieldPixmap_;
     mutable std::map<QString, QPixmap> cache_;
     mutable std::map<QString, QPixmap> tiles_;
+    mutable QPixmap fireball_;
+    mutable QPixmap bridge_;
+    mutable double bridgeAngle_ = -1;
 };
 
 }  // namespace wm::princess
