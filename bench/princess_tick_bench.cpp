@@ -25,7 +25,8 @@ void BM_PrincessFrame(benchmark::State& state) {
     QApplication::processEvents();
     int n = 0;
     for (auto _ : state) {
-        if (n++ % 150 == 0) {  // a fresh game, woken by eight splashes, every two and a half seconds
+        if (n++ % 150 ==
+            0) {  // a fresh game, woken by eight splashes, every two and a half seconds
             state.PauseTiming();
             game.frame().newGame();
             Ticker::get().advance(1700);

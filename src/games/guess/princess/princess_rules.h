@@ -73,7 +73,7 @@ public:
     // Position `p` of the word stands on the bridge: a plank laid, or a blank shown from the start.
     bool laid(int p) const { return laid_[p]; }
     int nextPosition() const { return next_; }
-    int splashes() const { return splashes_; }         // in the whole game
+    int splashes() const { return splashes_; }          // in the whole game
     int wordSplashes() const { return wordSplashes_; }  // in this word
     int lowered() const { return lowered_; }            // notches the bridge has come down
     int lastPoints() const { return lastPoints_; }

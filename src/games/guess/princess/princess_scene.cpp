@@ -20,7 +20,7 @@ using namespace scene;
 constexpr double kPi = 3.14159265358979;
 constexpr double kPlayLeft = 50, kPlayWidth = 1100;  // the stones' and planks' stretch
 constexpr double kGateX = 1270, kHingeY = 482, kGateTop = 342, kGateHalf = 74;
-constexpr double kBridgeFoot = 752;                  // the near bank, where the bridge lands
+constexpr double kBridgeFoot = 752;  // the near bank, where the bridge lands
 const QPointF kPrincessHome(1270, 918);
 const QPointF kDragonFeet(1474, 268);
 
@@ -140,12 +140,7 @@ void PrincessPicture::drawSprite(QPainter& p, const QString& id, const QPointF& 
 // A stone or a plank with its letter, drawn once for its size and kept.
 const QPixmap& PrincessPicture::tile(bool plank, char letter, bool lost, QSizeF size) const {
     const QSize px = (size * scale_).toSize().expandedTo(QSize(1, 1));
-    const QString key = QString("%1%2%3/%4x%5")
-                            .arg(plank ? 'p' : 's')
-                            .arg(lost ? 'x' : '-')
-                            .arg(int(static_cast<unsigned char>(letter)))
-                            .arg(px.width())
-                            .arg(px.height());
+    const TileKey key{plank, lost, static_cast<unsigned char>(letter), px.width(), px.height()};
     auto it = tiles_.find(key);
     if (it != tiles_.end()) return it->second;
     QImage img(px, QImage::Format_ARGB32_Premultiplied);
@@ -213,8 +208,8 @@ void PrincessPicture::paintActors(QPainter& p, const View& v) const {
 // four corners it has at that angle.
 void PrincessPicture::paintBridge(QPainter& p, const View& v) const {
     const double a = clamp01(v.bridge) * kPi / 2;
-    const double endY = kHingeY - (kHingeY - kGateTop) * std::cos(a) +
-                        (kBridgeFoot - kHingeY) * std::sin(a);
+    const double endY =
+        kHingeY - (kHingeY - kGateTop) * std::cos(a) + (kBridgeFoot - kHingeY) * std::sin(a);
     const double endHalf = kGateHalf + 18 * std::sin(a);
     const QRectF box(kGateX - kGateHalf - 40, kGateTop - 30, 2 * (kGateHalf + 40),
                      std::max(endY, kHingeY) + 8 - (kGateTop - 30));
@@ -239,10 +234,9 @@ void PrincessPicture::paintBridge(QPainter& p, const View& v) const {
         const QPixmap& pm = sprite("bridge");
         const QRectF src(pm.rect());
         QTransform t;
-        if (!pm.isNull() &&
-            QTransform::quadToQuad(
-                QPolygonF({src.topLeft(), src.topRight(), src.bottomRight(), src.bottomLeft()}),
-                quad, t)) {
+        if (!pm.isNull() && QTransform::quadToQuad(QPolygonF({src.topLeft(), src.topRight(),
+                                                              src.bottomRight(), src.bottomLeft()}),
+                                                   quad, t)) {
             q.setTransform(t, true);
             q.drawPixmap(src, pm, src);
             // Standing up, its underside is in shadow.
@@ -297,8 +291,8 @@ void PrincessPicture::paintStones(QPainter& p, const View& v) const {
         for (int k = 0; k < 12; ++k) {
             const double dir = (hash01(k) - 0.5) * 2.4;
             const double speed = 0.6 + 0.5 * hash01(k + 20);
-            const QPointF at = c + QPointF(std::sin(dir) * 120 * u * speed,
-                                           -220 * speed * u + 260 * u * u);
+            const QPointF at =
+                c + QPointF(std::sin(dir) * 120 * u * speed, -220 * speed * u + 260 * u * u);
             p.setBrush(withAlpha(QColor(200, 236, 255), 1 - u));
             p.drawEllipse(at, 6 - 3 * u, 8 - 3 * u);
         }
@@ -430,8 +424,8 @@ void PrincessPicture::paintPrincess(QPainter& p, const View& v) const {
             double u = v.cheer * 1.6 + hash01(k);
             u -= std::floor(u);
             const QPointF c(kGateX + (hash01(k + 30) - 0.5) * 320, 560 - 300 * u);
-            p.setBrush(withAlpha(k % 2 ? QColor(255, 105, 160) : QColor(255, 70, 110),
-                                 std::sin(kPi * u)));
+            p.setBrush(
+                withAlpha(k % 2 ? QColor(255, 105, 160) : QColor(255, 70, 110), std::sin(kPi * u)));
             p.drawPath(heart(c, 12 + 8 * hash01(k + 60)));
             paintSparkle(p, c + QPointF(30, -20), 12, u * 3, std::sin(kPi * u));
         }
@@ -453,11 +447,23 @@ void PrincessPicture::paintPoints(QPainter& p, const View& v) const {
 
 QRegion PrincessPicture::busyRegion(const View& v) const {
     // The dragon breathes and snores, and the meter pulses, all the time.
-    QRegion r = toScreen_.mapRect(QRectF(1300, 130, 300, 160)).toAlignedRect().adjusted(-2, -2, 2, 2);
+    QRegion r =
+        toScreen_.mapRect(QRectF(1300, 130, 300, 160)).toAlignedRect().adjusted(-2, -2, 2, 2);
     if (v.stir > 0) r += toScreen_.mapRect(v.meter).toAlignedRect().adjusted(-2, -2, 2, 2);
-    bool moat = v.splash < 1 || (!v.points.isEmpty() && v.pointsU < 1);
-    for (double u : v.rise) moat = moat || u < 1;
-    if (moat) r += toScreen_.mapRect(QRectF(30, 470, 1140, 500)).toAlignedRect();
+    // Only the stones that move: a splash with its drops, a stone on its way to its plank.
+    const int n = int(v.stones.size());
+    auto add = [&](const QRectF& s) {
+        r += toScreen_.mapRect(s).toAlignedRect().adjusted(-2, -2, 2, 2);
+    };
+    if (v.splashStone >= 0 && v.splashStone < n && v.splash < 1)
+        add(stoneRect(v.splashStone, n).adjusted(-140, -240, 140, 40));
+    for (int i = 0; i < n && i < int(v.rise.size()) && i < int(v.target.size()); ++i)
+        if (v.target[i] >= 0 && v.rise[i] < 1)
+            add((stoneRect(i, n) | plankRect(v.target[i], int(v.word.size())))
+                    .adjusted(-10, -140, 10, 10));
+    if (!v.points.isEmpty() && v.pointsU < 1) add(QRectF(280, 560, 640, 260));
+    // The word shown on the planks as the dragon wakes.
+    if (v.reveal && v.wake < 0.05) add(QRectF(30, 740, 1140, 230));
     if (v.walk > 0 || v.cheer > 0 || (v.bridge > 0 && v.bridge < 1))
         r += toScreen_.mapRect(QRectF(1050, 300, 450, 680)).toAlignedRect();
     // The dragon up and its fire; the princess takes fright once.

@@ -13,6 +13,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <tuple>
 #include <vector>
 
 class QPainter;
@@ -26,22 +27,22 @@ constexpr double kStageW = 1600, kStageH = 1000;
 struct View {
     double time = 0;  // seconds, for the ripples, the bobbing and the dragon's breath
     std::string word;
-    std::vector<char> stones;    // the letters on the stones, in the moat's order
-    std::vector<int> target;     // the plank each stone rose to, -1 while in the water
-    std::vector<double> rise;    // 0..1: how far each risen stone is on its way to its plank
-    std::vector<bool> laid;      // per position of the word: a plank stands there
-    bool reveal = false;         // the word lost: the missing planks show their letters
-    int splashStone = -1;        // the stone that splashed last
-    double splash = 1;           // 0..1 through its splash
-    int marks = 0;               // the meter's marks lit
-    QRectF meter;                // where the meter stands, beside its label
-    double stir = 0;             // 0..1: the dragon stirring (1 at its start)
-    double wake = 0;             // 0..1: the dragon waking up and breathing fire
-    double bridge = 0;           // 0 up .. 1 all the way down
-    double walk = 0;             // 0..1: the princess on her way into the castle
-    double cheer = 0;            // 0..1: hearts and sparkles of the crossing
-    QString points;              // "+90", floating up from the planks
-    double pointsU = 1;          // 0..1 through its rise
+    std::vector<char> stones;  // the letters on the stones, in the moat's order
+    std::vector<int> target;   // the plank each stone rose to, -1 while in the water
+    std::vector<double> rise;  // 0..1: how far each risen stone is on its way to its plank
+    std::vector<bool> laid;    // per position of the word: a plank stands there
+    bool reveal = false;       // the word lost: the missing planks show their letters
+    int splashStone = -1;      // the stone that splashed last
+    double splash = 1;         // 0..1 through its splash
+    int marks = 0;             // the meter's marks lit
+    QRectF meter;              // where the meter stands, beside its label
+    double stir = 0;           // 0..1: the dragon stirring (1 at its start)
+    double wake = 0;           // 0..1: the dragon waking up and breathing fire
+    double bridge = 0;         // 0 up .. 1 all the way down
+    double walk = 0;           // 0..1: the princess on her way into the castle
+    double cheer = 0;          // 0..1: hearts and sparkles of the crossing
+    QString points;            // "+90", floating up from the planks
+    double pointsU = 1;        // 0..1 through its rise
 };
 
 class PrincessPicture {
@@ -86,7 +87,8 @@ private:
     QTransform toScreen_;
     QPixmap fieldPixmap_;
     mutable std::map<QString, QPixmap> cache_;
-    mutable std::map<QString, QPixmap> tiles_;
+    using TileKey = std::tuple<bool, bool, int, int, int>;  // plank, lost, letter, size
+    mutable std::map<TileKey, QPixmap> tiles_;
     mutable QPixmap fireball_;
     mutable QPixmap bridge_;
     mutable double bridgeAngle_ = -1;

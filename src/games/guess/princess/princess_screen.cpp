@@ -28,12 +28,12 @@ namespace {
 // The animation's times.
 constexpr double kFirstPause = 1.6;  // seconds before the first word's stones can be clicked
 constexpr double kBetweenWords = 1.0;
-constexpr double kRiseMs = 450;      // a stone rising into its plank
+constexpr double kRiseMs = 450;  // a stone rising into its plank
 constexpr double kSplashMs = 650;
-constexpr double kStirMs = 900;      // the dragon twitching at a splash
-constexpr double kNotchMs = 1200;    // the bridge coming down a notch
+constexpr double kStirMs = 900;    // the dragon twitching at a splash
+constexpr double kNotchMs = 1200;  // the bridge coming down a notch
 constexpr double kSpelledSecs = 1.8;
-constexpr double kCrossSecs = 4.0;   // over the bridge and in at the gate
+constexpr double kCrossSecs = 4.0;  // over the bridge and in at the gate
 constexpr double kWokenSecs = 3.0;
 
 const char* kHudStyle =
@@ -112,8 +112,8 @@ void frmPrincess::startWord(bool first) {
     firstWord_ = first;
     risenAt_.assign(game_.stones(), -1);
     splashStone_ = -1;
-    ReadyLabel->setText(first ? "Get ready!"
-                              : QString("Word %1 of %2").arg(game_.wordNumber()).arg(game_.words()));
+    ReadyLabel->setText(
+        first ? "Get ready!" : QString("Word %1 of %2").arg(game_.wordNumber()).arg(game_.words()));
     ReadyLabel->show();
     setPhase(Phase::Arrive);
     showMeaning(false);
@@ -209,9 +209,9 @@ void frmPrincess::animate() {
         case Phase::Woken:
             if (t >= kWokenSecs) {
                 setPhase(Phase::Idle);
-                frame_.askTryAgain(toQ(lostText(Shared().TheWord)) +
-                                       " Would you like to try again?",
-                                   "Try Again?");
+                frame_.askTryAgain(
+                    toQ(lostText(Shared().TheWord)) + " Would you like to try again?",
+                    "Try Again?");
                 return;
             }
             break;
@@ -260,8 +260,7 @@ void frmPrincess::updateView(qint64 now) {
 void frmPrincess::showHud() {
     WordLabel->setText(QString("Word %1 of %2").arg(game_.wordNumber()).arg(game_.words()));
     ScoreLabel->setText(QString("Score: %1").arg(frame_.scoreText(Shared().Score)));
-    MeterLabel->setText(
-        QString("Splashes: %1 of %2").arg(game_.splashes()).arg(kSleepMarks));
+    MeterLabel->setText(QString("Splashes: %1 of %2").arg(game_.splashes()).arg(kSleepMarks));
     for (QLabel* l : {WordLabel, ScoreLabel, MeterLabel}) l->adjustSize();
     resizeEvent(nullptr);
 }
@@ -281,7 +280,7 @@ void frmPrincess::fitMeaning() {
     for (int pt = 20; pt >= 7; --pt) {
         QFont f = ScreenFont(pt, true);
         const QRect need = QFontMetrics(f).boundingRect(r.adjusted(0, 0, 0, 10000),
-                                                         Qt::TextWordWrap, MeaningLabel->text());
+                                                        Qt::TextWordWrap, MeaningLabel->text());
         MeaningLabel->setFont(f);
         if (need.height() <= r.height() && need.width() <= r.width()) break;
     }
@@ -333,7 +332,8 @@ void frmPrincess::resizeEvent(QResizeEvent*) {
                               sky.bottom() - std::max(sky.top(), hudTop + hudH + gap));
     ReadyLabel->adjustSize();
     const QPointF mid = m.map(PrincessPicture::readyPoint());
-    ReadyLabel->move(int(mid.x()) - ReadyLabel->width() / 2, int(mid.y()) - ReadyLabel->height() / 2);
+    ReadyLabel->move(int(mid.x()) - ReadyLabel->width() / 2,
+                     int(mid.y()) - ReadyLabel->height() / 2);
     ReadyLabel->raise();
     fitMeaning();
     drawn_ = QRegion(rect());

@@ -64,6 +64,11 @@ TEST(PrincessRules, DrawsWithoutRepeatsAndEndsTheUnluckyRun) {
     EXPECT_EQ(stuck.draws, 200);
     EXPECT_EQ(drawWord(ListOf({"- -", std::string(25, 'q')}), stuck, {}), 0);
     EXPECT_EQ(drawWord(ListOf({}), stuck, {}), 0);
+    // A count beyond the words loaded never draws past them.
+    SharedState shortList = ListOf({"toad"});
+    shortList.WordCount = 5;
+    ScriptedRng top(0.99);
+    EXPECT_EQ(drawWord(shortList, top, {}), 1);
 }
 
 TEST(PrincessRules, StonesAreShuffledFromTheBackAndNeverReadAsTheWord) {

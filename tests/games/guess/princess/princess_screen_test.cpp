@@ -39,8 +39,9 @@ QString Hud(QWidget* game) {
 
 void PrincessScreenTest::twoWordsFromTheTitleToTheTable() {
     ShellFixture fx;
-    WriteOneList(fx, "Castle", {{"owl", "it hoots"}, {"moat", "water round a castle"},
-                                {"king", "he wears a crown"}});
+    WriteOneList(
+        fx, "Castle",
+        {{"owl", "it hoots"}, {"moat", "water round a castle"}, {"king", "he wears a crown"}});
     fx.rng.pick(1, 3);
     WinDriver driver;
     SetModalHook(std::ref(driver));
@@ -146,8 +147,8 @@ void PrincessScreenTest::clueSilenceAndAListItCannotPlay() {
                 {false, false, false, "Click the stones in the right order to spell the word!"}};
     for (const Row& r : rows) {
         ShellFixture fx;
-        auto* game = OpenGame<frmPrincess>(fx, "Princess", {{"ox", "a strong animal"}}, 5,
-                                           r.option, r.sound, r.wordsOnly);
+        auto* game = OpenGame<frmPrincess>(fx, "Princess", {{"ox", "a strong animal"}}, 5, r.option,
+                                           r.sound, r.wordsOnly);
         QVERIFY(game);
         Ready(game, 1650);
         QCOMPARE(LabelText(game, "MeaningLabel"), r.meaning);
@@ -160,8 +161,9 @@ void PrincessScreenTest::clueSilenceAndAListItCannotPlay() {
     OpenGame<QWidget>(fx, "Princess",
                       {{std::string(25, 'a'), "far too long"}, {"- -", "nothing to spell"}}, 4);
     Pump();
-    QVERIFY(fx.dialogs.saw("This list has no word that Princess can use (the words are empty "
-                           "or too long). Please choose another list."));
+    QVERIFY(
+        fx.dialogs.saw("This list has no word that Princess can use (the words are empty "
+                       "or too long). Please choose another list."));
     QVERIFY(Showing<Title>());
 }
 
