@@ -391,10 +391,13 @@ std::vector<GameCard> BuildCatalogue() {
 
     cards.push_back(Card(
         "Princess", Elig(WO::WarnIfOption, kMsgW1, "frmPrincess"), Slider(1, 15, 5, Shown),
-        "Help the princess cross the drawbridge before the dragon wakes up! Each plank of the "
-        "bridge hides a letter of a vocabulary word. Type the letters to lower the planks; if "
-        "you chose to show the word meaning, it is your clue. A wrong letter wakes the dragon a "
-        "little more. The higher the level, the more words you spell."));
+        "Help the princess cross the drawbridge before the dragon wakes up! The letters of a "
+        "word are mixed up on stepping stones in the moat. Click the stones in the right order "
+        "to spell the word (or type the letters): each right stone jumps up and turns into a "
+        "plank. If you chose to show the word meaning, it is your clue. A wrong stone goes "
+        "splash and the dragon stirs: eight splashes and it wakes up! Every word you spell "
+        "lowers the drawbridge a little. Spell as many words as the level and the princess "
+        "walks across. Each word is worth 10 points a letter, and 50 more with no splash."));
 
     cards.push_back(Card(
         "Mini Golf", AtLeast(Elig(WO::Refuse, kMsgM1, "MiniGolf"), 5, MsgN(5)), Slider(1, 10, 5),

@@ -1,0 +1,178 @@
+// Princess's rules over a scripted generator: the draw without repeats and its bound, how the
+// stones are laid, the order of the picks with twin letters, case and accents, the points, the
+// bridge's notches and the dragon's eight marks.
+#include <gtest/gtest.h>
+
+#include "core/rng.h"
+#include "core/shared_state.h"
+#include "games/guess/princess/princess_rules.h"
+#include "word_lists.h"
+
+using namespace wm;
+using namespace wm::princess;
+using wm::test::ListOf;
+
+namespace {
+// The stones' letters in the moat's order.
+std::string Moat(const Game& g) {
+    std::string out;
+    for (int i = 0; i < g.stones(); ++i) out += g.stoneLetter(i);
+    return out;
+}
+// Picks the stones carrying `letters`, one after the other, as a pupil clicks them.
+Pick Spell(Game& g, SharedState& s, const std::string& letters) {
+    Pick last = Pick::Ignored;
+    for (char c : letters) {
+        int i = 0;
+        while (i < g.stones() && (g.risenTo(i) >= 0 || g.stoneLetter(i) != c)) ++i;
+        last = g.pick(s, i);
+    }
+    return last;
+}
+}  // namespace
+
+TEST(PrincessRules, PointsTextsAndWhatCanBePlayed) {
+    EXPECT_EQ(wordPoints(5, true), 100);
+    EXPECT_EQ(wordPoints(5, false), 50);
+    EXPECT_EQ(wordPoints(14, false), 140);
+    EXPECT_EQ(lostText("moat"), "The dragon woke up! The word was moat.");
+    struct Row {
+        std::string word;
+        bool ok;
+    } rows[] = {{"a", true},
+                {std::string(24, 'x'), true},
+                {std::string(25, 'x'), false},
+                {std::string(24, 'x') + " -'", true},  // blanks take no stone
+                {"- '", false},
+                {"", false}};
+    for (const auto& r : rows) EXPECT_EQ(playable(r.word), r.ok) << r.word;
+}
+
+TEST(PrincessRules, DrawsWithoutRepeatsAndEndsTheUnluckyRun) {
+    SharedState s = ListOf({"toad", std::string(30, 'z'), "newt", "frog"});
+    ScriptedRng rng;
+    rng.pick(3, 4).pick(3, 4).pick(2, 4).pick(1, 4);
+    EXPECT_EQ(drawWord(s, rng, {}), 3);
+    EXPECT_EQ(drawWord(s, rng, {3}), 1);  // a repeat and the long word are drawn again
+    EXPECT_EQ(rng.draws, 4);
+    // Every playable word spelled: repeats are the way on.
+    rng.pick(3, 4);
+    EXPECT_EQ(drawWord(s, rng, {1, 3, 4}), 3);
+    // A generator stuck on a spelled word: the draw is bounded and walks on to the next one.
+    ScriptedRng stuck(0.0);
+    EXPECT_EQ(drawWord(s, stuck, {1}), 3);
+    EXPECT_EQ(stuck.draws, 200);
+    EXPECT_EQ(drawWord(ListOf({"- -", std::string(25, 'q')}), stuck, {}), 0);
+    EXPECT_EQ(drawWord(ListOf({}), stuck, {}), 0);
+    // A count beyond the words loaded never draws past them.
+    SharedState shortList = ListOf({"toad"});
+    shortList.WordCount = 5;
+    ScriptedRng top(0.99);
+    EXPECT_EQ(drawWord(shortList, top, {}), 1);
+}
+
+TEST(PrincessRules, StonesAreShuffledFromTheBackAndNeverReadAsTheWord) {
+    ScriptedRng zeros(0.0);
+    // i = 3, 2, 1 each swap with the front: b i r d -> d i r b -> r i d b -> i r d b.
+    EXPECT_EQ(layStones("bird", zeros), (std::vector<int>{1, 2, 3, 0}));
+    ScriptedRng twos;
+    twos.then(0.5).then(0.99).then(0.0);  // j = 2, 2, 0
+    EXPECT_EQ(layStones("bird", twos), (std::vector<int>{1, 0, 3, 2}));
+    // Blanks and hyphens lie on no stone.
+    EXPECT_EQ(layStones("x-ray", zeros), (std::vector<int>{2, 3, 4, 0}));
+    // A shuffle that leaves the word as it was is done again, six times at most, then the
+    // stones are turned by one. Twin letters swapped still read as the word.
+    ScriptedRng tops(0.99);
+    EXPECT_EQ(layStones("noon", tops), (std::vector<int>{1, 2, 3, 0}));
+    EXPECT_EQ(tops.draws, 18);
+    ScriptedRng twins(0.0);
+    twins.then(0.0).then(0.5).then(0.99);  // n n swapped, o o swapped: still "noon"
+    EXPECT_EQ(layStones("noon", twins), (std::vector<int>{2, 1, 0, 3}));
+    EXPECT_EQ(twins.draws, 6);
+    // One letter, or one letter over and over, cannot be shuffled into anything else.
+    ScriptedRng once(0.99);
+    EXPECT_EQ(layStones("aAa", once), (std::vector<int>{0, 1, 2}));
+    EXPECT_EQ(once.draws, 2);
+    EXPECT_EQ(layStones("I", once), (std::vector<int>{0}));
+}
+
+TEST(PrincessRules, WordsAsManyAsTheLevelAndPointsForCleanWords) {
+    SharedState s = ListOf({"Anna", "ice-cream", "dog"}, 2);
+    s.Score = 99;
+    ScriptedRng rng(0.0);
+    rng.pick(1, 3);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    EXPECT_EQ(rng.randomizeCount, 1);
+    EXPECT_EQ(s.Score, 0);
+    EXPECT_EQ(g.words(), 2);
+    EXPECT_EQ(s.TheWord, "Anna");
+    EXPECT_EQ(s.TheMeaning, "meaning of Anna");
+    EXPECT_EQ(Moat(g), "nnaA");
+    // Case does not matter, and either twin lays the next plank.
+    EXPECT_EQ(g.pick(s, 2), Pick::Right);
+    EXPECT_EQ(g.risenTo(2), 0);
+    EXPECT_EQ(g.pick(s, 2), Pick::Ignored);  // risen already
+    EXPECT_EQ(g.pick(s, 3), Pick::Wrong);
+    EXPECT_EQ(g.pick(s, 1), Pick::Right);
+    EXPECT_EQ(g.risenTo(1), 1);
+    EXPECT_EQ(g.stoneFor('A'), 3);
+    EXPECT_EQ(g.stoneFor('N'), 0);  // the right one first
+    EXPECT_EQ(g.pick(s, 0), Pick::Right);
+    EXPECT_EQ(g.pick(s, 3), Pick::Spelled);
+    EXPECT_EQ(g.lastPoints(), 40);  // a splash: no bonus
+    EXPECT_EQ(g.lowered(), 1);
+    EXPECT_EQ(g.pick(s, 0), Pick::Ignored);
+    EXPECT_EQ(g.stoneFor('a'), -1);
+    // The hyphen stands on the bridge from the start and counts in the length.
+    rng.pick(2, 3);
+    ASSERT_TRUE(g.nextWord(s, rng));
+    EXPECT_EQ(g.wordNumber(), 2);
+    EXPECT_TRUE(g.laid(3));
+    EXPECT_FALSE(g.laid(0));
+    EXPECT_EQ(Spell(g, s, "icecrea"), Pick::Right);
+    EXPECT_EQ(g.nextPosition(), 8);
+    EXPECT_EQ(Spell(g, s, "m"), Pick::Crossed);
+    EXPECT_EQ(g.lastPoints(), 140);  // 9 x 10 + 50
+    EXPECT_EQ(s.Score, 180);
+    EXPECT_FALSE(g.nextWord(s, rng));
+    EXPECT_EQ(g.splashes(), 1);
+}
+
+TEST(PrincessRules, EightSplashesInAGameWakeTheDragon) {
+    for (auto [difficulty, words] : {std::pair{0, 1}, {1, 1}, {15, 15}, {40, 15}}) {
+        SharedState s = ListOf({"cat"}, difficulty);
+        ScriptedRng rng(0.0);
+        Game g;
+        ASSERT_TRUE(g.start(s, rng));
+        EXPECT_EQ(g.words(), words) << difficulty;
+    }
+    SharedState s = ListOf({"ab", "cd"}, 3);
+    ScriptedRng rng(0.0);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    EXPECT_EQ(Moat(g), "ba");
+    for (int i = 0; i < 5; ++i) EXPECT_EQ(g.pick(s, 0), Pick::Wrong);
+    EXPECT_EQ(Spell(g, s, "ab"), Pick::Spelled);
+    EXPECT_EQ(g.lastPoints(), 20);
+    ASSERT_TRUE(g.nextWord(s, rng));
+    EXPECT_EQ(g.wordSplashes(), 0);
+    EXPECT_EQ(g.pick(s, 0), Pick::Wrong);
+    EXPECT_EQ(g.pick(s, 0), Pick::Wrong);
+    EXPECT_EQ(g.splashes(), 7);
+    EXPECT_EQ(g.pick(s, 0), Pick::Woke);
+    EXPECT_TRUE(g.over());
+    EXPECT_EQ(g.pick(s, 1), Pick::Ignored);
+    EXPECT_EQ(g.pick(s, -1), Pick::Ignored);
+    EXPECT_EQ(s.Score, 20);
+}
+
+TEST(PrincessRules, AccentsAreLettersOfTheirOwn) {
+    SharedState s = ListOf({"\xE9t\xE9"});
+    ScriptedRng rng(0.0);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    EXPECT_EQ(g.stoneFor('e'), -1);
+    EXPECT_EQ(g.pick(s, g.stoneFor('\xC9')), Pick::Right);  // the capital of é
+    EXPECT_EQ(g.pick(s, g.stoneFor('T')), Pick::Right);
+}
