@@ -74,7 +74,7 @@ void SlingShotScreenTest::aGameWonFromTheTitleToTheTable() {
     QCOMPARE(g.phase(), Phase::Aiming);
     Pump(SlingShot::kReadyMs);
     QCOMPARE(game->field()->call(), "");
-    Shot(game, "slingshot-1280");
+    test::Shot(game, "slingshot-1280");
 
     // A wrong target wobbles and costs 50; its thunk only with sound on.
     Shared().SoundOn = kFalse;
@@ -157,7 +157,7 @@ void SlingShotScreenTest::aGameOfMissesShowsTheWordsAndTriesAgain() {
             QVERIFY(fx.sound.played.contains("slingmiss.wav"));
             pull(game, aimAt(g, g.rightSlot()));
             QCOMPARE(g.phase(), Phase::Revealed);
-            Shot(game, "slingshot-1920-reveal");
+            test::Shot(game, "slingshot-1920-reveal");
         }
         Pump(SlingField::kFlashMs);
     }
