@@ -1,10 +1,12 @@
 #include "games/action/slingshot/slingshot_field.h"
 
+#include <QFontMetricsF>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QSvgRenderer>
+#include <algorithm>
 #include <cmath>
 
 #include "platform/scene_kit.h"

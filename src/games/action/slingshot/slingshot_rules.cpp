@@ -103,7 +103,7 @@ std::string Game::start(SharedState& s, Rng& rng) {
         if (std::find(keys.begin(), keys.end(), w) == keys.end()) keys.push_back(w);
         defined = defined || !Trim(s.Meanings[k]).empty();
     }
-    if (keys.size() < kTargets) return kTooFewWords;
+    if (static_cast<int>(keys.size()) < kTargets) return kTooFewWords;
     if (!defined) return kNoDefinitions;
     used_.assign(n + 1, false);
     s.Score = 0;

@@ -128,7 +128,7 @@ TEST(SlingshotDraws, ListsItCannotUse) {
     ASSERT_EQ(g.start(bare, rng), "");
     for (int d = 0; d < 3; ++d) {
         EXPECT_EQ(bare.TheWord, "bee");
-        miss(g), miss(g), miss(g);
+        for (int t = 0; t < 3; ++t) miss(g);
         ASSERT_TRUE(g.next(bare, rng));
     }
     // A list cut short at the limit draws among the entries loaded.
