@@ -58,6 +58,7 @@ SlingField::SlingField(QWidget* parent) : QWidget(parent) {
     setObjectName("SlingField");
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::NoFocus);
+    setMouseTracking(true);
     wobbleAt_.fill(kLongAgo);
     spinAt_.fill(kLongAgo);
     flashAt_.fill(kLongAgo);
@@ -433,19 +434,30 @@ void SlingField::paintEvent(QPaintEvent* event) {
 
 // --- input ------------------------------------------------------------------------------
 
+bool SlingField::onSlingshot(QPointF widgetPos) const {
+    const Point at = toField(widgetPos);
+    const Point rest = pouchRest();
+    return std::hypot(at.x - rest.x, at.y - rest.y) <= kGrabReach ||
+           kFork.contains(QPointF(at.x, at.y));
+}
+
 void SlingField::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || pulling_) return;
-    const Point at = toField(event->position());
-    const Point rest = pouchRest();
-    if (std::hypot(at.x - rest.x, at.y - rest.y) > kGrabReach) return;
+    if (!onSlingshot(event->position())) return;
     if (canPull && !canPull()) return;
     pulling_ = true;
-    pouch_ = pullPouch(at);
+    pouch_ = pullPouch(toField(event->position()));
+    setCursor(Qt::ClosedHandCursor);
     if (grabbed) grabbed();
 }
 
 void SlingField::mouseMoveEvent(QMouseEvent* event) {
-    if (!pulling_) return;
+    if (!pulling_) {
+        // An open hand over the slingshot says it can be taken hold of.
+        const bool ready = onSlingshot(event->position()) && (!canPull || canPull());
+        setCursor(ready ? Qt::OpenHandCursor : Qt::ArrowCursor);
+        return;
+    }
     pouch_ = pullPouch(toField(event->position()));
 }
 
@@ -453,6 +465,7 @@ void SlingField::mouseReleaseEvent(QMouseEvent* event) {
     if (!pulling_ || event->button() != Qt::LeftButton) return;
     pouch_ = pullPouch(toField(event->position()));
     pulling_ = false;
+    setCursor(Qt::ArrowCursor);
     snapAt_ = now();
     const Point at = pouch_;
     pouch_ = pouchRest();

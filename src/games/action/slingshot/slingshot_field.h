@@ -75,6 +75,8 @@ private:
         qint64 t0;
     };
     qint64 now() const;
+    // A press here takes hold of the band: near the pouch, or anywhere on the slingshot.
+    bool onSlingshot(QPointF widgetPos) const;
     void buildScene();
     void buildTargets();
     // Where target `slot` is drawn at `t` (it may be spinning away), its turn in degrees, and
