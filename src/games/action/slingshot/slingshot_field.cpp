@@ -319,6 +319,10 @@ void SlingField::paintTarget(QPainter& p, int slot, qint64 t) {
         p.setPen(Qt::NoPen);
         p.setBrush(g);
         p.drawEllipse(wc, kTargetRadius * 1.6 * scale_, kTargetRadius * 1.6 * scale_);
+        p.setPen(QPen(scene::withAlpha(QColor(255, 250, 200), 0.4 + 0.6 * beat), 6 * scale_));
+        p.setBrush(Qt::NoBrush);
+        const double ring = kTargetRadius * (1.08 + 0.1 * beat) * scale_;
+        p.drawEllipse(wc, ring, ring);
     }
     const QPixmap& pic = targets_[slot];
     if (pic.isNull()) return;
@@ -359,10 +363,11 @@ void SlingField::paintSling(QPainter& p) {
             p.drawEllipse(toWidget(s), 4.5 * scale_, 4.5 * scale_);
         }
     }
+    p.drawPixmap(pouch - QPointF(pouchPic_.width() / 2.0, pouchPic_.height() * 0.35), pouchPic_);
+    // The stone sits in the pouch, ready.
     const bool loaded = game_ && game_->phase() == Phase::Aiming && game_->stonesLeft() > 0;
     if (loaded)
-        p.drawPixmap(pouch - QPointF(stone_.width() / 2.0, stone_.height() / 2.0), stone_);
-    p.drawPixmap(pouch - QPointF(pouchPic_.width() / 2.0, pouchPic_.height() * 0.35), pouchPic_);
+        p.drawPixmap(pouch - QPointF(stone_.width() / 2.0, stone_.height() * 0.75), stone_);
     p.setPen(QPen(band, std::max(2.0, (8 - 3 * stretch) * scale_), Qt::SolidLine, Qt::RoundCap));
     p.drawLine(right, pouch);
     p.drawPixmap(toWidget(kFork).topLeft(), forkFront_);
