@@ -385,7 +385,9 @@ void SlingField::paintEvent(QPaintEvent* event) {
     const qint64 t = now();
 
     // The stones still to throw lie on the grass by the slingshot.
-    const int left = game_ ? game_->stonesLeft() - (game_->phase() == Phase::Aiming ? 1 : 0) : 0;
+    // (one is in the pouch or in the air)
+    const bool out = game_ && (game_->phase() == Phase::Aiming || game_->phase() == Phase::Flying);
+    const int left = game_ ? game_->stonesLeft() - (out ? 1 : 0) : 0;
     for (int k = 0; k < left; ++k)
         p.drawPixmap(toWidget(Point{760 + k * 30.0, 716 - (k % 2) * 6.0}), stone_);
 

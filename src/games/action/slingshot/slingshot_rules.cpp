@@ -160,6 +160,7 @@ bool Game::deal(SharedState& s, Rng& rng) {
     ++definition_;
     stones_ = kStones;
     hit_ = -1;
+    solved_ = false;
     dealtAt_ = clock_;
     phase_ = Phase::Aiming;
     return true;
@@ -193,6 +194,7 @@ Shot Game::step() {
         hit_ = slot;
         if (slot == right_) {
             score_ += 100 * level_;
+            solved_ = true;
             phase_ = Phase::Solved;
             return Shot::Right;
         }

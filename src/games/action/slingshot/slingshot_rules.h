@@ -78,7 +78,8 @@ public:
     int rightSlot() const { return right_; }
     int lastHit() const { return hit_; }  // the slot the last stone hit, -1 for none
     const std::string& word(int slot) const { return words_[slot]; }
-    bool gone(int slot) const { return phase_ == Phase::Solved && slot == right_; }
+    // The right target, once hit, is off its rope until the next definition.
+    bool gone(int slot) const { return solved_ && slot == right_; }
     long long clock() const { return clock_; }
     long long sinceDeal() const { return clock_ - dealtAt_; }
     Point target(int slot) const;
@@ -99,6 +100,7 @@ private:
     int stones_ = 0;
     int right_ = 0;
     int hit_ = -1;
+    bool solved_ = false;
     int entry_ = 0;  // the list entry of the definition in hand
     std::array<std::string, kTargets> words_;
     long long clock_ = 0;
