@@ -115,6 +115,7 @@ void SlingShotScreenTest::aGameWonFromTheTitleToTheTable() {
     // The winning moment, then the table.
     Pump(SlingShot::kSolvedMs);
     QCOMPARE(game->field()->call(), "Well shot!");
+    QVERIFY(g.gone(g.rightSlot()));  // the last right target stays knocked off
     QVERIFY(fx.sound.played.contains("slingwin.wav"));
     QVERIFY(fx.dialogs.shown.empty());
     fx.dialogs.answerYes(false);
