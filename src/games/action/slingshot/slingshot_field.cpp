@@ -27,7 +27,8 @@ const QRectF kBeam(10, 98, 1260, 30);
 const QRectF kFork(562, 468, 156, 300);  // the slingshot standing on the grass
 constexpr double kTipDx = 44, kTipY = 506;  // the fork's tips, where the band is tied
 const QRectF kLeftPlate(66, 648, 330, 96), kRightPlate(884, 648, 330, 96);
-constexpr double kBanner = 1.24;  // the word's ribbon, as wide as the target times this
+constexpr double kBanner = 1.24;
+constexpr int kSparkles = 14;  // round the winner's call  // the word's ribbon, as wide as the target times this
 
 QFont boldFont(double px) {
     QFont f("DejaVu Sans");
@@ -36,17 +37,28 @@ QFont boldFont(double px) {
     return f;
 }
 
-void paintOutlined(QPainter& p, const QString& text, const QFont& font, QPointF centre,
-                   const QColor& fill, const QColor& edge, double edgeWidth) {
+// A word as an outlined picture, drawn once and then only copied.
+QPixmap outlined(const QString& text, const QFont& font, const QColor& fill, const QColor& edge,
+                 double edgeWidth) {
     QPainterPath path;
     path.addText(0, 0, font, text);
-    path.translate(centre - path.boundingRect().center());
+    const QRectF box = path.boundingRect().adjusted(-edgeWidth, -edgeWidth, edgeWidth, edgeWidth);
+    QPixmap pm(box.size().toSize() + QSize(2, 2));
+    pm.fill(Qt::transparent);
+    QPainter p(&pm);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.translate(-box.topLeft() + QPointF(1, 1));
     p.setPen(QPen(edge, edgeWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     p.setBrush(Qt::NoBrush);
     p.drawPath(path);
     p.setPen(Qt::NoPen);
     p.setBrush(fill);
     p.drawPath(path);
+    return pm;
+}
+
+void drawCentred(QPainter& p, const QPixmap& pm, QPointF centre) {
+    p.drawPixmap(centre - QPointF(pm.width() / 2.0, pm.height() / 2.0), pm);
 }
 
 double since(qint64 t, qint64 t0, int ms) {
@@ -127,13 +139,23 @@ bool SlingField::wobbling(int slot) const {
 }
 
 void SlingField::popup(const QString& text, bool good, Point at) {
-    pops_.push_back({text, good, at, now()});
+    pops_.push_back({outlined(text, boldFont(44 * scale_),
+                              good ? QColor(255, 236, 80) : QColor(255, 110, 90),
+                              good ? QColor(40, 90, 20) : QColor(90, 20, 10), 6 * scale_),
+                     at, now()});
 }
 
 void SlingField::setCall(const QString& text, bool party) {
     call_ = text;
     party_ = party && !text.isEmpty();
     callAt_ = now();
+    callPicture_ = QPixmap();
+    if (!text.isEmpty()) {
+        QFont f = boldFont(96 * scale_);
+        while (f.pixelSize() > 8 && QFontMetricsF(f).horizontalAdvance(text) > width() * 0.9)
+            f.setPixelSize(f.pixelSize() - 2);
+        callPicture_ = outlined(text, f, QColor(255, 226, 70), QColor(120, 50, 10), 9 * scale_);
+    }
     update();
 }
 
@@ -156,6 +178,11 @@ void SlingField::resizeEvent(QResizeEvent*) {
     origin_ = QPointF((width() - kFieldW * scale_) / 2, (height() - kFieldH * scale_) / 2);
     buildScene();
     buildTargets();
+    if (!call_.isEmpty()) {  // the call again at the new size, where it stood
+        const qint64 at = callAt_;
+        setCall(call_, party_);
+        callAt_ = at;
+    }
 }
 
 void SlingField::buildScene() {
@@ -229,6 +256,12 @@ void SlingField::buildTargets() {
 
 // --- what moves -------------------------------------------------------------------------
 
+Point SlingField::sparkleAt(int k, qint64 t) const {
+    const double a = k * 2 * kPi / kSparkles + double(t - callAt_) / 700.0;
+    const double r = 250 + 50 * std::sin(double(t - callAt_) / 200.0 + k);
+    return {kFieldW / 2 + std::cos(a) * r * 1.6, 300 + std::sin(a) * r * 0.5};
+}
+
 bool SlingField::targetPose(int slot, qint64 t, QPointF* centre, double* turn,
                             double* grow) const {
     if (!game_) return false;
@@ -279,7 +312,14 @@ QRegion SlingField::liveRegion(qint64 t) const {
     }
     if (pulling_ || since(t, snapAt_, 400) < 1) add(QRectF(380, 380, 520, kFieldH - 380));
     for (const Pop& pop : pops_) add(QRectF(pop.at.x - 130, pop.at.y - 110, 260, 110));
-    if (!call_.isEmpty() && (party_ || t - callAt_ < 400)) add(QRectF(0, 150, kFieldW, 330));
+    if (!call_.isEmpty() && t - callAt_ < 400) add(QRectF(0, 150, kFieldW, 330));
+    if (party_) {
+        const double half = sparkle_.width() * 0.6 / scale_;
+        for (int k = 0; k < kSparkles; ++k) {
+            const Point at = sparkleAt(k, t);
+            add(QRectF(at.x - half, at.y - half, 2 * half, 2 * half));
+        }
+    }
     return live;
 }
 
@@ -408,20 +448,15 @@ void SlingField::paintEvent(QPaintEvent* event) {
     for (const Pop& pop : pops_) {
         const double u = since(t, pop.t0, kPopMs);
         p.setOpacity(1 - scene::easeIn(u));
-        paintOutlined(p, pop.text, boldFont(44 * scale_),
-                      toWidget(Point{pop.at.x, pop.at.y - 30 - 60 * scene::easeOut(u)}),
-                      pop.good ? QColor(255, 236, 80) : QColor(255, 110, 90),
-                      pop.good ? QColor(40, 90, 20) : QColor(90, 20, 10), 6 * scale_);
+        drawCentred(p, pop.picture, toWidget(Point{pop.at.x, pop.at.y - 30 - 60 * scene::easeOut(u)}));
         p.setOpacity(1);
     }
 
     if (!call_.isEmpty()) {
         const double pop = scene::easeOut(since(t, callAt_, 300));
         if (party_) {
-            for (int k = 0; k < 14; ++k) {
-                const double a = k * 2 * kPi / 14 + double(t - callAt_) / 700.0;
-                const double r = 250 + 50 * std::sin(double(t - callAt_) / 200.0 + k);
-                const Point at{kFieldW / 2 + std::cos(a) * r * 1.6, 300 + std::sin(a) * r * 0.5};
+            for (int k = 0; k < kSparkles; ++k) {
+                const Point at = sparkleAt(k, t);
                 const double tw = 0.5 + 0.5 * std::sin(double(t - callAt_) / 90.0 + k * 1.3);
                 const double sz = sparkle_.width() * (0.6 + 0.6 * tw);
                 p.setOpacity(0.4 + 0.6 * tw);
@@ -430,11 +465,7 @@ void SlingField::paintEvent(QPaintEvent* event) {
             }
         }
         p.setOpacity(pop);
-        QFont f = boldFont(96 * scale_);
-        while (f.pixelSize() > 8 && QFontMetricsF(f).horizontalAdvance(call_) > width() * 0.9)
-            f.setPixelSize(f.pixelSize() - 2);
-        paintOutlined(p, call_, f, toWidget(Point{kFieldW / 2, 310 - (1 - pop) * 30}),
-                      QColor(255, 226, 70), QColor(120, 50, 10), 9 * scale_);
+        drawCentred(p, callPicture_, toWidget(Point{kFieldW / 2, 310 - (1 - pop) * 30}));
         p.setOpacity(1);
     }
 }

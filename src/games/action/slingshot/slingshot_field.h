@@ -69,8 +69,7 @@ protected:
 
 private:
     struct Pop {
-        QString text;
-        bool good;
+        QPixmap picture;  // the outlined text, drawn once
         slingshot::Point at;
         qint64 t0;
     };
@@ -83,6 +82,8 @@ private:
     // its size factor; false when it is not drawn.
     bool targetPose(int slot, qint64 t, QPointF* centre, double* turn, double* grow) const;
     QRegion liveRegion(qint64 t) const;
+    // Where sparkle `k` of the winner's call is at `t`.
+    slingshot::Point sparkleAt(int k, qint64 t) const;
     void paintTarget(QPainter& p, int slot, qint64 t);
     void paintSling(QPainter& p);
     QPixmap renderArt(const char* id, QSizeF size) const;
@@ -97,6 +98,7 @@ private:
     std::array<QPointF, slingshot::kTargets> spinFrom_{};
     std::vector<Pop> pops_;
     QString call_;
+    QPixmap callPicture_;  // the call drawn once, outlined, at its size
     bool party_ = false;
     qint64 callAt_ = 0;
     bool pulling_ = false;
