@@ -176,7 +176,10 @@ TEST(SlingshotFlight, StraightWithALittleDropSpeedByThePull) {
     EXPECT_NEAR(g.stone().y, rest.y - 21.8, 1e-9);
     EXPECT_EQ(g.step(), Shot::Flying);
     EXPECT_NEAR(g.stone().y, rest.y - 21.8 - 21.6, 1e-9);
-    // Seen from the slingshot no target hides another: a stone at each hits that one.
+    // Seen from the slingshot no target hides another (the outer ones hang lower): a stone at
+    // each hits that one.
+    EXPECT_GT(ropeLength(0), ropeLength(1));
+    EXPECT_GT(ropeLength(3), ropeLength(2));
     for (int slot = 0; slot < kTargets; ++slot) {
         ASSERT_EQ(g.start(s, rng), "");
         EXPECT_NE(shootAt(g, slot), Shot::Miss);
