@@ -450,10 +450,14 @@ std::vector<GameCard> BuildCatalogue() {
 
     cards.push_back(Card(
         "Slingshot", AtLeast(Elig(WO::Refuse, kMsgM1, "SlingShot"), 4, MsgN(4)), Slider(1, 9, 5),
-        "Use the mouse to click on the slingshot, pull it back and let go to fire a stone. A "
-        "definition appears at the top of the screen and four words hang on targets. Hit the "
-        "target with the matching word! The farther you pull, the farther the stone flies. A "
-        "wrong target costs points. The higher the level, the faster the targets swing."));
+        "Use the mouse to click on the slingshot, hold the button down and pull the band back, "
+        "then let go to fire a stone! A definition is at the top of the screen, and four "
+        "targets swing on ropes, each with a word. Hit the target whose word matches: it spins "
+        "away and you get 100 points times the level. A wrong target wobbles and costs 50 "
+        "points. The harder you pull, the faster the stone flies. You have three stones for "
+        "each definition; if they all miss, the right target flashes and the next one comes. "
+        "Ten definitions make a game. The higher the level, the wider and faster the targets "
+        "swing."));
 
     cards.push_back(Card(
         "Froggy", AtLeast(Elig(WO::Refuse, kMsgM1, "FroggyForm"), 4, MsgN(4)), Slider(1, 9, 5),
