@@ -57,11 +57,11 @@ Game deal(const SharedState& state, int level, Rng& rng) {
         ++tried;
         const std::string word = Trim(state.Words[k]);
         if (word.empty() || Len(word) > kMaxLength) continue;
-        lines.push_back({k, word, clue(state, k)});
+        lines.push_back({k, word, clue(state, k), {}, false});
     }
     g.lines = std::move(lines);
     for (const Line& line : g.lines)
-        for (const std::string& piece : split(line.word, rng)) g.bricks.push_back({piece});
+        for (const std::string& piece : split(line.word, rng)) g.bricks.push_back({piece, -1});
     // From the last brick down, each swaps with one at or before it.
     for (int i = int(g.bricks.size()); i >= 2; --i)
         std::swap(g.bricks[i - 1], g.bricks[roll(rng, i) - 1]);

@@ -265,14 +265,6 @@ void WordBricks::slide(int i, QPointF from, int delay, int ms, bool shake) {
     if (!Timer2.isActive()) Timer2.start();
 }
 
-void WordBricks::slideLine(int line) {
-    for (int j : game_.lines[line].bricks) {
-        if (slides_[j].start >= 0) continue;  // already on its way
-        const QRectF r = brickRect(j);
-        slide(j, r.topLeft(), 0, kSlideMs);
-    }
-}
-
 void WordBricks::raise(int i) {
     order_.erase(std::find(order_.begin(), order_.end(), i));
     order_.push_back(i);
@@ -318,6 +310,10 @@ void WordBricks::release(QPointF at) {
     const QPointF from = dragAt_;
     const QPointF centre = QRectF(from, brickSize(i)).center();
     dragged_ = -1;
+    // Where every brick shows now, so that those whose place changes slide there from it.
+    std::vector<QPointF> shown;
+    for (int j = 0; j < int(game_.bricks.size()); ++j) shown.push_back(brickRect(j).topLeft());
+    shown[i] = from;
     const int line = lineAt(centre);
     DropResult r;
     if (line >= 0) {
@@ -325,44 +321,33 @@ void WordBricks::release(QPointF at) {
         int before = 0;
         for (int j : game_.lines[line].bricks)
             if (j != i && brickRect(j).center().x() < centre.x()) ++before;
-        std::vector<QPointF> shown;
-        for (int j : game_.lines[line].bricks) shown.push_back(brickRect(j).topLeft());
-        const std::vector<int> was = game_.lines[line].bricks;
         r = drop(game_, i, line, before);
-        if (r.what == Drop::Shaken) {
-            // The whole girder shakes, then every brick on it tumbles back to its place.
-            for (int j : r.shaken) {
-                const auto k = std::find(was.begin(), was.end(), j);
-                const QPointF p = k != was.end() ? shown[k - was.begin()] : from;
-                slide(j, p, kShakeMs, 320, true);
-            }
-        }
     } else {
         r = drop(game_, i, -1);
         // Let go over the sky or a sign, a brick drops straight down to the ground.
         if (r.what == Drop::Moved) setHome(i, from);
     }
-    settle(r, i, line, from);
+    // A wrong girder shakes, then every brick on it tumbles back to its place on the ground.
+    for (int j : r.shaken) slide(j, shown[j], kShakeMs, 320, true);
+    for (int j = 0; j < int(game_.bricks.size()); ++j) {
+        const bool shaken = std::find(r.shaken.begin(), r.shaken.end(), j) != r.shaken.end();
+        if (!shaken && (j == i || restingAt(j) != shown[j])) slide(j, shown[j], 0, kSlideMs);
+    }
+    settle(r, line);
 }
 
-void WordBricks::settle(const DropResult& r, int i, int line, QPointF from) {
+void WordBricks::settle(const DropResult& r, int line) {
     switch (r.what) {
         case Drop::Refused:
             sound().effect("bricks-bump.wav");
-            slide(i, from, 0, kSlideMs * 2);
             break;
         case Drop::Moved:
-            slide(i, from, 0, kSlideMs);
             break;
         case Drop::Placed:
             sound().effect("bricks-snap.wav");
-            slide(i, from, 0, kSlideMs);
-            slideLine(line);
             break;
         case Drop::Built:
         case Drop::Won:
-            slide(i, from, 0, kSlideMs);
-            slideLine(line);
             builtAt_[line] = now() + kSlideMs;
             sound().effect(r.what == Drop::Won ? "bricks-win.wav" : "bricks-built.wav");
             if (r.what == Drop::Won) {

@@ -66,8 +66,7 @@ private:
     void showStatus();
     void animate();
     void slide(int brick, QPointF from, int delay, int ms, bool shake = false);
-    void slideLine(int line);
-    void settle(const word_bricks::DropResult& r, int brick, int line, QPointF from);
+    void settle(const word_bricks::DropResult& r, int line);
     void raise(int brick);
     QPointF restingAt(int brick) const;  // where its place is, without the animation
     QPointF homeOf(int brick) const;

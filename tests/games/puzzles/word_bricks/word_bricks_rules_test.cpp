@@ -16,8 +16,8 @@ using Texts = std::vector<std::string>;
 Game table(int level, const Texts& words, const Texts& bricks) {
     Game g;
     g.level = level;
-    for (const auto& w : words) g.lines.push_back({0, w, ""});
-    for (const auto& b : bricks) g.bricks.push_back({b});
+    for (const auto& w : words) g.lines.push_back({0, w, "", {}, false});
+    for (const auto& b : bricks) g.bricks.push_back({b, -1});
     return g;
 }
 

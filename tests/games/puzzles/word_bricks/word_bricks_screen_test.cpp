@@ -48,6 +48,7 @@ private slots:
     void fromTheTitleThroughAWinToTheTable();
     void wordsOnlyListsShowTheLengthInSilence();
     void overlongWordsAreRefused();
+    void aFullSiteFitsAtBothSizes();
 };
 
 void WordBricksScreenTest::fromTheTitleThroughAWinToTheTable() {
@@ -67,6 +68,8 @@ void WordBricksScreenTest::fromTheTitleThroughAWinToTheTable() {
     QVERIFY(g->Caption->isVisible());
     QCOMPARE(g->Caption->text(), "Here come the bricks!");
     QCOMPARE(fx.sound.played.last(), "bricks-tip.wav");
+    Pump(200);
+    Shot(g, "word-bricks-tipping");
     QVERIFY(g->brickRect(2).bottom() < g->lineRect(1).top());
     drag(g, "er", back(g, 0));
     QCOMPARE(g->game().bricks[1].line, -1);
@@ -87,6 +90,7 @@ void WordBricksScreenTest::fromTheTitleThroughAWinToTheTable() {
     drag(g, "er", front(g, 0));
     QCOMPARE(fx.sound.played.last(), "bricks-snap.wav");
     QCOMPARE(g->brickRect(1).topLeft(), QPointF(g->lineRect(0).topLeft()));
+    Shot(g, "word-bricks-placed");
     drag(g, "tig", back(g, 0));
     QCOMPARE(fx.sound.played.last(), "bricks-shake.wav");
     QCOMPARE(LabelText(g, "ScoreLabel"), "Score: -10");
@@ -117,6 +121,7 @@ void WordBricksScreenTest::fromTheTitleThroughAWinToTheTable() {
     QCOMPARE(LabelText(g, "WordsLabel"), "Words built: 2 of 2");
     QCOMPARE(g->Caption->text(), "Well built!");
     QCOMPARE(fx.sound.played.last(), "bricks-win.wav");
+    Shot(g, "word-bricks-won");
     QVERIFY(driver.tables.isEmpty());  // the finished site shows first
     Pump(1000);
     QCOMPARE(driver.tables.size(), 1);
@@ -159,6 +164,39 @@ void WordBricksScreenTest::overlongWordsAreRefused() {
                            "the difficulty level."));
     Pump();
     QVERIFY(Showing<Title>());
+}
+
+void WordBricksScreenTest::aFullSiteFitsAtBothSizes() {
+    ShellFixture fx;
+    Pairs words;
+    for (const char* w : {"hippopotamuses", "encyclopedia", "thunderstorm", "marshmallows", "owl",
+                          "kaleidoscopes", "grasshopper", "strawberries", "neighbourhood", "yak"})
+        words.push_back({w, std::string("something that is called a ") + w});
+    words[0].second =
+        "a very large animal with thick grey skin, a huge mouth and short legs that lives in and "
+        "near the rivers and lakes of Africa and can stay under water for several minutes";
+    for (int k = 1; k <= 10; ++k) fx.rng.pick(k, 10);
+    auto* g = OpenGame<WordBricks>(fx, "Word Bricks", words, 10);
+    QVERIFY(g);
+    for (QSize size : {QSize(1280, 800), QSize(1920, 1080)}) {
+        g->resize(size);
+        Pump(2000);
+        Shot(g, QString("word-bricks-%1").arg(size.width()));
+        QVERIFY(g->clueText(0).whole);
+        QVERIFY(g->clueText(0).font.pixelSize() >= 10);
+        const QRect bar = g->ClockLabel->geometry();
+        for (int l = 0; l < 10; ++l) {
+            const QRect cells = g->lineRect(l), sign = g->signRect(l);
+            QVERIFY(g->rect().contains(cells) && g->rect().contains(sign));
+            QVERIFY(sign.right() < cells.left() && sign.top() > bar.bottom());
+            if (l > 0) QVERIFY(g->signRect(l - 1).bottom() < sign.top());
+        }
+        for (int i = 0; i < int(g->game().bricks.size()); ++i) {
+            const QRectF r = g->brickRect(i);
+            QVERIFY(r.height() >= 40 && r.width() >= 40);
+            QVERIFY(r.top() > g->lineRect(9).bottom() && g->rect().contains(r.toRect()));
+        }
+    }
 }
 
 QTEST_MAIN(WordBricksScreenTest)
