@@ -124,9 +124,9 @@ void SiteArt::paintLetters(QPainter& p, const QRectF& r, const QString& letters,
     QFont f("DejaVu Sans");
     f.setBold(true);
     const double cell = r.width() / letters.size();
-    f.setPixelSize(std::max(6, int(std::min(r.height() * 0.56, cell * 0.8))));
+    f.setPixelSize(std::max(6, int(std::min(r.height() * 0.58, cell * 0.95))));
     p.setFont(f);
-    const QColor ink = look == Look::Built ? QColor(90, 50, 0) : QColor(255, 248, 230);
+    const QColor ink = look == Look::Built ? QColor(110, 52, 0) : QColor(255, 248, 230);
     const QColor edge = look == Look::Built ? QColor(255, 245, 200) : QColor(80, 20, 10);
     for (int i = 0; i < letters.size(); ++i) {
         const QRectF c(r.left() + i * cell, r.top(), cell, r.height() * 0.96);

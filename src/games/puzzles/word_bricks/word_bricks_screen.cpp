@@ -169,14 +169,15 @@ void WordBricks::layOut() {
     const double top = barTop + barH + 10 * k, bottom = h * 0.75 - 14 * k;
     rowH_ = std::min(78 * k, (bottom - top) / n);
     brickH_ = std::min(54 * k, rowH_ - 8 * k);
-    cell_ = brickH_ * 0.7;
+    cell_ = brickH_ * 0.62;
     stripX_ = w - 30 * k - kMaxLength * cell_;
     linesTop_ = top + (bottom - top - n * rowH_) / 2;
-    Caption->setGeometry(w / 4, int(h * 0.36), w / 2, int(90 * k));
+    // Over the ground, clear of the girders and what stands on them.
+    Caption->setGeometry(w / 4, int(h * 0.875 - 45 * k), w / 2, int(90 * k));
     art_.resize(size());
     for (int i = 0; i < int(game_.lines.size()); ++i) {
         const QRect sign = signRect(i);
-        const QSizeF box(sign.width() - sign.height() * 0.7, sign.height() * 0.84);
+        const QSizeF box(sign.width() - sign.height() * 0.8, sign.height() * 0.84);
         clues_[i] = fitClue(toQ(game_.lines[i].clue), box, int(std::min(24 * k, sign.height() * 0.42)),
                             std::max(10, int(11 * k)));
     }
@@ -394,8 +395,8 @@ void WordBricks::paintSite(QPainter& p, const QRect& region) {
             const double ls = QFontMetricsF(c.font).lineSpacing();
             double y = sign.center().y() - ls * c.lines.size() / 2;
             for (const QString& text : c.lines) {
-                p.drawText(QRectF(sign.left() + sign.height() * 0.35, y,
-                                  sign.width() - sign.height() * 0.7, ls),
+                p.drawText(QRectF(sign.left() + sign.height() * 0.4, y,
+                                  sign.width() - sign.height() * 0.8, ls),
                            Qt::AlignVCenter | Qt::AlignLeft, text);
                 y += ls;
             }
@@ -405,9 +406,9 @@ void WordBricks::paintSite(QPainter& p, const QRect& region) {
         const QRect beam(int(cells.left() - 8 * k), cells.bottom() - int(2 * k),
                          int(cells.width() + 16 * k), int(14 * k));
         p.drawPixmap(beam.topLeft(), art_.girder(beam.size()));
-        p.setPen(QPen(QColor(255, 255, 255, line.built ? 0 : 150), std::max(1.0, 2 * k),
+        p.setPen(QPen(QColor(255, 255, 255, line.built ? 0 : 200), std::max(1.0, 2 * k),
                       Qt::DashLine));
-        p.setBrush(QColor(255, 255, 255, 40));
+        p.setBrush(QColor(30, 50, 90, line.built ? 0 : 70));
         for (int c = 0; c < Len(line.word); ++c)
             p.drawRoundedRect(QRectF(cells.left() + c * cell_ + 3 * k, cells.top() + 3 * k,
                                      cell_ - 6 * k, cells.height() - 6 * k),
