@@ -177,9 +177,10 @@ void WordBricks::layOut() {
     art_.resize(size());
     for (int i = 0; i < int(game_.lines.size()); ++i) {
         const QRect sign = signRect(i);
-        const QSizeF box(sign.width() - sign.height() * 0.8, sign.height() * 0.84);
-        clues_[i] = fitClue(toQ(game_.lines[i].clue), box, int(std::min(24 * k, sign.height() * 0.42)),
-                            std::max(10, int(11 * k)));
+        // A little room above and below the letters, so that two lines never touch the edge.
+        const QSizeF box(sign.width() - sign.height() * 0.8, sign.height() * 0.8);
+        clues_[i] = fitClue(toQ(game_.lines[i].clue), box,
+                            int(std::min(22 * k, sign.height() * 0.36)), std::max(10, int(11 * k)));
     }
 }
 

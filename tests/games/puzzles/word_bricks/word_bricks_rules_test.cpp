@@ -34,8 +34,6 @@ TEST(WordBricksSplit, CutsIntoTwosAndThrees) {
         std::vector<int> sizes;  // each drawn cut
         Texts bricks;
     } cases[] = {
-        {"", {}, {}},
-        {"a", {}, {"a"}},
         {"cat", {}, {"cat"}},
         {"moon", {}, {"mo", "on"}},  // never a three and a lonely one
         {"apple", {3}, {"app", "le"}},
@@ -55,31 +53,19 @@ TEST(WordBricksDeal, WordsThenCutsThenTheHeap) {
     SharedState s = ListOf({"tiger", "hippopotamuses", "  ", "zebra", "crocodilesaurus", "ox"});
     s.Meanings[4] = "  ";  // zebra has no meaning: its length stands in
     ScriptedRng rng;
-    rng.pick(1, 6);                  // tiger
-    rng.pick(5, 6);                  // 15 letters: too long for a line
-    rng.pick(1, 6);                  // tiger again
-    rng.pick(3, 6);                  // blank
-    rng.pick(4, 6);                  // zebra
-    rng.pick(2, 2);                  // tiger: "tig" "er"
-    rng.pick(1, 2);                  // zebra: "ze" "bra"
-    rng.pick(1, 4).pick(3, 3).pick(1, 2);  // the heap
+    // tiger, one of 15 letters (too long), tiger again, a blank, zebra; tiger cut "tig" "er",
+    // zebra "ze" "bra"; the heap [tig er ze bra]: 4 swaps with 1, 3 with itself, 2 with 1.
+    rng.pick(1, 6).pick(5, 6).pick(1, 6).pick(3, 6).pick(4, 6).pick(2, 2).pick(1, 2);
+    rng.pick(1, 4).pick(3, 3).pick(1, 2);
     const Game g = deal(s, 2, rng);
-    ASSERT_TRUE(g.ready());
     EXPECT_EQ(rng.draws, 10);
     ASSERT_EQ(g.lines.size(), 2u);
-    EXPECT_EQ(g.lines[0].entry, 1);
     EXPECT_EQ(g.lines[0].clue, "meaning of tiger");
     EXPECT_EQ(g.lines[1].word, "zebra");
     EXPECT_EQ(g.lines[1].clue, "5 letters");
-    // [tig er ze bra]: 4 swaps with 1, 3 with itself, 2 with 1.
     Texts heap;
-    for (const Brick& b : g.bricks) {
-        heap.push_back(b.text);
-        EXPECT_EQ(b.line, -1);
-    }
+    for (const Brick& b : g.bricks) heap.push_back(b.text);
     EXPECT_EQ(heap, (Texts{"er", "bra", "ze", "tig"}));
-    EXPECT_EQ(g.score, 0);
-    EXPECT_FALSE(g.won());
 
     // A 14-letter word is the longest a line takes.
     ScriptedRng one;
@@ -92,11 +78,9 @@ TEST(WordBricksDeal, WordsThenCutsThenTheHeap) {
 }
 
 TEST(WordBricksDeal, UnusableListsEndInsteadOfSpinning) {
-    ScriptedRng rng;
-    rng.setFallback(0.0);  // always the first entry
+    ScriptedRng rng(0.0);  // always the first entry
     EXPECT_FALSE(deal(ListOf({"ant", "bee"}), 2, rng).ready());
     EXPECT_EQ(rng.draws, kMaxDraws);
-    EXPECT_EQ(kMaxDraws, 20000);
     // Every entry tried and too few of them usable: no need to wait for the bound.
     ScriptedRng all;
     all.pick(1, 3).pick(2, 3).pick(3, 3);
@@ -105,69 +89,52 @@ TEST(WordBricksDeal, UnusableListsEndInsteadOfSpinning) {
     EXPECT_FALSE(deal(ListOf({}), 2, all).ready());
 }
 
+// The screen's road covers a refused brick, a wrong line shaken off and the last word's bonus;
+// here what it does not reach.
 TEST(WordBricksPlay, LinesFillCheckAndLock) {
     Game g = table(2, {"Tiger", "ox"}, {"ger", "TI", "o", "x", "ti"});
-    EXPECT_EQ(drop(g, 0, 0).what, Drop::Placed);  // "ger"
-    // Room for two more letters only.
-    EXPECT_EQ(drop(g, 0, 1).what, Drop::Refused);
-    EXPECT_EQ(g.bricks[0].line, 0);
-    EXPECT_EQ(drop(g, 2, 0, 0).what, Drop::Placed);
-    EXPECT_EQ(onLine(g, 0), (Texts{"o", "ger"}));
-    EXPECT_EQ(filled(g, 0), 4);
-    // One more letter fills it wrongly: everything is shaken off and ten points go, below zero.
-    const DropResult wrong = drop(g, 3, 0);
-    EXPECT_EQ(wrong.what, Drop::Shaken);
-    EXPECT_EQ(wrong.shaken, (std::vector<int>{2, 0, 3}));
-    EXPECT_EQ(g.score, -10);
-    EXPECT_TRUE(g.lines[0].bricks.empty());
-    for (const Brick& b : g.bricks) EXPECT_EQ(b.line, -1);
-
+    EXPECT_EQ(drop(g, 0, 1).what, Drop::Refused);  // three letters, room for two
+    EXPECT_EQ(drop(g, 2, 1).what, Drop::Placed);
+    EXPECT_EQ(drop(g, 2, -1).what, Drop::Moved);    // back to the ground
+    EXPECT_TRUE(g.lines[1].bricks.empty());
     // Another word's brick spells it too, in any case.
-    g.seconds = 70;
     EXPECT_EQ(drop(g, 0, 0).what, Drop::Placed);
     EXPECT_EQ(drop(g, 1, 0, 0).what, Drop::Built);
-    EXPECT_EQ(g.score, -10 + 50);
-    EXPECT_TRUE(g.lines[0].built);
+    EXPECT_EQ(g.score, 50);
+    EXPECT_EQ(onLine(g, 0), (Texts{"TI", "ger"}));
     // A built line keeps its bricks and takes no more.
     EXPECT_EQ(drop(g, 1, -1).what, Drop::Refused);
     EXPECT_EQ(drop(g, 4, 0).what, Drop::Refused);
-
-    // On a line and back to the ground; moved along its line.
-    EXPECT_EQ(drop(g, 2, 1).what, Drop::Placed);
-    EXPECT_EQ(drop(g, 2, -1).what, Drop::Moved);
-    EXPECT_TRUE(g.lines[1].bricks.empty());
-    EXPECT_EQ(drop(g, 3, 1).what, Drop::Placed);
+    // A full wrong line: every brick off, ten points gone.
+    drop(g, 3, 1);
+    const DropResult wrong = drop(g, 2, 1);
+    EXPECT_EQ(wrong.what, Drop::Shaken);
+    EXPECT_EQ(wrong.shaken, (std::vector<int>{3, 2}));
+    EXPECT_EQ(g.score, 40);
+    EXPECT_EQ(g.bricks[3].line, -1);
+    g.seconds = 71;
+    drop(g, 2, 1);
+    EXPECT_EQ(drop(g, 3, 1).what, Drop::Won);
+    EXPECT_EQ(g.score, 40 + 20 + (80 - 71) * 2);
     tick(g);
-    EXPECT_EQ(g.seconds, 71);
-    // The last word: 20 points and (40 x 2 - 71) x 2.
-    EXPECT_EQ(drop(g, 2, 1, 0).what, Drop::Won);
-    EXPECT_EQ(g.score, -10 + 50 + 20 + 18);
-    tick(g);
-    EXPECT_EQ(g.seconds, 71);
+    EXPECT_EQ(g.seconds, 71);  // the clock stops
     EXPECT_EQ(drop(g, 4, -1).what, Drop::Refused);
 }
 
 TEST(WordBricksPlay, BricksMoveAlongTheirLine) {
-    Game g = table(1, {"abcdefg"}, {"ab", "cd", "efg"});
-    drop(g, 2, 0);
-    drop(g, 0, 0);
-    EXPECT_EQ(onLine(g, 0), (Texts{"efg", "ab"}));
-    EXPECT_EQ(drop(g, 0, 0, 0).what, Drop::Placed);  // from the end to the front
-    EXPECT_EQ(drop(g, 0, 0, 2).what, Drop::Placed);  // and back behind "efg"
-    EXPECT_EQ(onLine(g, 0), (Texts{"efg", "ab"}));
-    EXPECT_EQ(drop(g, 0, 0, 0).what, Drop::Placed);
-    EXPECT_EQ(drop(g, 1, 0, 1).what, Drop::Won);
+    Game g = table(1, {"abcdefgh"}, {"ab", "cd", "ef", "gh"});
+    for (int b : {0, 1, 2}) drop(g, b, 0);
+    EXPECT_EQ(drop(g, 0, 0, 2).what, Drop::Placed);  // in front of "ef"
+    EXPECT_EQ(onLine(g, 0), (Texts{"cd", "ab", "ef"}));
+    drop(g, 0, 0, 0);
+    EXPECT_EQ(drop(g, 3, 0, 9).what, Drop::Won);  // past the end: at the end
 }
 
-TEST(WordBricksScore, FormulasAndClock) {
-    EXPECT_EQ(builtPoints("ice cream"), 90);
-    EXPECT_EQ(shakePoints(), 10);
-    struct {
-        int seconds, level;
-        double bonus;
-    } bonuses[] = {{0, 2, 160}, {79, 2, 2}, {80, 2, 0}, {500, 2, 0}, {100, 10, 600}};
-    for (auto b : bonuses) EXPECT_EQ(finishBonus(b.seconds, b.level), b.bonus) << b.seconds;
-    EXPECT_EQ(clockText(0), "0:00");
+TEST(WordBricksScore, BonusAndClock) {
+    // max(0, 40 x level - seconds) x 2
+    EXPECT_EQ(finishBonus(0, 10), 800);
+    EXPECT_EQ(finishBonus(79, 2), 2);
+    EXPECT_EQ(finishBonus(81, 2), 0);
     EXPECT_EQ(clockText(69), "1:09");
     EXPECT_EQ(clockText(600), "10:00");
 }
