@@ -81,8 +81,8 @@ DropResult drop(Game& g, int brick, int line, int at) {
     if (b.line >= 0 && g.lines[b.line].built) return r;
     if (line >= int(g.lines.size())) line = -1;
     if (line >= 0) {
+        // A built line is full: the room it has left turns every brick away.
         const Line& to = g.lines[line];
-        if (to.built) return r;
         const int room = Len(to.word) - filled(g, line) + (b.line == line ? Len(b.text) : 0);
         if (Len(b.text) > room) return r;
     }

@@ -112,11 +112,25 @@ const QPixmap& SiteArt::sign(const QSize& size) {
 }
 
 void SiteArt::paintBrick(QPainter& p, const QRectF& r, const QString& letters, Look look) {
-    const QSize size = r.size().toSize();
-    const QPixmap& pm = look == Look::Built ? cached(litSvg_, lit_, size, QColor(250, 200, 60))
-                                            : cached(brickSvg_, bricks_, size, QColor(190, 70, 50));
-    p.drawPixmap(r.topLeft(), pm);
-    paintLetters(p, r, letters, look);
+    const QSize size = r.size().toSize().expandedTo(QSize(1, 1));
+    const QString key = QString("%1|%2x%3|%4")
+                            .arg(letters)
+                            .arg(size.width())
+                            .arg(size.height())
+                            .arg(int(look));
+    auto it = sprites_.find(key);
+    if (it == sprites_.end()) {
+        if (sprites_.size() > 400) sprites_.clear();
+        QPixmap pm(size);
+        pm.fill(Qt::transparent);
+        QPainter q(&pm);
+        q.setRenderHint(QPainter::Antialiasing);
+        q.drawPixmap(0, 0, look == Look::Built ? cached(litSvg_, lit_, size, QColor(250, 200, 60))
+                                               : cached(brickSvg_, bricks_, size, QColor(190, 70, 50)));
+        paintLetters(q, QRectF(QPointF(0, 0), size), letters, look);
+        it = sprites_.emplace(key, pm).first;
+    }
+    p.drawPixmap(r.topLeft(), it->second);
 }
 
 void SiteArt::paintLetters(QPainter& p, const QRectF& r, const QString& letters, Look look) {

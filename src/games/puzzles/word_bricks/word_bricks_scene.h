@@ -42,6 +42,7 @@ private:
     QSvgRenderer siteSvg_, girderSvg_, signSvg_, brickSvg_, litSvg_;
     QPixmap site_;
     std::map<std::pair<int, int>, QPixmap> girders_, signs_, bricks_, lit_;
+    std::map<QString, QPixmap> sprites_;  // whole bricks, letters and all
 };
 
 }  // namespace wm::word_bricks

@@ -107,6 +107,7 @@ void WordBricks::SetupGame() {
     order_.clear();
     for (int i = 0; i < n; ++i) order_.push_back(i);
     builtAt_.assign(game_.lines.size(), -1);
+    shownAt_.assign(n, {});
     clues_.assign(game_.lines.size(), {});
     layOut();
     showStatus();
@@ -175,6 +176,7 @@ void WordBricks::layOut() {
     // Over the ground, clear of the girders and what stands on them.
     Caption->setGeometry(w / 4, int(h * 0.875 - 45 * k), w / 2, int(90 * k));
     art_.resize(size());
+    backdropStale_ = true;
     for (int i = 0; i < int(game_.lines.size()); ++i) {
         const QRect sign = signRect(i);
         // A little room above and below the letters, so that two lines never touch the edge.
@@ -264,6 +266,7 @@ bool WordBricks::animating() const {
 
 void WordBricks::slide(int i, QPointF from, int delay, int ms, bool shake) {
     slides_[i] = {from, now(), delay, ms, shake};
+    shownAt_[i] = QRectF(from, brickSize(i));
     if (!Timer2.isActive()) Timer2.start();
 }
 
@@ -351,6 +354,7 @@ void WordBricks::settle(const DropResult& r, int line) {
         case Drop::Built:
         case Drop::Won:
             builtAt_[line] = now() + kSlideMs;
+            backdropStale_ = true;  // its chalk marks are gone
             sound().effect(r.what == Drop::Won ? "bricks-win.wav" : "bricks-built.wav");
             if (r.what == Drop::Won) {
                 Timer1.stop();
@@ -372,72 +376,95 @@ void WordBricks::settle(const DropResult& r, int line) {
 }
 
 void WordBricks::animate() {
-    update();
+    // Only what moves is painted again: each moving brick where it was and where it is.
+    QRegion dirty;
+    const double m = brickH_ * 0.3;
+    for (int i = 0; i < int(slides_.size()); ++i) {
+        if (slides_[i].start < 0) continue;
+        const QRectF at = brickRect(i);
+        dirty += (shownAt_[i] | at).adjusted(-m, -m, m, m).toAlignedRect();
+        shownAt_[i] = at;
+    }
+    const qint64 t = now();
+    for (int l = 0; l < int(builtAt_.size()); ++l) {
+        if (builtAt_[l] < 0 || t - builtAt_[l] > kGlowMs + 2 * Ticker::kFrameMs) continue;
+        dirty += lineRect(l).adjusted(-int(brickH_), -int(brickH_), int(brickH_), 0);
+    }
+    update(dirty);
     if (!animating()) {
         for (Slide& s : slides_) s.start = -1;
         Timer2.stop();
     }
 }
 
-void WordBricks::paintSite(QPainter& p, const QRect& region) {
-    p.drawPixmap(region, art_.site(), region);
+void WordBricks::renderBackdrop() {
+    backdrop_ = QPixmap(size().expandedTo(QSize(1, 1)));
+    QPainter p(&backdrop_);
+    p.drawPixmap(0, 0, art_.site());
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::SmoothPixmapTransform);
-    const qint64 t = now();
     const double k = height() / 800.0;
     for (int l = 0; l < int(game_.lines.size()); ++l) {
         const Line& line = game_.lines[l];
         const QRect sign = signRect(l);
-        if (region.intersects(sign)) {
-            p.drawPixmap(sign.topLeft(), art_.sign(sign.size()));
-            const ClueText& c = clues_[l];
-            p.setFont(c.font);
-            p.setPen(QColor(70, 40, 12));
-            const double ls = QFontMetricsF(c.font).lineSpacing();
-            double y = sign.center().y() - ls * c.lines.size() / 2;
-            for (const QString& text : c.lines) {
-                p.drawText(QRectF(sign.left() + sign.height() * 0.4, y,
-                                  sign.width() - sign.height() * 0.8, ls),
-                           Qt::AlignVCenter | Qt::AlignLeft, text);
-                y += ls;
-            }
+        p.drawPixmap(sign.topLeft(), art_.sign(sign.size()));
+        const ClueText& c = clues_[l];
+        p.setFont(c.font);
+        p.setPen(QColor(70, 40, 12));
+        const double ls = QFontMetricsF(c.font).lineSpacing();
+        double y = sign.center().y() - ls * c.lines.size() / 2;
+        for (const QString& text : c.lines) {
+            p.drawText(QRectF(sign.left() + sign.height() * 0.4, y,
+                              sign.width() - sign.height() * 0.8, ls),
+                       Qt::AlignVCenter | Qt::AlignLeft, text);
+            y += ls;
         }
         const QRect cells = lineRect(l);
         // The girder the bricks stand on, and chalk marks for every letter still to come.
         const QRect beam(int(cells.left() - 8 * k), cells.bottom() - int(2 * k),
                          int(cells.width() + 16 * k), int(14 * k));
         p.drawPixmap(beam.topLeft(), art_.girder(beam.size()));
-        p.setPen(QPen(QColor(255, 255, 255, line.built ? 0 : 200), std::max(1.0, 2 * k),
-                      Qt::DashLine));
-        p.setBrush(QColor(30, 50, 90, line.built ? 0 : 70));
+        if (line.built) continue;
+        p.setPen(QPen(QColor(255, 255, 255, 200), std::max(1.0, 2 * k), Qt::DashLine));
+        p.setBrush(QColor(30, 50, 90, 70));
         for (int c = 0; c < Len(line.word); ++c)
             p.drawRoundedRect(QRectF(cells.left() + c * cell_ + 3 * k, cells.top() + 3 * k,
                                      cell_ - 6 * k, cells.height() - 6 * k),
                               4 * k, 4 * k);
+    }
+    backdropStale_ = false;
+}
+
+void WordBricks::paintSite(QPainter& p, const QRegion& region) {
+    if (backdropStale_ || backdrop_.size() != size()) renderBackdrop();
+    for (const QRect& r : region) p.drawPixmap(r, backdrop_, r);
+    p.setRenderHint(QPainter::Antialiasing);
+    const qint64 t = now();
+    for (int l = 0; l < int(game_.lines.size()); ++l) {
         const double since = builtAt_[l] >= 0 ? double(t - builtAt_[l]) : -1;
-        if (since >= 0 && since < kGlowMs) {
-            // Sparkles rise off a girder as it lights up.
-            const double u = since / kGlowMs;
-            p.setPen(Qt::NoPen);
-            for (int s = 0; s < 10; ++s) {
-                const double x = cells.left() + (s + 0.5) * cells.width() / 10.0;
-                const double y = cells.top() - u * brickH_ * (0.6 + 0.4 * ((s * 7) % 3));
-                const double r = brickH_ * 0.12 * (1 - u);
-                p.setBrush(QColor(255, 230 - s * 8, 90, int(255 * (1 - u))));
-                QPainterPath star;
-                for (int q = 0; q < 8; ++q) {
-                    const double a = q * M_PI / 4, rr = q % 2 ? r * 0.4 : r;
-                    const QPointF pt(x + rr * std::cos(a), y + rr * std::sin(a));
-                    q ? star.lineTo(pt) : star.moveTo(pt);
-                }
-                p.drawPath(star);
+        if (since < 0 || since >= kGlowMs) continue;
+        // Sparkles rise off a girder as it lights up.
+        const QRect cells = lineRect(l);
+        const double u = since / kGlowMs;
+        p.setPen(Qt::NoPen);
+        for (int s = 0; s < 10; ++s) {
+            const double x = cells.left() + (s + 0.5) * cells.width() / 10.0;
+            const double y = cells.top() - u * brickH_ * (0.6 + 0.4 * ((s * 7) % 3));
+            const double r = brickH_ * 0.12 * (1 - u);
+            p.setBrush(QColor(255, 230 - s * 8, 90, int(255 * (1 - u))));
+            QPainterPath star;
+            for (int q = 0; q < 8; ++q) {
+                const double a = q * M_PI / 4, rr = q % 2 ? r * 0.4 : r;
+                const QPointF pt(x + rr * std::cos(a), y + rr * std::sin(a));
+                q ? star.lineTo(pt) : star.moveTo(pt);
             }
+            p.drawPath(star);
         }
     }
+    const double m = brickH_ * 0.3;
     for (int i : order_) {
         const QRectF r = brickRect(i);
-        if (!region.intersects(r.adjusted(-brickH_, -brickH_, brickH_, brickH_).toAlignedRect()))
-            continue;
+        if (!region.intersects(r.adjusted(-m, -m, m, m).toAlignedRect())) continue;
         const Brick& b = game_.bricks[i];
         const bool built = b.line >= 0 && game_.lines[b.line].built;
         const bool lifted = i == dragged_;
@@ -452,7 +479,7 @@ void WordBricks::paintSite(QPainter& p, const QRect& region) {
 
 void WordBricks::paintEvent(QPaintEvent* e) {
     QPainter p(this);
-    paintSite(p, e->rect());
+    paintSite(p, e->region());
 }
 
 void WordBricks::resizeEvent(QResizeEvent*) {

@@ -44,7 +44,7 @@ public:
     void moveTo(QPointF at);
     void release(QPointF at);
     // Paints the whole site as it stands now (the benchmark's frame).
-    void paintSite(QPainter& p, const QRect& region);
+    void paintSite(QPainter& p, const QRegion& region);
 
 protected:
     void paintEvent(QPaintEvent*) override;
@@ -62,6 +62,7 @@ private:
         bool shake = false;
     };
     void layOut();
+    void renderBackdrop();
     void beginPlay();
     void showStatus();
     void animate();
@@ -87,6 +88,10 @@ private:
     std::vector<Slide> slides_;
     std::vector<int> order_;      // painting order, the top brick last
     std::vector<qint64> builtAt_; // when each girder lit up (-1: not yet)
+    std::vector<QRectF> shownAt_; // where each moving brick was painted last
+    // The site, the signs with their clues and the girders: all that stands still.
+    QPixmap backdrop_;
+    bool backdropStale_ = true;
     bool playing_ = false;
     int dragged_ = -1;
     QPointF grab_;      // the pointer's offset from the dragged brick's corner
