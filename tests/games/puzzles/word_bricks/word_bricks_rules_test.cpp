@@ -1,0 +1,140 @@
+#include "games/puzzles/word_bricks/word_bricks_rules.h"
+
+#include <gtest/gtest.h>
+
+#include "core/rng.h"
+#include "word_lists.h"
+
+using namespace wm;
+using namespace wm::word_bricks;
+using wm::test::ListOf;
+
+namespace {
+using Texts = std::vector<std::string>;
+
+// A game of the given words, their bricks on the ground in the order given.
+Game table(int level, const Texts& words, const Texts& bricks) {
+    Game g;
+    g.level = level;
+    for (const auto& w : words) g.lines.push_back({0, w, "", {}, false});
+    for (const auto& b : bricks) g.bricks.push_back({b, -1});
+    return g;
+}
+
+Texts onLine(const Game& g, int line) {
+    Texts t;
+    for (int b : g.lines[line].bricks) t.push_back(g.bricks[b].text);
+    return t;
+}
+}  // namespace
+
+TEST(WordBricksSplit, CutsIntoTwosAndThrees) {
+    struct Case {
+        std::string word;
+        std::vector<int> sizes;  // each drawn cut
+        Texts bricks;
+    } cases[] = {
+        {"cat", {}, {"cat"}},
+        {"moon", {}, {"mo", "on"}},  // never a three and a lonely one
+        {"apple", {3}, {"app", "le"}},
+        {"apple", {2}, {"ap", "ple"}},
+        {"elephants", {2, 3}, {"el", "eph", "an", "ts"}},
+        {"ice cream", {3, 3}, {"ice", " cr", "eam"}},
+    };
+    for (const Case& c : cases) {
+        ScriptedRng rng;
+        for (int size : c.sizes) rng.pick(size - 1, 2);
+        EXPECT_EQ(split(c.word, rng), c.bricks) << c.word;
+        EXPECT_EQ(rng.draws, int(c.sizes.size())) << c.word;
+    }
+}
+
+TEST(WordBricksDeal, WordsThenCutsThenTheHeap) {
+    SharedState s = ListOf({"tiger", "hippopotamuses", "  ", "zebra", "crocodilesaurus", "ox"});
+    s.Meanings[4] = "  ";  // zebra has no meaning: its length stands in
+    ScriptedRng rng;
+    // tiger, one of 15 letters (too long), tiger again, a blank, zebra; tiger cut "tig" "er",
+    // zebra "ze" "bra"; the heap [tig er ze bra]: 4 swaps with 1, 3 with itself, 2 with 1.
+    rng.pick(1, 6).pick(5, 6).pick(1, 6).pick(3, 6).pick(4, 6).pick(2, 2).pick(1, 2);
+    rng.pick(1, 4).pick(3, 3).pick(1, 2);
+    const Game g = deal(s, 2, rng);
+    EXPECT_EQ(rng.draws, 10);
+    ASSERT_EQ(g.lines.size(), 2u);
+    EXPECT_EQ(g.lines[0].clue, "meaning of tiger");
+    EXPECT_EQ(g.lines[1].word, "zebra");
+    EXPECT_EQ(g.lines[1].clue, "5 letters");
+    Texts heap;
+    for (const Brick& b : g.bricks) heap.push_back(b.text);
+    EXPECT_EQ(heap, (Texts{"er", "bra", "ze", "tig"}));
+
+    // A 14-letter word is the longest a line takes.
+    ScriptedRng one;
+    one.pick(2, 6);
+    EXPECT_EQ(deal(s, 1, one).lines.at(0).word, "hippopotamuses");
+
+    const SharedState bare = ListOf({"a", "bee"}, 1, true);
+    EXPECT_EQ(clue(bare, 1), "1 letter");
+    EXPECT_EQ(clue(bare, 2), "3 letters");
+}
+
+TEST(WordBricksDeal, UnusableListsEndInsteadOfSpinning) {
+    ScriptedRng rng(0.0);  // always the first entry
+    EXPECT_FALSE(deal(ListOf({"ant", "bee"}), 2, rng).ready());
+    EXPECT_EQ(rng.draws, kMaxDraws);
+    // Every entry tried and too few of them usable: no need to wait for the bound.
+    ScriptedRng all;
+    all.pick(1, 3).pick(2, 3).pick(3, 3);
+    EXPECT_FALSE(deal(ListOf({"ant", "extraordinarily", "bee"}), 3, all).ready());
+    EXPECT_EQ(all.draws, 3);
+    EXPECT_FALSE(deal(ListOf({}), 2, all).ready());
+}
+
+// The screen's road covers a refused brick, a wrong line shaken off and the last word's bonus;
+// here what it does not reach.
+TEST(WordBricksPlay, LinesFillCheckAndLock) {
+    Game g = table(2, {"Tiger", "ox"}, {"ger", "TI", "o", "x", "ti"});
+    EXPECT_EQ(drop(g, 0, 1).what, Drop::Refused);  // three letters, room for two
+    EXPECT_EQ(drop(g, 2, 1).what, Drop::Placed);
+    EXPECT_EQ(drop(g, 2, -1).what, Drop::Moved);    // back to the ground
+    EXPECT_TRUE(g.lines[1].bricks.empty());
+    // Another word's brick spells it too, in any case.
+    EXPECT_EQ(drop(g, 0, 0).what, Drop::Placed);
+    EXPECT_EQ(drop(g, 1, 0, 0).what, Drop::Built);
+    EXPECT_EQ(g.score, 50);
+    EXPECT_EQ(onLine(g, 0), (Texts{"TI", "ger"}));
+    // A built line keeps its bricks and takes no more.
+    EXPECT_EQ(drop(g, 1, -1).what, Drop::Refused);
+    EXPECT_EQ(drop(g, 4, 0).what, Drop::Refused);
+    // A full wrong line: every brick off, ten points gone.
+    drop(g, 3, 1);
+    const DropResult wrong = drop(g, 2, 1);
+    EXPECT_EQ(wrong.what, Drop::Shaken);
+    EXPECT_EQ(wrong.shaken, (std::vector<int>{3, 2}));
+    EXPECT_EQ(g.score, 40);
+    EXPECT_EQ(g.bricks[3].line, -1);
+    g.seconds = 71;
+    drop(g, 2, 1);
+    EXPECT_EQ(drop(g, 3, 1).what, Drop::Won);
+    EXPECT_EQ(g.score, 40 + 20 + (80 - 71) * 2);
+    tick(g);
+    EXPECT_EQ(g.seconds, 71);  // the clock stops
+    EXPECT_EQ(drop(g, 4, -1).what, Drop::Refused);
+}
+
+TEST(WordBricksPlay, BricksMoveAlongTheirLine) {
+    Game g = table(1, {"abcdefgh"}, {"ab", "cd", "ef", "gh"});
+    for (int b : {0, 1, 2}) drop(g, b, 0);
+    EXPECT_EQ(drop(g, 0, 0, 2).what, Drop::Placed);  // in front of "ef"
+    EXPECT_EQ(onLine(g, 0), (Texts{"cd", "ab", "ef"}));
+    drop(g, 0, 0, 0);
+    EXPECT_EQ(drop(g, 3, 0, 9).what, Drop::Won);  // past the end: at the end
+}
+
+TEST(WordBricksScore, BonusAndClock) {
+    // max(0, 40 x level - seconds) x 2
+    EXPECT_EQ(finishBonus(0, 10), 800);
+    EXPECT_EQ(finishBonus(79, 2), 2);
+    EXPECT_EQ(finishBonus(81, 2), 0);
+    EXPECT_EQ(clockText(69), "1:09");
+    EXPECT_EQ(clockText(600), "10:00");
+}
