@@ -20,11 +20,12 @@ namespace lt = letter_toss;
 
 namespace {
 constexpr int kSinkMs = 260;
-constexpr int kWobbleMs = 500;
+constexpr int kSparkleMs = 700;
+constexpr int kConfettiMs = 3200;
 constexpr int kPopMs = 1300;
 const QPointF kHome(lt::kEyeX, lt::kFloorFrontY - lt::kHandH);
 const QRectF kFan(740, 14, 120, 120);
-const QRectF kArrow(880, 40, 250, 70);
+const QRectF kArrow(880, 14, 230, 80);
 const QRectF kBanner(450, 190, 700, 190);
 
 QFont Font(double px, bool bold) {
@@ -85,8 +86,9 @@ QRectF TossScene::binRect(int basket) const {
 }
 
 void TossScene::newWord() {
+    confettiMs_ = -1;
     rightLit_ = false;
-    sinkMs_ = wobbleMs_ = -1;
+    sinkMs_ = sparkleMs_ = -1;
     buildLayer();
     update();
 }
@@ -106,8 +108,9 @@ void TossScene::setAiming(bool on) {
 void TossScene::landed(const lt::Step& step) {
     if (step.basket >= 0) {
         sinkMs_ = 0;
-        wobbleMs_ = 0;
         sinkBasket_ = step.basket;
+        const bool right = step.landing == lt::Landing::Swish || step.landing == lt::Landing::Right;
+        sparkleMs_ = right ? 0 : -1;
     }
     const QRectF bin = step.basket >= 0 ? binRect(step.basket) : QRectF(ballAt_, QSizeF(0, 0));
     QString text;
@@ -118,11 +121,11 @@ void TossScene::landed(const lt::Step& step) {
             colour = QColor(90, 230, 90);
             break;
         case lt::Landing::Right:
-            text = QString("+%1").arg(step.points);
+            text = QString("In! +%1").arg(step.points);
             colour = QColor(90, 230, 90);
             break;
         case lt::Landing::Wrong:
-            text = QString("%1").arg(step.points);
+            text = QString("Wrong basket! %1").arg(step.points);
             break;
         case lt::Landing::Floor:
             text = "Missed! Toss again";
@@ -179,10 +182,14 @@ void TossScene::advance(int ms) {
         }
         dirty(ballRect());
     }
-    if (wobbleMs_ >= 0 && sinkBasket_ >= 0) {
-        wobbleMs_ += ms;
-        dirty(binRect(sinkBasket_).adjusted(-20, -20, 20, 20));
-        if (wobbleMs_ >= kWobbleMs) wobbleMs_ = -1;
+    if (sparkleMs_ >= 0 && sinkBasket_ >= 0) {
+        sparkleMs_ += ms;
+        dirty(binRect(sinkBasket_).adjusted(-70, -70, 70, 30));
+        if (sparkleMs_ >= kSparkleMs) sparkleMs_ = -1;
+    }
+    if (confettiMs_ >= 0 && confettiMs_ < kConfettiMs) {
+        confettiMs_ += ms;
+        update();
     }
     for (Pop& pop : pops_) {
         pop.ageMs += ms;
@@ -284,7 +291,7 @@ void TossScene::paintBall(QPainter& p) {
 void TossScene::paintFan(QPainter& p) {
     // The blades turn faster in a stronger draught, and the arrow shows where it blows.
     const QPixmap& blades = sprite("fan_blades", 84);
-    const QPointF hub = toWidget(QPointF(kFan.center().x(), kFan.top() + 52));
+    const QPointF hub = toWidget(kFan.topLeft() + QPointF(60, 72));  // the cage's middle
     p.save();
     p.translate(hub);
     p.rotate(fanAngle_);
@@ -295,12 +302,15 @@ void TossScene::paintFan(QPainter& p) {
     p.setPen(QPen(QColor(90, 60, 30), 3 * k_));
     p.setBrush(QColor(255, 248, 225, 235));
     p.drawRoundedRect(box, 14 * k_, 14 * k_);
-    const QPointF c = box.center() + QPointF(0, 6 * k_);
-    p.setFont(Font(15 * k_, true));
+    const QPointF c = box.center() + QPointF(0, 12 * k_);
+    p.setFont(Font(17 * k_, true));
     p.setPen(QColor(90, 60, 30));
-    p.drawText(QRectF(box.left(), box.top() + 3 * k_, box.width(), 20 * k_), Qt::AlignCenter,
-               d == 0 ? QString("No draught") : QString("Draught %1").arg(std::abs(d)));
-    if (d == 0) return;
+    if (d == 0) {
+        p.drawText(box, Qt::AlignCenter, "No draught");
+        return;
+    }
+    p.drawText(QRectF(box.left(), box.top() + 4 * k_, box.width(), 24 * k_), Qt::AlignCenter,
+               QString("Draught: %1").arg(std::abs(d)));
     const double len = (24 + 22 * std::abs(d)) * k_, dir = d < 0 ? -1 : 1;
     const QPointF tail = c - QPointF(dir * len / 2, 0), head = c + QPointF(dir * len / 2, 0);
     const double wave = std::sin(clockMs_ / 140.0) * 2 * k_;
@@ -312,6 +322,32 @@ void TossScene::paintFan(QPainter& p) {
                             head - QPointF(dir * 18 * k_, 14 * k_),
                             head - QPointF(dir * 18 * k_, -14 * k_)};
     p.drawPolygon(tri, 3);
+}
+
+void TossScene::celebrate() {
+    confettiMs_ = 0;
+    update();
+}
+
+void TossScene::paintConfetti(QPainter& p) {
+    if (confettiMs_ < 0 || confettiMs_ >= kConfettiMs) return;
+    static const QColor colours[] = {QColor(240, 80, 80), QColor(250, 190, 60), QColor(90, 200, 90),
+                                     QColor(70, 150, 230), QColor(170, 110, 220)};
+    const double t = confettiMs_ / 1000.0;
+    p.setPen(Qt::NoPen);
+    p.setOpacity(1 - scene::easeIn(double(confettiMs_) / kConfettiMs));
+    for (int i = 0; i < 90; ++i) {
+        // Each piece its own column, start and fall, flutters as it goes.
+        const double x = std::fmod(i * 173.0, lt::kStageW) + std::sin(t * 3 + i) * 30;
+        const double y = -30 - (i % 7) * 40 + t * (260 + (i * 37) % 180);
+        p.save();
+        p.translate(toWidget(QPointF(x, y)));
+        p.rotate(t * 200 + i * 40);
+        p.setBrush(colours[i % 5]);
+        p.drawRect(QRectF(-7 * k_, -4 * k_, 14 * k_, 8 * k_));
+        p.restore();
+    }
+    p.setOpacity(1);
 }
 
 void TossScene::paintPops(QPainter& p) {
@@ -363,16 +399,23 @@ void TossScene::paintEvent(QPaintEvent* e) {
         for (int i = 0; i < int(room_->baskets.size()); ++i) {
             QRectF bin = binRect(i);
             if (!bin.intersects(ballRect())) continue;
-            QPointF at = toWidget(bin.topLeft());
-            if (i == sinkBasket_ && wobbleMs_ >= 0) {
-                const double u = double(wobbleMs_) / kWobbleMs;
-                at.rx() += std::sin(u * 20) * (1 - u) * 5 * k_;
-            }
-            p.drawPixmap(at, sprite("bin_front", bin.width()));
+            p.drawPixmap(toWidget(bin.topLeft()), sprite("bin_front", bin.width()));
+        }
+    }
+    if (sparkleMs_ >= 0 && sinkBasket_ >= 0) {
+        // Twinkles round the rim of the right basket.
+        const QRectF bin = binRect(sinkBasket_);
+        const double u = double(sparkleMs_) / kSparkleMs;
+        for (int i = 0; i < 8; ++i) {
+            const double ang = i * M_PI / 4 + u * 2.5;
+            const QPointF at(bin.center().x() + std::cos(ang) * (50 + 40 * u),
+                             bin.top() + 20 + std::sin(ang) * (22 + 26 * u));
+            scene::paintSparkle(p, toWidget(at), 16 * k_ * (1 - 0.5 * u), ang, 1 - u);
         }
     }
     paintFan(p);
     paintPops(p);
+    paintConfetti(p);
     paintBanner(p);
 }
 

@@ -33,6 +33,8 @@ public:
     // The sign of the word's own basket lights up (after a toss into another one).
     void showRight(bool on);
     void setBanner(const QString& big, const QString& small = {});
+    // Confetti over the room: the game ended with points.
+    void celebrate();
     // Moves every animation on by `ms` and repaints what moved.
     void advance(int ms);
 
@@ -73,6 +75,7 @@ private:
     void paintBall(QPainter& p);
     void paintFan(QPainter& p);
     void paintPops(QPainter& p);
+    void paintConfetti(QPainter& p);
     void paintBanner(QPainter& p);
     QRectF ballRect() const;  // stage units, shadow included
     QRectF binRect(int basket) const;
@@ -96,7 +99,8 @@ private:
     std::vector<letter_toss::Sample> drag_;
     int sinkMs_ = -1;    // the ball dropping into a basket
     int sinkBasket_ = -1;
-    int wobbleMs_ = -1;  // the basket it dropped into
+    int sparkleMs_ = -1;  // round the right basket
+    int confettiMs_ = -1;
     bool rightLit_ = false;
     double fanAngle_ = 0;
     std::vector<Pop> pops_;

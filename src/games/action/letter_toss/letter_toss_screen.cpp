@@ -194,6 +194,7 @@ void LetterTossGame::timeUp() {
     Timer3.stop();
     scene_->setAiming(false);
     scene_->setBanner("Time's up!", "Score: " + frame_.scoreText(Shared().Score));
+    if (Shared().Score > 0) scene_->celebrate();
     sound().effect("toss-end.wav");
     Timer4.start();
 }

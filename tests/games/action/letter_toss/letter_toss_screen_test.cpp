@@ -56,6 +56,7 @@ void LetterTossScreenTest::roadFromTitleThroughSixtySecondsToTheTable() {
     QCOMPARE(game->scene()->signText(1), "it floats in the sky");
     QCOMPARE(LabelText(game, "WordLabel"), "cloud");
     QCOMPARE(game->scene()->banner(), "Get ready...");
+    Shot(game, "toss-ready");
     Flick(game, 0, -150);  // the ball cannot be picked up yet
     QVERIFY(!game->room().ball.flying);
     Pump(2000);
@@ -65,6 +66,7 @@ void LetterTossScreenTest::roadFromTitleThroughSixtySecondsToTheTable() {
     QVERIFY(game->room().ball.flying);
     QCOMPARE(fx.sound.played.last(), "toss-throw.wav");
     Pump(1200);
+    Shot(game, "toss-swish");
     QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 150");
     QCOMPARE(fx.sound.played.last(), "toss-swish.wav");
     QCOMPARE(LabelText(game, "TimeLabel"), "Time left: 59");
@@ -75,6 +77,7 @@ void LetterTossScreenTest::roadFromTitleThroughSixtySecondsToTheTable() {
 
     game->letGo({800, 850}, {-1109, -1011});  // into the left basket: the wrong one
     Pump(1600);
+    Shot(game, "toss-wrong");
     QCOMPARE(Shared().Score, 100.0);
     QVERIFY(fx.sound.played.contains("toss-wrong.wav"));
     QCOMPARE(game->phase(), LetterTossGame::Phase::Landed);  // its own basket lit a while
@@ -87,6 +90,7 @@ void LetterTossScreenTest::roadFromTitleThroughSixtySecondsToTheTable() {
     Pump(1000);
     QCOMPARE(game->scene()->banner(), "Time's up!");
     QCOMPARE(fx.sound.played.last(), "toss-end.wav");
+    Shot(game, "toss-time-up");
     Flick(game, 0, -150);
     QVERIFY(!game->room().ball.flying);
     Pump(1800);
@@ -101,17 +105,27 @@ void LetterTossScreenTest::missesNoPointsTryAgainAndTheLastBallInTheAir() {
     ShellFixture fx;
     WinDriver win;
     SetModalHook(std::ref(win));
-    auto* game = OpenGame<LetterTossGame>(fx, "Letter Toss", kFour, 2, false, false);
+    Pairs list = kFour;
+    list[2] = {"photosynthesis",
+               "how green plants make their own food from sunlight, water and the air around "
+               "them, in the green parts of their leaves"};
+    auto* game = OpenGame<LetterTossGame>(fx, "Letter Toss", list, 2, false, false);
     QVERIFY(game);
     Pump(2000);
     Flick(game, 0, -150);  // between the two baskets
-    Pump(1500);
+    Pump(500);
+    Shot(game, "toss-flight-1280");
+    game->resize(1920, 1080);
+    Shot(game, "toss-flight-1920");
+    game->resize(1280, 800);
+    Pump(1000);
     QCOMPARE(game->phase(), LetterTossGame::Phase::Landed);
     QCOMPARE(Shared().Score, 0.0);
     fx.rng.pick(1, 9);  // the next toss's draught
     Pump(600);
     QCOMPARE(game->room().draught, -4);
-    QCOMPARE(LabelText(game, "WordLabel"), "cloud");  // the same word, tossed again
+    Shot(game, "toss-draught");
+    QCOMPARE(LabelText(game, "WordLabel"), "photosynthesis");  // the same word, tossed again
     Flick(game, 0, -20, 100);  // too gentle to be a toss: back in the hand
     QVERIFY(!game->room().ball.flying);
     QCOMPARE(game->phase(), LetterTossGame::Phase::Aiming);
