@@ -79,6 +79,10 @@ TEST(LetterTossDraw, TooFewDifferentWordsOrDefinitionsForTheBaskets) {
     EXPECT_TRUE(r.baskets.empty());
     s.Difficulty = 2;
     EXPECT_TRUE(newGame(s, r, rng));
+    s.Difficulty = 3;  // the next word cannot have its baskets: none are left standing
+    EXPECT_FALSE(nextWord(s, r, rng));
+    EXPECT_TRUE(r.baskets.empty());
+    EXPECT_EQ(r.right, -1);
     EXPECT_FALSE(newGame(s = ListOf({"cat", "dog"}, 2, true), r, rng));  // no definitions
 }
 
