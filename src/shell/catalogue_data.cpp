@@ -343,10 +343,13 @@ std::vector<GameCard> BuildCatalogue() {
     cards.push_back(Card(
         "Letter Toss", AtLeastDifficulty(Elig(WO::Refuse, kMsgM2, "LetterTossGame"), kMsgE1),
         Slider(2, 4, 4),
-        "You will see 2 to 4 definitions, each on its own basket. A word appears at the bottom "
-        "of the screen. Use the mouse to toss the word into the basket whose definition matches "
-        "it. A good toss scores points, and a miss costs some. Toss as many words as you can "
-        "before time runs out! The level sets how many baskets you see."));
+        "You will see 2 to 4 definitions, each on a card over its own basket at the back of the "
+        "classroom. A paper ball with a word lies at the front. Drag the ball with the mouse and "
+        "let go to toss it into the basket whose definition matches the word. Watch the fan's "
+        "arrow: its draught blows the ball sideways, and it changes every toss! The right basket "
+        "scores 100 points, and 50 more for a clean swish. The wrong basket costs 50 points. On "
+        "the floor? Just toss again. Toss as many words as you can in 60 seconds! The level sets "
+        "how many baskets you see."));
 
     cards.push_back(Card(
         "Spell Crush", AtLeast(Elig(WO::Allowed, "", "SpellCrushGame"), 4, kMsgE1), NoDifficulty(),

@@ -1,0 +1,189 @@
+// Letter Toss's rules over a scripted generator: the draw of a word, its baskets and the fan,
+// the flick read from a drag, where a toss lands and what it scores, and the clock.
+#include <gtest/gtest.h>
+
+#include "games/action/letter_toss/letter_toss_rules.h"
+#include "word_lists.h"
+
+using namespace wm;
+using namespace wm::letter_toss;
+using wm::test::ListOf;
+
+namespace {
+
+std::vector<int> Entries(const Room& r) {
+    std::vector<int> e;
+    for (const Basket& b : r.baskets) e.push_back(b.entry);
+    return e;
+}
+
+Step Fly(SharedState& s, Room& r) {
+    Step st;
+    for (int i = 0; i < 1000 && r.ball.flying; ++i) st = step(s, r);
+    return st;
+}
+
+}  // namespace
+
+TEST(LetterTossDraw, WordThenItsPlaceThenDecoysThenTheFan) {
+    SharedState s = ListOf({"cat", "dog", "hen", "owl", "pig", "cow"}, 4);
+    s.Meanings[2] = "MEANING OF HEN ";  // reads the same as hen's: never in one room
+    s.Meanings[3] = " meaning of hen";
+    s.Score = 90;
+    ScriptedRng rng;
+    // The word (3), its basket (2 of 4), decoys drawn for baskets 1, 3 and 4, the fan's 9 settings.
+    rng.pick(3, 6).pick(2, 4).pick(2, 6).pick(3, 6).pick(1, 6).pick(1, 6).pick(6, 6).pick(4, 6);
+    rng.pick(9, 9);
+    Room r;
+    r.secondsLeft = 3;
+    ASSERT_TRUE(newGame(s, r, rng));
+    EXPECT_EQ(rng.randomizeCount, 1);
+    EXPECT_EQ(rng.draws, 9);
+    EXPECT_EQ(Entries(r), (std::vector<int>{1, 3, 6, 4}));
+    EXPECT_EQ(r.right, 1);
+    EXPECT_EQ(s.TheWord, "hen");
+    EXPECT_EQ(s.TheMeaning, " meaning of hen");
+    EXPECT_EQ(r.draught, 4);
+    EXPECT_EQ(s.Score, 0);
+    EXPECT_EQ(r.secondsLeft, 60);
+    EXPECT_FALSE(r.ball.flying);
+    std::vector<double> xs;
+    for (const Basket& b : r.baskets) xs.push_back(b.x);
+    EXPECT_EQ(xs, (std::vector<double>{-1020, -340, 340, 1020}));
+    rng.pick(1, 9);
+    newToss(r, rng);
+    EXPECT_EQ(r.draught, -4);
+}
+
+TEST(LetterTossDraw, BasketsFollowTheLevelAndWordsDoNotComeBackTillAllHaveBeenTossed) {
+    for (auto [level, baskets] : std::vector<std::pair<int, int>>{{1, 2}, {2, 2}, {3, 3}, {4, 4}, {9, 4}})
+        EXPECT_EQ(basketsFor(level), baskets) << level;
+    SharedState s = ListOf({"cat", "dog", "hen"}, 2);
+    ScriptedRng rng(0.0);  // always entry 1 when asked
+    Room r;
+    ASSERT_TRUE(newGame(s, r, rng));
+    ASSERT_TRUE(nextWord(s, r, rng));
+    ASSERT_TRUE(nextWord(s, r, rng));
+    EXPECT_EQ(s.TheWord, "hen");  // cat and dog have had their turn
+    ASSERT_TRUE(nextWord(s, r, rng));
+    EXPECT_EQ(s.TheWord, "cat");  // all three have: round again
+    EXPECT_EQ(r.words, 4);
+}
+
+TEST(LetterTossDraw, TooFewDifferentWordsOrDefinitionsForTheBaskets) {
+    SharedState s = ListOf({"cat", "Cat ", "dog", "owl"}, 3);
+    s.Meanings[4] = "meaning of DOG";
+    ScriptedRng rng;
+    Room r;
+    EXPECT_FALSE(newGame(s, r, rng));
+    EXPECT_TRUE(r.baskets.empty());
+    s.Difficulty = 2;
+    EXPECT_TRUE(newGame(s, r, rng));
+    s.Difficulty = 3;  // the next word cannot have its baskets: none are left standing
+    EXPECT_FALSE(nextWord(s, r, rng));
+    EXPECT_TRUE(r.baskets.empty());
+    EXPECT_EQ(r.right, -1);
+    EXPECT_FALSE(newGame(s = ListOf({"cat", "dog"}, 2, true), r, rng));  // no definitions
+}
+
+TEST(LetterTossFlick, TheDragsLastTenthOfASecond) {
+    struct Case {
+        std::vector<Sample> drag;
+        Flick want;
+    } cases[] = {
+        // Slow, then fast: only the end counts, its start found between two samples.
+        {{{0, 800, 860}, {180, 800, 850}, {280, 800, 800}, {300, 810, 740}}, {100, -1000}},
+        {{{0, 800, 850}, {50, 830, 800}}, {600, -1000}},  // shorter than a tenth: all of it
+        {{{0, 800, 850}, {100, 800, 700}, {300, 800, 700}}, {0, 0}},  // held still, let go
+        {{{0, 800, 850}}, {0, 0}},
+        {{{10, 800, 850}, {10, 900, 850}}, {0, 0}},
+    };
+    for (const Case& c : cases) {
+        const Flick f = flickOf(c.drag);
+        EXPECT_NEAR(f.x, c.want.x, 1e-9) << c.drag.size();
+        EXPECT_NEAR(f.y, c.want.y, 1e-9) << c.drag.size();
+    }
+}
+
+TEST(LetterTossFlight, WhereATossLandsAndWhatItScores) {
+    struct Case {
+        int baskets, right, draught;
+        double x, y, fx, fy;
+        Landing landing;
+        int basket, points;
+    } cases[] = {
+        {3, 1, 0, 800, 850, 0, -1500, Landing::Swish, 1, 150},
+        {3, 1, 0, 800, 850, 200, -1500, Landing::Swish, 1, 150},
+        {3, 1, 0, 800, 850, 242, -1500, Landing::Right, 1, 100},  // a rattle on the rim
+        {3, 1, 0, 800, 850, 0, -3000, Landing::Right, 1, 100},    // off the back wall
+        {3, 1, 0, 800, 850, 300, -1500, Landing::Floor, -1, 0},   // off the rim
+        {3, 1, 0, 800, 850, 0, -1000, Landing::Floor, -1, 0},     // short
+        {3, 0, 0, 800, 850, 0, -1500, Landing::Wrong, 1, -50},
+        {3, 1, 0, 1000, 700, 0, -1500, Landing::Floor, -1, 0},  // from the side, straight up
+        {2, 1, 0, 800, 850, 0, -1500, Landing::Floor, -1, 0},   // between the baskets
+        {2, 1, 0, 800, 850, 823, -1500, Landing::Swish, 1, 150},
+        {2, 1, 4, 800, 850, 823, -1500, Landing::Floor, -1, 0},  // blown past it
+        {2, 1, -4, 800, 850, 823, -1500, Landing::Floor, -1, 0},
+        {2, 1, 4, 800, 850, 500, -1500, Landing::Swish, 1, 150},  // the draught allowed for
+        {3, 2, 0, 800, 850, 5000, -300, Landing::Floor, -1, 0},  // off the walls
+    };
+    for (const Case& c : cases) {
+        SharedState s = ListOf({"cat", "dog", "hen", "owl"}, c.baskets);
+        ScriptedRng rng(0.5);
+        rng.pick(1, 4).pick(c.right + 1, c.baskets);
+        Room r;
+        ASSERT_TRUE(newGame(s, r, rng));
+        s.Score = 10;
+        r.draught = c.draught;
+        ASSERT_TRUE(toss(r, c.x, c.y, {c.fx, c.fy}));
+        EXPECT_FALSE(toss(r, c.x, c.y, {c.fx, c.fy}));  // one ball at a time
+        const Step st = Fly(s, r);
+        const std::string at = std::to_string(c.fx) + "," + std::to_string(c.draught);
+        EXPECT_EQ(st.landing, c.landing) << at;
+        EXPECT_EQ(st.basket, c.basket) << at;
+        EXPECT_EQ(st.points, c.points) << at;
+        EXPECT_EQ(s.Score, 10 + c.points) << at;
+        EXPECT_FALSE(r.ball.flying);
+        EXPECT_LT(r.ball.steps, 130) << at;
+    }
+}
+
+TEST(LetterTossFlight, AWeakFlickIsNoTossAndTheBallStaysInTheRoom) {
+    SharedState s = ListOf({"cat", "dog"}, 2);
+    ScriptedRng rng(0.5);
+    Room r;
+    ASSERT_TRUE(newGame(s, r, rng));
+    EXPECT_FALSE(toss(r, 800, 850, {0, -249}));
+    EXPECT_FALSE(toss(r, 800, 850, {0, 900}));
+    EXPECT_FALSE(r.ball.flying);
+    EXPECT_EQ(step(s, r).landing, Landing::Flying);
+    ASSERT_TRUE(toss(r, 800, 850, {0, -251}));
+    // Carried too high or off the side, it leaves from the edge of the front of the room.
+    r = Room{};
+    r.baskets.resize(1);
+    ASSERT_TRUE(toss(r, 5, 100, {0, -900}));
+    EXPECT_DOUBLE_EQ(r.ball.at.x, -700);
+    EXPECT_DOUBLE_EQ(r.ball.at.h, 360);
+    r.ball.flying = false;
+    ASSERT_TRUE(toss(r, 1590, 990, {0, -900}));
+    EXPECT_DOUBLE_EQ(r.ball.at.x, 700);
+    EXPECT_DOUBLE_EQ(r.ball.at.h, 120);
+}
+
+TEST(LetterTossClock, SixtySecondsThenTimeIsUp) {
+    Room r;
+    for (int i = 1; i < 60; ++i) ASSERT_FALSE(clockTick(r)) << i;
+    EXPECT_TRUE(clockTick(r));
+    EXPECT_TRUE(clockTick(r));
+    EXPECT_EQ(r.secondsLeft, 0);
+}
+
+TEST(LetterTossView, TheRoomInPerspective) {
+    const Seen hand = project({0, 0, 150});
+    EXPECT_DOUBLE_EQ(hand.x, 800);
+    EXPECT_DOUBLE_EQ(hand.y, 850);
+    const Seen rim = project({340, 1000, 220});
+    EXPECT_DOUBLE_EQ(rim.x, 970);
+    EXPECT_DOUBLE_EQ(rim.y, 540);
+    EXPECT_DOUBLE_EQ(rim.scale, 0.5);
+}
