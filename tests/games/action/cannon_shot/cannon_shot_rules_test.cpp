@@ -1,0 +1,291 @@
+// Cannon Shot's rules: the numbers of the design, the draws in their order, words that fit,
+// the barrel and the bar, the ball's arc, letters popped in order and out of it, and the ends.
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "core/rng.h"
+#include "core/shared_state.h"
+#include "core/strings.h"
+#include "games/action/cannon_shot/cannon_shot_rules.h"
+#include "word_lists.h"
+
+using namespace wm;
+using namespace wm::cannon_shot;
+using wm::test::ListOf;
+
+namespace {
+
+// Flies the ball to its end; the events of the tick that ended it.
+std::vector<Event> Fly(Game& g, Rng& rng) {
+    for (int t = 0; t < 2000; ++t) {
+        auto ev = g.tick({}, rng);
+        if (!g.ball().flying) return ev;
+    }
+    return {};
+}
+
+// A shot (angle, power) that takes balloon `i` first, found by trying them on copies.
+std::pair<double, double> AimAt(const Game& g, int i) {
+    ScriptedRng rng(0.5);
+    for (int a = 10; a <= 80; a += 2)
+        for (int p = 0; p <= 40; ++p) {
+            Game copy = g;
+            copy.fire(a, p / 40.0);
+            const auto ev = Fly(copy, rng);
+            if (!ev.empty() && ev[0].balloon == i &&
+                (ev[0].kind == Event::Right || ev[0].kind == Event::Wrong))
+                return {a, p / 40.0};
+        }
+    ADD_FAILURE() << "no shot reaches balloon " << i;
+    return {45, 0.5};
+}
+
+// Shoots balloon `i`: the events of the tick that popped it.
+std::vector<Event> Shoot(Game& g, int i, Rng& rng) {
+    const auto [a, p] = AimAt(g, i);
+    g.fire(a, p);
+    return Fly(g, rng);
+}
+
+// The first shown balloon carrying `letter` (decoys only when asked).
+int Find(const Game& g, char letter, bool decoy = false) {
+    for (int i = 0; i < int(g.balloons().size()); ++i) {
+        const Balloon& b = g.balloons()[i];
+        if (b.shown() && b.letter == letter && b.decoy == decoy && b.x < 1500) return i;
+    }
+    return -1;
+}
+
+Game Started(SharedState& s, Rng& rng) {
+    Game g;
+    EXPECT_TRUE(g.start(s, rng));
+    g.go();
+    return g;
+}
+
+}  // namespace
+
+TEST(CannonShotNumbers, SpeedWindBarAndBalls) {
+    EXPECT_DOUBLE_EQ(balloonSpeed(2), 0.68);
+    EXPECT_DOUBLE_EQ(balloonSpeed(20), 2.3);
+    EXPECT_EQ(maxWind(7), 0);
+    EXPECT_DOUBLE_EQ(maxWind(8), 0.01);
+    EXPECT_DOUBLE_EQ(maxWind(20), 0.058);
+    // The bar rises over 50 ticks, falls back over 50, and rises again.
+    const std::pair<int, double> bar[] = {{0, 0}, {1, 0.02}, {25, 0.5}, {50, 1},
+                                          {51, 0.98}, {100, 0}, {125, 0.5}};
+    for (auto [ticks, power] : bar) EXPECT_DOUBLE_EQ(powerAfter(ticks), power) << ticks;
+    // 2 x length + 3
+    EXPECT_EQ(ballsFor("cat"), 9);
+    EXPECT_EQ(ballsFor("ice cream"), 21);
+    for (char c : std::string("aZ7\xE9\xC9\xDF\xFF")) EXPECT_TRUE(isShot(c)) << c;
+    for (char c : std::string(" -'.\xD7\xF7")) EXPECT_FALSE(isShot(c)) << c;
+}
+
+TEST(CannonShotStart, DrawsWordWindDecoysOrderAndHeightsInThatOrder) {
+    SharedState s = ListOf({"pneumonoultramicroscopic", "ox", "ice-cream"}, 9);
+    ScriptedRng rng(0.5);
+    // The long word is drawn and left out; then the wind, four decoys, the shuffle, heights.
+    rng.pick(1, 3).pick(2, 3).then(1.0).then(0.0).then(0.0).then(0.999).then(0.05);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    EXPECT_EQ(rng.randomizeCount, 1);
+    EXPECT_EQ(s.TheWord, "ox");
+    EXPECT_EQ(s.TheMeaning, "meaning of ox");
+    EXPECT_DOUBLE_EQ(g.wind(), 0.014);
+    // Decoys are letters the word lacks: A, A, Z (its last), B.
+    std::string letters;
+    for (const Balloon& b : g.balloons()) letters += b.letter;
+    std::sort(letters.begin(), letters.end());
+    EXPECT_EQ(letters, "AABOXZ");
+    EXPECT_EQ(g.ballsLeft(), 7);
+    EXPECT_EQ(g.wordNumber(), 1);
+    EXPECT_EQ(g.phase(), Phase::Ready);
+    // Spaced along their round from x 560, inside the sky.
+    for (std::size_t i = 0; i < g.balloons().size(); ++i) {
+        EXPECT_DOUBLE_EQ(g.balloons()[i].x, 560 + 120.0 * i);
+        EXPECT_GE(g.balloons()[i].alt, 170);
+        EXPECT_LE(g.balloons()[i].alt, 540);
+    }
+    // Below level 8 there is no wind and nothing drawn for it; blanks and hyphens stand.
+    SharedState calm = ListOf({"ice-cream"}, 7);
+    ScriptedRng r2(0.3);
+    ASSERT_TRUE(g.start(calm, r2));
+    EXPECT_EQ(g.wind(), 0);
+    EXPECT_EQ(r2.draws, 1 + 3 + 10 + 11);  // word, decoys, shuffle, heights
+    EXPECT_EQ(g.blanks(), std::string("\0\0\0-\0\0\0\0\0", 9));
+    EXPECT_EQ(g.nextPos(), 0);
+}
+
+TEST(CannonShotStart, LevelHeldAndListsThatCannotPlayRefused) {
+    ScriptedRng rng(0.5);
+    for (auto [given, held] : {std::pair{1, 2}, {2, 2}, {20, 20}, {25, 20}}) {
+        SharedState s = ListOf({"cat"}, given);
+        Game g;
+        ASSERT_TRUE(g.start(s, rng));
+        EXPECT_EQ(g.level(), held);
+        EXPECT_EQ(g.balloons().size(), 3u + held / 2) << given;  // level / 2 decoys
+    }
+    // Fourteen letters fit; fifteen, none, or only marks do not.
+    SharedState fits = ListOf({"photosynthesis"}, 4);
+    EXPECT_TRUE(Game().start(fits, rng));
+    for (auto words : {std::vector<std::string>{"photosynthesiss"}, {"- '"},
+                       std::vector<std::string>{}}) {
+        SharedState s = ListOf(words, 4);
+        EXPECT_FALSE(Game().start(s, rng));
+    }
+}
+
+TEST(CannonShotWords, NoRepeatsInAGameAndTheDrawIsBounded) {
+    SharedState s = ListOf({"a", "b", "c"}, 2);
+    ScriptedRng rng(0.0);  // always entry 1
+    Game g = Started(s, rng);
+    std::vector<std::string> played{s.TheWord};
+    for (int w = 2; w <= 5; ++w) {
+        const int before = rng.draws;
+        ASSERT_TRUE(g.nextWord(s, rng));
+        played.push_back(s.TheWord);
+        if (w == 2) EXPECT_EQ(rng.draws - before, kWordDraws + 1 + 1 + 2);  // decoy, order, heights
+    }
+    // The used entry drawn a hundred times gives the next free one; all used, the others
+    // come round again, never the word just played.
+    EXPECT_EQ(played, (std::vector<std::string>{"a", "b", "c", "a", "b"}));
+    EXPECT_EQ(g.wordNumber(), 5);
+    EXPECT_FALSE(g.nextWord(s, rng));
+}
+
+TEST(CannonShotAim, BarrelAndBarFollowTheKeys) {
+    SharedState s = ListOf({"cat"}, 2);
+    ScriptedRng rng(0.5);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    // Nothing turns or charges before the pause is over.
+    g.tick({1, true}, rng);
+    EXPECT_EQ(g.angle(), 45);
+    EXPECT_FALSE(g.charging());
+    g.go();
+    for (int t = 0; t < 10; ++t) g.tick({1, false}, rng);
+    EXPECT_EQ(g.angle(), 55);
+    for (int t = 0; t < 100; ++t) g.tick({1, false}, rng);
+    EXPECT_EQ(g.angle(), 80);
+    for (int t = 0; t < 100; ++t) g.tick({-1, false}, rng);
+    EXPECT_EQ(g.angle(), 10);
+    // Space held 25 ticks: half power; let go, the ball leaves the muzzle at 7 + 13 x 0.5.
+    for (int t = 0; t < 25; ++t) g.tick({0, true}, rng);
+    EXPECT_DOUBLE_EQ(g.power(), 0.5);
+    const auto ev = g.tick({}, rng);
+    ASSERT_EQ(ev.size(), 1u);
+    EXPECT_EQ(ev[0].kind, Event::Fired);
+    EXPECT_NEAR(std::hypot(g.ball().vx, g.ball().vy), 13.5, 1e-9);
+    EXPECT_NEAR(std::atan2(-g.ball().vy, g.ball().vx) * 180 / M_PI, 10, 1e-9);
+    EXPECT_EQ(g.ballsLeft(), 8);
+    // One ball at a time: Space does nothing while it flies.
+    g.tick({0, true}, rng);
+    g.tick({}, rng);
+    EXPECT_EQ(g.ballsLeft(), 8);
+}
+
+TEST(CannonShotFlight, ATrueArcUnderGravityPushedByTheWind) {
+    SharedState s = ListOf({"q"}, 2);
+    ScriptedRng rng(0.0);  // balloons high, out of the way
+    Game g = Started(s, rng);
+    g.fire(45, 1.0);
+    const double x0 = g.ball().x, y0 = g.ball().y, v = 20 / std::sqrt(2.0);
+    double top = y0;
+    std::vector<Event> ev;
+    while (g.ball().flying) {
+        top = std::min(top, g.ball().y);
+        ev = g.tick({}, rng);
+    }
+    // Apex v^2 / 2g above the muzzle; down at the ground where the parabola meets it.
+    EXPECT_NEAR(y0 - top, v * v / (2 * 0.25), 8);
+    const double t = (v + std::sqrt(v * v + 2 * 0.25 * (820 - y0))) / 0.25;
+    ASSERT_FALSE(ev.empty());
+    EXPECT_EQ(ev.back().kind, Event::Landed);
+    EXPECT_NEAR(ev.back().x, x0 + v * t, 25);
+    // The wind pushes by wind x t^2 / 2.
+    SharedState windy = ListOf({"q"}, 20);
+    ScriptedRng r2(1.0);
+    Game w = Started(windy, r2);
+    EXPECT_DOUBLE_EQ(w.wind(), 0.058);
+    w.fire(80, 0.2);
+    const double wx0 = w.ball().x;
+    for (int k = 0; k < 40; ++k) w.tick({}, r2);
+    EXPECT_NEAR(w.ball().x - wx0, 40 * 9.6 * std::cos(80 * M_PI / 180) + 0.058 * 40 * 40 / 2,
+                2);
+}
+
+TEST(CannonShotPops, InOrderFillsTheBlanksWrongCostsAndComesRoundAgain) {
+    SharedState s = ListOf({"all", "ox", "ax", "by", "we"}, 4);
+    ScriptedRng rng(0.0);
+    Game g = Started(s, rng);
+    ASSERT_EQ(s.TheWord, "all");
+    // An L before the A: wrong, -5 x level (never below nothing), out until it comes round.
+    int l = Find(g, 'L');
+    auto ev = Shoot(g, l, rng);
+    ASSERT_EQ(ev.size(), 1u);
+    EXPECT_EQ(ev[0].kind, Event::Wrong);
+    EXPECT_EQ(g.score(), 0);
+    EXPECT_FALSE(g.balloons()[l].shown());
+    // The A: +10 x level, its blank filled; then the two Ls; a decoy in between costs 5 x 4.
+    ev = Shoot(g, Find(g, 'A'), rng);
+    EXPECT_EQ(ev[0].kind, Event::Right);
+    EXPECT_EQ(g.score(), 40);
+    EXPECT_EQ(g.blanks(), std::string("a\0\0", 3));
+    EXPECT_EQ(g.nextPos(), 1);
+    Shoot(g, Find(g, 'L'), rng);
+    Shoot(g, Find(g, 'B', true), rng);
+    EXPECT_EQ(g.score(), 60);
+    EXPECT_EQ(g.ballsLeft(), 5);
+    // The wrong L drifts off the left and floats in again from the right.
+    bool back = false;
+    for (int t = 0; t < 3000 && !back; ++t)
+        for (const Event& e : g.tick({}, rng)) back = back || (e.kind == Event::Back && e.balloon == l);
+    EXPECT_TRUE(back);
+    EXPECT_TRUE(g.balloons()[l].shown());
+    EXPECT_GT(g.balloons()[l].x, 1600);
+    for (int t = 0; t < 800 && Find(g, 'L') < 0; ++t) g.tick({}, rng);
+    ev = Shoot(g, Find(g, 'L'), rng);
+    ASSERT_EQ(ev.size(), 2u);
+    EXPECT_EQ(ev[1].kind, Event::Spelled);
+    EXPECT_EQ(g.phase(), Phase::Spelled);
+    EXPECT_EQ(g.blanks(), "all");
+    EXPECT_EQ(g.score(), 100);
+    EXPECT_EQ(lostText("all"), "Out of cannonballs! The word was all.");
+}
+
+TEST(CannonShotEnd, FiveWordsWinOutOfBallsLoses) {
+    SharedState s = ListOf({"Ox", "by", "we", "up", "go", "hi"}, 2);
+    ScriptedRng rng(0.0);
+    Game g = Started(s, rng);
+    for (int w = 1; w <= 5; ++w) {
+        if (w > 1) {
+            ASSERT_TRUE(g.nextWord(s, rng));
+            g.go();
+        }
+        const std::string word = UCase(s.TheWord);
+        Shoot(g, Find(g, word[0]), rng);
+        const auto ev = Shoot(g, Find(g, word[1]), rng);
+        ASSERT_GE(ev.size(), 2u);
+        EXPECT_EQ(ev[1].kind, Event::Spelled);
+        EXPECT_EQ(g.phase(), w < 5 ? Phase::Spelled : Phase::Won);
+    }
+    EXPECT_EQ(g.score(), 5 * 2 * 20);
+    EXPECT_TRUE(g.tick({1, true}, rng).empty());
+
+    // Seven balls for a two-letter word; the last one lands: lost, not before.
+    SharedState one = ListOf({"ox"}, 2);
+    Game l = Started(one, rng);
+    std::vector<Event> ev;
+    for (int b = 0; b < 7; ++b) {
+        EXPECT_EQ(l.phase(), Phase::Aiming) << b;
+        l.fire(10, 0);
+        ev = Fly(l, rng);
+    }
+    EXPECT_EQ(l.ballsLeft(), 0);
+    ASSERT_EQ(ev.size(), 2u);
+    EXPECT_EQ(ev[0].kind, Event::Landed);
+    EXPECT_EQ(ev[1].kind, Event::Lost);
+    EXPECT_EQ(l.phase(), Phase::Lost);
+}
