@@ -45,11 +45,6 @@ CannonShotForm::CannonShotForm(QWidget* parent)
     setWindowTitle("Cannon Shot");
     setFocusPolicy(Qt::StrongFocus);
     frame_.setMusic(MusicKind::Shared, "cannonshot.mid");
-    // The word is the riddle: it may be heard once it is spelled, the meaning any time.
-    frame_.setSayIt([this] {
-        return SecretWord(game_.phase() != Phase::Aiming && game_.phase() != Phase::Ready,
-                          Label1->isVisible());
-    });
     // The sky keeps moving behind the end boxes: the fireworks, the drooping barrel.
     frame_.runOnThroughEnd("Timer1");
 
@@ -72,6 +67,11 @@ CannonShotForm::CannonShotForm(QWidget* parent)
         l->setStyleSheet(kPlateStyle);
         l->setFocusPolicy(Qt::NoFocus);
     }
+    // The word is the riddle: it may be heard once it is spelled, the meaning any time.
+    frame_.setSayIt([this] {
+        return SecretWord(game_.phase() != Phase::Aiming && game_.phase() != Phase::Ready,
+                          Label1->isVisible());
+    });
     resize(ScreenMetrics::screenSize());
     QTimer::singleShot(0, &frame_, [this] { frame_.newGame(); });
 }

@@ -23,6 +23,7 @@ public:
 
     GameFrame& frame() { return frame_; }
     const cannon_shot::Game& game() const { return game_; }
+    cannon_shot::Game& rules() { return game_; }  // the benchmark fires through it
     CannonSky* sky() const { return sky_; }
     void SetupGame();
     // One frame (Timer1): the keys, the rules' tick, the sky. The benchmark calls it directly.

@@ -52,7 +52,7 @@ std::vector<Event> Shoot(Game& g, int i, Rng& rng) {
 int Find(const Game& g, char letter, bool decoy = false) {
     for (int i = 0; i < int(g.balloons().size()); ++i) {
         const Balloon& b = g.balloons()[i];
-        if (b.shown() && b.letter == letter && b.decoy == decoy && b.x < 1500) return i;
+        if (b.shown() && b.letter == letter && b.decoy == decoy && b.x < 1100) return i;  // in reach
     }
     return -1;
 }
@@ -146,7 +146,9 @@ TEST(CannonShotWords, NoRepeatsInAGameAndTheDrawIsBounded) {
         const int before = rng.draws;
         ASSERT_TRUE(g.nextWord(s, rng));
         played.push_back(s.TheWord);
-        if (w == 2) EXPECT_EQ(rng.draws - before, kWordDraws + 1 + 1 + 2);  // decoy, order, heights
+        if (w == 2) {
+            EXPECT_EQ(rng.draws - before, kWordDraws + 1 + 1 + 2);  // decoy, order, heights
+        }
     }
     // The used entry drawn a hundred times gives the next free one; all used, the others
     // come round again, never the word just played.
@@ -190,8 +192,8 @@ TEST(CannonShotFlight, ATrueArcUnderGravityPushedByTheWind) {
     SharedState s = ListOf({"q"}, 2);
     ScriptedRng rng(0.0);  // balloons high, out of the way
     Game g = Started(s, rng);
-    g.fire(45, 1.0);
-    const double x0 = g.ball().x, y0 = g.ball().y, v = 20 / std::sqrt(2.0);
+    g.fire(45, 0.5);
+    const double x0 = g.ball().x, y0 = g.ball().y, v = 13.5 / std::sqrt(2.0);
     double top = y0;
     std::vector<Event> ev;
     while (g.ball().flying) {
