@@ -23,7 +23,7 @@ const char* kPlateStyle =
     "color: #fff8e0; background: rgba(40, 60, 110, 190); border: 2px solid rgba(255, 240, 200, "
     "140); border-radius: 12px; padding: 2px 14px;";
 const char* kClueStyle =
-    "color: #3b2208; background: rgba(255, 248, 225, 225); border: 3px solid #b5742e;"
+    "color: #3b2208; background: #fff8e1; border: 3px solid #b5742e;"
     " border-radius: 18px; padding: 4px 18px;";
 
 QFont Bold(int px) {

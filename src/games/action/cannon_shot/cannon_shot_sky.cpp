@@ -22,8 +22,8 @@ constexpr int kTrail = 12;
 constexpr int kFireworkEveryMs = 320;
 constexpr int kRecoilMs = 260;
 constexpr double kTile = 58, kTileStep = 64, kTilesY = 836;
-// The wind flag's pole on the hill, left of the cannon.
-constexpr double kPoleX = 96, kPoleTop = 580, kPoleFoot = 758;
+// The wind flag's pole down the hill's slope, right of the power bar.
+constexpr double kPoleX = 404, kPoleTop = 660, kPoleFoot = 818;
 
 QFont boldFont(double px) {
     QFont f("DejaVu Sans");
@@ -115,7 +115,7 @@ QRectF CannonSky::balloonRect(const Balloon& b) const {
 }
 
 QRectF CannonSky::cannonRect() const {
-    return QRectF(kPivotX - 150, kPivotY - 280, 440, 380);
+    return QRectF(kPivotX - 150, kPivotY - 280, 480, 400);
 }
 
 QRectF CannonSky::tilesRect() const {
@@ -316,7 +316,7 @@ void CannonSky::paintWind(QPainter& p, qint64 t) {
     p.drawEllipse(top, 6 * scale_, 6 * scale_);
     // The flag streams the way the wind blows, longer the harder it pushes.
     const double push = game_.wind() / maxWind(kMaxLevel);
-    const double len = (30 + 60 * std::fabs(push)) * scale_ * (push < 0 ? -1 : 1);
+    const double len = (30 + 50 * std::fabs(push)) * scale_ * (push < 0 ? -1 : 1);
     const double h = 36 * scale_;
     const double wave = t / 90.0;
     QPainterPath flag;
@@ -337,8 +337,8 @@ void CannonSky::paintWind(QPainter& p, qint64 t) {
     p.drawPath(flag);
     QFont f = boldFont(20 * scale_);
     p.setFont(f);
-    p.setPen(QColor(40, 60, 30));
-    p.drawText(QRectF(foot.x() - 60 * scale_, foot.y(), 120 * scale_, 28 * scale_),
+    p.setPen(QColor(30, 50, 80));
+    p.drawText(QRectF(top.x() - 60 * scale_, top.y() - 36 * scale_, 120 * scale_, 28 * scale_),
                Qt::AlignCenter, "Wind");
 }
 
