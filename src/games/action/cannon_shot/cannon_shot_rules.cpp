@@ -185,8 +185,8 @@ void Game::fire(double angle, double power) {
 
 std::vector<Event> Game::tick(const Input& in, Rng& rng) {
     std::vector<Event> ev;
-    if (over()) return ev;
     ++ticks_;
+    // The balloons drift on in every phase, behind the end boxes too; nothing else moves then.
     moveBalloons(rng, ev);
     if (phase_ != Phase::Aiming) return ev;
 

@@ -94,6 +94,7 @@ public:
     // From Ready to Aiming: the pupil may shoot.
     void go();
     // One tick: the balloons drift, the barrel turns, the bar charges or the ball flies.
+    // After the end only the balloons drift.
     std::vector<Event> tick(const Input& in, Rng& rng);
 
     Phase phase() const { return phase_; }
