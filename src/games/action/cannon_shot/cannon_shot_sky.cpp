@@ -86,7 +86,18 @@ void CannonSky::popped(const Event& e, int points) {
     const bool right = e.kind == Event::Right;
     const QString text = right ? QString("+%1").arg(points) : QString("-%1").arg(points);
     const QColor c = e.balloon >= 0 ? kBalloonColours[e.balloon % kColours] : Qt::white;
-    effects_.push_back({Effect::Burst, e.x, e.y, now(), text, c, kPopMs});
+    // The points are drawn once, then only moved and faded.
+    const double s = scale_;
+    QPixmap label(QSize(int(160 * s) + 1, int(64 * s) + 1));
+    label.fill(Qt::transparent);
+    {
+        QPainter p(&label);
+        p.setRenderHint(QPainter::Antialiasing);
+        paintOutlined(p, text, boldFont(40 * s), QPointF(label.rect().center()),
+                      right ? QColor(255, 230, 80) : QColor(255, 110, 100),
+                      right ? QColor(90, 50, 0) : QColor(90, 0, 0), 6 * s);
+    }
+    effects_.push_back({Effect::Burst, e.x, e.y, now(), label, c, kPopMs});
     trail_.clear();
 }
 
@@ -115,7 +126,11 @@ QRectF CannonSky::balloonRect(const Balloon& b) const {
 }
 
 QRectF CannonSky::cannonRect() const {
-    return QRectF(kPivotX - 150, kPivotY - 280, 480, 400);
+    return QRectF(kPivotX - 150, kPivotY - 280, 430, 400);
+}
+
+QRectF CannonSky::flagRect() const {
+    return QRectF(kPoleX - 90, kPoleTop - 40, 180, kPoleFoot - kPoleTop + 50);
 }
 
 QRectF CannonSky::tilesRect() const {
@@ -198,16 +213,24 @@ const QPixmap& CannonSky::balloonPicture(int index, char letter) {
 
 void CannonSky::step() {
     const qint64 t = now();
-    std::vector<QRect> cur;
-    auto mark = [&](const QRectF& world) { cur.push_back(toWidget(world).toAlignedRect()); };
-    for (const Balloon& b : game_.balloons())
-        if (b.shown() && b.x > -60 && b.x < kWorldW + 60) mark(balloonRect(b));
+    // What each thing covers now, by a key of its own, so that a thing's old and new places
+    // are repainted as one rectangle.
+    std::map<int, QRect> cur;
+    auto mark = [&](int key, const QRectF& world) {
+        cur[key] = toWidget(world).toAlignedRect().adjusted(-2, -2, 2, 2);
+    };
+    const auto& balloons = game_.balloons();
+    for (int i = 0; i < int(balloons.size()); ++i) {
+        const Balloon& b = balloons[i];
+        if (b.shown() && b.x > -60 && b.x < kWorldW + 60) mark(i, balloonRect(b));
+    }
     const Ball& ball = game_.ball();
     if (ball.flying) {
         trail_.push_back(QPointF(ball.x, ball.y));
         if (trail_.size() > kTrail) trail_.pop_front();
     }
-    for (const QPointF& at : trail_) mark(QRectF(at.x() - 15, at.y() - 15, 30, 30));
+    for (int k = 0; k < int(trail_.size()); ++k)
+        mark(1000 + k, QRectF(trail_[k].x() - 15, trail_[k].y() - 15, 30, 30));
     // Effects that are over go.
     effects_.erase(std::remove_if(effects_.begin(), effects_.end(),
                                   [&](const Effect& e) { return t - e.at > e.life; }),
@@ -222,28 +245,36 @@ void CannonSky::step() {
                                 kBalloonColours[made % kColours], 1100});
         }
     }
-    for (const Effect& e : effects_) mark(effectRect(e));
-    if (!call_.isEmpty() && t - callAt_ < 400) mark(callRect());
+    for (int k = 0; k < int(effects_.size()); ++k) mark(2000 + k, effectRect(effects_[k]));
+    if (!call_.isEmpty() && t - callAt_ < 400) mark(3000, callRect());
 
-    // The cannon, its bar and the wind flag are marked only when they change.
-    const bool windy = game_.wind() != 0;
+    // The cannon and its bar, the wind flag and the blanks are marked only when they change.
     const QString cannon = QString("%1 %2 %3 %4")
                                .arg(game_.angle())
                                .arg(game_.power())
                                .arg(t - firedAt_ < kRecoilMs + 40 ? t / 16 : 0)
-                               .arg(windy || finishAt_ >= 0 ? t / 48 : 0);
+                               .arg(finishAt_ >= 0 ? t / 32 : 0)
+                               .arg(int(game_.phase()));
     if (cannon != cannonState_) {
         cannonState_ = cannon;
-        mark(cannonRect());
+        mark(3001, cannonRect());
+    }
+    if (game_.wind() != 0 && t / 48 != flagState_) {
+        flagState_ = t / 48;
+        mark(3002, flagRect());
     }
     const std::string tiles =
         game_.blanks() + char('0' + (t / 400) % 2) + char(finishAt_ >= 0 ? 'e' : 'p');
     if (tiles != tilesState_) {
         tilesState_ = tiles;
-        mark(tilesRect());
+        mark(3003, tilesRect());
     }
-    for (const QRect& r : drawn_) update(r.adjusted(-2, -2, 2, 2));
-    for (const QRect& r : cur) update(r.adjusted(-2, -2, 2, 2));
+    for (auto& [key, was] : drawn_) {
+        const auto now = cur.find(key);
+        update(now == cur.end() ? was : was.united(now->second));
+    }
+    for (auto& [key, r] : cur)
+        if (!drawn_.count(key)) update(r);
     drawn_ = std::move(cur);
 }
 
@@ -261,12 +292,13 @@ void CannonSky::paintEvent(QPaintEvent* event) {
         return region.intersects(toWidget(world).toAlignedRect());
     };
 
+    if (game_.wind() != 0 && visible(flagRect())) paintWind(p, t);
     if (visible(cannonRect())) paintCannon(p, t);
     const auto& balloons = game_.balloons();
     for (int i = 0; i < int(balloons.size()); ++i) {
         const Balloon& b = balloons[i];
         if (!b.shown() || !visible(balloonRect(b))) continue;
-        p.drawPixmap(toWidget(balloonRect(b)).topLeft(), balloonPicture(i, b.letter));
+        p.drawPixmap(toWidget(balloonRect(b)).topLeft().toPoint(), balloonPicture(i, b.letter));
     }
     // The ball's trail of smoke, then the ball.
     for (int k = 0; k < int(trail_.size()); ++k) {
@@ -343,7 +375,6 @@ void CannonSky::paintWind(QPainter& p, qint64 t) {
 }
 
 void CannonSky::paintCannon(QPainter& p, qint64 t) {
-    if (game_.wind() != 0) paintWind(p, t);
     // The barrel turns about the trunnion; it kicks back along itself when fired. A lost game
     // droops it.
     double angle = game_.angle();
@@ -445,11 +476,9 @@ void CannonSky::paintEffect(QPainter& p, const Effect& e, qint64 t) {
             p.setPen(QPen(scene::withAlpha(QColor(255, 255, 255), 1 - u), 4 * s));
             p.setBrush(Qt::NoBrush);
             p.drawEllipse(c, 30 * s + 60 * s * u, 30 * s + 60 * s * u);
-            const bool good = e.text.startsWith('+');
             p.setOpacity(1 - u * u);
-            paintOutlined(p, e.text, boldFont(40 * s), c - QPointF(0, 40 * s + u * 60 * s),
-                          good ? QColor(255, 230, 80) : QColor(255, 110, 100),
-                          good ? QColor(90, 50, 0) : QColor(90, 0, 0), 6 * s);
+            const QPointF at = c - QPointF(0, 40 * s + u * 60 * s);
+            p.drawPixmap(at - QPointF(e.label.width() / 2.0, e.label.height() / 2.0), e.label);
             p.setOpacity(1);
             break;
         }

@@ -48,7 +48,7 @@ private:
         enum Kind { Burst, Dust, Smoke, Firework } kind;
         double x, y;  // world
         qint64 at;
-        QString text;
+        QPixmap label;  // the points, for a burst
         QColor colour;
         int life;  // ms
     };
@@ -57,6 +57,7 @@ private:
     const QPixmap& balloonPicture(int index, char letter);
     QRectF balloonRect(const cannon_shot::Balloon& b) const;
     QRectF cannonRect() const;
+    QRectF flagRect() const;
     QRectF tilesRect() const;
     QRectF effectRect(const Effect& e) const;
     QRectF callRect() const;
@@ -72,7 +73,7 @@ private:
     QPixmap carriage_, barrel_, ball_;
     std::vector<QPixmap> balloonArt_;
     std::map<int, QPixmap> balloonCache_;  // colour x 256 + letter
-    std::vector<QRect> drawn_;             // what the last frame marked
+    std::map<int, QRect> drawn_;           // what the last frame marked, by thing
     std::deque<QPointF> trail_;            // the ball's last places, world
     std::vector<Effect> effects_;
     QString call_;
@@ -84,6 +85,7 @@ private:
     bool won_ = false;
     int fireworks_ = 0;  // made since the win
     QString cannonState_;  // what the cannon's last drawing showed
+    qint64 flagState_ = -1;
     std::string tilesState_;
 };
 
