@@ -144,6 +144,9 @@ TEST(CannonShotAim, BarrelAndBarFollowTheKeysAndTheArcIsTrue) {
     for (int t = 0; t < 25; ++t) g.tick({0, true}, rng);
     EXPECT_DOUBLE_EQ(g.power(), 0.5);
     ASSERT_EQ(g.tick({}, rng).at(0).kind, Event::Fired);
+    // From the muzzle, 92 units out along the barrel from the trunnion at (168, 700).
+    EXPECT_NEAR(g.ball().x, 168 + 92 * std::cos(10 * M_PI / 180), 1e-9);
+    EXPECT_NEAR(g.ball().y, 700 - 92 * std::sin(10 * M_PI / 180), 1e-9);
     EXPECT_NEAR(std::hypot(g.ball().vx, g.ball().vy), 13.5, 1e-9);
     EXPECT_NEAR(std::atan2(-g.ball().vy, g.ball().vx) * 180 / M_PI, 10, 1e-9);
     // One ball at a time: Space does nothing while it flies.

@@ -90,8 +90,10 @@ void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
             }
         }
         QVERIFY(fx.sound.played.contains("cannonpop.wav"));
+        QVERIFY(fx.sound.played.contains("cannonboom.wav"));
         if (w < 5) {
             QCOMPARE(game->sky()->call(), "Well done!");
+            QVERIFY(fx.sound.played.contains("cannonword.wav"));
             Pump(CannonShotForm::kWordMs);
             QCOMPARE(game->sky()->call(), QString("Word %1 of 5").arg(w + 1));
             QCOMPARE(LabelText(game, "WordLabel"), QString("Word %1 of 5").arg(w + 1));
@@ -125,10 +127,10 @@ void CannonShotScreenTest::outOfCannonballsLoses() {
     // A words-only list has no clue; from level 8 the wind blows.
     QVERIFY(!game->findChild<QLabel*>("Label1")->isVisible());
     QCOMPARE(game->game().wind(), 0.8 * 0.01);
-    // The barrel right down, then seven taps of Space into the grass.
-    SendKey(game, Qt::Key_Right);
+    // Down lowers the barrel as Right does; then seven taps of Space into the grass.
+    SendKey(game, Qt::Key_Down);
     Pump(16 * 40);
-    SendKey(game, Qt::Key_Right, QEvent::KeyRelease);
+    SendKey(game, Qt::Key_Down, QEvent::KeyRelease);
     QCOMPARE(game->game().angle(), 10.0);
     for (int b = 7; b >= 1; --b) {
         QCOMPARE(LabelText(game, "BallsLabel"), QString("Cannonballs: %1").arg(b));
