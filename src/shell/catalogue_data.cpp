@@ -281,15 +281,12 @@ std::vector<GameCard> BuildCatalogue() {
 
     cards.push_back(Card(
         "Cannon Shot", Elig(WO::Warn, kCannonShotWarning, "CannonShotForm"), Slider(2, 20, 10),
-        "You will be given control of a cannon at the bottom of the screen, up on a hill. "
-        "Balloons with letters float across the sky: the letters of a hidden word, and a few "
-        "extra ones to trick you. The meaning of the word is at the top as your clue, and the "
-        "blanks at the bottom show how long it is. Press the left and right arrow keys to point "
-        "the cannon higher or lower. Hold down the space bar to fill the power bar, and let go to "
-        "fire: the longer you hold, the further the ball flies. Pop the letters in the order that "
-        "spells the word to fill the blanks. A wrong balloon costs points, and it floats back "
-        "later. From level 8 the wind blows your cannonball: watch the flag! Spell five words to "
-        "win, but don't run out of cannonballs!"));
+        "You will be given control of a cannon at the bottom of the screen. Balloons with "
+        "letters float across the sky: the letters of a hidden word and a few tricky extra ones. "
+        "The word's meaning at the top is your clue. Left and right arrows aim the cannon; hold "
+        "the space bar to fill the power bar and let go to fire. Pop the letters in the order "
+        "that spells the word. A wrong balloon costs points! From level 8 the wind pushes your "
+        "ball: watch the flag. Spell five words to win before your cannonballs run out!"));
 
     cards.push_back(Card(
         "Word Search", Elig(WO::WarnIfOption, kWordSearchWarning, "WordSearchForm"),
