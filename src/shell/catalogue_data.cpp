@@ -281,10 +281,12 @@ std::vector<GameCard> BuildCatalogue() {
 
     cards.push_back(Card(
         "Cannon Shot", Elig(WO::Warn, kCannonShotWarning, "CannonShotForm"), Slider(2, 20, 10),
-        "You will be given control of a cannon at the bottom of the screen. The letters of a "
-        "hidden word float across the sky, and its meaning is shown at the top as your clue. Aim "
-        "with the left and right arrow keys and fire with the space bar. Shoot down the letters "
-        "in the order that spells the word; a wrong letter costs points!"));
+        "You will be given control of a cannon at the bottom of the screen. Balloons with "
+        "letters float across the sky: the letters of a hidden word and a few tricky extra ones. "
+        "The word's meaning at the top is your clue. Left and right arrows aim the cannon; hold "
+        "the space bar to fill the power bar and let go to fire. Pop the letters in the order "
+        "that spells the word. A wrong balloon costs points! From level 8 the wind pushes your "
+        "ball: watch the flag. Spell five words to win before your cannonballs run out!"));
 
     cards.push_back(Card(
         "Word Search", Elig(WO::WarnIfOption, kWordSearchWarning, "WordSearchForm"),

@@ -1,0 +1,238 @@
+// Cannon Shot's rules: the numbers of the design, the draws in their order, words that fit,
+// the barrel and the bar, the ball's arc, letters popped in order and out of it, and the ends.
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "cannon_aim.h"
+#include "core/shared_state.h"
+#include "word_lists.h"
+
+using namespace wm;
+using namespace wm::cannon_shot;
+using wm::test::ListOf;
+
+namespace {
+
+// The first shown balloon in reach carrying `letter` (decoys only when asked).
+int Find(const Game& g, char letter, bool decoy = false) {
+    for (int i = 0; i < int(g.balloons().size()); ++i) {
+        const Balloon& b = g.balloons()[i];
+        if (b.shown() && b.letter == letter && b.decoy == decoy && b.x < 1100) return i;
+    }
+    return -1;
+}
+
+// Pops balloon `i` with the keys: the events of the tick that popped it.
+std::vector<Event> Shoot(Game& g, int i, Rng& rng) {
+    test::Plan plan;
+    EXPECT_TRUE(test::PlanShot(g, i, &plan)) << "no shot reaches balloon " << i;
+    return test::PlayShot(g, plan, rng);
+}
+
+Game Started(SharedState& s, Rng& rng) {
+    Game g;
+    EXPECT_TRUE(g.start(s, rng));
+    g.go();
+    return g;
+}
+
+}  // namespace
+
+TEST(CannonShotNumbers, SpeedWindBarBallsAndLetters) {
+    EXPECT_DOUBLE_EQ(balloonSpeed(2), 0.68);
+    EXPECT_DOUBLE_EQ(balloonSpeed(20), 2.3);
+    EXPECT_EQ(maxWind(7), 0);
+    EXPECT_DOUBLE_EQ(maxWind(8), 0.01);
+    EXPECT_DOUBLE_EQ(maxWind(20), 0.058);
+    // The bar rises over 50 ticks, falls back over 50, and rises again.
+    const std::pair<int, double> bar[] = {{0, 0},    {1, 0.02}, {25, 0.5},  {50, 1},
+                                          {51, 0.98}, {100, 0},  {125, 0.5}};
+    for (auto [ticks, power] : bar) EXPECT_DOUBLE_EQ(powerAfter(ticks), power) << ticks;
+    // 2 x length + 3
+    EXPECT_EQ(ballsFor("cat"), 9);
+    EXPECT_EQ(ballsFor("ice cream"), 21);
+    for (char c : std::string("aZ7\xE9\xC9\xDF\xFF")) EXPECT_TRUE(isShot(c)) << c;
+    for (char c : std::string(" -'.\xD7\xF7")) EXPECT_FALSE(isShot(c)) << c;
+}
+
+TEST(CannonShotStart, DrawsWordWindDecoysOrderAndHeightsInThatOrder) {
+    SharedState s = ListOf({"pneumonoultramicroscopic", "ox", "ice-cream"}, 9);
+    ScriptedRng rng(0.5);
+    // The long word is drawn and left out; then the wind, four decoys, the shuffle, heights.
+    rng.pick(1, 3).pick(2, 3).then(1.0).then(0.0).then(0.0).then(0.999).then(0.05);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    EXPECT_EQ(rng.randomizeCount, 1);
+    EXPECT_EQ(s.TheWord, "ox");
+    EXPECT_EQ(s.TheMeaning, "meaning of ox");
+    EXPECT_DOUBLE_EQ(g.wind(), 0.014);
+    // Decoys are letters the word lacks: A, A, Z (the last), B.
+    std::string letters;
+    for (const Balloon& b : g.balloons()) letters += b.letter;
+    std::sort(letters.begin(), letters.end());
+    EXPECT_EQ(letters, "AABOXZ");
+    EXPECT_EQ(g.ballsLeft(), 7);
+    EXPECT_EQ(g.phase(), Phase::Ready);
+    // Spaced along their round from x 560, inside the sky.
+    EXPECT_DOUBLE_EQ(g.balloons()[5].x, 560 + 5 * 120);
+    EXPECT_DOUBLE_EQ(g.balloons()[0].alt, 170 + 0.5 * 370);
+    // Below level 8 there is no wind and nothing drawn for it; blanks and hyphens stand.
+    SharedState calm = ListOf({"ice-cream"}, 7);
+    ScriptedRng r2(0.3);
+    ASSERT_TRUE(g.start(calm, r2));
+    EXPECT_EQ(g.wind(), 0);
+    EXPECT_EQ(r2.draws, 1 + 3 + 10 + 11);  // word, decoys, shuffle, heights
+    EXPECT_EQ(g.blanks(), std::string("\0\0\0-\0\0\0\0\0", 9));
+    EXPECT_EQ(g.nextPos(), 0);
+}
+
+TEST(CannonShotStart, LevelHeldAndListsThatCannotPlayRefused) {
+    ScriptedRng rng(0.5);
+    for (auto [given, held] : {std::pair{1, 2}, {2, 2}, {20, 20}, {25, 20}}) {
+        SharedState s = ListOf({"cat"}, given);
+        Game g;
+        ASSERT_TRUE(g.start(s, rng));
+        EXPECT_EQ(g.level(), held);
+        EXPECT_EQ(g.balloons().size(), 3u + held / 2) << given;  // level / 2 decoys
+    }
+    // Fourteen letters fit; fifteen, none, or only marks do not.
+    SharedState fits = ListOf({"photosynthesis"}, 4);
+    EXPECT_TRUE(Game().start(fits, rng));
+    for (auto words : {std::vector<std::string>{"photosynthesiss"}, {"- '"},
+                       std::vector<std::string>{}}) {
+        SharedState s = ListOf(words, 4);
+        EXPECT_FALSE(Game().start(s, rng));
+    }
+}
+
+TEST(CannonShotWords, NoRepeatsInAGameAndTheDrawIsBounded) {
+    SharedState s = ListOf({"a", "b", "c"}, 2);
+    ScriptedRng rng(0.0);  // always entry 1
+    Game g = Started(s, rng);
+    std::vector<std::string> played{s.TheWord};
+    for (int w = 2; w <= 5; ++w) {
+        const int before = rng.draws;
+        ASSERT_TRUE(g.nextWord(s, rng));
+        played.push_back(s.TheWord);
+        if (w == 2) {
+            EXPECT_EQ(rng.draws - before, kWordDraws + 1 + 1 + 2);  // decoy, order, heights
+        }
+    }
+    // The used entry drawn a hundred times gives the next free one; all used, the others
+    // come round again, never the word just played.
+    EXPECT_EQ(played, (std::vector<std::string>{"a", "b", "c", "a", "b"}));
+    EXPECT_EQ(g.wordNumber(), 5);
+    EXPECT_FALSE(g.nextWord(s, rng));
+}
+
+TEST(CannonShotAim, BarrelAndBarFollowTheKeysAndTheArcIsTrue) {
+    SharedState s = ListOf({"q"}, 2);
+    ScriptedRng rng(0.0);  // balloons high, out of the way
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    // Nothing turns or charges before the pause is over.
+    g.tick({1, true}, rng);
+    EXPECT_EQ(g.angle(), 45);
+    EXPECT_FALSE(g.charging());
+    g.go();
+    for (auto [turn, ticks, angle] : {std::tuple{1, 10, 55}, {1, 100, 80}, {-1, 100, 10}}) {
+        for (int t = 0; t < ticks; ++t) g.tick({turn, false}, rng);
+        EXPECT_EQ(g.angle(), angle);
+    }
+    // Space held 25 ticks: half power; let go, the ball leaves at 7 + 13 x 0.5.
+    for (int t = 0; t < 25; ++t) g.tick({0, true}, rng);
+    EXPECT_DOUBLE_EQ(g.power(), 0.5);
+    ASSERT_EQ(g.tick({}, rng).at(0).kind, Event::Fired);
+    // From the muzzle, 92 units out along the barrel from the trunnion at (168, 700).
+    EXPECT_NEAR(g.ball().x, 168 + 92 * std::cos(10 * M_PI / 180), 1e-9);
+    EXPECT_NEAR(g.ball().y, 700 - 92 * std::sin(10 * M_PI / 180), 1e-9);
+    EXPECT_NEAR(std::hypot(g.ball().vx, g.ball().vy), 13.5, 1e-9);
+    EXPECT_NEAR(std::atan2(-g.ball().vy, g.ball().vx) * 180 / M_PI, 10, 1e-9);
+    // One ball at a time: Space does nothing while it flies.
+    g.tick({0, true}, rng);
+    g.tick({}, rng);
+    EXPECT_EQ(g.ballsLeft(), 4);
+    while (g.ball().flying) g.tick({}, rng);
+
+    // At 45 degrees: apex v^2 / 2g above the muzzle, down where the parabola meets the ground.
+    g.fire(45, 0.5);
+    const double x0 = g.ball().x, y0 = g.ball().y, v = 13.5 / std::sqrt(2.0);
+    double top = y0;
+    std::vector<Event> ev;
+    while (g.ball().flying) {
+        top = std::min(top, g.ball().y);
+        ev = g.tick({}, rng);
+    }
+    EXPECT_NEAR(y0 - top, v * v / (2 * 0.25), 8);
+    const double t = (v + std::sqrt(v * v + 2 * 0.25 * (820 - y0))) / 0.25;
+    ASSERT_EQ(ev.at(0).kind, Event::Landed);
+    EXPECT_NEAR(ev[0].x, x0 + v * t, 25);
+    // The wind pushes by wind x t^2 / 2.
+    SharedState windy = ListOf({"q"}, 20);
+    ScriptedRng r2(1.0);
+    Game w = Started(windy, r2);
+    EXPECT_DOUBLE_EQ(w.wind(), 0.058);
+    w.fire(80, 0.2);
+    const double wx0 = w.ball().x;
+    for (int k = 0; k < 40; ++k) w.tick({}, r2);
+    EXPECT_NEAR(w.ball().x - wx0, 40 * 9.6 * std::cos(80 * M_PI / 180) + 0.058 * 40 * 40 / 2, 2);
+}
+
+TEST(CannonShotPops, InOrderFillsTheBlanksWrongCostsAndComesRoundAgain) {
+    SharedState s = ListOf({"all", "ox", "ax", "by", "we"}, 4);
+    ScriptedRng rng(0.0);
+    Game g = Started(s, rng);
+    ASSERT_EQ(s.TheWord, "all");
+    // An L before the A: wrong, -5 x level (never below nothing), out until it comes round.
+    const int l = Find(g, 'L');
+    EXPECT_EQ(Shoot(g, l, rng).at(0).kind, Event::Wrong);
+    EXPECT_EQ(g.score(), 0);
+    EXPECT_FALSE(g.balloons()[l].shown());
+    // The A: +10 x level, its blank filled; then an L; a decoy in between costs 5 x 4.
+    EXPECT_EQ(Shoot(g, Find(g, 'A'), rng).at(0).kind, Event::Right);
+    EXPECT_EQ(g.score(), 40);
+    EXPECT_EQ(g.blanks(), std::string("a\0\0", 3));
+    EXPECT_EQ(g.nextPos(), 1);
+    Shoot(g, Find(g, 'L'), rng);
+    Shoot(g, Find(g, 'B', true), rng);
+    EXPECT_EQ(g.score(), 60);
+    EXPECT_EQ(g.ballsLeft(), 5);
+    // The wrong L drifts off the left and floats in again from the right.
+    bool back = false;
+    for (int t = 0; t < 3000 && !back; ++t)
+        for (const Event& e : g.tick({}, rng)) back = back || (e.kind == Event::Back && e.balloon == l);
+    EXPECT_TRUE(back);
+    EXPECT_GT(g.balloons()[l].x, 1600);
+    for (int t = 0; t < 800 && Find(g, 'L') < 0; ++t) g.tick({}, rng);
+    const auto ev = Shoot(g, Find(g, 'L'), rng);
+    ASSERT_EQ(ev.size(), 2u);
+    EXPECT_EQ(ev[1].kind, Event::Spelled);
+    EXPECT_EQ(g.phase(), Phase::Spelled);
+    EXPECT_EQ(g.blanks(), "all");
+    EXPECT_EQ(g.score(), 100);
+    EXPECT_EQ(lostText("all"), "Out of cannonballs! The word was all.");
+}
+
+TEST(CannonShotEnd, OutOfBallsLosesWhenTheLastLands) {
+    // Seven balls for a two-letter word; the last one lands: lost, not before.
+    SharedState one = ListOf({"ox"}, 2);
+    ScriptedRng rng(0.0);
+    Game l = Started(one, rng);
+    std::vector<Event> ev;
+    for (int b = 0; b < 7; ++b) {
+        EXPECT_EQ(l.phase(), Phase::Aiming) << b;
+        ev = test::PlayShot(l, {-1, 40, 1}, rng);
+    }
+    EXPECT_EQ(l.ballsLeft(), 0);
+    ASSERT_EQ(ev.size(), 2u);
+    EXPECT_EQ(ev[0].kind, Event::Landed);
+    EXPECT_EQ(ev[1].kind, Event::Lost);
+    EXPECT_EQ(l.phase(), Phase::Lost);
+    // After the end the balloons drift on; the barrel and the bar are still.
+    const double x = l.balloons()[0].x;
+    EXPECT_TRUE(l.tick({1, true}, rng).empty());
+    EXPECT_LT(l.balloons()[0].x, x);
+    EXPECT_EQ(l.angle(), 10);
+    EXPECT_FALSE(l.charging());
+}

@@ -1,0 +1,166 @@
+// Cannon Shot on its screen, played with the keys: from the title through "Get ready!", the
+// barrel turned, the bar charged, balloons popped in order and out of it, five words to the
+// table; a game lost at 1920x1080 with every cannonball spent, a try again, and a list whose
+// words are all too long.
+#include <QtTest>
+
+#include "cannon_aim.h"
+#include "game_start.h"
+#include "games/action/cannon_shot/cannon_shot_screen.h"
+
+using namespace wm;
+using namespace wm::test;
+using namespace wm::cannon_shot;
+
+class CannonShotScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void fiveWordsWonWithTheKeys();
+    void outOfCannonballsLoses();
+};
+
+namespace {
+
+// Shoots a balloon with `letter` as a pupil would, with the keys; waits for one to come into
+// reach when none is.
+bool ShootLetter(CannonShotForm* game, char letter, bool decoy = false) {
+    for (int wait = 0; wait < 40; ++wait) {
+        const auto& bs = game->game().balloons();
+        for (int i = 0; i < int(bs.size()); ++i) {
+            Plan p;
+            if (!bs[i].shown() || bs[i].letter != letter || bs[i].decoy != decoy ||
+                bs[i].x > 1100 || !PlanShot(game->game(), i, &p))
+                continue;
+            const int key = p.turn > 0 ? Qt::Key_Left : Qt::Key_Right;
+            SendKey(game, key);
+            Pump(16 * p.turnTicks);
+            SendKey(game, key, QEvent::KeyRelease);
+            SendKey(game, Qt::Key_Space);
+            Pump(16 * p.charge);
+            SendKey(game, Qt::Key_Space, QEvent::KeyRelease);
+            for (int t = 0; t < 400 && (t == 0 || game->game().ball().flying); ++t) Pump(16);
+            return !game->game().balloons()[i].shown();
+        }
+        Pump(320);
+    }
+    return false;
+}
+
+}  // namespace
+
+void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
+    ShellFixture fx;
+    WriteOneList(fx, "Farm",
+                 {{"ox", "a strong farm animal"}, {"hen", "a bird that lays eggs"},
+                  {"pig", "it rolls in the mud"}, {"cow", "it gives milk"},
+                  {"ewe", "a mother sheep"}, {"kid", "a young goat"}});
+    WinDriver driver({"CAN"});
+    SetModalHook(std::ref(driver));
+    auto* game = qobject_cast<CannonShotForm*>(PlayFromTitle("Cannon Shot", "Farm", 2));
+    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+    Pump();
+    QCOMPARE(game->sky()->call(), "Get ready!");
+    QVERIFY(fx.sound.played.contains("cannonready.wav"));
+    QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
+    QCOMPARE(LabelText(game, "LevelLabel"), "Level 2");
+    Pump(CannonShotForm::kReadyMs);
+    QCOMPARE(game->sky()->call(), "");
+
+    int score = 0;
+    for (int w = 1; w <= 5; ++w) {
+        const std::string word = Shared().TheWord;
+        QCOMPARE(LabelText(game, "BallsLabel"),
+                 QString("Cannonballs: %1").arg(2 * word.size() + 3));
+        for (std::size_t k = 0; k < word.size(); ++k) {
+            QVERIFY2(ShootLetter(game, char(toupper(word[k]))), word.c_str());
+            score += 20;
+            QCOMPARE(LabelText(game, "ScoreLabel"), QString("Score: %1").arg(score));
+            if (w == 1 && k == 0) {
+                // A decoy: -5 x level, its sound only with sound on; the blank stays empty.
+                Shared().SoundOn = kFalse;
+                const auto& bs = game->game().balloons();
+                const auto decoy = std::find_if(bs.begin(), bs.end(), [](auto& b) { return b.decoy; });
+                QVERIFY(ShootLetter(game, decoy->letter, true));
+                QVERIFY(!fx.sound.played.contains("cannonwrong.wav"));
+                score -= 10;
+                QCOMPARE(LabelText(game, "ScoreLabel"), QString("Score: %1").arg(score));
+                QCOMPARE(game->game().nextPos(), 1);
+                Shared().SoundOn = kTrue;
+                Shot(game, "cannon-play");
+            }
+        }
+        QVERIFY(fx.sound.played.contains("cannonpop.wav"));
+        QVERIFY(fx.sound.played.contains("cannonboom.wav"));
+        if (w < 5) {
+            QCOMPARE(game->sky()->call(), "Well done!");
+            QVERIFY(fx.sound.played.contains("cannonword.wav"));
+            Pump(CannonShotForm::kWordMs);
+            QCOMPARE(game->sky()->call(), QString("Word %1 of 5").arg(w + 1));
+            QCOMPARE(LabelText(game, "WordLabel"), QString("Word %1 of 5").arg(w + 1));
+            Pump(CannonShotForm::kReadyMs);
+        }
+    }
+    QCOMPARE(game->sky()->call(), "You win!");
+    QVERIFY(fx.sound.played.contains("cannonwin.wav"));
+    Shot(game, "cannon-win");
+    fx.dialogs.answerYes(false);
+    Pump(CannonShotForm::kEndMs);
+    QVERIFY2(fx.dialogs.saw(
+                 QString("You got a high score of %1! Would you like to try again?").arg(score)),
+             qPrintable(fx.dialogs.texts().join(" | ")));
+    QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
+    QCOMPARE(TableRow(fx, "Cannon Shot"), QString("CAN %1").arg(score));
+    Pump();
+    QVERIFY(Showing<Title>());
+}
+
+void CannonShotScreenTest::outOfCannonballsLoses() {
+    ShellFixture fx;
+    ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
+    WinDriver driver;
+    SetModalHook(std::ref(driver));
+    fx.rng.pick(1, 2).then(0.9);  // the word, the wind: from the left, strong
+    auto* game = OpenGame<CannonShotForm>(fx, "Cannon Shot", {{"ox", ""}, {"ox", ""}}, 8, false,
+                                          true, true);
+    QVERIFY(game);
+    Pump(CannonShotForm::kReadyMs + 100);
+    // A words-only list has no clue; from level 8 the wind blows.
+    QVERIFY(!game->findChild<QLabel*>("Label1")->isVisible());
+    QCOMPARE(game->game().wind(), 0.8 * 0.01);
+    // Down lowers the barrel as Right does; then seven taps of Space into the grass.
+    SendKey(game, Qt::Key_Down);
+    Pump(16 * 40);
+    SendKey(game, Qt::Key_Down, QEvent::KeyRelease);
+    QCOMPARE(game->game().angle(), 10.0);
+    for (int b = 7; b >= 1; --b) {
+        QCOMPARE(LabelText(game, "BallsLabel"), QString("Cannonballs: %1").arg(b));
+        SendKey(game, Qt::Key_Space);
+        SendKey(game, Qt::Key_Space, QEvent::KeyRelease);
+        Pump(32);
+        QVERIFY(game->game().ball().flying);
+        for (int t = 0; t < 200 && game->game().ball().flying; ++t) Pump(16);
+    }
+    QVERIFY(fx.sound.played.contains("cannonthud.wav"));
+    QCOMPARE(game->sky()->call(), "Out of cannonballs!");
+    QVERIFY(fx.sound.played.contains("cannonlose.wav"));
+    Shot(game, "cannon-lost");
+    fx.dialogs.answerYes(true);
+    Pump(CannonShotForm::kEndMs);
+    QCOMPARE(fx.dialogs.last(),
+             "Out of cannonballs! The word was ox. Would you like to try again?");
+    QCOMPARE(fx.dialogs.shown.back().title, "Try Again?");
+    // Try again: a fresh game with a full rack.
+    QCOMPARE(game->sky()->call(), "Get ready!");
+    QCOMPARE(LabelText(game, "BallsLabel"), "Cannonballs: 7");
+    // Words too long for the blanks: said clearly, then back to the title.
+    Shared().Words = {"", "hippopotomonstrous", "photosynthesise"};
+    QVERIFY(TriggerMenu(game, "RS"));
+    Pump();
+    QCOMPARE(fx.dialogs.last(),
+             "This list has no words that fit Cannon Shot: a word may have at most 14 letters. "
+             "Please choose another list.");
+    QVERIFY(Showing<Title>());
+}
+
+QTEST_MAIN(CannonShotScreenTest)
+#include "cannon_shot_screen_test.moc"
