@@ -102,7 +102,7 @@ void SlotScene::layOut(int top) {
     update();
 }
 
-QPixmap SlotScene::sprite(const char* id, QSize size) const {
+QPixmap SlotScene::sprite(const char* id, QSize size) {
     QPixmap pm(size.expandedTo(QSize(1, 1)));
     pm.fill(Qt::transparent);
     if (!art_.isValid() || !art_.elementExists(id)) return pm;

@@ -58,7 +58,7 @@ private:
         double arc;
     };
     void composeBack();
-    QPixmap sprite(const char* id, QSize size) const;
+    QPixmap sprite(const char* id, QSize size);
     const QPixmap& wordPicture(int entry);
     void paintReel(QPainter& p, int i);
     void paintLever(QPainter& p);
