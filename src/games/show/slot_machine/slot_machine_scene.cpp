@@ -2,6 +2,7 @@
 
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPolygonF>
 #include <QRandomGenerator>
 #include <cmath>
 
@@ -76,7 +77,7 @@ void SlotScene::layOut(int top) {
     const QPoint pivot(cabinet_.right() + cw / 22, cabinet_.top() + int(ch * 0.44));
     const int len = int(ch * 0.27), lw = cw / 11;
     lever_ = QRect(pivot.x() - lw / 2, pivot.y() - len - lw / 2, lw, 2 * len + lw);
-    const int m = w / 50, side = cabinet_.left() - 2 * m;
+    const int m = w / 80, side = cabinet_.left() - 2 * m;
     purse_ = QRect(m, top + int(h * 0.05), side, int(h * 0.11));
     count_ = QRect(m, purse_.bottom() + int(h * 0.025), side, int(h * 0.08));
 
@@ -408,10 +409,16 @@ void SlotScene::paintAll(QPainter& p) {
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::SmoothPixmapTransform);
     for (int i = 0; i < kReels; ++i) paintReel(p, i);
-    // The payline across the window.
-    p.setPen(QPen(QColor(230, 30, 40, 170), std::max(2, window_.height() / 90)));
-    const int y = window_.center().y();
-    p.drawLine(window_.left() + 4, y, window_.right() - 4, y);
+    // The window each reel stops its word in: gold rails above and below it, red arrows beside.
+    const double y = reels_[0].center().y(), half = reels_[0].height() * 0.14;
+    p.setPen(QPen(QColor(255, 200, 50, 210), std::max(2, reels_[0].height() / 90)));
+    for (const QRect& r : reels_)
+        for (double at : {y - half, y + half}) p.drawLine(QPointF(r.left() + 2, at), QPointF(r.right() - 2, at));
+    p.setPen(Qt::NoPen);
+    p.setBrush(QColor(235, 30, 40));
+    const double l = window_.left() + 3, r = window_.right() - 3, tip = reels_[0].left() - window_.left() - 4;
+    p.drawPolygon(QPolygonF({QPointF(l, y - half * 0.6), QPointF(l + tip, y), QPointF(l, y + half * 0.6)}));
+    p.drawPolygon(QPolygonF({QPointF(r, y - half * 0.6), QPointF(r - tip, y), QPointF(r, y + half * 0.6)}));
     paintBulbs(p);
     paintLever(p);
     paintBanner(p);

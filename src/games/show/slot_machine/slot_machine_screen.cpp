@@ -1,5 +1,6 @@
 #include "games/show/slot_machine/slot_machine_screen.h"
 
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QMouseEvent>
@@ -24,7 +25,7 @@ constexpr int kJackpotMs = 2600;  // the jackpot's lights and coins, before the 
 constexpr int kEndMs = 2800;      // the last moment, before the boxes
 
 const char* kPullText = "Pull the handle (or press Space) to spin the reels!";
-const char* kStopText = "Press STOP (or the keys 1, 2, 3) when the right word is in the window!";
+const char* kStopText = "Press STOP (or 1, 2, 3) when the right word is in the window!";
 
 const char* kStopStyle =
     "QPushButton { color: white; border: 3px solid #6d0616; border-radius: 16px;"
@@ -35,6 +36,14 @@ const char* kStopStyle =
 const char* kHeldStyle =
     "QPushButton:disabled { color: #4a2c00; border: 3px solid #8a5a00; border-radius: 16px;"
     " background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #fff1a0, stop:1 #f2b320); }";
+
+// The largest letters up to `points` that keep `longest` on one line of the label.
+void fitLine(QLabel* l, int points, const QString& longest) {
+    QFont f = ScreenFont(points, true);
+    for (; f.pointSize() > 7; f.setPointSize(f.pointSize() - 1))
+        if (QFontMetrics(f).horizontalAdvance(longest) <= l->width() - 6) break;
+    l->setFont(f);
+}
 
 GameMenuNames menuNames() {
     GameMenuNames menu;
@@ -275,12 +284,12 @@ void SlotMachine::resizeEvent(QResizeEvent*) {
     Label1->setGeometry(scene_->definitionRect().adjusted(8, 8, -8, -8));
     fitDefinition();
     const QRect purse = scene_->purseRect();
-    Label2->setGeometry(purse.adjusted(purse.height(), 0, -8, 0));
-    Label3->setGeometry(scene_->countRect().adjusted(8, 0, -8, 0));
+    Label2->setGeometry(purse.adjusted(purse.height() * 4 / 5, 0, -4, 0));
+    Label3->setGeometry(scene_->countRect().adjusted(4, 0, -4, 0));
     Label4->setGeometry(scene_->promptRect());
-    Label2->setFont(ScreenFont(22, true));
-    Label3->setFont(ScreenFont(16, true));
-    Label4->setFont(ScreenFont(13, true));
+    fitLine(Label2, 22, "Coins: 8888");
+    fitLine(Label3, 16, "Definition 10 of 10");
+    fitLine(Label4, 13, kStopText);
     for (int i = 0; i < kReels; ++i) {
         stops_[i]->setGeometry(scene_->stopRect(i));
         stops_[i]->setFont(ScreenFont(18, true));

@@ -71,7 +71,7 @@ void SlotMachineScreenTest::tenJackpotsToTheTable() {
     QCOMPARE(road.sound.played.last(), QString("slot-pull.wav"));
     QCOMPARE(LabelText(game, "Label2"), QString("Coins: 95"));
     QCOMPARE(LabelText(game, "Label4"),
-             QString("Press STOP (or the keys 1, 2, 3) when the right word is in the window!"));
+             QString("Press STOP (or 1, 2, 3) when the right word is in the window!"));
     StopOn(game, 0, true);
     QCOMPARE(road.sound.played.last(), QString("slot-ding.wav"));
     QCOMPARE(LabelText(game, "Label2"), QString("Coins: 100"));
