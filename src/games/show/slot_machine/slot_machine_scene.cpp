@@ -182,6 +182,19 @@ void SlotScene::newStrips() {
 const QPixmap& SlotScene::wordPicture(int entry) {
     auto it = words_.find(entry);
     if (it != words_.end()) return it->second;
+    if (entry < 0) {
+        // The rolling word: faint, with a trail above and below.
+        const QPixmap& sharp = wordPicture(-entry);
+        QPixmap pm(sharp.size());
+        pm.fill(Qt::transparent);
+        QPainter p(&pm);
+        p.setOpacity(0.55);
+        p.drawPixmap(0, 0, sharp);
+        p.setOpacity(0.22);
+        p.drawPixmap(0, -sharp.height() * 35 / 100, sharp);
+        p.drawPixmap(0, sharp.height() * 35 / 100, sharp);
+        return words_[entry] = pm;
+    }
     const QSize size(reels_[0].width() * 92 / 100, int(reels_[0].height() * 0.24));
     QPixmap pm(size.expandedTo(QSize(1, 1)));
     pm.fill(Qt::transparent);
@@ -223,10 +236,7 @@ QRegion SlotScene::dirty() const {
     QRegion r(window_.adjusted(-4, -4, 4, 4));
     r += marquee_.adjusted(-8, -8, 8, 8);
     r += lever_.adjusted(-lever_.width(), -4, lever_.width(), 4);
-    for (const Coin& c : coins_) {
-        r += coinRect(c, now_ - Ticker::kFrameMs * 2);
-        r += coinRect(c, now_);
-    }
+    for (const Coin& c : coins_) r += coinRect(c, now_ - Ticker::kFrameMs * 2) | coinRect(c, now_);
     return r;
 }
 
@@ -253,11 +263,11 @@ void SlotScene::stopped(int reel, bool right) {
 void SlotScene::paid(int reel, int coins) {
     const qint64 t = Ticker::get().now();
     const QPointF to = QPointF(purse_.left() + purse_.height() * 0.5, purse_.center().y());
-    const int n = std::clamp(coins / 5 * 2, 3, 30);
+    const int n = std::clamp(coins / 10, 3, 16);
     for (int k = 0; k < n; ++k) {
         const QPointF from = reel >= 0 ? QPointF(reels_[reel].center().x() + rnd(-20, 20), reels_[reel].bottom())
                                        : QPointF(rnd(tray_.left(), tray_.right()), tray_.center().y());
-        coins_.push_back({from, to, t + k * 45, kCoinMs + int(rnd(0, 200)), rnd(40, 160)});
+        coins_.push_back({from, to, t + k * 70, kCoinMs + int(rnd(0, 200)), rnd(40, 160)});
     }
 }
 
@@ -295,23 +305,14 @@ void SlotScene::paintReel(QPainter& p, int i) {
             const double a = d * kWordAngle;
             if (std::abs(a) >= M_PI / 2) continue;
             const int j = int(((m % n) + n) % n);
-            const QPixmap& pic = wordPicture(reel.strip[j]);
+            // A rolling word is drawn smeared, from its own picture.
+            const QPixmap& pic = wordPicture(reel.strip[j] * (reel.spinning ? -1 : 1));
             const double y = r.center().y() + std::sin(a) * radius;
             const double sy = std::cos(a);
-            p.setOpacity(reel.spinning ? 0.55 : 1.0);
-            p.save();
-            p.translate(r.center().x(), y);
-            p.scale(1, sy);
-            p.drawPixmap(QPointF(-pic.width() / 2.0, -pic.height() / 2.0), pic);
-            if (reel.spinning) {
-                // The letters smear as they roll.
-                p.setOpacity(0.22);
-                p.drawPixmap(QPointF(-pic.width() / 2.0, -pic.height() * 0.85), pic);
-                p.drawPixmap(QPointF(-pic.width() / 2.0, -pic.height() * 0.15), pic);
-            }
-            p.restore();
+            const double hgt = pic.height() * sy;
+            p.drawPixmap(QRectF(r.center().x() - pic.width() / 2.0, y - hgt / 2, pic.width(), hgt), pic,
+                         QRectF(pic.rect()));
         }
-        p.setOpacity(1);
         p.restore();
     }
     p.drawPixmap(r.topLeft(), reelGlass_);
@@ -406,9 +407,10 @@ void SlotScene::paintBanner(QPainter& p) {
 
 void SlotScene::paintAll(QPainter& p) {
     p.drawPixmap(0, 0, backPic_);
+    // Words squeezed by the drum's curve need no smoothing: it would cost more than the frame.
+    for (int i = 0; i < kReels; ++i) paintReel(p, i);
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::SmoothPixmapTransform);
-    for (int i = 0; i < kReels; ++i) paintReel(p, i);
     // The window each reel stops its word in: gold rails above and below it, red arrows beside.
     const double y = reels_[0].center().y(), half = reels_[0].height() * 0.14;
     p.setPen(QPen(QColor(255, 200, 50, 210), std::max(2, reels_[0].height() / 90)));
