@@ -159,4 +159,6 @@ TEST(SlotMachine, PullsStopsHoldsAndTheJackpot) {
     EXPECT_FALSE(g.canPull());  // until the next definition comes
     g.nextDefinition(s, rng);
     EXPECT_EQ(std::make_tuple(g.held(), g.canPull(), g.jackpots()), std::make_tuple(0, true, 1));
+    ASSERT_TRUE(g.start(s, rng));  // a new game counts its jackpots afresh
+    EXPECT_EQ(g.jackpots(), 0);
 }
