@@ -323,10 +323,13 @@ std::vector<GameCard> BuildCatalogue() {
 
     cards.push_back(Card(
         "Slot Machine", Elig(WO::Refuse, kMsgM1, "SlotMachine"), Slider(1, 20, 9),
-        "A definition will appear at the bottom of the screen. Pull the handle to spin the "
-        "reels, then click STOP under each reel when it shows the word that matches the "
-        "definition. Line up the right word on all three reels to hit the jackpot! A wrong word "
-        "costs you coins. The higher the level, the faster the reels spin."));
+        "A definition will appear at the bottom of the screen. Pull the handle (or press Space) "
+        "to spin the three reels of words: a pull costs 5 coins. Stop each reel with its STOP "
+        "button (or the keys 1, 2 and 3) when the word that matches the definition is in its "
+        "window. A right word pays 5 coins and stays put. Get it on all three reels to win the "
+        "jackpot: 20 coins times the level! You start with 100 coins. After ten definitions the "
+        "coins you have left are your score, but if you run out of coins the game is over. The "
+        "higher the level, the faster the reels spin."));
 
     cards.push_back(Card(
         "Bridge Out", Elig(WO::Allowed, "", "BridgeOutGame"), Slider(2, 10, 6),
