@@ -169,6 +169,21 @@ int GameFrame::menuHeight() const {
     return menu_->sizeHint().height();
 }
 
+QRect GameFrame::playArea() const {
+    const int top = menuHeight();
+    return screen_ ? QRect(0, top, screen_->width(), screen_->height() - top) : QRect();
+}
+
+void GameFrame::hostPlay(QWidget* play) {
+    if (!screen_) return;
+    screen_->setFocusPolicy(Qt::StrongFocus);
+    if (play) play->setFocusPolicy(Qt::NoFocus);
+    screen_->setAutoFillBackground(true);
+    QPalette pal = screen_->palette();
+    pal.setColor(QPalette::Window, Qt::black);
+    screen_->setPalette(pal);
+}
+
 void GameFrame::setForeign(std::function<void(const QString&)> insert) {
     if (names_.foreign.isEmpty() || entry(Entry::Foreign)) return;
     addEntry(Entry::Foreign, names_.foreignText, names_.foreign, [this, insert] {

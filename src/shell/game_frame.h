@@ -102,6 +102,11 @@ public:
     QMenuBar* menuBar() const { return menu_; }
     QAction* entry(Entry which) const;
     int menuHeight() const;
+    // The screen's area below the menu, where the game plays.
+    QRect playArea() const;
+    // Readies the screen to show a full-screen play under the menu: black behind it, and the
+    // keys kept by the screen rather than by the play widget.
+    void hostPlay(QWidget* play);
 
     // Adds the palette entry; a picked character goes to `insert`.
     void setForeign(std::function<void(const QString&)> insert);

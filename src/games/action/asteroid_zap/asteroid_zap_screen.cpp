@@ -80,20 +80,14 @@ AsteroidBlast::AsteroidBlast(QWidget* parent)
           "Timer1", 100, [this] { frame_.refuse(asteroid::kTooLong, "Oops!"); }, true)) {
     setObjectName("AsteroidBlast");
     setWindowTitle("Asteroid Blast!");
-    setFocusPolicy(Qt::StrongFocus);
-    field_->setFocusPolicy(Qt::NoFocus);
-    setAutoFillBackground(true);
-    QPalette pal = palette();
-    pal.setColor(QPalette::Window, Qt::black);
-    setPalette(pal);
+    frame_.hostPlay(field_);
     loadPictures();
     resize(ScreenMetrics::screenSize());
     QTimer::singleShot(0, &frame_, [this] { frame_.newGame(); });
 }
 
 void AsteroidBlast::resizeEvent(QResizeEvent*) {
-    const int top = frame_.menuHeight();
-    field_->setGeometry(0, top, width(), height() - top);
+    field_->setGeometry(frame_.playArea());
 }
 
 void AsteroidBlast::loadPictures() {

@@ -96,12 +96,7 @@ CrunchManGame::CrunchManGame(QWidget* parent)
           true)) {
     setObjectName("CrunchManGame");
     setWindowTitle("Crunch Man!");
-    setFocusPolicy(Qt::StrongFocus);
-    field_->setFocusPolicy(Qt::NoFocus);
-    setAutoFillBackground(true);
-    QPalette pal = palette();
-    pal.setColor(QPalette::Window, Qt::black);
-    setPalette(pal);
+    frame_.hostPlay(field_);
     const QSize size = field_->logicalSize();
     geometry_.width = size.width();
     geometry_.height = size.height();
@@ -137,8 +132,7 @@ void CrunchManGame::loadPictures() {
 }
 
 void CrunchManGame::resizeEvent(QResizeEvent*) {
-    const int top = frame_.menuHeight();
-    field_->setGeometry(0, top, width(), height() - top);
+    field_->setGeometry(frame_.playArea());
 }
 
 bool CrunchManGame::dying() const {

@@ -59,19 +59,13 @@ FroggyForm::FroggyForm(QWidget* parent)
       Timer1(frame_.timer("Timer1", 50, [this] { froggy::bonusTick(board_); })) {
     setObjectName("FroggyForm");
     setWindowTitle("Froggy!");
-    setFocusPolicy(Qt::StrongFocus);
-    field_->setFocusPolicy(Qt::NoFocus);
-    setAutoFillBackground(true);
-    QPalette pal = palette();
-    pal.setColor(QPalette::Window, Qt::black);
-    setPalette(pal);
+    frame_.hostPlay(field_);
     resize(ScreenMetrics::screenSize());
     QTimer::singleShot(0, &frame_, [this] { frame_.newGame(); });
 }
 
 void FroggyForm::resizeEvent(QResizeEvent*) {
-    const int top = frame_.menuHeight();
-    field_->setGeometry(0, top, width(), height() - top);
+    field_->setGeometry(frame_.playArea());
 }
 
 void FroggyForm::loadPictures() {

@@ -98,13 +98,8 @@ LetterFall::LetterFall(QWidget* parent)
         word.text = word.text.toLower();
         return word;
     });
-    setFocusPolicy(Qt::StrongFocus);
-    setAutoFillBackground(true);
-    QPalette pal = palette();
-    pal.setColor(QPalette::Window, Qt::black);
-    setPalette(pal);
     field_ = new PlayField(QSize(kW, kH), this);
-    field_->setFocusPolicy(Qt::NoFocus);
+    frame_.hostPlay(field_);
     field_->setBackground(NightSky());
     keys_ = new KeyState(this);
     Label1 = new QLabel(this);
@@ -288,9 +283,8 @@ void LetterFall::keyReleaseEvent(QKeyEvent* e) {
 }
 
 void LetterFall::resizeEvent(QResizeEvent*) {
-    const int top = frame_.menuHeight();
-    field_->setGeometry(0, top, width(), height() - top);
-    const QRect area = field_->targetRect().translated(0, top);
+    field_->setGeometry(frame_.playArea());
+    const QRect area = field_->targetRect().translated(field_->pos());
     const double k = area.width() / double(kW);
     auto place = [&](QWidget* w, QRect logical) {
         const QRect r = field_->toWidget(logical).translated(field_->pos());

@@ -307,8 +307,7 @@ void MiniGolf::EndGame() {
 }
 
 void MiniGolf::resizeEvent(QResizeEvent*) {
-    const int top = frame_.menuHeight();
-    field_->setGeometry(0, top, width(), height() - top);
+    field_->setGeometry(frame_.playArea());
     const double k = field_->targetRect().width() / double(kW);
     auto place = [&](QWidget* w, QRect logical) {
         w->setGeometry(field_->toWidget(logical).translated(field_->pos()));

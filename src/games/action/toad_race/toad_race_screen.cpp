@@ -214,8 +214,8 @@ void ToadRace::markWrong(bool wrong) {
 }
 
 void ToadRace::resizeEvent(QResizeEvent*) {
-    const int top = frame_.menuHeight();
-    pond_->setGeometry(0, top, width(), height() - top);
+    pond_->setGeometry(frame_.playArea());
+    const int top = pond_->y();
     const QRect sign = pond_->signRect().translated(0, top);
     const int h = std::max(1, sign.height());
     // The word on the board's upper part, the meaning under it; both shrink to fit.

@@ -51,13 +51,8 @@ Zap::Zap(QWidget* parent)
       StarTimer(frame_.timer("StarTimer", 1, [this] { starTick(); })) {
     setObjectName("Zap");
     setWindowTitle("Word Zap");
-    setFocusPolicy(Qt::StrongFocus);
-    field_->setFocusPolicy(Qt::NoFocus);
+    frame_.hostPlay(field_);
     field_->setCursor(Qt::CrossCursor);
-    setAutoFillBackground(true);
-    QPalette pal = palette();
-    pal.setColor(QPalette::Window, Qt::black);
-    setPalette(pal);
     const SpriteSheet sheet = SpriteSheet::fromSvg(findAsset(kStarsPicture));
     for (int i = 0; i < 5; ++i) {
         QImage image(kStarSize, kStarSize, QImage::Format_ARGB32);
@@ -78,8 +73,7 @@ Zap::Zap(QWidget* parent)
 }
 
 void Zap::resizeEvent(QResizeEvent*) {
-    const int top = frame_.menuHeight();
-    field_->setGeometry(0, top, width(), height() - top);
+    field_->setGeometry(frame_.playArea());
 }
 
 // The gallery: sky and wall, the wooden posts and ledge, the four shelves, the panel.
