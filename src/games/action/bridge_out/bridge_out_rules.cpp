@@ -54,10 +54,10 @@ bool Game::start(SharedState& s, Rng& rng) {
 
 bool Game::drawWord(SharedState& s, Rng& rng) {
     const int n = static_cast<int>(used_.size()) - 1;
-    auto free = [&](int k) { return !used_[k] && fitsBridge(s.Words[k]); };
+    auto fresh = [&](int k) { return !used_[k] && fitsBridge(s.Words[k]); };
     auto anyFree = [&] {
         for (int k = 1; k <= n; ++k)
-            if (free(k)) return true;
+            if (fresh(k)) return true;
         return false;
     };
     // Every fit word has had its turn: repeats from here, but not the word just played.
@@ -69,9 +69,9 @@ bool Game::drawWord(SharedState& s, Rng& rng) {
     }
     auto draw = [&] { return std::clamp(static_cast<int>(Int(rng.Rnd() * n + 1)), 1, n); };
     int k = draw();
-    for (int tries = 1; !free(k) && tries < kWordDraws; ++tries) k = draw();
+    for (int tries = 1; !fresh(k) && tries < kWordDraws; ++tries) k = draw();
     // Bounded: after that many unfit draws, the next free entry after the last draw.
-    for (int step = 1; !free(k) && step < n; ++step) k = k % n + 1;
+    for (int step = 1; !fresh(k) && step < n; ++step) k = k % n + 1;
     used_[k] = true;
     entry_ = k;
     word_ = s.Words[k];

@@ -1,5 +1,6 @@
 #include "games/action/bridge_out/bridge_out_scene.h"
 
+#include <QFontMetrics>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -32,7 +33,7 @@ QFont boldFont(double px) {
     return f;
 }
 
-QPixmap render(QSvgRenderer& art, const char* id, QSize size) {
+QPixmap spriteOf(QSvgRenderer& art, const char* id, QSize size) {
     QPixmap pm(size.expandedTo(QSize(1, 1)));
     pm.fill(Qt::transparent);
     if (art.isValid() && art.elementExists(id)) {
@@ -124,8 +125,8 @@ QRectF BridgeScene::truckRect() const {
     if (game_ && game_->road() > 0) front = scene::lerp(start, stop, game_->truck() / game_->road());
     const qint64 t = now();
     if (crossAt_ >= 0) {
-        const double u = scene::easeIn(double(t - crossAt_) / kCrossMs);
-        front = scene::lerp(front, width() + w * 1.1, std::min(1.0, u * 1.6));
+        const double u = scene::smooth(double(t - crossAt_) / kCrossMs * 1.3);
+        front = scene::lerp(front, width() + w * 1.1, u);
     } else if (stopAt_ >= 0 && t - stopAt_ < 700) {
         front += std::sin((t - stopAt_) / 700.0 * 8 * kPi) * w * 0.012;  // the sudden stop
     }
@@ -289,10 +290,10 @@ void BridgeScene::buildScene() {
     p.end();
 
     const double tw = W * kTruckWidth;
-    truck_[0] = render(art, "truck_0", QSize(int(tw), int(tw * 0.6)));
-    truck_[1] = render(art, "truck_1", QSize(int(tw), int(tw * 0.6)));
+    truck_[0] = spriteOf(art, "truck_0", QSize(int(tw), int(tw * 0.6)));
+    truck_[1] = spriteOf(art, "truck_1", QSize(int(tw), int(tw * 0.6)));
     for (int lane = 0; lane < 2; ++lane)
-        board_[lane] = render(art, "board_0", riverPlankSize(lane).toSize());
+        board_[lane] = spriteOf(art, "board_0", riverPlankSize(lane).toSize());
     buildDeck();
     truckDrawn_ = heldDrawn_ = effectsDrawn_ = QRect();
     update();
@@ -302,8 +303,8 @@ void BridgeScene::buildDeck() {
     // The bridge's boards are as wide as the word allows: drawn again for each word.
     QSvgRenderer art(appFile("images/bridgeout-sprites.svg"));
     const QSize deck(std::max(1, int(std::ceil(plankWidth()))), std::max(1, int(deckHeight())));
-    deck_ = render(art, "deck_0", deck);
-    hole_ = render(art, "hole_0", deck);
+    deck_ = spriteOf(art, "deck_0", deck);
+    hole_ = spriteOf(art, "hole_0", deck);
 }
 
 const QPixmap& BridgeScene::letterPlank(const QString& letter, int lane) {
@@ -342,7 +343,12 @@ void BridgeScene::paintBridge(QPainter& p) {
         if (game_->isGap(i)) {
             p.drawPixmap(r.topLeft(), hole_);
             // Stopped at the gap: the missing letters show, in red, where they belong.
-            if (stopAt_ >= 0) paintCarved(p, r, letter, QColor(210, 40, 30));
+            if (stopAt_ >= 0) {
+                p.setPen(Qt::NoPen);
+                p.setBrush(QColor(255, 246, 220, 235));
+                p.drawRoundedRect(r.adjusted(3, 3, -3, -3), 6, 6);
+                paintCarved(p, r, letter, QColor(210, 40, 30));
+            }
             continue;
         }
         p.drawPixmap(r.topLeft(), deck_);

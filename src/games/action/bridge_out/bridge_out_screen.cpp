@@ -2,6 +2,7 @@
 
 #include <QFontMetrics>
 #include <QTimer>
+#include <tuple>
 
 #include "core/rng.h"
 #include "core/shared_state.h"

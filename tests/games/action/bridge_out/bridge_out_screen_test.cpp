@@ -61,11 +61,12 @@ void BridgeOutScreenTest::eightBridgesFromTheTitleToTheTable() {
         const std::string right = UCase(g.word().substr(gap, 1));
         if (word == 1) {
             // A decoy into the gap splashes back: -5 x level 2.
-            std::string wrong = "A";
-            while (wrong == right || !DragTo(game, wrong, gap)) wrong[0]++;
+            for (char c = 'A'; c <= 'Z'; ++c)
+                if (std::string(1, c) != right && DragTo(game, std::string(1, c), gap)) break;
             QCOMPARE(LabelText(game, "ScoreLabel"), "Score: -10");
             QVERIFY(fx.sound.played.contains("bridgesplash.wav"));
             QVERIFY(g.isGap(gap));
+            Shot(game, "bridge-out-river");
         }
         // The right letter before the truck sets off: +10 x 2, and all 44 metres to spare.
         QVERIFY(DragTo(game, right, gap));
@@ -73,7 +74,9 @@ void BridgeOutScreenTest::eightBridgesFromTheTitleToTheTable() {
         QCOMPARE(game->scene()->call(), "Fixed! Road bonus +88");
         QVERIFY(fx.sound.played.contains("bridgelock.wav"));
         if (word == 8) break;
-        Pump(bridge_out::kCrossMs + 16);
+        Pump(900);
+        if (word == 1) Shot(game, "bridge-out-crossing");
+        Pump(bridge_out::kCrossMs - 900 + 16);
     }
     fx.dialogs.answerYes(false);
     Pump(bridge_out::kCrossMs + 16);
@@ -104,17 +107,18 @@ void BridgeOutScreenTest::threeTrucksStoppedNameTheWords() {
         words << QString("\"%1\"").arg(QString::fromLatin1(Shared().TheWord.c_str()));
         QCOMPARE(LabelText(game, "RoadLabel"), "Road: 44 m");
         if (truck == 1) {
-            Pump(bridge_out::kReadyMs);
+            while (game->game().phase() == bridge_out::Phase::Ready) Pump(16);
             QCOMPARE(game->scene()->call(), "Go!");
             QVERIFY(fx.sound.played.contains("bridgego.wav"));
-            // 44 metres at 7 m/s on level 10.
-            Pump(6250);
+            // 44 metres at 7 m/s on level 10: 6286 ms, on 16 ms frames.
+            Pump(6272);
             QCOMPARE(game->game().phase(), bridge_out::Phase::Driving);
-            Pump(60);
+            Pump(16);
         }
         for (int i = 0; i < 1000 && game->game().phase() != bridge_out::Phase::Stopped; ++i)
             Pump(16);
         QCOMPARE(game->scene()->call(), "Bridge out!");
+        if (truck == 1) Shot(game, "bridge-out-stopped");
         QVERIFY(fx.sound.played.contains("bridgehorn.wav"));
         QCOMPARE(LabelText(game, "TrucksLabel"), QString("Trucks: %1").arg(3 - truck));
         for (int i = 0; i < 300 && game->game().phase() == bridge_out::Phase::Stopped; ++i)
