@@ -236,8 +236,8 @@ bool Game::take(int plankId) {
 
 Drop Game::place(int plankId, int gap, double riverX) {
     if (!canDrag()) return Drop::Ignored;
-    auto it = std::find_if(river_.begin(), river_.end(),
-                           [&](const Plank& p) { return p.id == plankId; });
+    auto it =
+        std::find_if(river_.begin(), river_.end(), [&](const Plank& p) { return p.id == plankId; });
     if (it == river_.end()) return Drop::Ignored;
     auto backInTheRiver = [&] {
         it->held = false;

@@ -23,7 +23,6 @@ constexpr double kPi = 3.14159265358979;
 // Where the valley's parts are, as shares of the scene: they match the drawing.
 constexpr double kSpanLeft = 0.30, kSpanRight = 0.92;  // the bridge between the cliffs
 constexpr double kDeckTop = 0.50, kDeckHeight = 0.085;
-constexpr double kRiverTop = 0.69;
 constexpr double kTruckWidth = 0.13, kTruckStart = 0.13;  // the truck's front at the start
 
 QFont boldFont(double px) {
@@ -89,8 +88,10 @@ QSizeF BridgeScene::riverPlankSize(int lane) const {
     return QSizeF(width() * kPlankLength / kRiverLength * s, height() * 0.085 * s);
 }
 QRect BridgeScene::riverBand() const {
-    const int top = int(height() * kRiverTop);
-    return QRect(0, top, width(), height() - top);
+    // Where the planks float, bobbing included: the rest of the river stands still.
+    const int top = int(laneY(0) - riverPlankSize(0).height() * 0.6);
+    const int bottom = int(laneY(1) + riverPlankSize(1).height() * 0.6) + 2;
+    return QRect(0, top, width(), bottom - top);
 }
 QRect BridgeScene::callRect() const {
     return QRect(int(width() * 0.22), int(height() * 0.19), int(width() * 0.56),
@@ -122,7 +123,8 @@ QRectF BridgeScene::truckRect() const {
     const double w = width() * kTruckWidth, h = w * 0.6;
     const double start = width() * kTruckStart, stop = wordLeft() - width() * 0.004;
     double front = start;
-    if (game_ && game_->road() > 0) front = scene::lerp(start, stop, game_->truck() / game_->road());
+    if (game_ && game_->road() > 0)
+        front = scene::lerp(start, stop, game_->truck() / game_->road());
     const qint64 t = now();
     if (crossAt_ >= 0) {
         const double u = scene::smooth(double(t - crossAt_) / kCrossMs * 1.3);
@@ -273,8 +275,8 @@ void BridgeScene::buildScene() {
     draw("sign_0", clueRect());
     // The bridge's frame: the truss under the deck and the far rope rail, posts at each end.
     const double deckBottom = deckTop() + deckHeight();
-    draw("truss_0", QRectF(W * kSpanLeft, deckBottom - H * 0.01, W * (kSpanRight - kSpanLeft),
-                           H * 0.13));
+    draw("truss_0",
+         QRectF(W * kSpanLeft, deckBottom - H * 0.01, W * (kSpanRight - kSpanLeft), H * 0.13));
     const double postW = W * 0.016, postH = H * 0.12;
     for (double x : {W * kSpanLeft, W * kSpanRight})
         draw("post_0", QRectF(x - postW / 2, deckTop() - postH, postW, postH + deckHeight() * 0.5));
@@ -305,6 +307,26 @@ void BridgeScene::buildDeck() {
     const QSize deck(std::max(1, int(std::ceil(plankWidth()))), std::max(1, int(deckHeight())));
     deck_ = spriteOf(art, "deck_0", deck);
     hole_ = spriteOf(art, "hole_0", deck);
+    deckLetters_.clear();
+}
+
+const QPixmap& BridgeScene::deckPlank(const QString& letter, bool missing) {
+    const QString key = letter + (missing ? "!" : "");
+    auto it = deckLetters_.find(key);
+    if (it != deckLetters_.end()) return *it;
+    QPixmap pm = missing ? hole_ : deck_;
+    QPainter p(&pm);
+    p.setRenderHint(QPainter::Antialiasing);
+    const QRectF r = pm.rect();
+    if (missing) {
+        p.setPen(Qt::NoPen);
+        p.setBrush(QColor(255, 246, 220, 235));
+        p.drawRoundedRect(r.adjusted(3, 3, -3, -3), 6, 6);
+    }
+    if (!letter.isEmpty())
+        paintCarved(p, r, letter, missing ? QColor(210, 40, 30) : QColor(70, 36, 10));
+    p.end();
+    return *deckLetters_.insert(key, pm);
 }
 
 const QPixmap& BridgeScene::letterPlank(const QString& letter, int lane) {
@@ -340,19 +362,11 @@ void BridgeScene::paintBridge(QPainter& p) {
     for (int i = 0; i < n; ++i) {
         const QRectF r = gapRect(i);
         const QString letter = toQ(UCase(word.substr(i, 1)));
-        if (game_->isGap(i)) {
-            p.drawPixmap(r.topLeft(), hole_);
-            // Stopped at the gap: the missing letters show, in red, where they belong.
-            if (stopAt_ >= 0) {
-                p.setPen(Qt::NoPen);
-                p.setBrush(QColor(255, 246, 220, 235));
-                p.drawRoundedRect(r.adjusted(3, 3, -3, -3), 6, 6);
-                paintCarved(p, r, letter, QColor(210, 40, 30));
-            }
-            continue;
-        }
-        p.drawPixmap(r.topLeft(), deck_);
-        if (word[i] != ' ') paintCarved(p, r, letter, QColor(70, 36, 10));
+        // Stopped at the gap: the missing letters show, in red, where they belong.
+        if (game_->isGap(i))
+            p.drawPixmap(r.topLeft(), stopAt_ >= 0 ? deckPlank(letter, true) : hole_);
+        else
+            p.drawPixmap(r.topLeft(), deckPlank(word[i] == ' ' ? QString() : letter, false));
     }
 }
 
@@ -403,19 +417,20 @@ void BridgeScene::paintEvent(QPaintEvent* event) {
     for (const QRect& r : event->region()) p.drawPixmap(r, scene_, r);
     p.setRenderHint(QPainter::Antialiasing);
     const qint64 t = now();
-    const QRect dirty = event->region().boundingRect();
+    const QRegion dirty = event->region();
     const QRect bridge(0, int(deckTop()) - 2, width(), int(deckHeight()) + 4);
     if (dirty.intersects(bridge)) paintBridge(p);
-    if (dirty.intersects(truckDrawn_) || dirty.intersects(truckRect().toAlignedRect()))
-        paintTruck(p, t);
+    if (dirty.intersects(truckRect().toAlignedRect().adjusted(-3, -3, 3, 3))) paintTruck(p, t);
 
     // The river's planks, the far lane first; the one in the hand over everything.
     if (game_ && dirty.intersects(riverBand().united(heldDrawn_))) {
         for (int lane = 0; lane < 2; ++lane)
-            for (const Plank& pl : game_->river())
-                if (pl.lane == lane && pl.id != held_)
-                    p.drawPixmap(plankRect(pl).topLeft(),
-                                 letterPlank(toQ(pl.letter), pl.lane));
+            for (const Plank& pl : game_->river()) {
+                if (pl.lane != lane || pl.id == held_) continue;
+                const QRectF r = plankRect(pl);
+                if (dirty.intersects(r.toAlignedRect()))
+                    p.drawPixmap(r.topLeft(), letterPlank(toQ(pl.letter), pl.lane));
+            }
     }
     for (const Effect& e : effects_) {
         const double u = double(t - e.t0) / (e.sparkle ? kSparkleMs : kSplashMs);

@@ -81,6 +81,8 @@ private:
     QRect riverBand() const;
     QRect callRect() const;
     const QPixmap& letterPlank(const QString& letter, int lane);
+    // A board of the bridge with its letter; `missing`: a gap's letter shown in red.
+    const QPixmap& deckPlank(const QString& letter, bool missing);
     void paintBridge(QPainter& p);
     void paintTruck(QPainter& p, qint64 t);
     void paintCall(QPainter& p);
@@ -89,7 +91,7 @@ private:
     QPixmap scene_;
     QPixmap truck_[2];
     QPixmap deck_, board_[2], hole_;
-    QHash<QString, QPixmap> letters_;
+    QHash<QString, QPixmap> letters_, deckLetters_;
     std::vector<Effect> effects_;
     QString call_;
     qint64 callAt_ = 0;

@@ -174,8 +174,7 @@ void BridgeOutGame::endOfGame() {
 void BridgeOutGame::showWord() {
     const SharedState& s = Shared();
     scene_->newWord();
-    scene_->setCall(QString("Bridge %1 of %2").arg(game_.crossed() + 1).arg(kWordsToWin),
-                    kReadyMs);
+    scene_->setCall(QString("Bridge %1 of %2").arg(game_.crossed() + 1).arg(kWordsToWin), kReadyMs);
     // The meaning is the clue; a list without meanings gets the task instead.
     const bool clue = s.WordsOnly == kFalse && !s.TheMeaning.empty();
     Label1->setText(clue ? toQ(s.TheMeaning)
@@ -190,8 +189,10 @@ void BridgeOutGame::showHud() {
     const QString bridges = QString("Bridges: %1 of %2").arg(game_.crossed()).arg(kWordsToWin);
     const QString trucks = QString("Trucks: %1").arg(game_.trucksLeft());
     bool changed = false;
-    for (auto [label, text] : {std::pair{ScoreLabel, score}, {RoadLabel, road},
-                               {BridgeLabel, bridges}, {TrucksLabel, trucks}}) {
+    for (auto [label, text] : {std::pair{ScoreLabel, score},
+                               {RoadLabel, road},
+                               {BridgeLabel, bridges},
+                               {TrucksLabel, trucks}}) {
         if (label->text() == text) continue;
         label->setText(text);
         changed = true;
@@ -205,12 +206,12 @@ void BridgeOutGame::resizeEvent(QResizeEvent*) {
     const int H = scene_->height(), W = width();
     // The clue on the sign, shrunk until it fits.
     const QRect sign = scene_->clueRect().translated(0, top);
-    const QRect box = sign.adjusted(sign.width() / 12, sign.height() * 18 / 100,
-                                    -sign.width() / 12, -sign.height() * 14 / 100);
+    const QRect box = sign.adjusted(sign.width() / 12, sign.height() * 18 / 100, -sign.width() / 12,
+                                    -sign.height() * 14 / 100);
     QFont f = Bold(box.height() * 42 / 100);
     for (;;) {
-        const QRect need = QFontMetrics(f).boundingRect(box, Qt::AlignCenter | Qt::TextWordWrap,
-                                                        Label1->text());
+        const QRect need =
+            QFontMetrics(f).boundingRect(box, Qt::AlignCenter | Qt::TextWordWrap, Label1->text());
         if (f.pixelSize() <= 8 || (need.height() <= box.height() && need.width() <= box.width()))
             break;
         f.setPixelSize(f.pixelSize() - 1);
@@ -226,8 +227,10 @@ void BridgeOutGame::resizeEvent(QResizeEvent*) {
     const int plateH = QFontMetrics(pf).height() + 12;
     const int y1 = top + H * 2 / 100, y2 = y1 + plateH + H / 100;
     const int left = W * 15 / 1000, right = W - left - plateW;
-    for (auto [l, x, y] : {std::tuple{ScoreLabel, left, y1}, {RoadLabel, left, y2},
-                           {BridgeLabel, right, y1}, {TrucksLabel, right, y2}}) {
+    for (auto [l, x, y] : {std::tuple{ScoreLabel, left, y1},
+                           {RoadLabel, left, y2},
+                           {BridgeLabel, right, y1},
+                           {TrucksLabel, right, y2}}) {
         l->setFont(pf);
         l->setGeometry(x, y, plateW, plateH);
     }

@@ -49,8 +49,12 @@ TEST(BridgeOutNumbers, PaceRoadGapsAndLetters) {
         EXPECT_TRUE(isLetter(c)) << int(c);
     for (char c : {' ', '-', '\'', '1', '@', '[', '`', '{', '\xD7', '\xF7', '\xBF', '\x8B'})
         EXPECT_FALSE(isLetter(c)) << int(c);
-    for (auto [word, fits] : {std::pair{"a", true}, {"ice cream", true}, {"abcdefghijklmnop", true},
-                              {"abcdefghijklmnopq", false}, {"", false}, {"- -", false}})
+    for (auto [word, fits] : {std::pair{"a", true},
+                              {"ice cream", true},
+                              {"abcdefghijklmnop", true},
+                              {"abcdefghijklmnopq", false},
+                              {"", false},
+                              {"- -", false}})
         EXPECT_EQ(fitsBridge(word), fits) << word;
 }
 

@@ -39,9 +39,15 @@ bool DragTo(BridgeOutGame* game, const std::string& letter, int gap) {
 void BridgeOutScreenTest::eightBridgesFromTheTitleToTheTable() {
     ShellFixture fx;
     WriteOneList(fx, "River Words",
-                 {{"cat", "a pet that purrs"}, {"dog", "a pet that barks"}, {"owl", "it hoots"},
-                  {"bee", "it buzzes"}, {"ant", "a tiny insect"}, {"elk", "a big deer"},
-                  {"yak", "a hairy ox"}, {"emu", "a big bird"}, {"fox", "a red animal"}});
+                 {{"cat", "a pet that purrs"},
+                  {"dog", "a pet that barks"},
+                  {"owl", "it hoots"},
+                  {"bee", "it buzzes"},
+                  {"ant", "a tiny insect"},
+                  {"elk", "a big deer"},
+                  {"yak", "a hairy ox"},
+                  {"emu", "a big bird"},
+                  {"fox", "a red animal"}});
     WinDriver driver({"BOB"});
     SetModalHook(std::ref(driver));
     auto* game = qobject_cast<BridgeOutGame*>(PlayFromTitle("Bridge Out", "River Words", 2));
@@ -129,8 +135,8 @@ void BridgeOutScreenTest::threeTrucksStoppedNameTheWords() {
     fx.dialogs.answerYes(true);
     Pump(BridgeOutGame::kEndMs);
     QCOMPARE(fx.dialogs.last(),
-             "Honk! All three trucks had to stop at the broken bridge. The words were " +
-                 words[0] + ", " + words[1] + " and " + words[2] + ". Would you like to try again?");
+             "Honk! All three trucks had to stop at the broken bridge. The words were " + words[0] +
+                 ", " + words[1] + " and " + words[2] + ". Would you like to try again?");
     QCOMPARE(fx.dialogs.shown.back().title, "Bridge Out");
     QCOMPARE(driver.congratulations.size(), 0);
     // Try again: a fresh game.
