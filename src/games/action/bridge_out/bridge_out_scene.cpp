@@ -248,7 +248,8 @@ void BridgeScene::step() {
             update(callRect());
         }
     }
-    if (stopAt_ >= 0 && t - stopAt_ < 1600) update(truck.adjusted(0, -truck.height() / 2, 0, 0));
+    if (stopAt_ >= 0 && t - stopAt_ < 1700)  // the horn's bubble reaches out over the cab
+        update(truck.adjusted(0, -truck.height() * 6 / 10, truck.width() * 3 / 10, 0));
 }
 
 // --- the scenery, once a size -----------------------------------------------------------
