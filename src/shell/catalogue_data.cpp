@@ -333,10 +333,13 @@ std::vector<GameCard> BuildCatalogue() {
 
     cards.push_back(Card(
         "Bridge Out", Elig(WO::Allowed, "", "BridgeOutGame"), Slider(2, 10, 6),
-        "The bridge is out! A truck needs to cross the river, but planks are missing, and each "
-        "missing plank is a letter of a vocabulary word. Type the missing letters to put the "
-        "planks back before the truck gets there. A wrong letter costs points. Fix the whole "
-        "bridge to get the truck across! The higher the level, the faster it drives."));
+        "The bridge is out! A truck needs to cross the river, but planks are missing. The "
+        "bridge's planks spell a word, and each gap is a missing letter. Letter planks float down "
+        "the river: drag the right one into each gap. A right letter locks in and scores points; "
+        "a wrong one splashes back into the river and costs points. Fix the whole bridge before "
+        "the truck gets there and it rolls across, with bonus points for the road it had left. "
+        "If the truck gets to a gap, it has to stop, and you lose one of your three trucks. Fix "
+        "eight bridges to win! The higher the level, the faster the truck drives."));
 
     cards.push_back(Card(
         "Crunch Man", Elig(WO::Allowed, "", "CrunchManGame"), Slider(2, 14, 7),

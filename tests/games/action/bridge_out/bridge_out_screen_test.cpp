@@ -1,0 +1,150 @@
+// Bridge Out on its screen: from the title, planks dragged out of the river into the gaps (a
+// wrong one first), eight bridges fixed and the score to the table; three trucks stopped at the
+// gap at 1920x1080, the box naming the words, a try again; a list with nothing to build.
+#include <QtTest>
+
+#include "core/strings.h"
+#include "game_start.h"
+#include "games/action/bridge_out/bridge_out_screen.h"
+
+using namespace wm;
+using namespace wm::test;
+
+class BridgeOutScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void eightBridgesFromTheTitleToTheTable();
+    void threeTrucksStoppedNameTheWords();
+};
+
+namespace {
+
+// Drags the first plank afloat that carries `letter` (upper case) onto gap `gap`.
+bool DragTo(BridgeOutGame* game, const std::string& letter, int gap) {
+    BridgeScene* scene = game->scene();
+    for (const bridge_out::Plank& p : game->game().river()) {
+        if (p.letter != letter) continue;
+        const QPoint from = scene->plankRect(p).center().toPoint();
+        const QPoint to = scene->gapRect(gap).center().toPoint();
+        QTest::mousePress(scene, Qt::LeftButton, {}, from);
+        QTest::mouseMove(scene, to);
+        QTest::mouseRelease(scene, Qt::LeftButton, {}, to);
+        return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+void BridgeOutScreenTest::eightBridgesFromTheTitleToTheTable() {
+    ShellFixture fx;
+    WriteOneList(fx, "River Words",
+                 {{"cat", "a pet that purrs"},
+                  {"dog", "a pet that barks"},
+                  {"owl", "it hoots"},
+                  {"bee", "it buzzes"},
+                  {"ant", "a tiny insect"},
+                  {"elk", "a big deer"},
+                  {"yak", "a hairy ox"},
+                  {"emu", "a big bird"},
+                  {"fox", "a red animal"}});
+    WinDriver driver({"BOB"});
+    SetModalHook(std::ref(driver));
+    auto* game = qobject_cast<BridgeOutGame*>(PlayFromTitle("Bridge Out", "River Words", 2));
+    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+    Shared().SoundOn = kTrue;
+    Pump(16);
+    QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
+    QCOMPARE(LabelText(game, "TrucksLabel"), "Trucks: 3");
+    QVERIFY(fx.music.opened.endsWith("sounds/bridgeout.mid"));
+
+    for (int word = 1; word <= 8; ++word) {
+        QCOMPARE(game->scene()->call(), QString("Bridge %1 of 8").arg(word));
+        const auto& g = game->game();
+        int gap = 0;
+        while (!g.isGap(gap)) ++gap;
+        const std::string right = UCase(g.word().substr(gap, 1));
+        if (word == 1) {
+            // A decoy into the gap splashes back: -5 x level 2.
+            for (char c = 'A'; c <= 'Z'; ++c)
+                if (std::string(1, c) != right && DragTo(game, std::string(1, c), gap)) break;
+            QCOMPARE(LabelText(game, "ScoreLabel"), "Score: -10");
+            QVERIFY(fx.sound.played.contains("bridgesplash.wav"));
+        }
+        // The right letter before the truck sets off: +10 x 2, and all 44 metres to spare.
+        QVERIFY(DragTo(game, right, gap));
+        QCOMPARE(LabelText(game, "BridgeLabel"), QString("Bridges: %1 of 8").arg(word));
+        QCOMPARE(game->scene()->call(), "Fixed! Road bonus +88");
+        QVERIFY(fx.sound.played.contains("bridgelock.wav") &&
+                fx.sound.played.contains("bridgecross.wav"));
+        if (word == 8) break;
+        Pump(bridge_out::kCrossMs + 16);
+    }
+    fx.dialogs.answerYes(false);
+    Pump(bridge_out::kCrossMs + 16);
+    QCOMPARE(game->scene()->call(), "All across! You did it!");
+    QVERIFY(fx.sound.played.contains("bridgewin.wav"));
+    QVERIFY(fx.dialogs.shown.empty());
+    Pump(BridgeOutGame::kEndMs);
+    QVERIFY2(fx.dialogs.saw("You got a high score of 854! Would you like to try again?"),
+             qPrintable(fx.dialogs.texts().join(" | ")));
+    QCOMPARE(TableRow(fx, "Bridge Out"), "BOB 854");
+    Pump();
+    QVERIFY(Showing<Title>());
+}
+
+void BridgeOutScreenTest::threeTrucksStoppedNameTheWords() {
+    ShellFixture fx;
+    ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
+    auto* game = OpenGame<BridgeOutGame>(fx, "Bridge Out", {{"cat", ""}, {"dog", ""}, {"owl", ""}},
+                                         10, false, true, true);
+    QVERIFY(game);
+    Pump(16);
+    // A words-only list: the sign tells what to do instead of a meaning.
+    QCOMPARE(LabelText(game, "Label1"), "Drag the letters from the river into the gaps!");
+    QStringList words;
+    for (int truck = 1; truck <= 3; ++truck) {
+        words << QString("\"%1\"").arg(QString::fromLatin1(Shared().TheWord.c_str()));
+        QCOMPARE(LabelText(game, "RoadLabel"), "Road: 44 m");
+        if (truck == 1) {
+            while (game->game().phase() == bridge_out::Phase::Ready) Pump(16);
+            QCOMPARE(game->scene()->call(), "Go!");
+            QVERIFY(fx.sound.played.contains("bridgego.wav"));
+            // 44 metres at 7 m/s on level 10: 6286 ms, on 16 ms frames.
+            Pump(6272);
+            QCOMPARE(game->game().phase(), bridge_out::Phase::Driving);
+            Pump(16);
+        }
+        for (int i = 0; i < 1000 && game->game().phase() != bridge_out::Phase::Stopped; ++i)
+            Pump(16);
+        QCOMPARE(game->scene()->call(), "Bridge out!");
+        if (truck == 1) Shot(game, "bridge-out-stopped");
+        QVERIFY(fx.sound.played.contains("bridgehorn.wav"));
+        QCOMPARE(LabelText(game, "TrucksLabel"), QString("Trucks: %1").arg(3 - truck));
+        for (int i = 0; i < 300 && game->game().phase() == bridge_out::Phase::Stopped; ++i)
+            Pump(16);
+    }
+    QCOMPARE(game->scene()->call(), "Out of trucks!");
+    QVERIFY(fx.sound.played.contains("bridgelose.wav"));
+    fx.dialogs.answerYes(true);
+    Pump(BridgeOutGame::kEndMs);
+    QCOMPARE(fx.dialogs.last(),
+             "Honk! All three trucks had to stop at the broken bridge. The words were " + words[0] +
+                 ", " + words[1] + " and " + words[2] + ". Would you like to try again?");
+    QCOMPARE(fx.dialogs.shown.back().title, "Bridge Out");
+    // Try again: a fresh game.
+    QCOMPARE(game->scene()->call(), "Bridge 1 of 8");
+    QCOMPARE(LabelText(game, "TrucksLabel"), "Trucks: 3");
+    // A list with nothing the bridge can carry: said clearly, then back to the title.
+    Shared().Words = {"", "abcdefghijklmnopq"};
+    Shared().WordCount = 1;
+    QVERIFY(TriggerMenu(game, "RS"));
+    Pump();
+    QCOMPARE(fx.dialogs.last(),
+             "No word on this list fits on the bridge: a word needs at least one letter and at "
+             "most 16 letters and blanks. Please choose another list.");
+    QVERIFY(Showing<Title>());
+}
+
+QTEST_MAIN(BridgeOutScreenTest)
+#include "bridge_out_screen_test.moc"
