@@ -385,14 +385,13 @@ std::vector<GameCard> BuildCatalogue() {
     cards.push_back(Card(
         "Word Bricks", AtLeastDifficulty(Elig(WO::Allowed, "", "WordBricks"), kMsgE1),
         Slider(2, 10, 6),
-        "Pick up the pieces of broken words and put them back together! Each vocabulary word has "
-        "been broken into bricks of two or three letters, and all the bricks are tipped out on "
-        "the ground. Beside each yellow girder a sign tells you the word's meaning (or, when the "
-        "list has no meanings, how many letters it has). Drag the bricks with the mouse onto the "
-        "girder in the right order. A full girder that spells its word lights up gold and scores "
-        "10 points for every letter; one that spells something else shakes its bricks off and "
-        "costs 10 points. Build every word to win: the faster you finish, the bigger your bonus! "
-        "The level sets how many words are broken."));
+        "Pick up the pieces of broken words and put them back together! Each word has been "
+        "broken into bricks of two or three letters, tipped out on the ground. Beside each yellow "
+        "girder a sign gives the word's meaning (or how many letters it has). Drag the bricks "
+        "onto the girder in the right order. A girder that spells its word turns gold and scores "
+        "10 points a letter; a wrong one shakes its bricks off and costs 10 points. Build every "
+        "word to win: the faster you finish, the bigger your bonus! The level sets how many "
+        "words are broken."));
 
     cards.push_back(Card(
         "Toad Race", Elig(WO::Allowed, "", "ToadRace"), Slider(1, 10, 5),
