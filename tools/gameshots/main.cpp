@@ -39,6 +39,8 @@ QSize ParseSize(const QString& text) {
 
 bool Shoot(const QString& game, QSize size, int afterMs, const QString& file) {
     ShellFixture fx;
+    SeededRng dice(7);  // draws as in play, the same every run
+    SetRng(&dice);
     ScreenMetrics::overrideScreenSize(size);
     SetModalHook([](QDialog& d) { d.reject(); });
     WriteOneList(fx, "Science Words", kList);

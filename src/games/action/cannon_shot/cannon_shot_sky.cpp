@@ -249,7 +249,7 @@ void CannonSky::step() {
     if (!call_.isEmpty() && t - callAt_ < 400) mark(3000, callRect());
 
     // The cannon and its bar, the wind flag and the blanks are marked only when they change.
-    const QString cannon = QString("%1 %2 %3 %4")
+    const QString cannon = QString("%1 %2 %3 %4 %5")
                                .arg(game_.angle())
                                .arg(game_.power())
                                .arg(t - firedAt_ < kRecoilMs + 40 ? t / 16 : 0)
