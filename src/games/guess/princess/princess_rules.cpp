@@ -5,11 +5,11 @@
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "core/strings.h"
+#include "games/common/word_draw.h"
 
 namespace wm::princess {
 
 namespace {
-constexpr int kUnluckyDraws = 200;  // random draws before the draw walks on from the last one
 constexpr int kReshuffles = 6;      // shuffles that still read as the word before one is turned
 
 bool sameLetter(char a, char b) {
@@ -31,36 +31,7 @@ int wordPoints(int length, bool clean) {
 }
 
 int drawWord(const SharedState& s, Rng& rng, const std::vector<int>& drawn) {
-    const int loaded =
-        std::min({static_cast<int>(s.WordCount), kMaxWords, static_cast<int>(s.Words.size()) - 1});
-    if (loaded <= 0) return 0;
-    // A word drawn already, by its text: the same word twice in a list is still a repeat.
-    auto fresh = [&](int k) {
-        const std::string w = UCase(s.Words[k]);
-        for (int d : drawn)
-            if (UCase(s.Words[d]) == w) return false;
-        return true;
-    };
-    bool anyPlayable = false, anyFresh = false;
-    for (int k = 1; k <= loaded; ++k) {
-        if (!playable(s.Words[k])) continue;
-        anyPlayable = true;
-        if (fresh(k)) anyFresh = true;
-    }
-    if (!anyPlayable) return 0;
-    // Once every word has been spelled, repeats are the only way on.
-    auto fits = [&](int k) { return playable(s.Words[k]) && (!anyFresh || fresh(k)); };
-    int k = 1;
-    for (int tries = 0; tries < kUnluckyDraws; ++tries) {
-        k = std::clamp(static_cast<int>(Int(rng.Rnd() * loaded + 1)), 1, loaded);
-        if (fits(k)) return k;
-    }
-    for (int i = 1; i <= loaded; ++i) {
-        const int j = k % loaded + 1;
-        k = j;
-        if (fits(j)) return j;
-    }
-    return 0;
+    return DrawFreshWord(s, rng, drawn, kMaxWords, playable);
 }
 
 std::vector<int> layStones(const std::string& word, Rng& rng) {
