@@ -106,6 +106,11 @@ QString LaidText(const std::vector<Page>& pages) {
     return all.simplified();
 }
 
+// Text without its blanks and hyphens, for texts that may wrap at a hyphen.
+QString Bare(QString text) {
+    return text.remove(' ').remove('-');
+}
+
 }  // namespace
 
 class WorksheetTest : public QObject {
@@ -185,9 +190,12 @@ private slots:
                                            ? !definitionClues
                                            : kind != Kind::Crossword && kind != Kind::Scramble;
                 if (wordShown) QVERIFY2(sheet.contains(Q(e.word)), qPrintable(Q(e.word)));
+                // pdftotext joins a line that ends on a hyphen to the next ("re-" / "11."):
+                // clues are compared without blanks and hyphens, wherever the line broke.
                 if (!e.clue.empty() && kind != Kind::Matching &&
-                    (kind != Kind::WordSearch || definitionClues))
-                    QVERIFY2(sheet.contains(Q(e.clue)), qPrintable(Q(e.clue)));
+                    (kind != Kind::WordSearch || definitionClues)) {
+                    QVERIFY2(Bare(sheet).contains(Bare(Q(e.clue))), qPrintable(Q(e.clue)));
+                }
                 if (kind == Kind::Scramble)  // printed spaced out, to be read one by one
                     QVERIFY(laid.contains(Q(e.shown).split("", Qt::SkipEmptyParts).join(" ")));
                 if (kind == Kind::Matching)
