@@ -54,7 +54,10 @@ TEST(SafeCrackerRules, TumblersLightAsOftenAsTheWordHasTheLetter) {
 }
 
 TEST(SafeCrackerRules, WhatIsTypedAndWhatStandsFixed) {
-    for (char c : {'a', 'Z', '7', '\xE9', '\x8A'}) EXPECT_TRUE(typable(c)) << int(c);
+    // The alphabets' edges and every accented letter of Windows-1252, the scattered ones too.
+    for (char c : {'a', 'z', 'A', 'Z', '7', '\xC0', '\xE9', '\x8A', '\x8C', '\x8E', '\x9A',
+                   '\x9C', '\x9E', '\x9F'})
+        EXPECT_TRUE(typable(c)) << int(c);
     for (char c : {' ', '-', '\'', '.', '\xD7'}) EXPECT_TRUE(fixedChar(c)) << int(c);
     EXPECT_TRUE(playable("abcdefghijkl"));
     EXPECT_FALSE(playable("abcdefghijklm"));  // thirteen letters
@@ -136,6 +139,16 @@ TEST(SafeCrackerRules, TypingARowAndTheTriesOfASafe) {
     EXPECT_EQ(g.lastPoints(), 290);
     EXPECT_EQ(s.Score, 290);
     EXPECT_EQ(g.type('a'), Entry::Ignored);
+}
+
+TEST(SafeCrackerRules, FiveSafesAGame) {
+    SharedState s = ListOf({"owl", "bat"});
+    ScriptedRng rng;
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    int safes = 1;
+    while (safes < 10 && g.nextSafe(s, rng)) ++safes;
+    EXPECT_EQ(safes, 5);
 }
 
 TEST(SafeCrackerRules, TheSixthWrongTrySetsOffTheAlarm) {
