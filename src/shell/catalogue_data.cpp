@@ -326,7 +326,7 @@ std::vector<GameCard> BuildCatalogue() {
         "A definition will appear at the bottom of the screen. Pull the handle (or press Space) "
         "to spin the three reels of words: a pull costs 5 coins. Stop each reel with its STOP "
         "button (or the keys 1, 2 and 3) when the word that matches the definition is in its "
-        "window. A right word pays 5 coins and stays put. Get it on all three reels to win the "
+        "window. A right word pays 5 coins. Get it on all three reels in one pull to win the "
         "jackpot: 20 coins times the level! You start with 100 coins. After ten definitions the "
         "coins you have left are your score, but if you run out of coins the game is over. The "
         "higher the level, the faster the reels spin."));

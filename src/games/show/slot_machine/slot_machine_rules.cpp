@@ -124,8 +124,11 @@ std::vector<int> Game::stripFor(const SharedState& s, Rng& rng) const {
 bool Game::pull() {
     if (!canPull()) return false;
     coins_ -= kPullCost;
-    for (Reel& r : reels_)
-        if (!r.held) r.spinning = true;
+    // Nothing is held from one pull to the next: a jackpot is three right stops in one pull.
+    for (Reel& r : reels_) {
+        r.spinning = true;
+        r.right = false;
+    }
     phase_ = Phase::Spinning;
     return true;
 }
@@ -142,9 +145,9 @@ int Game::rolling() const {
                              [](const Reel& r) { return r.spinning; }));
 }
 
-int Game::held() const {
+int Game::rightNow() const {
     return int(std::count_if(std::begin(reels_), std::end(reels_),
-                             [](const Reel& r) { return r.held; }));
+                             [](const Reel& r) { return r.right; }));
 }
 
 Stop Game::stop(int i) {
@@ -154,12 +157,10 @@ Stop Game::stop(int i) {
     r.pos = std::round(r.pos);
     r.spinning = false;
     rightLast_ = r.strip[r.shown()] == answer_;
-    if (rightLast_) {
-        r.held = true;
-        coins_ += kReelPays;
-    }
+    r.right = rightLast_;
+    if (rightLast_) coins_ += kReelPays;
     if (rolling() > 0) return rightLast_ ? Stop::Right : Stop::Wrong;
-    if (held() == kReels) {
+    if (rightNow() == kReels) {
         coins_ += jackpotFor(level_);
         ++jackpots_;
         if (jackpots_ >= kDefinitions) {

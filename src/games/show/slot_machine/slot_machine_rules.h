@@ -1,7 +1,8 @@
 // Slot Machine: three reels, each a strip of up to six list words, the answer to the definition
 // among decoys. A pull costs coins and sets the reels rolling; each reel is stopped on the word in
-// its window. A reel that stops on the answer pays and stays held; all three on the answer hit the
-// jackpot and bring the next definition. Ten definitions win; the score is the coins left.
+// its window. A reel that stops on the answer pays; all three on the answer in one pull hit the
+// jackpot and bring the next definition, and until then every pull rolls all three again. Ten
+// definitions win; the score is the coins left.
 #pragma once
 
 #include <string>
@@ -42,7 +43,7 @@ struct Reel {
     std::vector<int> strip;  // list entries, top to bottom
     double pos = 0;          // words rolled past the window; the window shows the nearest
     bool spinning = false;
-    bool held = false;  // stopped on the answer: it keeps it until the next definition
+    bool right = false;  // stopped on the answer in this pull
     // The strip's place in the window now.
     int shown() const;
 };
@@ -66,9 +67,9 @@ public:
     // A new game: reseed, 100 coins, the first definition. False when no entry of the list has
     // both a word and a definition.
     bool start(SharedState& s, Rng& rng);
-    // The next definition's answer and the three strips; holds are let go.
+    // The next definition's answer and the three strips.
     void nextDefinition(SharedState& s, Rng& rng);
-    // Pays for a pull and sets every reel not held rolling. False when it cannot be pulled.
+    // Pays for a pull and sets all three reels rolling. False when it cannot be pulled.
     bool pull();
     bool canPull() const { return phase_ == Phase::Ready && coins_ >= kPullCost; }
     // The rolling reels move on by `ms` of the clock.
@@ -85,7 +86,7 @@ public:
     int jackpots() const { return jackpots_; }
     const Reel& reel(int i) const { return reels_[i]; }
     int rolling() const;
-    int held() const;
+    int rightNow() const;  // reels stopped on the answer in this pull
 
 private:
     bool usableAnswer(const SharedState& s, int k) const;

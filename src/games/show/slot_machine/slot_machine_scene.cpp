@@ -316,10 +316,11 @@ void SlotScene::paintReel(QPainter& p, int i) {
         p.restore();
     }
     p.drawPixmap(r.topLeft(), reelGlass_);
-    // Held reels wear gold; a fresh stop glows green when right, blushes red when wrong.
+    // A reel stopped on the answer wears gold until the next pull; a fresh stop glows green when
+    // right, blushes red when wrong.
     const double g = double(now_ - stopAt_[i]) / kGlowMs;
     p.setBrush(Qt::NoBrush);
-    if (reel.held) {
+    if (reel.right && !reel.spinning) {
         p.setPen(QPen(QColor(255, 205, 40), std::max(3, r.width() / 40)));
         p.drawRoundedRect(QRectF(r).adjusted(2, 2, -2, -2), 8, 8);
     }

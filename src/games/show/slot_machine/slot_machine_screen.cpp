@@ -33,7 +33,7 @@ const char* kStopStyle =
     " stop:1 #a50a1c); }"
     "QPushButton:pressed { background: #b00c20; }"
     "QPushButton:disabled { color: #cdb9c4; border-color: #3d2a36; background: #5c4654; }";
-const char* kHeldStyle =
+const char* kRightStyle =
     "QPushButton:disabled { color: #4a2c00; border: 3px solid #8a5a00; border-radius: 16px;"
     " background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #fff1a0, stop:1 #f2b320); }";
 
@@ -224,8 +224,9 @@ void SlotMachine::showButtons() {
     for (int i = 0; i < kReels; ++i) {
         const Reel& r = game_.reel(i);
         stops_[i]->setEnabled(r.spinning);
-        stops_[i]->setText(r.held ? "HELD" : "STOP");
-        stops_[i]->setStyleSheet(r.held ? kHeldStyle : kStopStyle);
+        // A reel stopped on the answer shows it on its button, gold, until the next pull.
+        stops_[i]->setText(r.right ? "RIGHT!" : "STOP");
+        stops_[i]->setStyleSheet(r.right ? kRightStyle : kStopStyle);
     }
 }
 

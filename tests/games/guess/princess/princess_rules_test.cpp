@@ -137,6 +137,19 @@ TEST(PrincessRules, WordsAsManyAsTheLevelAndPointsForCleanWords) {
     EXPECT_EQ(s.Score, 180);
     EXPECT_FALSE(g.nextWord(s, rng));
     EXPECT_EQ(g.splashes(), 1);
+    // A new game forgets the words of the last one: the first word may come again at once.
+    rng.pick(1, 3);
+    const int before = rng.draws;
+    ASSERT_TRUE(g.start(s, rng));
+    EXPECT_EQ(s.TheWord, "Anna");
+    EXPECT_EQ(rng.draws - before, 1 + 3);  // the word, then its stones
+    EXPECT_EQ(g.splashes(), 0);
+    EXPECT_EQ(g.lowered(), 0);
+    // A new game on a list it cannot play leaves nothing to pick from the old one.
+    SharedState none = ListOf({"- -"});
+    EXPECT_FALSE(g.start(none, rng));
+    EXPECT_EQ(g.pick(none, 0), Pick::Ignored);
+    EXPECT_EQ(g.stoneFor('n'), -1);
 }
 
 TEST(PrincessRules, EightSplashesInAGameWakeTheDragon) {

@@ -128,7 +128,7 @@ TEST(SlotMachine, AnswersDoNotRepeatUntilTheListIsUsedUp) {
     EXPECT_EQ(asked, (std::vector<std::string>{"bee", "ant", "cat", "ant"}));
 }
 
-TEST(SlotMachine, PullsStopsHoldsAndTheJackpot) {
+TEST(SlotMachine, PullsStopsAndTheJackpotInOnePull) {
     SharedState s = ListOf(kEight, 9);
     Walk rng;
     Game g;
@@ -143,22 +143,30 @@ TEST(SlotMachine, PullsStopsHoldsAndTheJackpot) {
     EXPECT_EQ(g.reel(0).shown(), 13 % 6);
     g.spin(1000 * 0.2 / 13);
     EXPECT_EQ(g.reel(0).shown(), 14 % 6);
-    // Reel 1 on the answer pays 5 and is held; reel 2 on a decoy pays nothing.
+    // Reel 1 on the answer pays 5; reel 2 on a decoy pays nothing.
     EXPECT_EQ(stopAt(g, 0, answerAt(g, 0)), Stop::Right);
     EXPECT_EQ(g.coins(), 100);
     EXPECT_EQ(g.stop(0), Stop::Ignored);
     EXPECT_EQ(stopAt(g, 1, decoyAt(g, 1)), Stop::Wrong);
     EXPECT_EQ(stopAt(g, 2, answerAt(g, 2)), Stop::PullOver);
     EXPECT_TRUE(g.rightLast());
-    EXPECT_EQ(std::make_pair(g.coins(), g.held()), std::make_pair(105, 2));
-    // The next pull rolls only the reel not held.
+    EXPECT_EQ(std::make_pair(g.coins(), g.rightNow()), std::make_pair(105, 2));
+    // Nothing is held: the next pull rolls all three, and the first two right stops of it make no
+    // jackpot with the right reel of the pull before.
     ASSERT_TRUE(g.pull());
-    EXPECT_EQ(g.rolling(), 1);
-    EXPECT_EQ(stopAt(g, 1, answerAt(g, 1)), Stop::Jackpot);
-    EXPECT_EQ(g.coins(), 100 + 5 + 180);
+    EXPECT_EQ(std::make_pair(g.rolling(), g.rightNow()), std::make_pair(3, 0));
+    EXPECT_EQ(stopAt(g, 1, answerAt(g, 1)), Stop::Right);
+    EXPECT_EQ(stopAt(g, 2, answerAt(g, 2)), Stop::Right);
+    EXPECT_EQ(stopAt(g, 0, decoyAt(g, 0)), Stop::PullOver);
+    EXPECT_EQ(std::make_pair(g.coins(), g.jackpots()), std::make_pair(110, 0));
+    // All three in one pull: 5 each and 20 x 9.
+    ASSERT_TRUE(g.pull());
+    for (int reel = 0; reel < 2; ++reel) EXPECT_EQ(stopAt(g, reel, answerAt(g, reel)), Stop::Right);
+    EXPECT_EQ(stopAt(g, 2, answerAt(g, 2)), Stop::Jackpot);
+    EXPECT_EQ(g.coins(), 105 + 15 + 180);
     EXPECT_FALSE(g.canPull());  // until the next definition comes
     g.nextDefinition(s, rng);
-    EXPECT_EQ(std::make_tuple(g.held(), g.canPull(), g.jackpots()), std::make_tuple(0, true, 1));
+    EXPECT_EQ(std::make_tuple(g.rightNow(), g.canPull(), g.jackpots()), std::make_tuple(0, true, 1));
     ASSERT_TRUE(g.start(s, rng));  // a new game counts its jackpots afresh
     EXPECT_EQ(g.jackpots(), 0);
 }

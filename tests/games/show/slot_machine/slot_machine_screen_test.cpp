@@ -1,5 +1,5 @@
 // Slot Machine on its screen: from the title through ten jackpots (Space, the handle, the STOP
-// buttons and the keys, a held reel, a pull that pays part) to the table; twenty empty pulls to
+// buttons and the keys, a pull that pays part and holds nothing) to the table; twenty empty pulls to
 // the out-of-coins box; the machine laid out whole at both screen sizes; a list it cannot use.
 #include <QtTest>
 
@@ -66,7 +66,7 @@ void SlotMachineScreenTest::tenJackpotsToTheTable() {
     QCOMPARE(LabelText(game, "Label4"), pullText);
     QVERIFY(!game->stopButton(0)->isEnabled());
 
-    // The first pull: two reels right and held, one wrong.
+    // The first pull: two reels right, one wrong.
     QTest::keyClick(game, Qt::Key_Space);
     QCOMPARE(road.sound.played.last(), QString("slot-pull.wav"));
     QCOMPARE(LabelText(game, "Label2"), QString("Coins: 95"));
@@ -75,7 +75,7 @@ void SlotMachineScreenTest::tenJackpotsToTheTable() {
     StopOn(game, 0, true);
     QCOMPARE(road.sound.played.last(), QString("slot-ding.wav"));
     QCOMPARE(LabelText(game, "Label2"), QString("Coins: 100"));
-    QCOMPARE(game->stopButton(0)->text(), QString("HELD"));
+    QCOMPARE(game->stopButton(0)->text(), QString("RIGHT!"));
     QVERIFY(!game->stopButton(0)->isEnabled() && game->stopButton(1)->isEnabled());
     StopOn(game, 1, false, true);
     QCOMPARE(road.sound.played.last(), QString("slot-stop.wav"));
@@ -83,15 +83,18 @@ void SlotMachineScreenTest::tenJackpotsToTheTable() {
     QCOMPARE(LabelText(game, "Label2"), QString("Coins: 105"));
     QCOMPARE(LabelText(game, "Label4"), pullText);
 
-    // The second pull, on the handle: only the middle reel rolls; the jackpot.
+    // The second pull, on the handle: all three roll again; three right stops, the jackpot.
     QTest::mouseClick(game, Qt::LeftButton, {}, game->scene()->leverRect().center());
-    QCOMPARE(game->game().rolling(), 1);
-    QTest::keyClick(game, Qt::Key_1);  // a held reel does not stop again
-    QCOMPARE(road.sound.played.last(), QString("slot-pull.wav"));
-    StopOn(game, 1, true);
+    QCOMPARE(game->game().rolling(), 3);
+    QCOMPARE(game->stopButton(0)->text(), QString("STOP"));
+    StopOn(game, 0, true);
+    QTest::keyClick(game, Qt::Key_1);  // a stopped reel does not stop again
+    QCOMPARE(road.sound.played.last(), QString("slot-ding.wav"));
+    StopOn(game, 1, true, true);
+    StopOn(game, 2, true);
     QCOMPARE(road.sound.played.last(), QString("slot-jackpot.wav"));
     QCOMPARE(game->scene()->bannerText(), QString("JACKPOT! +20 coins"));
-    QCOMPARE(LabelText(game, "Label2"), QString("Coins: 125"));
+    QCOMPARE(LabelText(game, "Label2"), QString("Coins: 135"));
     QTest::keyClick(game, Qt::Key_Space);  // the jackpot shows before the next pull
     const std::string first = s.TheWord;
     Pump(2600);
@@ -106,13 +109,13 @@ void SlotMachineScreenTest::tenJackpotsToTheTable() {
         if (d < 10) Pump(2600);
     }
     QCOMPARE(road.sound.played.last(), QString("slot-win.wav"));
-    QCOMPARE(game->scene()->bannerText(), QString("All ten! You have 395 coins!"));
+    QCOMPARE(game->scene()->bannerText(), QString("All ten! You have 405 coins!"));
     Pump(2700);
     QVERIFY(road.win.tables.isEmpty());
     Pump(200);
     QCOMPARE(road.win.tables.size(), 1);
     QVERIFY(road.read("scores/Slot Machine.dat").contains("ACE"));
-    QVERIFY(road.dialogs.saw("You got a high score of 395! Would you like to try again?"));
+    QVERIFY(road.dialogs.saw("You got a high score of 405! Would you like to try again?"));
     Pump();
     QVERIFY(Showing<Title>());
 }
