@@ -15,12 +15,17 @@ QPixmap coverPicture(QSvgRenderer& drawing, QSize size, const QColor& fill) {
     QPainter p(&out);
     p.setRenderHint(QPainter::Antialiasing);
     const QSizeF vb = drawing.viewBoxF().size();
-    const double k = std::max(size.width() / vb.width(), size.height() / vb.height());
-    const QSizeF sz = vb * k;
-    drawing.render(
-        &p,
-        QRectF(QPointF((size.width() - sz.width()) / 2, (size.height() - sz.height()) / 2), sz));
+    p.setTransform(coverStage(QSizeF(size), vb));
+    drawing.render(&p, QRectF(QPointF(0, 0), vb));
     return out;
+}
+
+QTransform coverStage(QSizeF size, QSizeF stage) {
+    if (stage.isEmpty()) return {};
+    const double k = std::max(size.width() / stage.width(), size.height() / stage.height());
+    return QTransform::fromTranslate((size.width() - stage.width() * k) / 2,
+                                     (size.height() - stage.height() * k) / 2)
+        .scale(k, k);
 }
 
 QRectF fitStage(const QRectF& rect, const QSizeF& stage) {

@@ -13,6 +13,7 @@ class QPainter;
 class QPixmap;
 class QSize;
 class QSvgRenderer;
+class QTransform;
 
 namespace wm::scene {
 
@@ -50,6 +51,9 @@ inline QColor withAlpha(QColor c, double alpha) {
 // A drawing made into a backdrop of `size`: it keeps its shape and is cut to fill the whole, on
 // `fill` where the drawing is missing.
 QPixmap coverPicture(QSvgRenderer& drawing, QSize size, const QColor& fill);
+// From a stage's own units to a screen of `size` that it covers: kept in shape, centred, its
+// edges cut as need be. The scale is the transform's m11().
+QTransform coverStage(QSizeF size, QSizeF stage);
 // The largest rectangle of the stage's shape centred in `rect`.
 QRectF fitStage(const QRectF& rect, const QSizeF& stage);
 QPainterPath letterTilePath(const QRectF& r);

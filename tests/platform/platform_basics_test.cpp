@@ -13,6 +13,7 @@
 #include "core/shared_state.h"
 #include "platform/dialogs.h"
 #include "platform/music.h"
+#include "platform/scene_kit.h"
 #include "platform/screen_metrics.h"
 #include "platform/services.h"
 #include "platform/sound.h"
@@ -205,6 +206,21 @@ private slots:
         QVERIFY(ScreenMetrics::screenSize().isValid());
         QCOMPARE(ScreenMetrics::px(15), 1);
         QCOMPARE(ScreenMetrics::px(ScreenMetrics::twips(640)), 640);
+    }
+    // A 1600x1000 stage on a wide screen is cut top and bottom, on a tall one left and right,
+    // and stays whole on a screen of its own shape.
+    void stagesCoverTheScreen() {
+        struct Row {
+            QSizeF screen;
+            double scale, dx, dy;
+        } rows[] = {{{1920, 1080}, 1.2, 0, -60}, {{1280, 1024}, 1.024, -179.2, 0}, {{800, 500}, 0.5, 0, 0}};
+        for (const Row& r : rows) {
+            const QTransform t = scene::coverStage(r.screen, {1600, 1000});
+            QCOMPARE(t.m11(), r.scale);
+            QCOMPARE(t.m22(), r.scale);
+            QCOMPARE(QPointF(t.dx(), t.dy()), QPointF(r.dx, r.dy));
+        }
+        QCOMPARE(scene::coverStage({800, 600}, {}), QTransform());
     }
 };
 

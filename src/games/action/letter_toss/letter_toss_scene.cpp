@@ -262,8 +262,9 @@ void TossScene::buildLayer() {
 }
 
 void TossScene::resizeEvent(QResizeEvent*) {
-    k_ = std::max(width() / lt::kStageW, height() / lt::kStageH);
-    origin_ = QPointF((width() - lt::kStageW * k_) / 2, (height() - lt::kStageH * k_) / 2);
+    const QTransform cover = scene::coverStage(QSizeF(size()), QSizeF(lt::kStageW, lt::kStageH));
+    k_ = cover.m11();
+    origin_ = QPointF(cover.dx(), cover.dy());
     sprites_.clear();
     buildLayer();
 }

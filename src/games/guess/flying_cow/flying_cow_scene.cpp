@@ -38,19 +38,9 @@ CowPicture::~CowPicture() = default;
 void CowPicture::resize(QSize size) {
     if (size == size_ || size.isEmpty()) return;
     size_ = size;
-    // The stage covers the screen: kept in shape, centred, its edges cut as need be.
-    scale_ = std::max(size.width() / kStageW, size.height() / kStageH);
-    toScreen_ = QTransform::fromTranslate((size.width() - kStageW * scale_) / 2,
-                                          (size.height() - kStageH * scale_) / 2)
-                    .scale(scale_, scale_);
-    fieldPixmap_ = QPixmap(size);
-    fieldPixmap_.fill(QColor(30, 24, 70));
-    if (field_->isValid()) {
-        QPainter p(&fieldPixmap_);
-        p.setRenderHint(QPainter::Antialiasing);
-        p.setTransform(toScreen_);
-        field_->render(&p, QRectF(0, 0, kStageW, kStageH));
-    }
+    toScreen_ = scene::coverStage(QSizeF(size), QSizeF(kStageW, kStageH));
+    scale_ = toScreen_.m11();
+    fieldPixmap_ = scene::coverPicture(*field_, size, QColor(30, 24, 70));
     cache_.clear();
     beam_ = QPixmap();
     bubble_ = QPixmap();

@@ -15,7 +15,6 @@ namespace wm::safe {
 namespace {
 using namespace scene;
 
-constexpr double kRoomW = 1600, kRoomH = 1000;
 const QRectF kDoor(70, 58, 1060, 636);        // the door, hinged on its left edge
 const QRectF kGrid(112, 92, 772, 568);         // where the rows of tumblers sit
 const QPointF kDial(1010, 250), kHandle(1010, 505);
@@ -43,17 +42,7 @@ void SafePicture::resize(QSize screen, const QRect& safeArea) {
     if (screen.isEmpty() || safeArea.isEmpty()) return;
     if (screen != size_) {
         size_ = screen;
-        // The room covers the screen: kept in shape, centred, its edges cut as need be.
-        const double s = std::max(screen.width() / kRoomW, screen.height() / kRoomH);
-        roomPixmap_ = QPixmap(screen);
-        roomPixmap_.fill(QColor(34, 44, 58));
-        if (room_->isValid()) {
-            QPainter p(&roomPixmap_);
-            p.setRenderHint(QPainter::Antialiasing);
-            p.translate((screen.width() - kRoomW * s) / 2, (screen.height() - kRoomH * s) / 2);
-            p.scale(s, s);
-            room_->render(&p, QRectF(0, 0, kRoomW, kRoomH));
-        }
+        roomPixmap_ = scene::coverPicture(*room_, screen, QColor(34, 44, 58));
     }
     if (safeArea == safeArea_) return;
     safeArea_ = safeArea;

@@ -114,17 +114,8 @@ QPixmap SlotScene::sprite(const char* id, QSize size) {
 }
 
 void SlotScene::resizeEvent(QResizeEvent*) {
-    backRaw_ = QPixmap(size());
-    backRaw_.fill(QColor(30, 12, 44));
-    if (back_.isValid()) {
-        QPainter p(&backRaw_);
-        p.setRenderHint(QPainter::Antialiasing);
-        // The arcade keeps its shape: cut to the screen rather than stretched.
-        const QSizeF vb = back_.viewBoxF().size();
-        const double k = std::max(width() / vb.width(), height() / vb.height());
-        const QSizeF sz = vb * k;
-        back_.render(&p, QRectF(QPointF((width() - sz.width()) / 2, (height() - sz.height()) / 2), sz));
-    }
+    // The arcade keeps its shape: cut to the screen rather than stretched.
+    backRaw_ = scene::coverPicture(back_, size(), QColor(30, 12, 44));
     layOut(top_);
 }
 
