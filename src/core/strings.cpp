@@ -84,6 +84,14 @@ std::string LCase(std::string_view s) {
     return out;
 }
 
+bool IsLetter(char c) {
+    const auto u = static_cast<unsigned char>(c);
+    if ((u >= 'A' && u <= 'Z') || (u >= 'a' && u <= 'z')) return true;
+    if (u >= 0xC0) return u != 0xD7 && u != 0xF7;
+    return u == 0x8A || u == 0x8C || u == 0x8E || u == 0x9A || u == 0x9C || u == 0x9E ||
+           u == 0x9F;
+}
+
 std::string LTrim(std::string_view s) {
     std::size_t i = 0;
     while (i < s.size() && s[i] == ' ') ++i;

@@ -17,6 +17,9 @@ std::string Right(std::string_view s, int length);
 // Upper and lower case over the Windows-1252 letters, accented ones included.
 std::string UCase(std::string_view s);
 std::string LCase(std::string_view s);
+// A letter of Windows-1252: the two alphabets and the accented letters, the few scattered below
+// 0xC0 too; the multiplication and division signs are not letters.
+bool IsLetter(char c);
 // Blanks only, as the list files are compared; tabs and other characters stay.
 std::string Trim(std::string_view s);
 std::string LTrim(std::string_view s);

@@ -45,6 +45,14 @@ TEST(Strings, CaseCoversWindows1252Letters) {
     }
 }
 
+TEST(Strings, WhatCountsAsALetter) {
+    // The edges of the alphabets, and the scattered accented letters of Windows-1252 below 0xC0.
+    const std::string letters = "AZaz\x8A\x8C\x8E\x9A\x9C\x9E\x9F\xC0\xE9\xFF";
+    for (char c : letters) EXPECT_TRUE(IsLetter(c)) << int(c);
+    const std::string others = " -'@[`{0\x80\x8B\x8D\x9B\xAA\xBF\xD7\xF7";
+    for (char c : others) EXPECT_FALSE(IsLetter(c)) << int(c);
+}
+
 TEST(Strings, TrimTakesBlanksOnly) {
     EXPECT_EQ(Trim("  listpath "), "listpath");
     EXPECT_EQ(Trim("\tx\t"), "\tx\t");

@@ -24,18 +24,9 @@ int gapCount(int letters) {
     return std::max(1, letters / 2);
 }
 
-bool isLetter(char ch) {
-    const auto c = static_cast<unsigned char>(ch);
-    if ((c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z')) return true;
-    // Windows-1252's accented letters: the upper block but for the multiplication and
-    // division signs, and the few letters among its punctuation.
-    if (c >= 0xC0) return c != 0xD7 && c != 0xF7;
-    return c == 0x8A || c == 0x8C || c == 0x8E || c == 0x9A || c == 0x9C || c == 0x9E || c == 0x9F;
-}
-
 bool fitsBridge(const std::string& word) {
     return !word.empty() && Len(word) <= kMaxPlanks &&
-           std::any_of(word.begin(), word.end(), isLetter);
+           std::any_of(word.begin(), word.end(), IsLetter);
 }
 
 bool Game::start(SharedState& s, Rng& rng) {
@@ -83,7 +74,7 @@ bool Game::drawWord(SharedState& s, Rng& rng) {
 void Game::setUpWord(Rng& rng) {
     std::vector<int> letters;
     for (int i = 0; i < Len(word_); ++i)
-        if (isLetter(word_[i])) letters.push_back(i);
+        if (IsLetter(word_[i])) letters.push_back(i);
     open_.assign(word_.size(), false);
     gaps_ = gapCount(int(letters.size()));
     // Each gap one draw among the letters still whole, counted from the left.

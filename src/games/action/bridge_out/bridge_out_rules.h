@@ -39,8 +39,6 @@ double roadLength(int gaps);
 double laneSpeed(int lane);
 // About half of the letters are gaps, at least one.
 int gapCount(int letters);
-// Letters may be gaps; blanks, hyphens, apostrophes and other marks never are.
-bool isLetter(char c);
 // The word fits the bridge: 1 to 16 planks, at least one of them a letter.
 bool fitsBridge(const std::string& word);
 

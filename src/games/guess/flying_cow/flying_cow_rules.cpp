@@ -29,15 +29,6 @@ bool guessed(char c) {
     return c != ' ' && c != '-' && c != '\'';
 }
 
-bool isLetter(char c) {
-    const auto u = static_cast<unsigned char>(c);
-    if ((u >= 'A' && u <= 'Z') || (u >= 'a' && u <= 'z')) return true;
-    // The accented letters of Windows-1252; the multiply and divide signs are not letters.
-    if (u >= 0xC0) return u != 0xD7 && u != 0xF7;
-    return u == 0x8A || u == 0x8C || u == 0x8E || u == 0x9A || u == 0x9C || u == 0x9E ||
-           u == 0x9F;
-}
-
 bool playable(const std::string& word) {
     if (Len(word) > kMaxLetters) return false;
     return std::any_of(word.begin(), word.end(), guessed);
@@ -91,7 +82,7 @@ Key Game::press(SharedState& s, char key) {
     for (char c : word_)
         if (guessed(c) && upper1(c) == up) inWord = true;
     // A stray key (a digit, a full stop) is no guess unless the word holds it.
-    if (!inWord && !isLetter(key)) return Key::Ignored;
+    if (!inWord && !IsLetter(key)) return Key::Ignored;
     if (triedState(key) != 0) return Key::Repeat;
     tried_ += LCase(std::string(1, key));
     if (!inWord) {

@@ -28,8 +28,6 @@ int wordPoints(int length, int spare, int level, bool hinted);
 bool guessed(char c);
 // A word the game can play: something to guess, and not too long for the boxes.
 bool playable(const std::string& word);
-// A letter of the alphabet, accented ones too (Windows-1252).
-bool isLetter(char c);
 
 // The next word: Int(Rnd x WordCount + 1) among the loaded words, skipping the ones not
 // playable and, while unplayed ones remain, the ones drawn already. Bounded: after a run of

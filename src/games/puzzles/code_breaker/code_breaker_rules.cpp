@@ -21,7 +21,7 @@ int Draw(Rng& rng, int n) {
 
 bool accented(char c) {
     const char f = fold(c);
-    return isLetter(c) && !(f >= 'A' && f <= 'Z');
+    return IsLetter(c) && !(f >= 'A' && f <= 'Z');
 }
 
 // The accented letters of `word` not yet in `known`, added to it.
@@ -37,17 +37,6 @@ int secondsFor(int level) {
 
 int pointsFor(int secondsLeft, int level, int letters) {
     return secondsLeft * level + 10 * letters;
-}
-
-bool isLetter(char c) {
-    const auto u = static_cast<unsigned char>(c);
-    if ((u >= 'A' && u <= 'Z') || (u >= 'a' && u <= 'z')) return true;
-    switch (u) {
-        case 0x8A: case 0x8C: case 0x8E: case 0x9A: case 0x9C: case 0x9E: case 0x9F:
-            return true;  // the S, OE and Z with their marks, and Y with two dots
-        default:
-            return u >= 0xC0 && u != 0xD7 && u != 0xF7;
-    }
 }
 
 char fold(char c) {
@@ -118,7 +107,7 @@ bool Game::usable(const SharedState& s, int k, int tiles, int accents) const {
     if (k < 1 || k >= int(s.Words.size())) return false;
     const std::string w = Trim(s.Words[k]);
     if (w.empty() || Len(w) > kMaxTiles - tiles) return false;
-    if (std::none_of(w.begin(), w.end(), isLetter)) return false;
+    if (std::none_of(w.begin(), w.end(), IsLetter)) return false;
     // Different words: the same word twice (in any case) is one word.
     for (const std::string& t : words_)
         if (UCase(t) == UCase(w)) return false;
@@ -204,7 +193,7 @@ bool Game::start(SharedState& s, Rng& rng) {
     s.TheWord = s.Words[taken_[0]];
     s.TheMeaning = taken_[0] < int(s.Meanings.size()) ? s.Meanings[taken_[0]] : std::string();
     for (int w = 0; w < int(words_.size()); ++w)
-        for (char c : words_[w]) tiles_.push_back({c, isLetter(c) ? symbolOf(fold(c)) : -1, w});
+        for (char c : words_[w]) tiles_.push_back({c, IsLetter(c) ? symbolOf(fold(c)) : -1, w});
     drawKey(rng);
     std::vector<int> pictures;
     for (int p = 0; p < kAccentPictures; ++p) pictures.push_back(p);
@@ -305,7 +294,7 @@ void Game::advance() {
 
 Typed Game::type(char letter) {
     movedFrom_ = -1;
-    if (phase_ != Phase::Playing || selected_ < 0 || !isLetter(letter)) return Typed::Ignored;
+    if (phase_ != Phase::Playing || selected_ < 0 || !IsLetter(letter)) return Typed::Ignored;
     const char l = fold(letter);
     Symbol& sym = symbols_[tiles_[selected_].symbol];
     if (sym.hinted) return Typed::Locked;

@@ -29,8 +29,6 @@ constexpr const char* kNoWords =
 int secondsFor(int level);
 // All symbols right: seconds left x level + 10 x letters.
 int pointsFor(int secondsLeft, int level, int letters);
-// The Windows-1252 letters, accented ones included.
-bool isLetter(char c);
 // One letter in capitals.
 char fold(char c);
 // "Time's up! The code was ..." with the words, and the offer of another go.

@@ -268,7 +268,7 @@ void CodeBreaker::keyPressEvent(QKeyEvent* e) {
         case Qt::Key_Space: clearLetter(); return;
         default: {
             const std::string t = fromQ(e->text());
-            if (t.size() == 1 && isLetter(t[0])) return typeLetter(t[0]);
+            if (t.size() == 1 && IsLetter(t[0])) return typeLetter(t[0]);
             return QWidget::keyPressEvent(e);
         }
     }

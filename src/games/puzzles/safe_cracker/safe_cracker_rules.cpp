@@ -16,17 +16,8 @@ std::string upper1(char c) {
 }
 }  // namespace
 
-bool isLetter(char c) {
-    const auto u = static_cast<unsigned char>(c);
-    if ((u >= 'A' && u <= 'Z') || (u >= 'a' && u <= 'z')) return true;
-    // The accented letters of Windows-1252; the multiply and divide signs are not letters.
-    if (u >= 0xC0) return u != 0xD7 && u != 0xF7;
-    return u == 0x8A || u == 0x8C || u == 0x8E || u == 0x9A || u == 0x9C || u == 0x9E ||
-           u == 0x9F;
-}
-
 bool typable(char c) {
-    return isLetter(c) || (c >= '0' && c <= '9');
+    return IsLetter(c) || (c >= '0' && c <= '9');
 }
 
 bool fixedChar(char c) {

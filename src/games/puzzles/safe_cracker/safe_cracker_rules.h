@@ -27,8 +27,6 @@ enum class Mark { Unknown, Grey, Amber, Green };
 
 // Letters and digits are guessed; blanks, hyphens and any other sign stand fixed in the row.
 bool fixedChar(char c);
-// A letter of the alphabet, accented ones too (Windows-1252).
-bool isLetter(char c);
 // What can be typed into a tumbler: a letter or a digit.
 bool typable(char c);
 // Something to guess, and no more than kMaxLetters characters.

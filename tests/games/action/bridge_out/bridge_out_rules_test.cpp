@@ -43,10 +43,6 @@ TEST(BridgeOutNumbers, PaceRoadGapsAndLetters) {
         EXPECT_DOUBLE_EQ(roadLength(gaps), road) << gaps;
     for (auto [letters, gaps] : {std::pair{0, 1}, {1, 1}, {3, 1}, {4, 2}, {5, 2}, {14, 7}})
         EXPECT_EQ(gapCount(letters), gaps) << letters;
-    for (char c : {'a', 'z', 'A', 'Z', '\xE9', '\xC0', '\xFF', '\x8A', '\x9F'})
-        EXPECT_TRUE(isLetter(c)) << int(c);
-    for (char c : {' ', '-', '\'', '1', '@', '[', '`', '{', '\xD7', '\xF7', '\xBF', '\x8B'})
-        EXPECT_FALSE(isLetter(c)) << int(c);
     for (auto [word, fits] : {std::pair{"a", true},
                               {"ice cream", true},
                               {"abcdefghijklmnop", true},

@@ -125,16 +125,6 @@ TEST(FlyingCowRules, LettersCaseAccentsAndWhatShowsFromTheStart) {
     EXPECT_EQ(Shown(g), "'....");
 }
 
-TEST(FlyingCowRules, WhatCountsAsALetter) {
-    // The edges of the alphabets, and the scattered accented letters of Windows-1252 below 0xC0.
-    for (int c : std::initializer_list<int>{'A', 'Z', 'a', 'z', 0x8A, 0x8C, 0x8E, 0x9A, 0x9C, 0x9E,
-                                            0x9F, 0xC0, 0xFF})
-        EXPECT_TRUE(isLetter(char(c))) << c;
-    for (int c : std::initializer_list<int>{'@', '[', '`', '{', '0', 0x80, 0x8B, 0x8D, 0x9B, 0xBF,
-                                            0xD7, 0xF7})
-        EXPECT_FALSE(isLetter(char(c))) << c;
-}
-
 TEST(FlyingCowRules, RungsUpOnMissesDownOnADoubleFill) {
     SharedState s = ListOf({"bananas"}, 4);
     ScriptedRng rng;
