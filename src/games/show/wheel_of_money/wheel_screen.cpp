@@ -524,7 +524,9 @@ void GameShowForm::layOut() {
         LLabel[i]->setGeometry(rowX + i * tileW + 2, below.height() * 2 / 5, tileW - 4,
                                int(tileW * 1.2));
 
-    MovieScreen->setGeometry(int(0.1 * W), int(0.1 * H), int(0.8 * W), int(0.7 * H));
+    // The show's films play under the heading, never over it.
+    const int movieTop = std::max(int(0.1 * H), HeadLabel->geometry().bottom() + H / 80);
+    MovieScreen->setGeometry(int(0.1 * W), movieTop, int(0.8 * W), int(0.8 * H) - movieTop);
 }
 
 void GameShowForm::resizeEvent(QResizeEvent*) {

@@ -1,6 +1,8 @@
 #include "games/study/scramble/scramble_screen.h"
 
+#include <QFontMetrics>
 #include <QGraphicsDropShadowEffect>
+#include <algorithm>
 #include <QTimer>
 
 #include "core/clock.h"
@@ -147,8 +149,17 @@ void Scramble::placeLetters() {
     const auto& size = round_.layout.size;
     QFont f("DejaVu Sans");
     f.setBold(true);
-    f.setPixelSize(std::max(8, int(size.font * 20 * u * 0.95)));  // points to twips to pixels
     const QByteArray letters = QByteArray::fromStdString(round_.scrambled);
+    // The layout's letter size, points to twips to pixels, a little smaller where the widest
+    // letter of the word (an M, a W) would touch its tile's borders.
+    const int room = int(size.width * u) - 10;
+    for (int px = std::max(8, int(size.font * 20 * u * 0.95)); px >= 8; --px) {
+        f.setPixelSize(px);
+        const QFontMetrics fm(f);
+        if (std::all_of(letters.begin(), letters.end(),
+                        [&](char c) { return fm.horizontalAdvance(toQ(std::string(1, c))) <= room; }))
+            break;
+    }
     for (int i = 0; i < LetterLabel.size(); ++i) {
         QLabel* l = LetterLabel[i];
         if (i >= int(round_.layout.boxes.size()) || i >= letters.size()) {
