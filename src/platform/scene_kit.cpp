@@ -28,6 +28,13 @@ QTransform coverStage(QSizeF size, QSizeF stage) {
         .scale(k, k);
 }
 
+QFont boldFont(int px) {
+    QFont f("DejaVu Sans");
+    f.setBold(true);
+    f.setPixelSize(std::max(8, px));
+    return f;
+}
+
 QRectF fitStage(const QRectF& rect, const QSizeF& stage) {
     const double scale = std::min(rect.width() / stage.width(), rect.height() / stage.height());
     const QSizeF size = stage * scale;

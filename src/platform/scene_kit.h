@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QPainterPath>
 #include <QPointF>
 #include <QRectF>
@@ -56,6 +57,8 @@ QPixmap coverPicture(QSvgRenderer& drawing, QSize size, const QColor& fill);
 QTransform coverStage(QSizeF size, QSizeF stage);
 // The largest rectangle of the stage's shape centred in `rect`.
 QRectF fitStage(const QRectF& rect, const QSizeF& stage);
+// The house's bold face at `px` pixels, 8 at the least: the games' words, numbers and tiles.
+QFont boldFont(int px);
 QPainterPath letterTilePath(const QRectF& r);
 // A glossy rounded tile in `colour` with a white letter.
 void paintLetterTile(QPainter& p, const QRectF& r, const QColor& colour, const QString& letter);

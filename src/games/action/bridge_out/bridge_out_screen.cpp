@@ -7,6 +7,7 @@
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "core/strings.h"
+#include "platform/scene_kit.h"
 #include "platform/screen_metrics.h"
 #include "platform/services.h"
 #include "platform/sound.h"
@@ -25,13 +26,6 @@ const char* kTitle = "Bridge Out";
 const char* kPlateStyle =
     "color: #fff6dc; background: rgba(74, 46, 20, 205); border: 2px solid rgba(255, 226, 160, 140);"
     " border-radius: 12px; padding: 3px 14px;";
-
-QFont Bold(int px) {
-    QFont f("DejaVu Sans");
-    f.setBold(true);
-    f.setPixelSize(std::max(8, px));
-    return f;
-}
 
 GameMenuNames MenuNames() {
     GameMenuNames names;
@@ -208,7 +202,7 @@ void BridgeOutGame::resizeEvent(QResizeEvent*) {
     const QRect sign = scene_->clueRect().translated(0, top);
     const QRect box = sign.adjusted(sign.width() / 12, sign.height() * 18 / 100, -sign.width() / 12,
                                     -sign.height() * 14 / 100);
-    QFont f = Bold(box.height() * 42 / 100);
+    QFont f = scene::boldFont(box.height() * 42 / 100);
     for (;;) {
         const QRect need =
             QFontMetrics(f).boundingRect(box, Qt::AlignCenter | Qt::TextWordWrap, Label1->text());
@@ -220,7 +214,7 @@ void BridgeOutGame::resizeEvent(QResizeEvent*) {
     Label1->setGeometry(box);
     // The plates: score and road on the left, bridges and trucks on the right.
     const int plateW = W * 19 / 100;
-    QFont pf = Bold(H * 30 / 1000);
+    QFont pf = scene::boldFont(H * 30 / 1000);
     for (QLabel* l : {ScoreLabel, RoadLabel, BridgeLabel, TrucksLabel})
         while (pf.pixelSize() > 8 && QFontMetrics(pf).horizontalAdvance(l->text()) > plateW - 36)
             pf.setPixelSize(pf.pixelSize() - 1);

@@ -5,6 +5,7 @@
 
 #include "core/rng.h"
 #include "core/shared_state.h"
+#include "platform/scene_kit.h"
 #include "platform/screen_metrics.h"
 #include "platform/services.h"
 #include "platform/sound.h"
@@ -26,12 +27,6 @@ const char* kClueStyle =
     "color: #3b2208; background: #fff8e1; border: 3px solid #b5742e;"
     " border-radius: 18px; padding: 4px 18px;";
 
-QFont Bold(int px) {
-    QFont f("DejaVu Sans");
-    f.setBold(true);
-    f.setPixelSize(std::max(8, px));
-    return f;
-}
 }  // namespace
 
 CannonShotForm::CannonShotForm(QWidget* parent)
@@ -230,7 +225,7 @@ void CannonShotForm::resizeEvent(QResizeEvent*) {
     }
     Label1->setFont(f);
     Label1->setGeometry(clue);
-    const QFont plate = Bold(int(24 * s));
+    const QFont plate = scene::boldFont(int(24 * s));
     for (QLabel* l : {LevelLabel, WordLabel, ScoreLabel, BallsLabel}) {
         l->setFont(plate);
         l->adjustSize();

@@ -6,6 +6,7 @@
 
 #include "core/rng.h"
 #include "core/shared_state.h"
+#include "platform/scene_kit.h"
 #include "platform/screen_metrics.h"
 #include "platform/services.h"
 #include "platform/sound.h"
@@ -19,12 +20,6 @@ using namespace slingshot;
 namespace {
 const char* kTitle = "Slingshot";
 
-QFont Bold(int px) {
-    QFont f("DejaVu Sans");
-    f.setBold(true);
-    f.setPixelSize(std::max(8, px));
-    return f;
-}
 }  // namespace
 
 SlingShot::SlingShot(QWidget* parent)
@@ -200,7 +195,7 @@ void SlingShot::resizeEvent(QResizeEvent*) {
     field_->setGeometry(0, top, width(), height() - top);
     // The definition fills the board, in the largest size that fits.
     const QRect board = field_->boardRect().translated(0, top);
-    QFont f = Bold(board.height() * 44 / 100);
+    QFont f = scene::boldFont(board.height() * 44 / 100);
     f.setBold(false);
     const QString meaning = Label1->text();
     for (;;) {
@@ -217,8 +212,8 @@ void SlingShot::resizeEvent(QResizeEvent*) {
         const int h = plate.height();
         const QRect a(plate.left(), plate.top() + h * 12 / 100, plate.width(), h * 40 / 100);
         const QRect b(plate.left(), plate.top() + h * 50 / 100, plate.width(), h * 36 / 100);
-        upper->setFont(Bold(a.height() * 70 / 100));
-        lower->setFont(Bold(b.height() * 62 / 100));
+        upper->setFont(scene::boldFont(a.height() * 70 / 100));
+        lower->setFont(scene::boldFont(b.height() * 62 / 100));
         upper->setGeometry(a);
         lower->setGeometry(b);
     };

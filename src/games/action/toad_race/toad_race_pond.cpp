@@ -23,13 +23,6 @@ int laneOf(int toad) {
     return kToads - 1 - toad;
 }
 
-QFont callFont(int px) {
-    QFont f("DejaVu Sans");
-    f.setBold(true);
-    f.setPixelSize(std::max(8, px));
-    return f;
-}
-
 // A word drawn as an outlined path, centred on `centre`.
 void paintOutlined(QPainter& p, const QString& text, const QFont& font, QPointF centre,
                    const QColor& fill, const QColor& edge, double edgeWidth) {
@@ -223,7 +216,7 @@ void Pond::buildScene() {
         const QRectF plate(width() * 0.008, stone.y() - laneH_ * 0.62, width() * 0.078,
                            laneH_ * 0.5);
         draw(toad == 0 ? "plate_1" : "plate_0", plate);
-        QFont f = callFont(int(plate.height() * 0.42));
+        QFont f = scene::boldFont(int(plate.height() * 0.42));
         const QString name = toadName(toad);
         while (f.pixelSize() > 8 && QFontMetricsF(f).horizontalAdvance(name) > plate.width() * 0.84)
             f.setPixelSize(f.pixelSize() - 1);
@@ -263,7 +256,7 @@ void Pond::buildScene() {
 const QPixmap& Pond::callPicture() {
     if (callPictureOf_ == call_ && !callPicture_.isNull()) return callPicture_;
     const QRect box = callRect();
-    QFont f = callFont(int(laneH_ * 1.05));
+    QFont f = scene::boldFont(int(laneH_ * 1.05));
     while (f.pixelSize() > 8 && QFontMetricsF(f).horizontalAdvance(call_) > box.width() * 0.92)
         f.setPixelSize(f.pixelSize() - 2);
     callPicture_ = QPixmap(box.size() - QSize(0, int(laneH_ * 0.3)));

@@ -5,6 +5,7 @@
 
 #include "core/rng.h"
 #include "core/shared_state.h"
+#include "platform/scene_kit.h"
 #include "platform/screen_metrics.h"
 #include "platform/services.h"
 #include "platform/sound.h"
@@ -26,12 +27,6 @@ const char* kPlateStyle =
     "color: #fff8e0; background: rgba(52, 84, 28, 200); border: 2px solid rgba(255, 240, 190, 120);"
     " border-radius: 14px; padding: 4px 18px;";
 
-QFont Bold(int px) {
-    QFont f("DejaVu Sans");
-    f.setBold(true);
-    f.setPixelSize(std::max(8, px));
-    return f;
-}
 }  // namespace
 
 ToadRace::ToadRace(QWidget* parent)
@@ -221,7 +216,7 @@ void ToadRace::resizeEvent(QResizeEvent*) {
     // The word on the board's upper part, the meaning under it; both shrink to fit.
     const QRect wordBox(sign.left() + sign.width() / 14, sign.top() + h * 12 / 100,
                         sign.width() * 12 / 14, h * 44 / 100);
-    QFont f = Bold(wordBox.height() * 78 / 100);
+    QFont f = scene::boldFont(wordBox.height() * 78 / 100);
     const QString word = Label1->text().isEmpty() ? QString("W") : Label1->text();
     while (f.pixelSize() > 8 && QFontMetrics(f).horizontalAdvance(word) > wordBox.width() - 8)
         f.setPixelSize(f.pixelSize() - 1);
@@ -242,13 +237,13 @@ void ToadRace::resizeEvent(QResizeEvent*) {
 
     const QRect bank = pond_->bankRect().translated(0, top);
     const int bh = bank.height();
-    Label3->setFont(Bold(std::max(10, bh * 15 / 100)));
+    Label3->setFont(scene::boldFont(std::max(10, bh * 15 / 100)));
     Label3->setGeometry(bank.left(), bank.top() + bh * 4 / 100, bank.width(), bh * 22 / 100);
     const int boxW = width() * 44 / 100, boxH = bh * 40 / 100;
-    Text1->setFont(Bold(boxH * 50 / 100));
+    Text1->setFont(scene::boldFont(boxH * 50 / 100));
     Text1->setGeometry((width() - boxW) / 2, bank.top() + bh * 30 / 100, boxW, boxH);
     for (QLabel* l : {LevelLabel, PadsLabel}) {
-        l->setFont(Bold(std::max(10, bh * 14 / 100)));
+        l->setFont(scene::boldFont(std::max(10, bh * 14 / 100)));
         l->adjustSize();
     }
     const int y = Text1->y() + (boxH - LevelLabel->height()) / 2;

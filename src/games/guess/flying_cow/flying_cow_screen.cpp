@@ -263,7 +263,6 @@ void CowForm::animate() {
         case Phase::Won:
             if (t >= kWinSecs) {
                 if (game_.lastWord()) {
-                    setPhase(Phase::Idle);
                     frame_.wonGame();
                     return;
                 }
@@ -276,7 +275,6 @@ void CowForm::animate() {
             break;
         case Phase::Lost:
             if (t >= kLostSecs) {
-                setPhase(Phase::Idle);
                 frame_.askTryAgain(toQ(lostText(Shared().TheWord)) +
                                        " Would you like to try again?",
                                    "Try Again?");

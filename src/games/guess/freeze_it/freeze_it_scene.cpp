@@ -28,12 +28,6 @@ double rnd(double lo, double hi) {
     return lo + QRandomGenerator::global()->generateDouble() * (hi - lo);
 }
 
-QFont LetterFont(int px) {
-    QFont f("DejaVu Sans");
-    f.setBold(true);
-    f.setPixelSize(std::max(8, px));
-    return f;
-}
 }  // namespace
 
 FreezeScene::FreezeScene(QWidget* parent)
@@ -237,7 +231,7 @@ QRect FreezeScene::blocksBounds() const {
 }
 
 QRect FreezeScene::bannerRect() const {
-    QFont f = LetterFont(std::max(14, height() / 24));
+    QFont f = scene::boldFont(std::max(14, height() / 24));
     const int w =
         std::min(width() - 40, QFontMetrics(f).horizontalAdvance(banner_) + height() / 10);
     const int h = height() / 13;
@@ -316,7 +310,7 @@ void FreezeScene::paintLetterBlock(QPainter& p, const QRect& r, char letter, int
     const bool small = letter == '-' || letter == '\'';
     p.drawPixmap(r.left() - side_ * 3 / 20, r.bottom() - puddle_.height() / 2, puddle_);
     p.drawPixmap(r.topLeft(), glass_);
-    p.setFont(LetterFont(int(side_ * (small ? 0.5 : 0.62))));
+    p.setFont(scene::boldFont(int(side_ * (small ? 0.5 : 0.62))));
     p.setPen(kInk[ink]);
     p.setOpacity(strength);
     p.drawText(r.adjusted(0, -side_ / 20, 0, 0), Qt::AlignCenter, toQ(std::string(1, letter)));
@@ -394,7 +388,7 @@ void FreezeScene::renderBanner() {
     p.setPen(QPen(edge, std::max(2, height() / 300)));
     p.setBrush(fill);
     p.drawRoundedRect(r, r.height() / 2.0, r.height() / 2.0);
-    QFont f = LetterFont(std::max(14, height() / 24));
+    QFont f = scene::boldFont(std::max(14, height() / 24));
     // A long word takes a smaller type rather than losing its ends.
     const int room = r.width() - r.height() / 2;
     const int need = QFontMetrics(f).horizontalAdvance(banner_);

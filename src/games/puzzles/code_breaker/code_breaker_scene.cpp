@@ -31,12 +31,6 @@ double rnd(double lo, double hi) {
     return lo + QRandomGenerator::global()->generateDouble() * (hi - lo);
 }
 
-QFont LetterFont(int px) {
-    QFont f("DejaVu Sans");
-    f.setBold(true);
-    f.setPixelSize(std::max(8, px));
-    return f;
-}
 }  // namespace
 
 CodeScene::CodeScene(const Game& game, QWidget* parent)
@@ -216,7 +210,7 @@ const QPixmap& CodeScene::glyph(char c, int ink, int px) {
     static const QColor kInk[] = {QColor(28, 44, 110),  QColor(150, 88, 0),  QColor(18, 112, 50),
                                   QColor(190, 36, 30),  QColor(176, 40, 36), QColor(40, 32, 20),
                                   QColor(150, 140, 120), QColor(40, 40, 60)};
-    const QFont f = LetterFont(px);
+    const QFont f = scene::boldFont(px);
     const QString s = toQ(std::string(1, c));
     const QFontMetrics fm(f);
     QPixmap pm(fm.horizontalAdvance(s) + 4, fm.height() + 2);
@@ -311,7 +305,7 @@ void CodeScene::renderBanner() {
     bannerPic_ = QPixmap();
     banRect_ = QRect();
     if (banner_.isEmpty() || band_.isEmpty()) return;
-    QFont f = LetterFont(std::max(14, band_.height() * 11 / 20));
+    QFont f = scene::boldFont(std::max(14, band_.height() * 11 / 20));
     const int w = std::min(band_.width(), QFontMetrics(f).horizontalAdvance(banner_) +
                                               band_.height() * 2);
     banRect_ = QRect(band_.center().x() - w / 2, band_.top(), w, band_.height());

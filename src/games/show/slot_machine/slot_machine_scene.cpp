@@ -26,13 +26,6 @@ constexpr int kJackpotMs = 3000;
 constexpr int kBannerMs = 300;
 constexpr double kWordAngle = 0.5;  // radians of the drum between two words
 
-QFont BoldFont(int px) {
-    QFont f("DejaVu Sans");
-    f.setBold(true);
-    f.setPixelSize(std::max(8, px));
-    return f;
-}
-
 double rnd(double lo, double hi) {
     return lo + QRandomGenerator::global()->generateDouble() * (hi - lo);
 }
@@ -142,7 +135,7 @@ void SlotScene::composeBack() {
     const QRectF sign = QRectF(marquee_).adjusted(marquee_.height() * 0.45, marquee_.height() * 0.2,
                                                   -marquee_.height() * 0.45, -marquee_.height() * 0.2);
     const QString text = QString("JACKPOT %1").arg(jackpotFor(game_.level()));
-    QFont f = BoldFont(int(sign.height() * 0.7));
+    QFont f = scene::boldFont(int(sign.height() * 0.7));
     while (f.pixelSize() > 10 && QFontMetricsF(f).horizontalAdvance(text) > sign.width()) f.setPixelSize(f.pixelSize() - 1);
     p.setFont(f);
     p.setPen(QColor(120, 30, 0));
@@ -192,7 +185,7 @@ const QPixmap& SlotScene::wordPicture(int entry) {
     const SharedState& s = Shared();
     const QString text = entry > 0 && entry < int(s.Words.size()) ? toQ(s.Words[entry]) : QString();
     // The largest letters that keep the word on its reel; a very long one is cut short.
-    QFont f = BoldFont(int(size.height() * 0.72));
+    QFont f = scene::boldFont(int(size.height() * 0.72));
     while (f.pixelSize() > 9 && QFontMetricsF(f).horizontalAdvance(text) > size.width()) f.setPixelSize(f.pixelSize() - 1);
     QPainter p(&pm);
     p.setRenderHint(QPainter::Antialiasing);
@@ -378,7 +371,7 @@ void SlotScene::paintBanner(QPainter& p) {
     const double k = 0.6 + 0.4 * easeOut(u) + 0.06 * std::sin(M_PI * u);
     const QRectF box(window_.left() + window_.width() * 0.06, window_.top() + window_.height() * 0.03,
                      window_.width() * 0.88, window_.height() * 0.28);
-    QFont f = BoldFont(int(box.height() * 0.55));
+    QFont f = scene::boldFont(int(box.height() * 0.55));
     while (f.pixelSize() > 10 && QFontMetricsF(f).horizontalAdvance(banner_) > box.width() * 0.92)
         f.setPixelSize(f.pixelSize() - 1);
     p.save();
