@@ -83,6 +83,11 @@ QStringList Faults(QWidget* screen) {
         const QString text = TextOf(w);
         if (text.trimmed().isEmpty()) continue;
         texts.push_back(w);
+        if (auto* button = qobject_cast<QAbstractButton*>(w)) {
+            const int need = QFontMetrics(button->font()).horizontalAdvance(QString(text).remove('&'));
+            if (need > r.width() - 4)
+                faults << QString("%1 needs %2 across and has %3").arg(Name(w)).arg(need).arg(r.width());
+        }
         auto* label = qobject_cast<QLabel*>(w);
         if (!label || label->textFormat() == Qt::RichText || Qt::mightBeRichText(text)) continue;
         const QRect room = label->contentsRect().adjusted(label->margin(), label->margin(),
