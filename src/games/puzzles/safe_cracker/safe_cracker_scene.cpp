@@ -43,6 +43,7 @@ void SafePicture::resize(QSize screen, const QRect& safeArea) {
     if (screen != size_) {
         size_ = screen;
         roomPixmap_ = scene::coverPicture(*room_, screen, QColor(34, 44, 58));
+        shutBack_ = QPixmap();
     }
     if (safeArea == safeArea_) return;
     safeArea_ = safeArea;
@@ -53,6 +54,8 @@ void SafePicture::resize(QSize screen, const QRect& safeArea) {
     const int b = int(std::clamp(safeArea.height() * 0.24, 48.0, 200.0));
     beaconRect_ = QRect(0, 0, b, b);
     cache_.clear();
+    tumblers_.clear();
+    shutBack_ = QPixmap();
     doorLayer_ = QPixmap();
 }
 
@@ -110,6 +113,28 @@ QRectF SafePicture::cellRect(int row, int col, int columns) const {
 }
 
 void SafePicture::paintTumbler(QPainter& p, const QRectF& r, const Tumbler& t, bool active) const {
+    // Sixty tumblers stand still for every one that turns: those at rest are drawn once.
+    if (t.flip <= 0 || t.flip >= 1) {
+        const QSize size = r.size().toSize();
+        const QString key = QString("%1|%2|%3|%4|%5x%6")
+                                .arg(t.letter).arg(t.mark).arg(t.flip >= 1).arg(active)
+                                .arg(size.width()).arg(size.height());
+        auto it = tumblers_.find(key);
+        if (it == tumblers_.end()) {
+            QPixmap pm(size + QSize(4, 4));
+            pm.fill(Qt::transparent);
+            QPainter q(&pm);
+            q.setRenderHints(p.renderHints());
+            drawTumbler(q, QRectF(QPointF(2, 2), QSizeF(size)), t, active);
+            it = tumblers_.insert(key, pm);
+        }
+        p.drawPixmap(r.topLeft().toPoint() - QPoint(2, 2), *it);
+        return;
+    }
+    drawTumbler(p, r, t, active);
+}
+
+void SafePicture::drawTumbler(QPainter& p, const QRectF& r, const Tumbler& t, bool active) const {
     QFont f("DejaVu Sans");
     f.setBold(true);
     f.setPixelSize(std::max(6, int(std::min(r.height() * 0.58, r.width() * 0.78))));
@@ -159,9 +184,11 @@ void SafePicture::paintTumbler(QPainter& p, const QRectF& r, const Tumbler& t, b
     }
 }
 
-void SafePicture::paintDoor(QPainter& p, const SafeView& v) const {
-    const QPixmap door = part("door");
-    if (!door.isNull()) p.drawPixmap(placed("door"), door);
+void SafePicture::paintDoor(QPainter& p, const SafeView& v, bool panel) const {
+    if (panel) {
+        const QPixmap door = part("door");
+        if (!door.isNull()) p.drawPixmap(placed("door"), door);
+    }
     for (int row = 0; row < int(v.rows.size()); ++row) {
         const bool active = row == v.activeRow;
         const double dx = active ? v.shake * scale_ : 0;
@@ -191,11 +218,24 @@ void SafePicture::paintSafe(QPainter& p, const SafeView& v) const {
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::SmoothPixmapTransform);
     const QPixmap body = part("body");
-    if (!body.isNull()) p.drawPixmap(placed("body"), body);
     if (v.door <= 0) {
+        const QRect back = safeRect_ & QRect(QPoint(0, 0), size_);
+        if (shutBack_.isNull()) {
+            // The shut safe stands still but for its tumblers, dial and handle: the room behind
+            // it, its body and its door's panel are laid once into one opaque picture.
+            shutBack_ = roomPixmap_.copy(back);
+            QPainter o(&shutBack_);
+            o.setRenderHints(p.renderHints());
+            o.translate(-back.topLeft());
+            if (!body.isNull()) o.drawPixmap(placed("body"), body);
+            const QPixmap door = part("door");
+            if (!door.isNull()) o.drawPixmap(placed("door"), door);
+        }
+        p.drawPixmap(back.topLeft(), shutBack_);
         doorLayer_ = QPixmap();
-        paintDoor(p, v);
+        paintDoor(p, v, false);
     } else {
+        if (!body.isNull()) p.drawPixmap(placed("body"), body);
         const QRectF doorRect = art_.mapRect(kDoor);
         const QPixmap inside = part("inside");
         if (!inside.isNull())

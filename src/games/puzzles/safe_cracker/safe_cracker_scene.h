@@ -4,6 +4,7 @@
 // a size; a frame only places them and paints the tumblers.
 #pragma once
 
+#include <QHash>
 #include <QPixmap>
 #include <QPolygonF>
 #include <QRect>
@@ -66,8 +67,9 @@ private:
     QPixmap part(const QString& id) const;
     QPoint placed(const QString& id) const;
     QPolygonF swung(double door) const;
-    void paintDoor(QPainter& p, const SafeView& v) const;
+    void paintDoor(QPainter& p, const SafeView& v, bool panel = true) const;
     void paintTumbler(QPainter& p, const QRectF& r, const Tumbler& t, bool active) const;
+    void drawTumbler(QPainter& p, const QRectF& r, const Tumbler& t, bool active) const;
     QPointF toScreen(QPointF art) const { return art_.map(art); }
 
     std::unique_ptr<QSvgRenderer> room_;
@@ -79,6 +81,8 @@ private:
     QPixmap roomPixmap_;
     mutable std::vector<std::pair<QString, QPixmap>> cache_;
     mutable QPixmap doorLayer_;  // the door with its rows, for the swing
+    mutable QPixmap shutBack_;   // the room, the body and the shut door's panel, as one
+    mutable QHash<QString, QPixmap> tumblers_;  // tumblers at rest, by letter, colour and size
     mutable QPixmap pointsPixmap_;
     mutable QString pointsText_;
 };
