@@ -3,6 +3,8 @@
 // pieces of broken ones flying.
 #include "screen_bench.h"
 
+#include <QKeyEvent>
+
 #include "games/action/break_thru/break_thru_screen.h"
 
 using namespace wm;
@@ -32,9 +34,16 @@ void BM_BreakThruFrame(benchmark::State& state) {
                 game.SetupGame();  // a fresh wall when the last one was spelled or lost
                 Ticker::get().advance(BreakThruForm::kReadyMs + 16);
             }
-            if (game.game().phase() == break_thru::Phase::Serve) game.rules().tick({0, true});
+            if (game.game().phase() == break_thru::Phase::Serve) {
+                // Space, as the pupil serves.
+                QKeyEvent press(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
+                QApplication::sendEvent(&game, &press);
+                Ticker::get().advance(16);
+                QKeyEvent release(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier);
+                QApplication::sendEvent(&game, &release);
+            }
             // Into the thick of the wall, at a slant.
-            game.rules().place(200 + n % 500, {400, 300 + n % 400, 12, 7});
+            game.rules().place(200 + n % 500, {400, 300.0 + n % 400, 12, 7});
         }
         if (n % 20 == 0) game.field()->struck(n % 40 ? wrong : hit, 10);
         ++n;

@@ -136,9 +136,19 @@ QRectF BreakField::wordRect() const {
 }
 
 QRectF BreakField::effectRect(const Effect& e) const {
-    const double r = e.kind == Effect::Firework ? 170 : e.kind == Effect::Spark ? 40 : 120;
-    const double up = (e.kind == Effect::Shards || e.kind == Effect::Flash) ? 110 : 0;
-    return QRectF(e.x - r, e.y - r - up, 2 * r, 2 * r + up);
+    switch (e.kind) {
+        case Effect::Shards:  // the pieces fly and fall; the points rise above
+            return QRectF(e.x - 110, e.y - 140, 220, 330);
+        case Effect::Flash:
+            return QRectF(e.x - 80, e.y - 140, 160, 200);
+        case Effect::Spark:
+            return QRectF(e.x - 40, e.y - 40, 80, 80);
+        case Effect::Miss:
+            return QRectF(e.x - 120, e.y - 120, 240, 240);
+        case Effect::Firework:
+            break;
+    }
+    return QRectF(e.x - 170, e.y - 170, 340, 340);
 }
 
 QRectF BreakField::callRect() const {
@@ -181,10 +191,11 @@ void BreakField::buildScene() {
     ball_ = sprite("ball_0", QSizeF(2 * kBallR + 4, 2 * kBallR + 4));
     glow_ = sprite("glow_0", QSizeF(90, 90));
     brickArt_.clear();
-    for (int c = 0; c < kColours; ++c)
+    for (int c = 0; c <= kColours; ++c)
         brickArt_.push_back(sprite(QString("brick_%1").arg(c), QSizeF(kBrickW, kBrickH)));
     brickCache_.clear();
     callPictureOf_.clear();
+    paddleDrawn_ = -1;
     wordState_.clear();
     drawn_.clear();
     update();
@@ -194,7 +205,8 @@ const QPixmap& BreakField::brickPicture(int colour, char letter) {
     const int key = colour * 256 + static_cast<unsigned char>(letter);
     auto it = brickCache_.find(key);
     if (it != brickCache_.end()) return it->second;
-    QPixmap pm = brickArt_.empty() ? QPixmap() : brickArt_[colour];
+    // The last colour is the red glow of a wrong hit.
+    QPixmap pm = int(brickArt_.size()) > colour ? brickArt_[colour] : QPixmap();
     if (!pm.isNull()) {
         QPainter p(&pm);
         p.setRenderHint(QPainter::Antialiasing);
@@ -229,7 +241,15 @@ void BreakField::step() {
     }
     for (int k = 0; k < int(trail_.size()); ++k)
         mark(1000 + k, QRectF(trail_[k].x() - 16, trail_[k].y() - 16, 32, 32));
-    mark(1, QRectF(kPaddleX - 12, game_.paddleY() - 90, 48, 180));
+    // The paddle is repainted only when it moves, over its old and new places.
+    if (game_.paddleY() != paddleDrawn_) {
+        paddleDrawn_ = game_.paddleY();
+        const QRect now = toWidget(QRectF(kPaddleX - 12, paddleDrawn_ - 90, 48, 180))
+                              .toAlignedRect()
+                              .adjusted(-2, -2, 2, 2);
+        update(paddleRect_.united(now));
+        paddleRect_ = now;
+    }
     const auto& bricks = game_.bricks();
     for (int i = 0; i < int(bricks.size()); ++i) {
         const Brick& b = bricks[i];
@@ -356,43 +376,39 @@ void BreakField::paintBricks(QPainter& p, qint64 t, const QRegion& region) {
         p.drawPixmap(at.topLeft(), pm);
         if (b.flash > 0) {
             // A wrong hit: the brick glows red and fades back.
-            p.setPen(Qt::NoPen);
-            p.setBrush(QColor(255, 40, 40, int(200.0 * b.flash / kFlashTicks)));
-            p.drawRoundedRect(at, 8 * scale_, 8 * scale_);
-            paintOutlined(p, QString::fromLatin1(&b.letter, 1), boldFont(36 * scale_),
-                          at.center(), Qt::white, QColor(110, 0, 0), std::max(2.0, 5 * scale_));
+            p.setOpacity(double(b.flash) / kFlashTicks);
+            p.drawPixmap(at.topLeft(), brickPicture(kColours, b.letter));
+            p.setOpacity(1);
         }
     }
 }
 
 void BreakField::paintCall(QPainter& p, qint64 t) {
     const QRectF box = toWidget(callRect());
-    const QRectF big(box.left(), box.top(), box.width(), box.height() * 0.66);
-    if (!call_.isEmpty()) {
-        if (callPictureOf_ != call_) {
-            QFont f = boldFont(big.height() * 0.62);
-            while (f.pixelSize() > 8 &&
-                   QFontMetricsF(f).horizontalAdvance(call_) > big.width() * 0.94)
-                f.setPixelSize(f.pixelSize() - 2);
-            callPicture_ = QPixmap(big.size().toSize());
-            callPicture_.fill(Qt::transparent);
-            QPainter cp(&callPicture_);
-            cp.setRenderHint(QPainter::Antialiasing);
-            paintOutlined(cp, call_, f, QPointF(callPicture_.rect().center()),
-                          QColor(255, 226, 80), QColor(70, 20, 110), std::max(3.0, 10 * scale_));
-            callPictureOf_ = call_;
-        }
-        const double pop = scene::easeOut(double(t - callAt_) / 300.0);
-        p.setOpacity(pop);
-        p.drawPixmap(big.topLeft() + QPointF(0, -(1 - pop) * 30 * scale_), callPicture_);
-        p.setOpacity(1);
+    // The call and the hint under it are drawn once, then only shown.
+    const QString key = call_ + '\n' + hint_;
+    if (callPictureOf_ != key) {
+        callPicture_ = QPixmap(box.size().toSize());
+        callPicture_.fill(Qt::transparent);
+        QPainter cp(&callPicture_);
+        cp.setRenderHint(QPainter::Antialiasing);
+        const QRectF big(0, 0, box.width(), box.height() * 0.66);
+        QFont f = boldFont(big.height() * 0.62);
+        while (f.pixelSize() > 8 && QFontMetricsF(f).horizontalAdvance(call_) > big.width() * 0.94)
+            f.setPixelSize(f.pixelSize() - 2);
+        if (!call_.isEmpty())
+            paintOutlined(cp, call_, f, big.center(), QColor(255, 226, 80), QColor(70, 20, 110),
+                          std::max(3.0, 10 * scale_));
+        const QRectF line(0, box.height() * 0.68, box.width(), box.height() * 0.3);
+        if (!hint_.isEmpty())
+            paintOutlined(cp, hint_, boldFont(line.height() * 0.55), line.center(),
+                          QColor(255, 255, 255), QColor(30, 30, 90), std::max(2.0, 6 * scale_));
+        callPictureOf_ = key;
     }
-    if (!hint_.isEmpty()) {
-        const QRectF line(box.left(), box.top() + box.height() * 0.68, box.width(),
-                          box.height() * 0.3);
-        paintOutlined(p, hint_, boldFont(line.height() * 0.55), line.center(),
-                      QColor(255, 255, 255), QColor(30, 30, 90), std::max(2.0, 6 * scale_));
-    }
+    const double pop = scene::easeOut(double(t - callAt_) / 300.0);
+    p.setOpacity(pop);
+    p.drawPixmap(box.topLeft() + QPointF(0, -(1 - pop) * 30 * scale_), callPicture_);
+    p.setOpacity(1);
 }
 
 void BreakField::paintEffect(QPainter& p, const Effect& e, qint64 t) {
@@ -419,12 +435,13 @@ void BreakField::paintEffect(QPainter& p, const Effect& e, qint64 t) {
                 }
                 scene::paintSparkle(p, c, 40 * s * (1 - u), u * 90, 1 - u);
             }
-            p.setPen(QPen(scene::withAlpha(e.kind == Effect::Shards ? QColor(255, 255, 255)
-                                                                     : QColor(255, 80, 70),
+            const bool right = e.kind == Effect::Shards;
+            p.setPen(QPen(scene::withAlpha(right ? QColor(255, 255, 255) : QColor(255, 80, 70),
                                            1 - u),
                           4 * s));
             p.setBrush(Qt::NoBrush);
-            p.drawEllipse(c, 30 * s + 70 * s * u, 22 * s + 50 * s * u);
+            const double ring = right ? 70 : 36;
+            p.drawEllipse(c, (30 + ring * u) * s, (22 + ring * 0.7 * u) * s);
             p.setOpacity(1 - u * u);
             const QPointF at = c - QPointF(0, 40 * s + u * 60 * s);
             p.drawPixmap(at - QPointF(e.label.width() / 2.0, e.label.height() / 2.0), e.label);

@@ -80,6 +80,8 @@ private:
     qint64 tumbleAt_ = -1;
     bool won_ = false;
     int fireworks_ = 0;
+    double paddleDrawn_ = -1;  // where the paddle was last drawn
+    QRect paddleRect_;
     std::string wordState_;
 };
 
