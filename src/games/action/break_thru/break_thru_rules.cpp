@@ -72,11 +72,8 @@ bool Game::nextWord(SharedState& s, Rng& rng) {
     if (words_ >= level_ || !drawWord(s, rng)) return false;
     ++words_;
     done_.assign(word_.size(), false);
-    next_ = -1;
-    for (std::size_t i = 0; i < word_.size(); ++i) {
-        done_[i] = !isBrick(word_[i]);
-        if (!done_[i] && next_ < 0) next_ = int(i);
-    }
+    for (std::size_t i = 0; i < word_.size(); ++i) done_[i] = !isBrick(word_[i]);
+    findNext(0);
     buildWall(rng);
     restOnPaddle();
     phase_ = Phase::Ready;
@@ -117,6 +114,11 @@ void Game::buildWall(Rng& rng) {
         free.erase(free.begin() + (k - 1));
     }
     bricks_ = std::move(set);
+}
+
+void Game::findNext(int from) {
+    const auto it = std::find(done_.begin() + from, done_.end(), false);
+    next_ = it == done_.end() ? -1 : int(it - done_.begin());
 }
 
 void Game::restOnPaddle() {
@@ -245,10 +247,7 @@ void Game::hit(int i, std::vector<Event>& ev) {
     score_ += 10 * words_;
     done_[next_] = true;
     ev.push_back({Event::Broke, i, br.x() + kBrickW / 2, br.y() + kBrickH / 2, 10 * words_});
-    const int from = next_;
-    next_ = -1;
-    for (std::size_t k = from + 1; k < word_.size() && next_ < 0; ++k)
-        if (!done_[k]) next_ = int(k);
+    findNext(next_ + 1);
     if (next_ >= 0) return;
     phase_ = words_ >= level_ ? Phase::Won : Phase::Spelled;
     ev.push_back({Event::Spelled});

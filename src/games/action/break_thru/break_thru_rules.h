@@ -115,6 +115,7 @@ private:
     void buildWall(Rng& rng);
     void serve();
     void restOnPaddle();
+    void findNext(int from);  // the first letter still to break, from `from` on
     void move(double dx, double dy, std::vector<Event>& ev);
     void hit(int i, std::vector<Event>& ev);
 

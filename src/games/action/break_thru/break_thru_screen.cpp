@@ -99,7 +99,6 @@ void BreakThruForm::getReady() {
     sound().effect("breakthruready.wav");
     frame_.pauseThen(kReadyMs, [this] {
         game_.go();
-        keys_.clear();
         field_->setCall({}, kServe);
     });
 }
@@ -135,10 +134,8 @@ void BreakThruForm::frameTick() {
             case Event::Missed:
                 field_->missed(e);
                 sound().effect("breakthrumiss.wav", SoundMode::Overlap);
-                if (game_.phase() == Phase::Serve) {
-                    keys_.clear();
+                if (game_.phase() == Phase::Serve)
                     field_->setCall(game_.ballsLeft() == 1 ? "Last ball!" : "Missed!", kServe);
-                }
                 break;
             case Event::Spelled:
                 if (game_.phase() != Phase::Spelled) break;
@@ -172,7 +169,7 @@ void BreakThruForm::frameTick() {
                 });
                 break;
         }
-        if (e.kind != Event::Paddle && e.kind != Event::Wall) showProgress();
+        showProgress();
     }
     field_->step();
 }
@@ -186,9 +183,15 @@ void BreakThruForm::showWord() {
 }
 
 void BreakThruForm::showProgress() {
-    WordLabel->setText(QString("Word %1 of %2").arg(game_.wordNumber()).arg(game_.level()));
-    ScoreLabel->setText(QString("Score: %1").arg(game_.score()));
-    BallsLabel->setText(QString("Balls: %1").arg(game_.ballsLeft()));
+    const QString word = QString("Word %1 of %2").arg(game_.wordNumber()).arg(game_.level());
+    const QString score = QString("Score: %1").arg(game_.score());
+    const QString balls = QString("Balls: %1").arg(game_.ballsLeft());
+    // Laid out again only when a plate's text changes, not at every bounce.
+    if (WordLabel->text() == word && ScoreLabel->text() == score && BallsLabel->text() == balls)
+        return;
+    WordLabel->setText(word);
+    ScoreLabel->setText(score);
+    BallsLabel->setText(balls);
     resizeEvent(nullptr);
 }
 
