@@ -42,7 +42,7 @@ bool isBrick(char c) {
     if (b >= '0' && b <= '9') return true;
     // Letters of any language the code page holds: those with two cases, and the accented
     // letters without a capital of their own.
-    const std::string one(1, c);
+    const std::string one{c};
     if (UCase(one) != LCase(one)) return true;
     return b >= 0xC0 && b != 0xD7 && b != 0xF7;
 }
@@ -86,7 +86,7 @@ void Game::buildWall(Rng& rng) {
     for (char c : word_) {
         if (!isBrick(c)) continue;
         Brick b;
-        b.letter = UCase(std::string(1, c))[0];
+        b.letter = UCase(std::string{c})[0];
         set.push_back(b);
         inWord += b.letter;
     }
@@ -116,9 +116,10 @@ void Game::buildWall(Rng& rng) {
     bricks_ = std::move(set);
 }
 
-void Game::findNext(int from) {
+bool Game::findNext(int from) {
     const auto it = std::find(done_.begin() + from, done_.end(), false);
     next_ = it == done_.end() ? -1 : int(it - done_.begin());
+    return it != done_.end();
 }
 
 void Game::restOnPaddle() {
@@ -233,7 +234,7 @@ void Game::move(double dx, double dy, std::vector<Event>& ev) {
 
 void Game::hit(int i, std::vector<Event>& ev) {
     Brick& br = bricks_[i];
-    const bool right = next_ >= 0 && UCase(std::string(1, word_[next_]))[0] == br.letter;
+    const bool right = next_ >= 0 && UCase(std::string{word_[next_]})[0] == br.letter;
     if (!right) {
         // A brick still glowing from the last hit costs nothing more; points never go below
         // nothing.
@@ -247,8 +248,7 @@ void Game::hit(int i, std::vector<Event>& ev) {
     score_ += 10 * words_;
     done_[next_] = true;
     ev.push_back({Event::Broke, i, br.x() + kBrickW / 2, br.y() + kBrickH / 2, 10 * words_});
-    findNext(next_ + 1);
-    if (next_ >= 0) return;
+    if (findNext(next_ + 1)) return;
     phase_ = words_ >= level_ ? Phase::Won : Phase::Spelled;
     ev.push_back({Event::Spelled});
     if (phase_ == Phase::Won) ev.push_back({Event::Won});

@@ -115,7 +115,8 @@ private:
     void buildWall(Rng& rng);
     void serve();
     void restOnPaddle();
-    void findNext(int from);  // the first letter still to break, from `from` on
+    // The first letter still to break, from `from` on; false when none is left.
+    bool findNext(int from);
     void move(double dx, double dy, std::vector<Event>& ev);
     void hit(int i, std::vector<Event>& ev);
 

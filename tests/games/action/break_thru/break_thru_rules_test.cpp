@@ -52,9 +52,8 @@ std::vector<Event> Spell(Game& g) {
 }  // namespace
 
 TEST(BreakThruNumbers, SpeedTextAndBricks) {
-    EXPECT_DOUBLE_EQ(ballSpeed(1), 8);
-    EXPECT_DOUBLE_EQ(ballSpeed(2), 8.4);
-    EXPECT_DOUBLE_EQ(ballSpeed(3), 8.82);
+    for (auto [word, speed] : {std::pair{1, 8.0}, {2, 8.4}, {3, 8.82}})
+        EXPECT_DOUBLE_EQ(ballSpeed(word), speed);
     EXPECT_EQ(lostText("owl"), "Out of balls! The word was owl.");
     for (char c : std::string("aZ7\xE9\xC9\xDF\xFF")) EXPECT_TRUE(isBrick(c)) << c;
     for (char c : std::string(" -'.\xD7\xF7")) EXPECT_FALSE(isBrick(c)) << c;
@@ -68,17 +67,16 @@ TEST(BreakThruStart, DrawsWordDecoysAndSlotsInThatOrder) {
     rng.pick(1, 3).pick(2, 3).then(0.0).then(0.999).pick(2, 24).then(0.0).pick(8, 8).then(0.0);
     Game g;
     ASSERT_TRUE(g.start(s, rng));
-    EXPECT_EQ(rng.randomizeCount, 1);
-    EXPECT_EQ(s.TheWord, "ox");
-    EXPECT_EQ(s.TheMeaning, "meaning of ox");
+    EXPECT_EQ(std::tuple(rng.randomizeCount, s.TheWord, s.TheMeaning),
+              std::tuple(1, "ox", "meaning of ox"));
     std::string letters;
     for (const Brick& b : g.bricks()) letters += b.letter;
     EXPECT_EQ(letters, "OXAZBA");
     // O the last of eight slots, X the first, the first decoy the fifth of the six left.
     EXPECT_EQ(std::tuple(g.columns(), g.bricks()[0].row, g.bricks()[1].row, g.bricks()[2].row),
               std::tuple(1, 7, 0, 4));
-    EXPECT_EQ(rng.draws, 2 + 4 + 6);
-    EXPECT_EQ(std::tuple(g.phase(), g.ballsLeft(), g.level()), std::tuple(Phase::Ready, 3, 9));
+    EXPECT_EQ(std::tuple(rng.draws, g.phase(), g.ballsLeft(), g.level()),
+              std::tuple(2 + 4 + 6, Phase::Ready, 3, 9));
     // Sixteen letters: 48 bricks in six columns of eight, no two in one slot.
     SharedState big = ListOf({"abcdefghijklmnop"}, 2);
     ASSERT_TRUE(g.start(big, rng));
@@ -97,11 +95,8 @@ TEST(BreakThruStart, LevelHeldAndListsThatCannotPlayRefused) {
     for (auto [given, held] : {std::pair{1, 2}, {2, 2}, {20, 20}, {25, 20}}) {
         SharedState s = ListOf({"cat"}, given);
         Game g;
-        ASSERT_TRUE(g.start(s, rng));
-        EXPECT_EQ(g.level(), held) << given;
+        EXPECT_TRUE(g.start(s, rng) && g.level() == held) << given;
     }
-    SharedState fits = ListOf({"abcdefghijklmnop"}, 4);
-    EXPECT_TRUE(Game().start(fits, rng));
     for (auto words : {std::vector<std::string>{"abcdefghijklmnopq"}, {"- '"},
                        std::vector<std::string>{}}) {
         SharedState s = ListOf(words, 4);
@@ -152,7 +147,8 @@ TEST(BreakThruCourt, FencesTheBackWallAndBricksTurnTheBall) {
     g.tick({0, true});
     EXPECT_NEAR(std::atan2(g.ball().vy, g.ball().vx) * 180 / M_PI, -25, 1e-9);  // from the middle
     // The fences at 210 and 890 and the back wall at 1584; a brick met from below turns the ball
-    // down again, near its corners too.
+    // down again, near its corners too; met on its face near the top, back to the paddle; met from
+    // above, even slowly, up again.
     const Brick& b = g.bricks().back();  // a decoy
     for (auto [kind, x, y, vx, vy, wantVx, wantVy] :
          {std::tuple{Event::Wall, 400.0, 225.0, 4.0, -6.0, 4.0, 6.0},
@@ -160,7 +156,9 @@ TEST(BreakThruCourt, FencesTheBackWallAndBricksTurnTheBall) {
           {Event::Wall, 1569.0, 240.0, 6.0, 4.0, -6.0, 4.0},
           {Event::Wrong, b.x() + 37, b.y() + 67, 2.0, -8.0, 2.0, 8.0},
           {Event::Wrong, b.x() - 5, b.y() + 66, 2.0, -8.0, 2.0, 8.0},
-          {Event::Wrong, b.x() + 72, b.y() + 67, -2.0, -8.0, -2.0, 8.0}}) {
+          {Event::Wrong, b.x() + 72, b.y() + 67, -2.0, -8.0, -2.0, 8.0},
+          {Event::Wrong, b.x() - 15, b.y() + 8, 8.0, 2.0, -8.0, 2.0},
+          {Event::Wrong, b.x() + 37, b.y() - 13.2, 0.0, 0.5, 0.0, -0.5}}) {
         g.place(550, {x, y, vx, vy});
         EXPECT_EQ(g.tick({}).at(0).kind, kind) << x;
         EXPECT_EQ(std::pair(g.ball().vx, g.ball().vy), std::pair(wantVx, wantVy)) << x;
@@ -201,7 +199,6 @@ TEST(BreakThruBricks, InOrderScoresByTheWordAndWrongCostsOnce) {
     g.go();
     g.tick({0, true});
     EXPECT_NEAR(std::hypot(g.ball().vx, g.ball().vy), 8.4, 1e-9);
-    EXPECT_EQ(Strike(g, Find(g, std::toupper(s.TheWord[0]))).at(0).points, 20);
 }
 
 TEST(BreakThruEnd, AllWordsWinThreeBallsLose) {

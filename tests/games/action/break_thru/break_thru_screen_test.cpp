@@ -48,12 +48,12 @@ void BreakThruScreenTest::twoWordsWonWithTheKeys() {
     auto* game = qobject_cast<BreakThruForm*>(PlayFromTitle("BreakThru", "Farm", 2));
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump();
-    QCOMPARE(game->field()->call() + " " + game->field()->hint(), "Get ready! Word 1 of 2");
-    QVERIFY(fx.sound.played.contains("breakthruready.wav"));
+    QCOMPARE(game->field()->call() + " " + game->field()->hint() + " " +
+                 LabelText(game, "BallsLabel"),
+             "Get ready! Word 1 of 2 Balls: 3");
     QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
-    QVERIFY(game->findChild<QLabel*>("Label1")->isVisible());
-    QVERIFY(fx.music.opened.endsWith("sounds/breakthru.mid"));
-    QCOMPARE(LabelText(game, "BallsLabel"), "Balls: 3");
+    QVERIFY(game->findChild<QLabel*>("Label1")->isVisible() &&
+            fx.music.opened.endsWith("sounds/breakthru.mid"));
     Pump(BreakThruForm::kReadyMs);
     QCOMPARE(game->field()->hint(), "Press Space to serve!");
     // Up held for twenty frames: the paddle and the ball on it rise 13 units a frame.
@@ -63,7 +63,6 @@ void BreakThruScreenTest::twoWordsWonWithTheKeys() {
     QCOMPARE(game->game().paddleY(), 550.0 - 20 * 13);
     Serve(game);
     QCOMPARE(game->field()->hint(), "");
-    QVERIFY(fx.sound.played.contains("breakthruserve.wav"));
     // A ball coming back low: Down held brings the paddle under it, and it goes back out.
     game->rules().place(game->game().paddleY(), {500, 560, -8, 0});
     SendKey(game, Qt::Key_Down);
@@ -71,7 +70,6 @@ void BreakThruScreenTest::twoWordsWonWithTheKeys() {
     SendKey(game, Qt::Key_Down, QEvent::KeyRelease);
     for (int t = 0; t < 40 && game->game().ball().vx < 0; ++t) Pump(16);
     QVERIFY(game->game().ball().vx > 0);
-    QVERIFY(fx.sound.played.contains("breakthrupaddle.wav"));
 
     int score = 0;
     for (int w = 1; w <= 2; ++w) {
@@ -92,10 +90,8 @@ void BreakThruScreenTest::twoWordsWonWithTheKeys() {
             score += 10 * w;
             QCOMPARE(LabelText(game, "ScoreLabel"), QString("Score: %1").arg(score));
         }
-        QVERIFY(fx.sound.played.contains("breakthrubreak.wav"));
         if (w == 1) {
             QCOMPARE(game->field()->call(), "Well done!");
-            QVERIFY(fx.sound.played.contains("breakthruword.wav"));
             Pump(BreakThruForm::kWordMs);
             QCOMPARE(game->field()->hint(), "Word 2 of 2");
             Pump(BreakThruForm::kReadyMs);
@@ -103,7 +99,9 @@ void BreakThruScreenTest::twoWordsWonWithTheKeys() {
         }
     }
     QCOMPARE(game->field()->call(), "You broke through!");
-    QVERIFY(fx.sound.played.contains("breakthruwin.wav"));
+    for (const char* effect : {"breakthruready.wav", "breakthruserve.wav", "breakthrupaddle.wav",
+                               "breakthrubreak.wav", "breakthruword.wav", "breakthruwin.wav"})
+        QVERIFY2(fx.sound.played.contains(effect), effect);
     Shot(game, "breakthru-win");
     fx.dialogs.answerYes(false);
     Pump(BreakThruForm::kEndMs);
@@ -137,7 +135,6 @@ void BreakThruScreenTest::outOfBallsLoses() {
     QCOMPARE(game->field()->hint(), "");
     for (const char* effect : {"breakthruwall.wav", "breakthrumiss.wav", "breakthrulose.wav"})
         QVERIFY2(fx.sound.played.contains(effect), effect);
-    Shot(game, "breakthru-lost");
     fx.dialogs.answerYes(true);
     Pump(BreakThruForm::kEndMs);
     QCOMPARE(fx.dialogs.last(), "Out of balls! The word was ox. Would you like to try again?");
