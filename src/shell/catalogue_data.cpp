@@ -198,10 +198,13 @@ std::vector<GameCard> BuildCatalogue() {
 
     cards.push_back(Card(
         "BreakThru", Elig(WO::Allowed, "", "GameOptions"), Clamped(2, 20, 10),
-        "On the right side of the screen will be a wall of letter bricks. Use the up and down "
-        "arrow keys to move your paddle and bounce the ball into the wall. Knock out the letters "
-        "in order to spell the word shown at the top. A wrong brick costs points, and a ball "
-        "that gets past your paddle is lost. Spell every word to break through!"));
+        "On the right side of the screen will be a wall of letter bricks. Your word is at the "
+        "top with its next letter lit up, and its meaning is just below it. Move your paddle "
+        "with the up and down arrow keys and press the space bar to serve. Bounce the ball into "
+        "the wall and knock out the word's letters in order. A wrong brick flashes red and "
+        "costs 5 points. A ball that gets past your paddle is lost, and you only have three! "
+        "Each new word brings a new wall and a faster ball. Spell all your words to break "
+        "through!"));
 
     cards.push_back(Card(
         "Letter Drop", Elig(WO::WarnIfOption, kMsgW1, "LetterFall"), Slider(30, 240, 90, Shown),
