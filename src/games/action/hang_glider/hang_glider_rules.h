@@ -24,7 +24,7 @@ constexpr int kMaxLength = 20;  // longer words do not fit the plate at the top;
 // The world.
 constexpr double kWorldW = 1600, kWorldH = 900;
 constexpr double kGliderX = 533;  // the left third
-constexpr double kSkyTop = 200;   // the highest the glider flies: under the word and the clue
+constexpr double kSkyTop = 230;   // the highest the glider flies: under the word and the clue
 constexpr double kGroundY = 820;  // the glider's keel touching this has landed
 constexpr double kKeel = 30;      // centre to keel
 constexpr double kStartY = 330;
