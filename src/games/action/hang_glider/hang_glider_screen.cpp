@@ -201,7 +201,10 @@ void HangGlider::resizeEvent(QResizeEvent*) {
         f.setPixelSize(f.pixelSize() - 1);
     }
     Label1->setFont(f);
-    Label1->setGeometry(clue);
+    // A short clue gets a snug box rather than the whole width.
+    const int snug = QFontMetrics(f).horizontalAdvance(meaning) + 80;
+    const int w = std::clamp(snug, std::min(int(420 * s), clue.width()), clue.width());
+    Label1->setGeometry(clue.center().x() - w / 2, clue.y(), w, clue.height());
     const QFont plate = Bold(int(22 * s));
     for (QLabel* l : {LevelLabel, WordLabel, ScoreLabel}) {
         l->setFont(plate);
