@@ -1,5 +1,6 @@
 #include "games/action/hang_glider/hang_glider_sky.h"
 
+#include <QImage>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -183,22 +184,33 @@ void GliderSky::buildScene() {
     for (const auto& r : ranges) {
         Layer layer;
         layer.factor = r.pace;
+        layer.width = tileW;
         layer.top = int(std::lround(origin_.y() + r.top * scale_));
         const int h = std::max(1, height() - layer.top);
-        layer.tile = QPixmap(tileW, h);
-        if (r.opaque) {
-            layer.tile.fill(QColor(120, 190, 240));
-        } else {
-            layer.tile.fill(Qt::transparent);
+        QImage tile(tileW, h, QImage::Format_ARGB32_Premultiplied);
+        tile.fill(r.opaque ? QColor(120, 190, 240) : QColor(Qt::transparent));
+        {
+            QPainter p(&tile);
+            if (r.opaque) p.drawPixmap(QRect(0, 0, tileW, h), sky_, QRect(0, layer.top, 1, h));
+            p.setRenderHint(QPainter::Antialiasing);
+            if (land.isValid() && land.elementExists(r.id)) {
+                // The world's part of the range; below it (a taller screen) its foot stretched.
+                const double worldH = (kWorldH - r.top) * scale_;
+                land.render(&p, r.id, QRectF(0, 0, tileW, std::max<double>(worldH, h)));
+            }
         }
-        QPainter p(&layer.tile);
-        if (r.opaque) p.drawPixmap(QRect(0, 0, tileW, h), sky_, QRect(0, layer.top, 1, h));
-        p.setRenderHint(QPainter::Antialiasing);
-        if (land.isValid() && land.elementExists(r.id)) {
-            // The world's part of the range, and below it (a taller screen) its foot stretched.
-            const double worldH = (kWorldH - r.top) * scale_;
-            land.render(&p, r.id, QRectF(0, 0, tileW, std::max<double>(worldH, h)));
+        // The first row from which the range hides everything behind it.
+        int solid = h;
+        while (solid > 0) {
+            const auto* row = reinterpret_cast<const QRgb*>(tile.constScanLine(solid - 1));
+            if (std::any_of(row, row + tileW, [](QRgb px) { return qAlpha(px) < 255; })) break;
+            --solid;
         }
+        layer.solid = layer.top + solid;
+        if (solid > 0) layer.upper = QPixmap::fromImage(tile.copy(0, 0, tileW, solid));
+        if (solid < h)
+            layer.lower = QPixmap::fromImage(
+                tile.copy(0, solid, tileW, h - solid).convertToFormat(QImage::Format_RGB32));
         layers_.push_back(std::move(layer));
     }
 
@@ -218,7 +230,17 @@ void GliderSky::buildScene() {
     cloud_ = sprite("cloud_0", QSizeF(kCloudW, kCloudH));
     puffs_.clear();
     for (int i = 0; i < 3; ++i) puffs_.push_back(sprite(QString("puff_%1").arg(i), {300, 120}));
+    // A sparkle drawn once: the bursts only move and fade it.
+    const int tw = std::max(4, int(40 * scale_));
+    twinkle_ = QPixmap(tw, tw);
+    twinkle_.fill(Qt::transparent);
+    {
+        QPainter p(&twinkle_);
+        p.setRenderHint(QPainter::Antialiasing);
+        scene::paintSparkle(p, QPointF(tw / 2.0, tw / 2.0), tw / 3.0, 0, 1);
+    }
     letterCache_.clear();
+    gliderTurns_.clear();
     wordPictureOf_.clear();
     callPictureOf_.clear();
     drawn_.clear();
@@ -240,10 +262,25 @@ const QPixmap& GliderSky::letterPicture(char letter) {
     return letterCache_[key] = pm;
 }
 
-// The word on its plate: letters flown through in green, the next one lit, the rest waiting.
+// Where the word's `i`th tile stands on the plate.
+QRectF GliderSky::tileRect(int i) const {
+    const int n = std::max<int>(1, int(game_.word().size()));
+    const QRectF plate = wordRect();
+    const double step = std::min(62.0, 960.0 / n);
+    const double tile = step * 0.9;
+    const double x0 = plate.center().x() - step * n / 2;
+    return QRectF(x0 + i * step + (step - tile) / 2, plate.center().y() - tile / 2, tile, tile);
+}
+
+bool GliderSky::nextLit() const {
+    return game_.phase() == Phase::Ready || game_.phase() == Phase::Flying;
+}
+
+// The word on its plate: letters flown through in green, the rest waiting. The next letter is
+// drawn lit over it, as it glows.
 const QPixmap& GliderSky::wordPicture() {
-    const qint64 glow = (now() / 90) % 12;
-    const QString state = QString("%1|%2|%3").arg(toQ(game_.word())).arg(game_.done()).arg(glow);
+    const QString state =
+        QString("%1|%2|%3").arg(toQ(game_.word())).arg(game_.done()).arg(nextLit());
     if (state == wordPictureOf_) return wordPicture_;
     wordPictureOf_ = state;
     const QRectF box = toWidget(wordRect());
@@ -252,37 +289,33 @@ const QPixmap& GliderSky::wordPicture() {
     QPainter p(&wordPicture_);
     p.setRenderHint(QPainter::Antialiasing);
     const std::string& word = game_.word();
-    const int n = std::max<int>(1, int(word.size()));
-    const double s = scale_;
-    const double step = std::min(62.0, 960.0 / n) * s;
-    const double tile = step * 0.9;
-    const double x0 = (box.width() - step * n) / 2;
-    const double y0 = (box.height() - tile) / 2;
-    const double pulse = 0.5 + 0.5 * std::sin(glow * 2 * kPi / 12);
     for (int i = 0; i < int(word.size()); ++i) {
-        const QRectF r(x0 + i * step + (step - tile) / 2, y0, tile, tile);
+        const QRectF r = toWidget(tileRect(i)).translated(-box.topLeft());
         const char c = word[i];
         if (!isLetter(c)) {
             if (c != ' ')
-                paintOutlined(p, toQ(std::string(1, c)), boldFont(tile * 0.7), r.center(),
-                              Qt::white, QColor(20, 40, 90), std::max(1.5, 4 * s));
+                paintOutlined(p, toQ(std::string(1, c)), boldFont(r.height() * 0.7), r.center(),
+                              Qt::white, QColor(20, 40, 90), std::max(1.5, 4 * scale_));
             continue;
         }
-        const QString letter = toQ(std::string(1, c)).toUpper();
-        if (i < game_.done()) {
-            scene::paintLetterTile(p, r, QColor(60, 170, 80), letter);
-        } else if (i == game_.done() && !game_.over() &&
-                   game_.phase() != Phase::Spelled) {
-            p.setPen(Qt::NoPen);
-            p.setBrush(scene::withAlpha(QColor(255, 230, 90), 0.35 + 0.35 * pulse));
-            p.drawEllipse(r.center(), tile * (0.68 + 0.08 * pulse), tile * (0.68 + 0.08 * pulse));
-            scene::paintLetterTile(p, r.translated(0, -tile * 0.06 * pulse),
-                                   QColor(245, 140, 30), letter);
-        } else {
-            scene::paintLetterTile(p, r, QColor(90, 115, 165), letter);
-        }
+        if (i == game_.done() && nextLit()) continue;
+        scene::paintLetterTile(p, r, i < game_.done() ? QColor(60, 170, 80) : QColor(90, 115, 165),
+                               toQ(std::string(1, c)).toUpper());
     }
     return wordPicture_;
+}
+
+void GliderSky::paintLit(QPainter& p, qint64 t) {
+    const int i = game_.done();
+    if (!nextLit() || i >= int(game_.word().size())) return;
+    const double pulse = 0.5 + 0.5 * std::sin(((t / 90) % 12) * 2 * kPi / 12);
+    const QRectF r = toWidget(tileRect(i));
+    const double tile = r.height();
+    p.setPen(Qt::NoPen);
+    p.setBrush(scene::withAlpha(QColor(255, 230, 90), 0.35 + 0.35 * pulse));
+    p.drawEllipse(r.center(), tile * (0.68 + 0.08 * pulse), tile * (0.68 + 0.08 * pulse));
+    scene::paintLetterTile(p, r.translated(0, -tile * 0.06 * pulse), QColor(245, 140, 30),
+                           toQ(std::string(1, game_.word()[i])).toUpper());
 }
 
 // --- what moves -------------------------------------------------------------------------
@@ -326,11 +359,16 @@ void GliderSky::step() {
     for (int k = 0; k < int(effects_.size()); ++k) mark(2000 + k, effectRect(effects_[k]));
 
     const QString word =
-        QString("%1|%2|%3|%4").arg(toQ(game_.word())).arg(game_.done()).arg((t / 90) % 12)
-            .arg(int(game_.phase()));
+        QString("%1|%2|%3").arg(toQ(game_.word())).arg(game_.done()).arg(int(game_.phase()));
     if (word != wordState_) {
         wordState_ = word;
         mark(3, wordRect());
+    }
+    if (nextLit() && (t / 90) != glowState_) {
+        glowState_ = t / 90;
+        const QRectF lit = tileRect(game_.done());
+        mark(5, lit.adjusted(-lit.width() * 0.3, -lit.height() * 0.3, lit.width() * 0.3,
+                             lit.height() * 0.3));
     }
     if (!call_.isEmpty() && t - callAt_ < 450) mark(4, callRect());
 
@@ -346,14 +384,25 @@ void GliderSky::step() {
 
 // --- drawing ----------------------------------------------------------------------------
 
-void GliderSky::paintLayer(QPainter& p, const Layer& layer, const QRect& clip) const {
-    const int tileW = layer.tile.width();
-    if (tileW <= 0 || clip.bottom() < layer.top) return;
+void GliderSky::paintLayer(QPainter& p, const Layer& layer, const QRect& clip, int limit) const {
+    const int tileW = layer.width;
+    if (tileW <= 0 || clip.bottom() < layer.top || clip.top() >= limit) return;
     const int shift = int(std::lround(std::fmod(game_.scroll() * layer.factor * scale_, tileW)));
-    for (int x = -shift; x < width(); x += tileW) {
-        const QRect at(x, layer.top, tileW, layer.tile.height());
-        const QRect r = at.intersected(clip);
-        if (!r.isEmpty()) p.drawPixmap(r, layer.tile, r.translated(-at.topLeft()));
+    const struct {
+        const QPixmap& part;
+        int top;
+    } parts[] = {{layer.upper, layer.top}, {layer.lower, layer.solid}};
+    for (const auto& part : parts) {
+        if (part.part.isNull()) continue;
+        const QRect rows = QRect(0, part.top, width(), part.part.height())
+                               .intersected(clip)
+                               .intersected(QRect(0, 0, width(), limit));
+        if (rows.isEmpty()) continue;
+        for (int x = -shift; x < width(); x += tileW) {
+            const QRect at(x, part.top, tileW, part.part.height());
+            const QRect r = at.intersected(rows);
+            if (!r.isEmpty()) p.drawPixmap(r, part.part, r.translated(-at.topLeft()));
+        }
     }
 }
 
@@ -365,12 +414,18 @@ void GliderSky::paintEvent(QPaintEvent* event) {
     }
     const QRegion& region = event->region();
     const int band = bandTop();
+    // The far range covers everything below its top, sky and all.
     for (const QRect& r : region) {
-        // The far range covers everything below its top, sky and all.
         const QRect above = r.intersected(QRect(0, 0, width(), band));
         if (!above.isEmpty()) p.drawPixmap(above, sky_, above);
-        for (const Layer& layer : layers_) paintLayer(p, layer, r);
     }
+    // The scenery in as few copies as can be: while it scrolls its whole band is new anyway.
+    // Each range only down to where a nearer one turns solid.
+    const QRect scenery = region.intersected(QRect(0, band, width(), height() - band)).boundingRect();
+    if (!scenery.isEmpty())
+        for (std::size_t i = 0; i < layers_.size(); ++i)
+            paintLayer(p, layers_[i], scenery,
+                       i + 1 < layers_.size() ? layers_[i + 1].solid : height());
     p.setRenderHint(QPainter::Antialiasing);
     const qint64 t = now();
     auto visible = [&](const QRectF& world) {
@@ -379,7 +434,7 @@ void GliderSky::paintEvent(QPaintEvent* event) {
 
     for (int i = 0; i < kPuffs; ++i)
         if (!puffs_.empty() && visible(puffRect(i)))
-            p.drawPixmap(toWidget(puffRect(i)).topLeft(), puffs_[i % puffs_.size()]);
+            p.drawPixmap(toWidget(puffRect(i)).topLeft().toPoint(), puffs_[i % puffs_.size()]);
 
     // The glider's shadow on the field: smaller and fainter the higher it flies.
     if (region.intersects(QRect(0, band, width(), height() - band))) {
@@ -392,7 +447,7 @@ void GliderSky::paintEvent(QPaintEvent* event) {
 
     for (const Letter& l : game_.letters())
         if (visible(letterRect(l)))
-            p.drawPixmap(toWidget(letterRect(l)).topLeft(), letterPicture(l.letter));
+            p.drawPixmap(toWidget(letterRect(l)).topLeft().toPoint(), letterPicture(l.letter));
 
     if (visible(gliderRect())) {
         if (game_.lifting()) paintThermal(p, t);
@@ -401,8 +456,10 @@ void GliderSky::paintEvent(QPaintEvent* event) {
     for (const Effect& e : effects_)
         if (visible(effectRect(e))) paintEffect(p, e, t);
 
-    if (visible(wordRect()) && !game_.word().empty())
-        p.drawPixmap(toWidget(wordRect()).topLeft(), wordPicture());
+    if (visible(wordRect()) && !game_.word().empty()) {
+        p.drawPixmap(toWidget(wordRect()).topLeft().toPoint(), wordPicture());
+        paintLit(p, t);
+    }
 
     if (!call_.isEmpty() && visible(callRect())) {
         const QRectF box = toWidget(callRect());
@@ -433,14 +490,32 @@ void GliderSky::paintEvent(QPaintEvent* event) {
 
 void GliderSky::paintGlider(QPainter& p, qint64 t) {
     const QPointF at = toWidget(QRectF(kGliderX, game_.y(), 0, 0)).topLeft();
-    p.save();
-    p.setRenderHint(QPainter::SmoothPixmapTransform);
     // A gentle bob in the air; a landed glider lies still.
     const double bob = game_.phase() == Phase::Lost ? 0 : 3 * std::sin(t / 260.0) * scale_;
-    p.translate(at + QPointF(0, bob));
-    p.rotate(pitch_);
+    const QPixmap& turned = gliderPicture(int(std::lround(pitch_ * 2)) * 5);
+    p.drawPixmap((at + QPointF(-turned.width() / 2.0, -turned.height() / 2.0 + bob)).toPoint(),
+                 turned);
+}
+
+// The glider turned to a tilt, made once for each half degree it takes.
+const QPixmap& GliderSky::gliderPicture(int tenths) {
+    auto it = gliderTurns_.find(tenths);
+    if (it != gliderTurns_.end()) return it->second;
+    const double side = std::hypot(glider_.width(), glider_.height()) + 4;
+    const int edge = int(side);
+    QPixmap pm(edge, edge);
+    pm.fill(Qt::transparent);
+    QPainter p(&pm);
+    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    p.translate(side / 2, side / 2);
+    p.rotate(tenths / 10.0);
     p.drawPixmap(QPointF(-glider_.width() / 2.0, -glider_.height() / 2.0), glider_);
-    p.restore();
+    return gliderTurns_[tenths] = pm;
+}
+
+void GliderSky::paintTwinkle(QPainter& p, QPointF at) const {
+    p.drawPixmap((at - QPointF(twinkle_.width() / 2.0, twinkle_.height() / 2.0)).toPoint(),
+                 twinkle_);
 }
 
 // Warm air rising under the wings: wavy ribbons drifting up.
@@ -477,12 +552,13 @@ void GliderSky::paintEffect(QPainter& p, const Effect& e, qint64 t) {
     p.setPen(Qt::NoPen);
     switch (e.kind) {
         case Effect::Sparkle:
+            p.setOpacity(1 - u);
             for (int k = 0; k < 10; ++k) {
                 const double a = k * 2 * kPi / 10 + u;
                 const double r = (20 + 90 * scene::easeOut(u)) * s;
-                scene::paintSparkle(p, c + QPointF(std::cos(a) * r, std::sin(a) * r),
-                                    (14 - 8 * u) * s, a, 1 - u);
+                paintTwinkle(p, c + QPointF(std::cos(a) * r, std::sin(a) * r));
             }
+            p.setOpacity(1);
             break;
         case Effect::Puff:
             for (int k = 0; k < 6; ++k) {
@@ -510,7 +586,9 @@ void GliderSky::paintEffect(QPainter& p, const Effect& e, qint64 t) {
                 p.drawEllipse(c + QPointF(std::cos(a) * r, std::sin(a) * r + 30 * u * u * s),
                               5 * s, 5 * s);
             }
-            scene::paintSparkle(p, c, 26 * (1 - u) * s, u, 1 - u);
+            p.setOpacity(1 - u);
+            paintTwinkle(p, c);
+            p.setOpacity(1);
             break;
     }
     if (!e.label.isNull()) {

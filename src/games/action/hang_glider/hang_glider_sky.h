@@ -52,15 +52,22 @@ private:
         QColor colour;
         int life;  // ms
     };
+    // One range of scenery, cut where it turns solid: the part above is blended over what is
+    // behind, the part below is copied, and hides the farther ranges.
     struct Layer {
-        QPixmap tile;
+        QPixmap upper, lower;
         double factor;  // of the letters' pace
-        int top;        // widget y
+        int top;        // widget y of the upper part
+        int solid;      // widget y of the lower part
+        int width;      // of one tile
     };
     qint64 now() const;
     void buildScene();
     const QPixmap& letterPicture(char letter);
     const QPixmap& wordPicture();
+    QRectF tileRect(int i) const;
+    bool nextLit() const;
+    void paintLit(QPainter& p, qint64 t);
     QRectF gliderRect() const;
     QRectF letterRect(const hang_glider::Letter& l) const;
     QRectF effectRect(const Effect& e) const;
@@ -68,10 +75,12 @@ private:
     QRectF wordRect() const;
     QRectF callRect() const;
     int bandTop() const;
-    void paintLayer(QPainter& p, const Layer& layer, const QRect& clip) const;
+    void paintLayer(QPainter& p, const Layer& layer, const QRect& clip, int limit) const;
+    const QPixmap& gliderPicture(int tenths);
     void paintGlider(QPainter& p, qint64 t);
     void paintThermal(QPainter& p, qint64 t);
     void paintEffect(QPainter& p, const Effect& e, qint64 t);
+    void paintTwinkle(QPainter& p, QPointF at) const;
 
     const hang_glider::Game& game_;
     double scale_ = 1;
@@ -79,8 +88,10 @@ private:
     QPixmap sky_;
     std::vector<Layer> layers_;  // far to near
     QPixmap glider_;
+    std::map<int, QPixmap> gliderTurns_;  // the glider at each tilt, tenths of degrees
     QPixmap cloud_;
     std::vector<QPixmap> puffs_;
+    QPixmap twinkle_;
     std::map<unsigned char, QPixmap> letterCache_;
     QPixmap wordPicture_;
     QString wordPictureOf_;
@@ -97,6 +108,7 @@ private:
     bool won_ = false;
     int fireworks_ = 0;
     QString wordState_;
+    qint64 glowState_ = -1;
     qint64 lastFrame_ = 0;
 };
 
