@@ -50,7 +50,7 @@ bool Game::drawWord(SharedState& s, Rng& rng) {
     if (k <= 0) return false;
     drawn_.push_back(k);
     s.TheWord = s.Words[k];
-    s.TheMeaning = k < int(s.Meanings.size()) ? s.Meanings[k] : std::string();
+    s.TheMeaning = s.Meanings[k];
     word_ = s.TheWord;
     return true;
 }

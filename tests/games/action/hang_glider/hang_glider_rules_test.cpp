@@ -158,6 +158,20 @@ TEST(HangGliderFlight, RightLetterScoresAndLiftsWrongOneCostsAndDrops) {
     EXPECT_EQ(Kinds(Fly(g, rng, 1)), "");
 }
 
+TEST(HangGliderLetters, MarksInsideStandAndLettersLeaveAtTheEdge) {
+    SharedState s = ListOf({"o'k"}, 10);
+    ScriptedRng rng(0.5);
+    Game g = Flying(s, rng);
+    g.addLetter('O', kGliderX, g.y());
+    g.addLetter('Q', -74.5, 600);  // 5.5 a tick: at -80 it is still there
+    g.addLetter('Z', -75, 600);    // at -80.5 it is gone
+    ASSERT_EQ(Kinds(Fly(g, rng, 1)), "R");
+    EXPECT_EQ(g.done(), 2);
+    std::string left;
+    for (const Letter& l : g.letters()) left += l.letter;
+    EXPECT_EQ(left, "QM");  // and a decoy for the O coming in
+}
+
 TEST(HangGliderEnds, FiveWordsWin) {
     SharedState s = ListOf({"a", "b", "c", "d", "e", "f"}, 2);
     ScriptedRng rng(0.5);
@@ -177,6 +191,7 @@ TEST(HangGliderEnds, FiveWordsWin) {
         EXPECT_DOUBLE_EQ(g.y(), y);
         ASSERT_TRUE(g.nextWord(s, rng));
         EXPECT_TRUE(g.letters().empty());
+        EXPECT_FALSE(g.lifting());  // the last word's thermal is spent
         g.go();
     }
     EXPECT_EQ(g.phase(), Phase::Won);
@@ -201,6 +216,8 @@ TEST(HangGliderEnds, TouchingTheGroundLoses) {
     EXPECT_DOUBLE_EQ(g.scroll(), scroll);
     EXPECT_DOUBLE_EQ(g.y(), 790);
     EXPECT_EQ(g.letters().size(), letters.size());
+    g.go();  // no flying on from the field
+    EXPECT_EQ(g.phase(), Phase::Lost);
     EXPECT_EQ(lostText("ox"), "You landed too early! The word was ox.");
 
     // A wrong letter's drop can land it at once.

@@ -42,6 +42,18 @@ bool FlyThrough(HangGlider* game, char letter, double y) {
     return through();
 }
 
+// The plates and the clue stand inside the screen, clear of each other.
+void CheckLayout(HangGlider* game) {
+    QList<QRect> placed;
+    for (const char* name : {"LevelLabel", "WordLabel", "ScoreLabel", "Label1"}) {
+        const QLabel* l = game->findChild<QLabel*>(name);
+        if (!l->isVisible()) continue;
+        QVERIFY2(game->rect().contains(l->geometry()), name);
+        for (const QRect& r : placed) QVERIFY2(!r.intersects(l->geometry()), name);
+        placed << l->geometry();
+    }
+}
+
 }  // namespace
 
 void HangGliderScreenTest::fiveWordsWonWithTheKeys() {
@@ -60,10 +72,9 @@ void HangGliderScreenTest::fiveWordsWonWithTheKeys() {
     QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
     QCOMPARE(LabelText(game, "LevelLabel"), "Level 2");
     QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 0");
-    // Nothing sinks while the pupil gets ready.
-    Pump(HangGlider::kReadyMs - 100);
-    QCOMPARE(game->game().y(), 330.0);
-    Pump(100);
+    QVERIFY(fx.music.opened.endsWith("hangglider.mid"));
+    CheckLayout(game);
+    Pump(HangGlider::kReadyMs);
     QCOMPARE(game->sky()->call(), "");
     // Down dives 4.5 a frame with the sink's 0.3.
     const double y0 = game->game().y();
@@ -78,15 +89,18 @@ void HangGliderScreenTest::fiveWordsWonWithTheKeys() {
         const std::string word = Shared().TheWord;
         QCOMPARE(LabelText(game, "WordLabel"), QString("Word %1 of 5").arg(w));
         for (std::size_t k = 0; k < word.size(); ++k) {
-            QVERIFY2(FlyThrough(game, char(toupper(word[k])), 300), word.c_str());
+            const double below = game->game().ceiling() + 40;  // as high as it may climb
+            QVERIFY2(FlyThrough(game, char(toupper(word[k])), std::max(300.0, below)), word.c_str());
             score += 20;
             QCOMPARE(LabelText(game, "ScoreLabel"), QString("Score: %1").arg(score));
             QCOMPARE(game->game().done(), int(k) + 1);
-            if (w == 1 && k == 0) {
+            for (const bool soundOn : {true, false}) {
+                if (w > 1 || k > 0) break;
                 // A wrong letter: -5 x level, its sound only with sound on.
-                Shared().SoundOn = kFalse;
+                Shared().SoundOn = soundOn ? kTrue : kFalse;
+                const auto sounds = fx.sound.played.count("gliderwrong.wav");
                 QVERIFY(FlyThrough(game, 'Q', game->game().y()));
-                QVERIFY(!fx.sound.played.contains("gliderwrong.wav"));
+                QCOMPARE(fx.sound.played.count("gliderwrong.wav"), sounds + soundOn);
                 score -= 10;
                 QCOMPARE(LabelText(game, "ScoreLabel"), QString("Score: %1").arg(score));
                 QCOMPARE(game->game().done(), 1);
@@ -100,6 +114,8 @@ void HangGliderScreenTest::fiveWordsWonWithTheKeys() {
             QVERIFY(fx.sound.played.contains("gliderword.wav"));
             Pump(HangGlider::kWordMs);
             QCOMPARE(game->sky()->call(), QString("Word %1 of 5").arg(w + 1));
+            QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
+            QVERIFY(game->findChild<QLabel*>("Label1")->isVisible());
             Pump(HangGlider::kReadyMs);
         }
     }
@@ -129,6 +145,7 @@ void HangGliderScreenTest::landingTooEarlyLoses() {
     Pump(HangGlider::kReadyMs + 100);
     // A words-only list has no clue.
     QVERIFY(!game->findChild<QLabel*>("Label1")->isVisible());
+    CheckLayout(game);
     // Straight down into the field: 460 units at 4.8 a frame.
     SendKey(game, Qt::Key_Down);
     Pump(16 * 90);
