@@ -460,10 +460,13 @@ std::vector<GameCard> BuildCatalogue() {
 
     cards.push_back(Card(
         "Hang Glider", Elig(WO::Allowed, "", "HangGlider"), Slider(1, 10, 4),
-        "Use the up and down arrow keys to steer your hang glider through the sky. Letters float "
-        "toward you from the right. Fly through the letters of the word shown at the top in the "
-        "right order, and steer around the others. A wrong letter costs points. Spell the word "
-        "before you reach the ground! The higher the level, the faster you fly."));
+        "Use the up and down arrow keys to steer your hang glider over the mountains. The word is "
+        "at the top with its next letter lit up, and its meaning under it. Letters float toward "
+        "you on little clouds: fly through the lit letter to add it to the word, and warm air "
+        "lifts you up high. Steer around the other letters: a wrong one costs points and drops "
+        "you down. Your glider sinks a little all the time, and it can only climb back as high "
+        "as the last warm air took it. Spell five words to win, but don't land too early! The "
+        "higher the level, the faster the letters fly."));
 
     cards.push_back(Card(
         "Slingshot", AtLeast(Elig(WO::Refuse, kMsgM1, "SlingShot"), 4, MsgN(4)), Slider(1, 9, 5),

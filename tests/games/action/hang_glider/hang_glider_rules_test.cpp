@@ -1,0 +1,211 @@
+// Hang Glider's rules: the numbers of the design, the word draw, the letters coming in (the
+// next one or a decoy, in their draw order), the glider's sink, steering, thermals and drops,
+// and the two ends.
+#include <gtest/gtest.h>
+
+#include "core/rng.h"
+#include "core/shared_state.h"
+#include "games/action/hang_glider/hang_glider_rules.h"
+#include "word_lists.h"
+
+using namespace wm;
+using namespace wm::hang_glider;
+using wm::test::ListOf;
+
+namespace {
+
+Game Flying(SharedState& s, Rng& rng) {
+    Game g;
+    EXPECT_TRUE(g.start(s, rng));
+    g.go();
+    return g;
+}
+
+std::vector<Event> Fly(Game& g, Rng& rng, int ticks, int steer = 0) {
+    std::vector<Event> all;
+    for (int t = 0; t < ticks; ++t)
+        for (const Event& e : g.tick({steer}, rng)) all.push_back(e);
+    return all;
+}
+
+std::string Kinds(const std::vector<Event>& ev) {
+    std::string k;
+    for (const Event& e : ev) k += "RWSNL"[e.kind];
+    return k;
+}
+
+}  // namespace
+
+TEST(HangGliderNumbers, SpeedAndLetters) {
+    EXPECT_DOUBLE_EQ(letterSpeed(1), 2.35);
+    EXPECT_DOUBLE_EQ(letterSpeed(10), 5.5);
+    for (char c : std::string("aZ7\xE9\xC9\xDF\xFF")) EXPECT_TRUE(isLetter(c)) << c;
+    for (char c : std::string(" -'.\xD7\xF7")) EXPECT_FALSE(isLetter(c)) << c;
+}
+
+TEST(HangGliderStart, DrawsFreshWordsThatFitAndStandsTheMarks) {
+    // 21 letters are too long for the plate, a word of marks has nothing to fly through.
+    SharedState s = ListOf({"abcdefghijklmnopqrstu", "- -", "'twas", "ox"}, 0);
+    ScriptedRng rng;
+    rng.pick(1, 4).pick(2, 4).pick(3, 4);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    EXPECT_EQ(rng.randomizeCount, 1);
+    EXPECT_EQ(s.TheWord, "'twas");
+    EXPECT_EQ(s.TheMeaning, "meaning of 'twas");
+    EXPECT_EQ(g.done(), 1);  // the apostrophe stands from the start
+    EXPECT_EQ(g.level(), 1);
+    // No repeat while a fresh word fits.
+    rng.pick(3, 4).pick(4, 4);
+    ASSERT_TRUE(g.nextWord(s, rng));
+    EXPECT_EQ(s.TheWord, "ox");
+
+    s = ListOf({"abcdefghijklmnopqrst"}, 11);
+    ASSERT_TRUE(g.start(s, rng));
+    EXPECT_EQ(g.level(), 10);
+    s = ListOf({"abcdefghijklmnopqrstu", "- -"}, 4);
+    EXPECT_FALSE(g.start(s, rng));
+}
+
+TEST(HangGliderLetters, NextOrDecoyInDrawOrderEveryFewAndSpaced) {
+    SharedState s = ListOf({"cab"}, 4);
+    ScriptedRng rng(0.5);
+    rng.pick(1, 1);
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    Fly(g, rng, 50);  // nothing comes while the pupil gets ready, and nothing sinks
+    EXPECT_TRUE(g.letters().empty());
+    EXPECT_DOUBLE_EQ(g.y(), 330);
+    g.go();
+    // Three decoys (any capital but C), then C whatever the draw says; heights from 250 to 760.
+    rng.pick(2, 3).pick(1, 25).then(0.0);
+    rng.pick(3, 3).pick(25, 25).then(0.5);
+    rng.pick(2, 3).pick(3, 25).then(0.0);
+    rng.pick(2, 3).then(0.999);
+    rng.pick(1, 3).then(0.0);
+    Fly(g, rng, 1);
+    ASSERT_EQ(g.letters().size(), 1u);
+    EXPECT_DOUBLE_EQ(g.letters()[0].x, 1660);
+    EXPECT_DOUBLE_EQ(g.letters()[0].y, 250);
+    // 230 units apart at 3.4 a tick: the next one 67 ticks later.
+    Fly(g, rng, 66);
+    EXPECT_EQ(g.letters().size(), 1u);
+    Fly(g, rng, 1 + 67 * 3 + 2);
+    std::string seen;
+    for (const Letter& l : g.letters()) seen += l.letter;
+    EXPECT_EQ(seen, "AZDCC");
+    EXPECT_DOUBLE_EQ(g.letters()[1].y, 505);
+    EXPECT_NEAR(g.letters()[1].x - g.letters()[0].x, 67 * 3.4, 1e-9);
+}
+
+TEST(HangGliderFlight, SinksSteersClimbsNoHigherThanTheAirAllows) {
+    SharedState s = ListOf({"ox"}, 4);
+    ScriptedRng rng(0.5);
+    Game g = Flying(s, rng);
+    Fly(g, rng, 100);
+    EXPECT_NEAR(g.y(), 360, 1e-9);  // 0.3 a tick
+    EXPECT_NEAR(g.ceiling(), 260, 1e-9);
+    Fly(g, rng, 10, +1);
+    EXPECT_NEAR(g.y(), 408, 1e-9);  // Down: 4.5 more
+    Fly(g, rng, 10, -1);
+    EXPECT_NEAR(g.y(), 366, 1e-9);
+    // Up held: no higher than the sinking ceiling.
+    Fly(g, rng, 60, -1);
+    EXPECT_NEAR(g.y(), 230 + 180 * 0.3, 1e-9);
+    EXPECT_DOUBLE_EQ(g.y(), g.ceiling());
+}
+
+TEST(HangGliderFlight, RightLetterScoresAndLiftsWrongOneCostsAndDrops) {
+    // Accents count, case does not.
+    SharedState s = ListOf({"\xE9t\xE9"}, 10);
+    ScriptedRng rng(0.5);
+    Game g = Flying(s, rng);
+    Fly(g, rng, 100);  // ceiling 260
+    // A wrong letter at nothing costs nothing; the glider and its ceiling drop 70.
+    g.placeGlider(500);
+    g.addLetter('E', kGliderX, 500);
+    auto ev = Fly(g, rng, 1);
+    ASSERT_EQ(Kinds(ev), "W");
+    EXPECT_EQ(ev[0].letter, 'E');
+    EXPECT_NEAR(g.y(), 570.3, 1e-9);
+    EXPECT_NEAR(g.ceiling(), 330.3, 1e-9);
+    EXPECT_EQ(g.done(), 0);
+
+    g.addLetter('\xC9', kGliderX + 61, 627);  // in reach after the tick: 55.5 across, 56.4 down
+    ASSERT_EQ(Kinds(Fly(g, rng, 1)), "R");
+    EXPECT_EQ(g.score(), 100);
+    EXPECT_EQ(g.done(), 1);
+    EXPECT_DOUBLE_EQ(g.ceiling(), 230);  // 150 up, no higher than the top
+    EXPECT_TRUE(g.lifting());
+    Fly(g, rng, 30);
+    EXPECT_NEAR(g.y(), 570.6 + 30 * (0.3 - 5), 1e-9);
+    EXPECT_FALSE(g.lifting());
+    g.addLetter('A', kGliderX, g.y());
+    ASSERT_EQ(Kinds(Fly(g, rng, 1)), "W");
+    EXPECT_EQ(g.score(), 50);
+    // Just out of reach on either axis.
+    g.placeGlider(400);
+    g.addLetter('T', kGliderX + 62 + 5.5, 400);
+    g.addLetter('T', kGliderX, 400 + 59);
+    g.addLetter('T', kGliderX, 400 - 59);
+    EXPECT_EQ(Kinds(Fly(g, rng, 1)), "");
+}
+
+TEST(HangGliderLetters, MarksInsideStandAndLettersLeaveAtTheEdge) {
+    SharedState s = ListOf({"o'k"}, 10);
+    ScriptedRng rng(0.5);
+    Game g = Flying(s, rng);
+    g.addLetter('O', kGliderX, g.y());
+    g.addLetter('Q', -74.5, 600);  // 5.5 a tick: at -80 it is still there
+    g.addLetter('Z', -75, 600);    // at -80.5 it is gone
+    ASSERT_EQ(Kinds(Fly(g, rng, 1)), "R");
+    EXPECT_EQ(g.done(), 2);
+    std::string left;
+    for (const Letter& l : g.letters()) left += l.letter;
+    EXPECT_EQ(left, "QM");  // and a decoy for the O coming in
+}
+
+TEST(HangGliderEnds, FiveWordsWin) {
+    SharedState s = ListOf({"a", "b", "c", "d", "e", "f"}, 2);
+    ScriptedRng rng(0.5);
+    Game g = Flying(s, rng);
+    for (int w = 1; w <= 5; ++w) {
+        const char next = char(toupper(s.TheWord[0]));
+        g.addLetter(next, kGliderX, g.y());
+        const auto ev = Fly(g, rng, 1);
+        EXPECT_EQ(Kinds(ev), w < 5 ? "RS" : "RSN");
+        EXPECT_EQ(g.score(), 20 * w);
+        if (w == 5) break;
+        EXPECT_EQ(g.phase(), Phase::Spelled);
+        ASSERT_TRUE(g.nextWord(s, rng));
+        EXPECT_TRUE(g.letters().empty());
+        EXPECT_FALSE(g.lifting());  // the last word's thermal is spent
+        g.go();
+    }
+    EXPECT_EQ(g.phase(), Phase::Won);
+    EXPECT_FALSE(g.nextWord(s, rng));
+}
+
+TEST(HangGliderEnds, TouchingTheGroundLoses) {
+    SharedState s = ListOf({"ox"}, 3);
+    ScriptedRng rng(0.5);
+    Game g = Flying(s, rng);
+    g.placeGlider(820 - 30 - 0.31);
+    EXPECT_EQ(Kinds(Fly(g, rng, 1)), "");
+    auto ev = Fly(g, rng, 1);
+    ASSERT_EQ(Kinds(ev), "L");
+    EXPECT_DOUBLE_EQ(g.y(), 790);
+    // The world stands still once landed.
+    const double scroll = g.scroll();
+    EXPECT_TRUE(Fly(g, rng, 20, -1).empty());
+    EXPECT_DOUBLE_EQ(g.scroll(), scroll);
+    g.go();  // no flying on from the field
+    EXPECT_EQ(g.phase(), Phase::Lost);
+    EXPECT_EQ(lostText("ox"), "You landed too early! The word was ox.");
+
+    // A wrong letter's drop can land it at once.
+    g = Flying(s, rng);
+    g.placeGlider(730);
+    g.addLetter('Z', kGliderX, 730);
+    EXPECT_EQ(Kinds(Fly(g, rng, 1)), "WL");
+}

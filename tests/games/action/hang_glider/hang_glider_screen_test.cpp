@@ -1,0 +1,168 @@
+// Hang Glider on its screen, flown with the keys: from the title through "Get ready!", each
+// letter met by steering up to it, a wrong one, five words to the table; a game lost at
+// 1920x1080 by diving into the field, a try again, and a list whose words are all too long.
+#include <QtTest>
+
+#include "game_start.h"
+#include "games/action/hang_glider/hang_glider_screen.h"
+
+using namespace wm;
+using namespace wm::test;
+using namespace wm::hang_glider;
+
+class HangGliderScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void fiveWordsWonWithTheKeys();
+    void landingTooEarlyLoses();
+};
+
+namespace {
+
+// Puts `letter` in the sky ahead at height `y` and steers into it as a pupil would: Up or Down
+// held until the glider is level with it, then let go. True when it was flown through.
+bool FlyThrough(HangGlider* game, char letter, double y) {
+    game->rules().addLetter(letter, kGliderX + 240, y);
+    const auto& g = game->game();
+    const int done = g.done(), score = g.score();
+    auto through = [&] { return g.done() != done || g.score() != score; };
+    int held = 0;
+    for (int frame = 0; frame < 120 && !through(); ++frame) {
+        const double dy = y - g.y();
+        const int want = dy < -8 ? Qt::Key_Up : dy > 8 ? Qt::Key_Down : 0;
+        if (want != held) {
+            if (held) SendKey(game, held, QEvent::KeyRelease);
+            if (want) SendKey(game, want);
+            held = want;
+        }
+        Pump(16);
+    }
+    if (held) SendKey(game, held, QEvent::KeyRelease);
+    return through();
+}
+
+// The plates and the clue stand inside the screen, clear of each other.
+void CheckLayout(HangGlider* game) {
+    QList<QRect> placed;
+    for (const char* name : {"LevelLabel", "WordLabel", "ScoreLabel", "Label1"}) {
+        const QLabel* l = game->findChild<QLabel*>(name);
+        if (!l->isVisible()) continue;
+        QVERIFY2(game->rect().contains(l->geometry()), name);
+        for (const QRect& r : placed) QVERIFY2(!r.intersects(l->geometry()), name);
+        placed << l->geometry();
+    }
+}
+
+}  // namespace
+
+void HangGliderScreenTest::fiveWordsWonWithTheKeys() {
+    ShellFixture fx;
+    WriteOneList(fx, "Farm",
+                 {{"ox", "a strong farm animal"}, {"hen", "a bird that lays eggs"},
+                  {"pig", "it rolls in the mud"}, {"cow", "it gives milk"},
+                  {"ewe", "a mother sheep"}, {"kid", "a young goat"}});
+    WinDriver driver({"HGL"});
+    SetModalHook(std::ref(driver));
+    auto* game = qobject_cast<HangGlider*>(PlayFromTitle("Hang Glider", "Farm", 2));
+    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+    Pump();
+    QCOMPARE(game->sky()->call(), "Get ready!");
+    QVERIFY(fx.sound.played.contains("gliderready.wav"));
+    QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
+    QCOMPARE(LabelText(game, "LevelLabel"), "Level 2");
+    QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 0");
+    QVERIFY(fx.music.opened.endsWith("hangglider.mid"));
+    CheckLayout(game);
+    Pump(HangGlider::kReadyMs);
+    QCOMPARE(game->sky()->call(), "");
+
+    int score = 0;
+    for (int w = 1; w <= 5; ++w) {
+        const std::string word = Shared().TheWord;
+        QCOMPARE(LabelText(game, "WordLabel"), QString("Word %1 of 5").arg(w));
+        for (std::size_t k = 0; k < word.size(); ++k) {
+            const double below = game->game().ceiling() + 40;  // as high as it may climb
+            QVERIFY2(FlyThrough(game, char(toupper(word[k])), std::max(300.0, below)), word.c_str());
+            score += 20;
+            QCOMPARE(LabelText(game, "ScoreLabel"), QString("Score: %1").arg(score));
+            for (const bool soundOn : {true, false}) {
+                if (w > 1 || k > 0) break;
+                // A wrong letter: -5 x level, its sound only with sound on.
+                Shared().SoundOn = soundOn ? kTrue : kFalse;
+                const auto sounds = fx.sound.played.count("gliderwrong.wav");
+                QVERIFY(FlyThrough(game, 'Q', game->game().y()));
+                QCOMPARE(fx.sound.played.count("gliderwrong.wav"), sounds + soundOn);
+                score -= 10;
+                QCOMPARE(LabelText(game, "ScoreLabel"), QString("Score: %1").arg(score));
+                Shared().SoundOn = kTrue;
+                Shot(game, "glider-play");
+            }
+        }
+        QVERIFY(fx.sound.played.contains("gliderlift.wav"));
+        if (w < 5) {
+            QCOMPARE(game->sky()->call(), "Well done!");
+            QVERIFY(fx.sound.played.contains("gliderword.wav"));
+            Pump(HangGlider::kWordMs);
+            QCOMPARE(game->sky()->call(), QString("Word %1 of 5").arg(w + 1));
+            QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
+            QVERIFY(game->findChild<QLabel*>("Label1")->isVisible());
+            Pump(HangGlider::kReadyMs);
+        }
+    }
+    QCOMPARE(game->sky()->call(), "You win!");
+    QVERIFY(fx.sound.played.contains("gliderwin.wav"));
+    Shot(game, "glider-win");
+    fx.dialogs.answerYes(false);
+    Pump(HangGlider::kEndMs);
+    QVERIFY2(fx.dialogs.saw(
+                 QString("You got a high score of %1! Would you like to try again?").arg(score)),
+             qPrintable(fx.dialogs.texts().join(" | ")));
+    QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
+    QCOMPARE(TableRow(fx, "Hang Glider"), QString("HGL %1").arg(score));
+    Pump();
+    QVERIFY(Showing<Title>());
+}
+
+void HangGliderScreenTest::landingTooEarlyLoses() {
+    ShellFixture fx;
+    ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
+    WinDriver driver;
+    SetModalHook(std::ref(driver));
+    auto* game = OpenGame<HangGlider>(fx, "Hang Glider", {{"ox", ""}, {"ox", ""}}, 5, false,
+                                      true, true);
+    QVERIFY(game);
+    Pump(HangGlider::kReadyMs + 100);
+    // A words-only list has no clue.
+    QVERIFY(!game->findChild<QLabel*>("Label1")->isVisible());
+    CheckLayout(game);
+    // Straight down into the field: 460 units at 4.8 a frame.
+    SendKey(game, Qt::Key_Down);
+    Pump(16 * 90);
+    QVERIFY(game->game().phase() == Phase::Flying);
+    Pump(16 * 10);
+    SendKey(game, Qt::Key_Down, QEvent::KeyRelease);
+    QCOMPARE(game->game().phase(), Phase::Lost);
+    QCOMPARE(game->sky()->call(), "You landed too early!");
+    QVERIFY(fx.sound.played.contains("gliderland.wav"));
+    Pump(500);
+    Shot(game, "glider-lost");
+    fx.dialogs.answerYes(true);
+    Pump(HangGlider::kEndMs);
+    QCOMPARE(fx.dialogs.last(),
+             "You landed too early! The word was ox. Would you like to try again?");
+    QCOMPARE(fx.dialogs.shown.back().title, "Try Again?");
+    // Try again: a fresh flight from the top.
+    QCOMPARE(game->sky()->call(), "Get ready!");
+    QCOMPARE(game->game().y(), 330.0);
+    // Words too long for the plate: said clearly, then back to the title.
+    Shared().Words = {"", "pneumonoultramicroscopic", "supercalifragilistic1"};
+    QVERIFY(TriggerMenu(game, "RS"));
+    Pump();
+    QCOMPARE(fx.dialogs.last(),
+             "This list has no words that fit Hang Glider: a word may have at most 20 letters. "
+             "Please choose another list.");
+    QVERIFY(Showing<Title>());
+}
+
+QTEST_MAIN(HangGliderScreenTest)
+#include "hang_glider_screen_test.moc"
