@@ -213,9 +213,13 @@ std::vector<GameCard> BuildCatalogue() {
     cards.push_back(Card(
         "Tower Assault", AtLeast(Elig(WO::Refuse, kMsgM2, "TowerGame"), 5, kMsgE1), NoDifficulty(),
         "Using only the right and left arrow keys, move your knight along the foot of the castle "
-        "wall. The guards on the tower throw words down at you while a definition is shown at "
-        "the top of the screen. Catch the word that matches the definition and dodge the others! "
-        "Each right catch takes you higher. Reach the top to win the castle!"));
+        "wall. A definition hangs on the banner at the top, and the guards on the battlements "
+        "throw down scrolls, each with a word. Stand under the scroll whose word matches and catch "
+        "it: your knight builds one rung of his ladder (50 points times the rungs built). Dodge "
+        "the other scrolls! A wrong one costs one of your three shields and 25 points. If the "
+        "right scroll falls to the ground, the guards throw it again later. The scrolls fall "
+        "faster with each rung. Build ten rungs and your knight climbs up and raises his flag on "
+        "the castle! Lose all three shields and the guards drive you back."));
 
     cards.push_back(Card(
         "Flash Cards", Elig(WO::Refuse, kFlashCardsRefusal, "FlashCardForm"), NoDifficulty(),
