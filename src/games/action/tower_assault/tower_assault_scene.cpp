@@ -19,7 +19,7 @@ using namespace tower;
 namespace {
 constexpr double kPi = 3.14159265358979;
 // Where the castle's parts are, as shares of the scene: they match the drawing.
-constexpr double kFieldLeft = 0.04, kFieldWidth = 0.92;  // the courtyard's x range
+constexpr double kFieldLeft = 0.04, kFieldSpan = 0.92;  // the courtyard's x range
 constexpr double kFieldTop = 0.16, kFieldDepth = 0.77;   // y 0 and the ground's distance
 constexpr double kWallWalk = 0.275;                      // the guards' feet
 constexpr double kParapetTop = 0.20, kParapetBottom = 0.285;
@@ -58,12 +58,12 @@ qint64 TowerScene::now() const {
 // --- where things are -------------------------------------------------------------------
 
 QPointF TowerScene::toScreen(double x, double y) const {
-    return QPointF(width() * (kFieldLeft + kFieldWidth * x / tower::kFieldWidth),
+    return QPointF(width() * (kFieldLeft + kFieldSpan * x / tower::kFieldWidth),
                    height() * (kFieldTop + kFieldDepth * y / kGroundY));
 }
 
 QRectF TowerScene::scrollRect(const Scroll& s) const {
-    const double w = width() * kFieldWidth * 0.18, h = height() * 0.062;
+    const double w = width() * kFieldSpan * 0.18, h = height() * 0.062;
     const QPointF c = toScreen(s.x, s.y);
     // A scroll sways a little as it falls.
     const double sway = std::sin(now() / 260.0 + s.id * 1.3) * w * 0.03;
@@ -75,9 +75,9 @@ QRectF TowerScene::knightRect() const {
     const qint64 t = now();
     double x = knightScreenX(t), feet = height() * kGround;
     if (end_ > 0) {
-        // Up the ladder from the second third of the climb, to the wall walk.
+        // Up the ladder from the second third of the climb, to its top rung by the parapet.
         const double u = scene::smooth((double(t - endAt_) / kEndMs - 0.3) / 0.45);
-        feet = scene::lerp(feet, height() * kWallWalk, u);
+        feet = scene::lerp(feet, height() * (kParapetBottom + 0.035), u);
     }
     return QRectF(x - w / 2, feet - h, w, h);
 }
@@ -231,7 +231,7 @@ void TowerScene::buildScene() {
     const QRectF ladder = ladderRect();
     rung_ = spriteOf(art, "rung_0", QSize(int(ladder.width()), int(height() * 0.022)));
     rail_ = spriteOf(art, "rail_0", QSize(int(width() * 0.012), int(ladder.height())));
-    const QSize flag(int(height() * 0.16), int(height() * 0.2));
+    const QSize flag(int(height() * 0.104), int(height() * 0.13));
     for (int i = 0; i < 2; ++i) flag_[i] = spriteOf(art, QString("flag_%1").arg(i), flag);
     // The parapet stands in front of the guards: cut from the backdrop once.
     parapet_ = QPixmap(width(), int(height() * (kParapetBottom - kParapetTop)) + 1);
@@ -314,7 +314,7 @@ void TowerScene::paintFlag(QPainter& p, qint64 t) {
     const QRectF l = ladderRect();
     const QSizeF size = flag_[0].size();
     const double x = l.right() + width() * 0.01;
-    const double bottom = height() * kWallWalk;
+    const double bottom = height() * (kWallWalk + 0.01);
     const double y = bottom - size.height() * u;
     p.drawPixmap(QPointF(x, y), flag_[int(t / 220) % 2]);
     for (int k = 0; k < 10; ++k) {
