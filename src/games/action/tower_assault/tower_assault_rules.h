@@ -29,7 +29,7 @@ constexpr double kCatchY = 800;   // the knight's raised hands
 constexpr double kGroundY = 1000;
 constexpr double kKnightMin = 60, kKnightMax = 940;
 constexpr double kKnightStep = 9;  // a tick, while Left or Right is held
-constexpr double kReach = 80;      // a scroll within this of the knight's middle is caught
+constexpr double kReach = 90;  // a scroll over the knight's middle (half its width) is caught
 
 // How long the moments between the scrolls last.
 constexpr int kReadyMs = 2000;      // the first definition read before the guards throw

@@ -73,34 +73,34 @@ TEST(TowerStart, DrawsADefinedWordAndRefusesListsItCannotPlay) {
               "The guards drove you back! The word was \"dog\". Would you like to try again?");
 }
 
-TEST(TowerKnight, StepsHeldToTheWallAndReachesEightyEitherSide) {
-    // Walked to the right end, then back: 40 steps leave him 80 from guard 3's scroll.
-    for (auto [back, caught] : {std::pair{39, false}, {40, true}, {41, true}}) {
+TEST(TowerKnight, StepsHeldToTheWallAndReachesNinetyEitherSide) {
+    // Ten steps right leave him 90 from guard 3's scroll: caught; eleven: it falls past.
+    for (auto [steps, caught] : {std::pair{10, true}, {11, false}}) {
         SharedState s = ListOf({"cat", "dog"});
         ScriptedRng rng;
         rng.pick(1, 2).pick(3, 5).then(0.0);  // cat; guard 3 throws the right word
         Game g;
         ASSERT_EQ(g.start(s, rng), Start::Ok);
-        for (int t = 0; t < 60; ++t) g.tick(s, rng, +1);
-        EXPECT_EQ(g.knightX(), 940);
-        for (int t = 0; t < back; ++t) g.tick(s, rng, -1);
-        EXPECT_EQ(g.knightX(), 940 - 9 * back);
+        for (int t = 0; t < steps; ++t) g.tick(s, rng, +1);
+        EXPECT_EQ(g.knightX(), 500 + 9 * steps);
         // Two seconds of reading before the first throw, and 0.4 s more.
-        EXPECT_EQ(Until(g, s, rng, Event::Go), 125 - 60 - back);
+        EXPECT_EQ(Until(g, s, rng, Event::Go), 125 - steps);
         EXPECT_EQ(Until(g, s, rng, Event::Thrown), 25);
         ASSERT_EQ(g.scrolls().size(), 1u);
         EXPECT_EQ(g.scrolls()[0].x, 500);
         // From 120 to the hands at 800 at 2.5 a tick: 272 ticks; to the ground at 1000: 352.
         EXPECT_EQ(Until(g, s, rng, caught ? Event::Caught : Event::RightLanded, 0, 400),
                   caught ? 272 : 352)
-            << back;
+            << steps;
     }
     SharedState s = ListOf({"cat", "dog"});
     ScriptedRng rng(0.5);
     Game g;
     g.start(s, rng);
-    for (int t = 0; t < 60; ++t) g.tick(s, rng, -1);
-    EXPECT_EQ(g.knightX(), 60);
+    for (auto [dir, end] : {std::pair{-1, 60.0}, {+1, 940.0}}) {
+        for (int t = 0; t < 100; ++t) g.tick(s, rng, dir);
+        EXPECT_EQ(g.knightX(), end);
+    }
 }
 
 TEST(TowerThrows, GuardShareAndDecoyInTheirOrder) {
