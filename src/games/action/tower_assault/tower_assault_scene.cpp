@@ -33,6 +33,30 @@ QFont boldFont(double px) {
     return f;
 }
 
+// Bold text with a dark outline, drawn once into a picture of its own.
+QPixmap outlinedText(const QString& text, double px, const QColor& fill, const QColor& edge,
+                     double maxWidth = 1e9) {
+    QFont f = boldFont(px);
+    while (f.pixelSize() > 8 && QFontMetricsF(f).horizontalAdvance(text) > maxWidth)
+        f.setPixelSize(f.pixelSize() - 2);
+    QPainterPath path;
+    path.addText(0, 0, f, text);
+    const double pen = std::max(3.0, f.pixelSize() * 0.12);
+    const QRectF box = path.boundingRect().adjusted(-pen, -pen, pen, pen);
+    QPixmap pm(box.size().toSize() + QSize(2, 2));
+    pm.fill(Qt::transparent);
+    QPainter p(&pm);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.translate(-box.topLeft() + QPointF(1, 1));
+    p.setPen(QPen(edge, pen, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    p.setBrush(Qt::NoBrush);
+    p.drawPath(path);
+    p.setPen(Qt::NoPen);
+    p.setBrush(fill);
+    p.drawPath(path);
+    return pm;
+}
+
 QPixmap spriteOf(QSvgRenderer& art, const QString& id, QSize size) {
     QPixmap pm(size.expandedTo(QSize(1, 1)));
     pm.fill(Qt::transparent);
@@ -143,13 +167,17 @@ void TowerScene::caught(bool right, int points) {
     caughtAt_ = now();
     const QRectF k = knightRect();
     const QPointF hands(k.center().x(), k.top());
+    const QString text = points > 0 ? QString("+%1").arg(points) : QString::number(points);
     effects_.push_back({hands, now(), right ? 0 : 1,
-                        points > 0 ? QString("+%1").arg(points) : QString::number(points)});
+                        outlinedText(text, height() * 0.045,
+                                     right ? QColor(255, 226, 90) : QColor(255, 110, 90),
+                                     QColor(40, 20, 40))});
     if (right) update();  // the scrolls are swept away and a rung goes on
 }
 
 void TowerScene::landed(double x, bool right) {
-    effects_.push_back({toScreen(x, kGroundY), now(), 2, right ? QString("?") : QString()});
+    (void)right;
+    effects_.push_back({toScreen(x, kGroundY), now(), 2, QPixmap()});
 }
 
 void TowerScene::climb() {
@@ -167,6 +195,9 @@ void TowerScene::retreat() {
 
 void TowerScene::setCall(const QString& text, int holdMs) {
     call_ = text;
+    callText_ = text.isEmpty() ? QPixmap()
+                               : outlinedText(text, callRect().height() * 0.6, QColor(255, 212, 72),
+                                              QColor(48, 24, 60), callRect().width() * 0.95);
     callAt_ = now();
     callHold_ = holdMs;
     update(callRect());
@@ -182,7 +213,15 @@ void TowerScene::step() {
     };
     if (game_)
         for (const Scroll& s : game_->scrolls()) add(scrollRect(s), 3);
-    add(knightRect(), 4);
+    // The knight is painted again only when he moves or changes his pose.
+    const QRect knight = knightRect().toAlignedRect().adjusted(-4, -4, 4, 4);
+    const int frame = knightFrame(t) + (facingLeft_ ? 10 : 0);
+    if (knight != knightDrawn_ || frame != knightFrameDrawn_) {
+        update(knightDrawn_);
+        update(knight);
+        knightDrawn_ = knight;
+        knightFrameDrawn_ = frame;
+    }
     for (int g = 1; g <= kGuards; ++g)
         if (t - thrownAt_[g] < 500 || end_ < 0) add(guardRect(g), 2);
     for (const Effect& e : effects_) {
@@ -212,6 +251,10 @@ void TowerScene::resizeEvent(QResizeEvent*) {
 void TowerScene::buildScene() {
     scrolls_.clear();
     drawn_.clear();
+    knightDrawn_ = QRect();
+    if (!call_.isEmpty())
+        callText_ = outlinedText(call_, callRect().height() * 0.6, QColor(255, 212, 72),
+                                 QColor(48, 24, 60), callRect().width() * 0.95);
     if (width() <= 0 || height() <= 0) return;
     scene_ = QPixmap(size());
     scene_.fill(QColor(150, 200, 240));
@@ -284,26 +327,28 @@ void TowerScene::paintLadder(QPainter& p) {
     }
 }
 
-void TowerScene::paintKnight(QPainter& p, qint64 t) {
-    const QRectF r = knightRect();
-    int frame = 2;
+int TowerScene::knightFrame(qint64 t) const {
     if (end_ > 0) {
         const double u = double(t - endAt_) / kEndMs;
-        frame = u < 0.28 ? int(t / 140) % 2 : u < 0.75 ? 4 : 3;
-    } else if (end_ < 0) {
-        frame = int(t / 90) % 2;
-    } else if (t - caughtAt_ < 350) {
-        frame = 3;
-    } else if (dir_ != 0) {
-        frame = int(t / 140) % 2;
+        return u < 0.28 ? int(t / 140) % 2 : u < 0.75 ? 4 : 3;
     }
+    if (end_ < 0) return int(t / 90) % 2;
+    if (t - caughtAt_ < 350) return 3;
+    if (dir_ != 0) return int(t / 140) % 2;
+    return 2;
+}
+
+void TowerScene::paintKnight(QPainter& p, qint64 t) {
+    const QRectF r = knightRect();
+    const int frame = knightFrame(t);
     const bool flip = facingLeft_ && frame != 4;
+    const QPoint at = r.topLeft().toPoint();
     if (flip) {
         p.save();
-        p.translate(r.center().x() * 2, 0);
+        p.translate(at.x() * 2 + knight_[frame].width(), 0);
         p.scale(-1, 1);
     }
-    p.drawPixmap(r.topLeft(), knight_[frame]);
+    p.drawPixmap(at, knight_[frame]);
     if (flip) p.restore();
 }
 
@@ -326,22 +371,17 @@ void TowerScene::paintFlag(QPainter& p, qint64 t) {
 }
 
 void TowerScene::paintCall(QPainter& p) {
-    if (call_.isEmpty()) return;
-    const QRect box = callRect();
-    const double pop = scene::easeOut(double(now() - callAt_) / 300);
-    QFont f = boldFont(box.height() * 0.6 * (0.7 + 0.3 * pop));
-    while (f.pixelSize() > 8 && QFontMetricsF(f).horizontalAdvance(call_) > box.width() * 0.95)
-        f.setPixelSize(f.pixelSize() - 2);
-    QPainterPath path;
-    path.addText(0, 0, f, call_);
-    path.translate(QPointF(box.center()) - path.boundingRect().center());
-    p.setPen(QPen(QColor(48, 24, 60), std::max(3.0, box.height() * 0.07), Qt::SolidLine,
-                  Qt::RoundCap, Qt::RoundJoin));
-    p.setBrush(Qt::NoBrush);
-    p.drawPath(path);
-    p.setPen(Qt::NoPen);
-    p.setBrush(QColor(255, 212, 72));
-    p.drawPath(path);
+    if (call_.isEmpty() || callText_.isNull()) return;
+    // The call pops up from a little smaller than its size.
+    const double pop = 0.7 + 0.3 * scene::easeOut(double(now() - callAt_) / 300);
+    const QSizeF size = QSizeF(callText_.size()) * pop;
+    const QPointF c = QRectF(callRect()).center();
+    if (pop >= 1)
+        p.drawPixmap(QPointF(c.x() - size.width() / 2, c.y() - size.height() / 2).toPoint(),
+                     callText_);
+    else
+        p.drawPixmap(QRectF(c - QPointF(size.width() / 2, size.height() / 2), size), callText_,
+                     QRectF(callText_.rect()));
 }
 
 void TowerScene::paintEvent(QPaintEvent* event) {
@@ -361,7 +401,7 @@ void TowerScene::paintEvent(QPaintEvent* event) {
         for (int g = 1; g <= kGuards; ++g) {
             // A guard throws with a swing of his arm; when the knight flees, they all cheer.
             const bool swing = end_ < 0 ? (t / 250 + g) % 2 == 0 : t - thrownAt_[g] < 350;
-            p.drawPixmap(guardRect(g).topLeft(), guard_[swing ? 1 : 0]);
+            p.drawPixmap(guardRect(g).topLeft().toPoint(), guard_[swing ? 1 : 0]);
         }
         p.drawPixmap(QPointF(0, height() * kParapetTop), parapet_);
     }
@@ -369,9 +409,9 @@ void TowerScene::paintEvent(QPaintEvent* event) {
         for (const Scroll& s : game_->scrolls()) {
             const QRectF r = scrollRect(s);
             if (dirty.intersects(r.toAlignedRect().adjusted(-2, -2, 2, 2)))
-                p.drawPixmap(r.topLeft(), scrollPicture(toQ(s.word)));
+                p.drawPixmap(r.topLeft().toPoint(), scrollPicture(toQ(s.word)));
         }
-    paintKnight(p, t);
+    if (dirty.intersects(knightRect().toAlignedRect().adjusted(-4, -4, 4, 4))) paintKnight(p, t);
     paintFlag(p, t);
     for (const Effect& e : effects_) {
         const double u = double(t - e.t0) / kFxMs;
@@ -395,19 +435,12 @@ void TowerScene::paintEvent(QPaintEvent* event) {
                               r);
             }
         }
-        if (!e.text.isEmpty() && e.text != "?") {
+        if (!e.text.isNull()) {
             const QPointF at = e.at - QPointF(0, height() * 0.08 * scene::easeOut(u));
-            QFont f = boldFont(height() * 0.045);
-            QPainterPath path;
-            path.addText(0, 0, f, e.text);
-            path.translate(at - path.boundingRect().center());
-            p.setPen(QPen(scene::withAlpha(QColor(40, 20, 40), 1 - u), 4));
-            p.setBrush(Qt::NoBrush);
-            p.drawPath(path);
-            p.setPen(Qt::NoPen);
-            p.setBrush(scene::withAlpha(e.kind == 0 ? QColor(255, 226, 90) : QColor(255, 110, 90),
-                                        1 - u));
-            p.drawPath(path);
+            p.setOpacity(1 - u);
+            p.drawPixmap((at - QPointF(e.text.width() / 2.0, e.text.height() / 2.0)).toPoint(),
+                         e.text);
+            p.setOpacity(1);
         }
     }
     paintCall(p);

@@ -54,8 +54,8 @@ private:
     struct Effect {
         QPointF at;
         qint64 t0;
-        int kind;  // 0 sparkle, 1 red puff, 2 dust
-        QString text;
+        int kind;      // 0 sparkle, 1 red puff, 2 dust
+        QPixmap text;  // the points floating up, drawn once
     };
 
     qint64 now() const;
@@ -69,6 +69,7 @@ private:
     void paintKnight(QPainter& p, qint64 t);
     void paintFlag(QPainter& p, qint64 t);
     void paintCall(QPainter& p);
+    int knightFrame(qint64 t) const;
 
     const tower::Game* game_ = nullptr;
     QPixmap scene_;
@@ -79,6 +80,7 @@ private:
     std::vector<Effect> effects_;
     qint64 thrownAt_[tower::kGuards + 1] = {};
     QString call_;
+    QPixmap callText_;  // the call drawn once at its full size
     qint64 callAt_ = 0;
     int callHold_ = 0;
     int dir_ = 0;
@@ -88,6 +90,8 @@ private:
     qint64 endAt_ = 0;
     double endFromX_ = 0;
     std::vector<QRect> drawn_;
+    QRect knightDrawn_;
+    int knightFrameDrawn_ = -1;
 };
 
 }  // namespace wm
