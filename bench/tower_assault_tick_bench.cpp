@@ -13,10 +13,16 @@ namespace {
 void BM_TowerAssaultFrame(benchmark::State& state) {
     SharedState& s = Shared();
     s = SharedState{};
-    s.Words = {"", "encyclopaedias", "battlements", "drawbridge", "portcullis", "catapult",
-               "chivalrously", "gatehouse"};
-    s.Meanings = {"", "books of facts", "the wall's top", "a bridge that lifts",
-                  "an iron gate", "it throws stones", "bravely and kindly", "the gate's house"};
+    s.Words = {"",           "encyclopaedias", "battlements",  "drawbridge",
+               "portcullis", "catapult",       "chivalrously", "gatehouse"};
+    s.Meanings = {"",
+                  "books of facts",
+                  "the wall's top",
+                  "a bridge that lifts",
+                  "an iron gate",
+                  "it throws stones",
+                  "bravely and kindly",
+                  "the gate's house"};
     s.WordCount = 7;
     s.SoundOn = kTrue;
     s.AppPath = WM_BENCH_APP_DIR;  // the art, as the program finds it

@@ -78,8 +78,8 @@ std::vector<Event> Game::tick(SharedState& s, Rng& rng, int dir) {
     std::vector<Event> events;
     if (over()) return events;
     if (dir != 0)
-        knight_ = std::clamp(knight_ + (dir < 0 ? -kKnightStep : kKnightStep), kKnightMin,
-                             kKnightMax);
+        knight_ =
+            std::clamp(knight_ + (dir < 0 ? -kKnightStep : kKnightStep), kKnightMin, kKnightMax);
     switch (phase_) {
         case Phase::Ready:
         case Phase::Built:
@@ -174,9 +174,8 @@ std::string Game::decoy(Rng& rng) const {
     auto other = [&](int k) { return !Trim(words_[k]).empty() && UCase(words_[k]) != right; };
     auto fresh = [&](int k) {
         const std::string w = UCase(words_[k]);
-        return other(k) && std::none_of(scrolls_.begin(), scrolls_.end(), [&](const Scroll& sc) {
-                   return UCase(sc.word) == w;
-               });
+        return other(k) && std::none_of(scrolls_.begin(), scrolls_.end(),
+                                        [&](const Scroll& sc) { return UCase(sc.word) == w; });
     };
     // Another word of the list, and not one already in the air while the list has enough.
     int k = 1;

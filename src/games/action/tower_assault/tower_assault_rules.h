@@ -24,17 +24,17 @@ constexpr int kGuards = 5;        // guards along the battlements, each over his
 // the battlements (0) down to the ground (1000). One tick is one frame of the ticker.
 constexpr int kTickMs = 16;
 constexpr double kFieldWidth = 1000;
-constexpr double kDropY = 120;    // a scroll leaves the guard's hand here
-constexpr double kCatchY = 800;   // the knight's raised hands
+constexpr double kDropY = 120;   // a scroll leaves the guard's hand here
+constexpr double kCatchY = 800;  // the knight's raised hands
 constexpr double kGroundY = 1000;
 constexpr double kKnightMin = 60, kKnightMax = 940;
 constexpr double kKnightStep = 9;  // a tick, while Left or Right is held
-constexpr double kReach = 90;  // a scroll over the knight's middle (half its width) is caught
+constexpr double kReach = 90;      // a scroll over the knight's middle (half its width) is caught
 
 // How long the moments between the scrolls last.
-constexpr int kReadyMs = 2000;      // the first definition read before the guards throw
-constexpr int kBuildMs = 1500;      // a rung hammered on, the next definition shown
-constexpr int kFirstDropMs = 400;   // the first scroll of a definition
+constexpr int kReadyMs = 2000;        // the first definition read before the guards throw
+constexpr int kBuildMs = 1500;        // a rung hammered on, the next definition shown
+constexpr int kFirstDropMs = 400;     // the first scroll of a definition
 constexpr double kRightShare = 0.35;  // a drop is the right word about this often...
 constexpr int kMostDecoysInARow = 2;  // ...and never after more decoys than this in a row
 
@@ -92,7 +92,7 @@ private:
     int shields_ = kShields;
     double knight_ = kFieldWidth / 2;
     std::string word_;
-    std::vector<int> drawn_;   // entries drawn this game
+    std::vector<int> drawn_;          // entries drawn this game
     std::vector<std::string> words_;  // the list's words, 1-based, for the decoys
     std::vector<Scroll> scrolls_;
     Scroll last_;

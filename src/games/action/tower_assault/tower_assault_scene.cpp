@@ -20,8 +20,8 @@ namespace {
 constexpr double kPi = 3.14159265358979;
 // Where the castle's parts are, as shares of the scene: they match the drawing.
 constexpr double kFieldLeft = 0.04, kFieldSpan = 0.92;  // the courtyard's x range
-constexpr double kFieldTop = 0.16, kFieldDepth = 0.77;   // y 0 and the ground's distance
-constexpr double kWallWalk = 0.275;                      // the guards' feet
+constexpr double kFieldTop = 0.16, kFieldDepth = 0.77;  // y 0 and the ground's distance
+constexpr double kWallWalk = 0.275;                     // the guards' feet
 constexpr double kParapetTop = 0.20, kParapetBottom = 0.285;
 constexpr double kGround = 0.93;
 constexpr double kLadderX = 500;  // the ladder leans on the wall under the middle guard
@@ -168,10 +168,10 @@ void TowerScene::caught(bool right, int points) {
     const QRectF k = knightRect();
     const QPointF hands(k.center().x(), k.top());
     const QString text = points > 0 ? QString("+%1").arg(points) : QString::number(points);
-    effects_.push_back({hands, now(), right ? 0 : 1,
-                        outlinedText(text, height() * 0.045,
-                                     right ? QColor(255, 226, 90) : QColor(255, 110, 90),
-                                     QColor(40, 20, 40))});
+    effects_.push_back(
+        {hands, now(), right ? 0 : 1,
+         outlinedText(text, height() * 0.045, right ? QColor(255, 226, 90) : QColor(255, 110, 90),
+                      QColor(40, 20, 40))});
     if (right) update();  // the scrolls are swept away and a rung goes on
 }
 
@@ -208,8 +208,8 @@ void TowerScene::step() {
     std::erase_if(effects_, [&](const Effect& e) { return t - e.t0 >= kFxMs; });
     std::vector<QRect> live;
     auto add = [&](const QRectF& r, double margin) {
-        live.push_back(r.toAlignedRect().adjusted(-int(margin), -int(margin), int(margin),
-                                                  int(margin)));
+        live.push_back(
+            r.toAlignedRect().adjusted(-int(margin), -int(margin), int(margin), int(margin)));
     };
     if (game_)
         for (const Scroll& s : game_->scrolls()) add(scrollRect(s), 3);
@@ -228,7 +228,8 @@ void TowerScene::step() {
         const double r = height() * 0.09;
         add(QRectF(e.at.x() - r, e.at.y() - 1.6 * r, 2 * r, 2.2 * r), 2);
     }
-    if (end_ != 0 || t - caughtAt_ < 600) add(ladderRect().adjusted(-width() * 0.05, -height() * 0.12, width() * 0.05, 0), 2);
+    if (end_ != 0 || t - caughtAt_ < 600)
+        add(ladderRect().adjusted(-width() * 0.05, -height() * 0.12, width() * 0.05, 0), 2);
     if (!call_.isEmpty()) {
         if (callHold_ > 0 && t - callAt_ >= callHold_) {
             call_.clear();
@@ -280,7 +281,8 @@ void TowerScene::buildScene() {
     parapet_ = QPixmap(width(), int(height() * (kParapetBottom - kParapetTop)) + 1);
     parapet_.fill(Qt::transparent);
     QPainter pp(&parapet_);
-    if (art.isValid() && art.elementExists("parapet_0")) art.render(&pp, "parapet_0", parapet_.rect());
+    if (art.isValid() && art.elementExists("parapet_0"))
+        art.render(&pp, "parapet_0", parapet_.rect());
     pp.end();
     update();
 }
@@ -431,8 +433,7 @@ void TowerScene::paintEvent(QPaintEvent* event) {
                 const double d = height() * 0.05 * scene::easeOut(u);
                 p.setBrush(scene::withAlpha(c, (1 - u) * 0.7));
                 const double r = height() * (0.012 + 0.018 * u);
-                p.drawEllipse(e.at + QPointF(std::cos(a) * d * 1.4, std::sin(a) * d * 0.6), r,
-                              r);
+                p.drawEllipse(e.at + QPointF(std::cos(a) * d * 1.4, std::sin(a) * d * 0.6), r, r);
             }
         }
         if (!e.text.isNull()) {

@@ -207,9 +207,8 @@ void TowerGame::resizeEvent(QResizeEvent*) {
     const int plateH = QFontMetrics(pf).height() + 12;
     const int y1 = top + H * 15 / 1000, y2 = y1 + plateH + H / 100;
     const int left = W * 12 / 1000, right = W - left - plateW;
-    for (auto [l, x, y] : {std::tuple{ScoreLabel, left, y1},
-                           {RungsLabel, left, y2},
-                           {ShieldsLabel, right, y1}}) {
+    for (auto [l, x, y] :
+         {std::tuple{ScoreLabel, left, y1}, {RungsLabel, left, y2}, {ShieldsLabel, right, y1}}) {
         l->setFont(pf);
         l->setGeometry(x, y, plateW, plateH);
     }

@@ -38,18 +38,30 @@ bool Drive(TowerGame* game, bool catchRight, Done done, int frames = 4000) {
     return done();
 }
 
+// The plates and the definition lie inside the screen and apart, and every text fits its box.
+bool Fits(TowerGame* game) {
+    const auto labels = game->findChildren<QLabel*>();
+    for (const QLabel* l : labels) {
+        const QRect box = l->contentsRect();
+        const QRect need = QFontMetrics(l->font()).boundingRect(
+            box, Qt::AlignCenter | Qt::TextWordWrap, l->text());
+        if (!game->rect().contains(l->geometry()) || need.width() > box.width() ||
+            need.height() > box.height())
+            return false;
+        for (const QLabel* other : labels)
+            if (other != l && l->geometry().intersects(other->geometry())) return false;
+    }
+    return labels.size() == 4;
+}
+
 const Pairs kCastleWords = {{"moat", "the water around a castle"},
                             {"tower", "a tall narrow building"},
                             {"knight", "a soldier on horseback"},
                             {"shield", "it keeps the arrows off"},
-                            {"banner", "a long flag"},
                             {"drawbridge", "a bridge that lifts up"},
-                            {"dungeon", "a dark prison under the castle"},
-                            {"armour", "metal clothes for battle"},
-                            {"catapult", "it throws stones at walls"},
-                            {"sword", "a long blade"},
-                            {"helmet", "it keeps your head safe"},
-                            {"castle", "a king's fort"}};
+                            {"catapult",
+                             "a great wooden machine that flings heavy stones over "
+                             "the walls of a castle"}};
 
 }  // namespace
 
@@ -62,34 +74,24 @@ void TowerScreenTest::tenRungsFromTheTitleToTheTable() {
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Shared().SoundOn = kTrue;
     Pump(16);
-    QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
-    QCOMPARE(LabelText(game, "ShieldsLabel"), "Shields: 3");
-    QCOMPARE(LabelText(game, "RungsLabel"), "Ladder: 0 of 10");
     QCOMPARE(game->scene()->call(), "Get ready...");
     QVERIFY(fx.music.opened.endsWith("sounds/towerassault.mid"));
-    // Auto-repeat does not move him: a held key does, nine units a frame.
-    SendKey(game, Qt::Key_Right, QEvent::KeyPress, true);
-    Pump(16);
-    QCOMPARE(game->game().knightX(), 500.0);
-    SendKey(game, Qt::Key_Right);
-    Pump(32);
-    SendKey(game, Qt::Key_Right, QEvent::KeyRelease);
-    Pump(16);
-    QCOMPARE(game->game().knightX(), 518.0);
     Pump(2000);
     QCOMPARE(game->scene()->call(), "Go!");
     QVERIFY(fx.sound.played.contains("towergo.wav"));
 
     for (int rung = 1; rung <= 10; ++rung) {
         QVERIFY(Drive(game, true, [&] { return game->game().rungs() == rung; }));
+        QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
         QCOMPARE(LabelText(game, "RungsLabel"), QString("Ladder: %1 of 10").arg(rung));
-        QCOMPARE(game->scene()->call(), rung < 10 ? QString("Rung %1 of 10!").arg(rung)
-                                                   : QString("The castle is yours!"));
+        QCOMPARE(game->scene()->call(),
+                 rung < 10 ? QString("Rung %1 of 10!").arg(rung) : QString("The castle is yours!"));
+        QVERIFY(Fits(game));
         if (rung == 5) Shot(game, "tower-assault-play");
     }
     QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 2750");
-    QVERIFY(fx.sound.played.contains("towerthrow.wav") && fx.sound.played.contains("towerrung.wav"));
-    QVERIFY(fx.sound.played.contains("towerwin.wav"));
+    for (const char* sound : {"towerthrow.wav", "towerrung.wav", "towerwin.wav"})
+        QVERIFY(fx.sound.played.contains(sound));
     fx.dialogs.answerYes(false);
     Pump(TowerGame::kEndMs - 100);
     Shot(game, "tower-assault-won");
@@ -113,18 +115,17 @@ void TowerScreenTest::threeWrongScrollsDriveTheKnightBack() {
     SendKey(game, Qt::Key_Left);
     Pump(33 * 16);
     SendKey(game, Qt::Key_Left, QEvent::KeyRelease);
-    QCOMPARE(game->game().knightX(), 203.0);
     for (int i = 0; i < 2000 && !game->scene()->call().startsWith("Missed"); ++i) Pump(16);
     QCOMPARE(game->scene()->call(), "Missed! It will come again.");
     QVERIFY(fx.sound.played.contains("towerthud.wav"));
-    QCOMPARE(LabelText(game, "ShieldsLabel"), "Shields: 3");
     for (int shield = 2; shield >= 0; --shield) {
         QVERIFY(Drive(game, false, [&] { return game->game().shields() == shield; }));
         QCOMPARE(LabelText(game, "ShieldsLabel"), QString("Shields: %1").arg(shield));
+        QVERIFY(Fits(game));
         QCOMPARE(LabelText(game, "ScoreLabel"), QString("Score: %1").arg(-25 * (3 - shield)));
-        if (shield > 0)
-            QCOMPARE(game->scene()->call(),
-                     QString("Not \"%1\"!").arg(QString::fromLatin1(game->game().last().word.c_str())));
+        const QString caught = QString::fromLatin1(game->game().last().word.c_str());
+        QVERIFY(caught != QString::fromLatin1(Shared().TheWord.c_str()));
+        if (shield > 0) QCOMPARE(game->scene()->call(), QString("Not \"%1\"!").arg(caught));
     }
     QVERIFY(fx.sound.played.contains("towerclang.wav"));
     QCOMPARE(game->scene()->call(), "The guards drove you back!");
@@ -140,7 +141,6 @@ void TowerScreenTest::threeWrongScrollsDriveTheKnightBack() {
     // Try again: a fresh game.
     QCOMPARE(LabelText(game, "ShieldsLabel"), "Shields: 3");
     QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 0");
-    QCOMPARE(game->scene()->call(), "Get ready...");
     // A list of one word twice: nothing to throw as decoys, said clearly, back to the title.
     Shared().Words = {"", "moat", "MOAT"};
     Shared().Meanings = {"", "water", "water"};
