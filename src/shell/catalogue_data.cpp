@@ -213,13 +213,11 @@ std::vector<GameCard> BuildCatalogue() {
     cards.push_back(Card(
         "Tower Assault", AtLeast(Elig(WO::Refuse, kMsgM2, "TowerGame"), 5, kMsgE1), NoDifficulty(),
         "Using only the right and left arrow keys, move your knight along the foot of the castle "
-        "wall. A definition hangs on the banner at the top, and the guards on the battlements "
-        "throw down scrolls, each with a word. Stand under the scroll whose word matches and catch "
-        "it: your knight builds one rung of his ladder (50 points times the rungs built). Dodge "
-        "the other scrolls! A wrong one costs one of your three shields and 25 points. If the "
-        "right scroll falls to the ground, the guards throw it again later. The scrolls fall "
-        "faster with each rung. Build ten rungs and your knight climbs up and raises his flag on "
-        "the castle! Lose all three shields and the guards drive you back."));
+        "wall. The banner at the top shows a definition, and the guards on the battlements throw "
+        "down scrolls, each with a word. Stand under the scroll whose word matches and catch it "
+        "to build a rung of your ladder; each rung scores more than the last. Dodge the others: "
+        "a wrong one costs one of your three shields! A right scroll that falls to the ground comes again later, and the scrolls fall "
+        "faster with each rung. Build ten rungs to climb up and raise your flag on the castle!"));
 
     cards.push_back(Card(
         "Flash Cards", Elig(WO::Refuse, kFlashCardsRefusal, "FlashCardForm"), NoDifficulty(),
