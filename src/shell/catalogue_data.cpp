@@ -216,8 +216,9 @@ std::vector<GameCard> BuildCatalogue() {
         "wall. The banner at the top shows a definition, and the guards on the battlements throw "
         "down scrolls, each with a word. Stand under the scroll whose word matches and catch it "
         "to build a rung of your ladder; each rung scores more than the last. Dodge the others: "
-        "a wrong one costs one of your three shields! A right scroll that falls to the ground comes again later, and the scrolls fall "
-        "faster with each rung. Build ten rungs to climb up and raise your flag on the castle!"));
+        "a wrong one costs one of your three shields! A right scroll that falls to the ground "
+        "comes again later, and the scrolls fall faster with each rung. Build ten rungs to climb "
+        "up and raise your flag on the castle!"));
 
     cards.push_back(Card(
         "Flash Cards", Elig(WO::Refuse, kFlashCardsRefusal, "FlashCardForm"), NoDifficulty(),
