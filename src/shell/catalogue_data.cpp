@@ -216,9 +216,12 @@ std::vector<GameCard> BuildCatalogue() {
     cards.push_back(Card(
         "Tower Assault", AtLeast(Elig(WO::Refuse, kMsgM2, "TowerGame"), 5, kMsgE1), NoDifficulty(),
         "Using only the right and left arrow keys, move your knight along the foot of the castle "
-        "wall. The guards on the tower throw words down at you while a definition is shown at "
-        "the top of the screen. Catch the word that matches the definition and dodge the others! "
-        "Each right catch takes you higher. Reach the top to win the castle!"));
+        "wall. The banner at the top shows a definition, and the guards on the battlements throw "
+        "down scrolls, each with a word. Stand under the scroll whose word matches and catch it "
+        "to build a rung of your ladder; each rung scores more than the last. Dodge the others: "
+        "a wrong one costs one of your three shields! A right scroll that falls to the ground "
+        "comes again later, and the scrolls fall faster with each rung. Build ten rungs to climb "
+        "up and raise your flag on the castle!"));
 
     cards.push_back(Card(
         "Flash Cards", Elig(WO::Refuse, kFlashCardsRefusal, "FlashCardForm"), NoDifficulty(),
