@@ -1,0 +1,164 @@
+// Spiderwebs on its screen: from the title, a wrong fly eaten, the right one freed, ten
+// definitions and the score to the table; at 1920x1080 the spider wins every definition, the
+// word shown each time, no points and a try again; a list with too few words for the web.
+#include <QtTest>
+
+#include "core/strings.h"
+#include "game_start.h"
+#include "games/action/spiderwebs/spiderwebs_screen.h"
+
+using namespace wm;
+using namespace wm::test;
+
+class SpiderScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void tenDefinitionsFromTheTitleToTheTable();
+    void theSpiderWinsEveryDefinition();
+};
+
+namespace {
+
+void ClickFly(SpiderGame* game, int fly) {
+    const QPoint at = game->scene()->pickRect(fly).center().toPoint();
+    QTest::mouseClick(game->scene(), Qt::LeftButton, {}, at);
+}
+
+int WrongFly(SpiderGame* game) {
+    return game->game().answer() == 0 ? 1 : 0;
+}
+
+}  // namespace
+
+void SpiderScreenTest::tenDefinitionsFromTheTitleToTheTable() {
+    ShellFixture fx;
+    WriteOneList(fx, "Garden Bugs",
+                 {{"ant", "a tiny insect that lives in a hill"},
+                  {"bee", "it makes honey"},
+                  {"moth", "it flies to the light at night"},
+                  {"slug", "a slimy garden crawler"},
+                  {"wasp", "a striped insect that stings"},
+                  {"snail", "it carries its house on its back"},
+                  {"beetle", "an insect with a hard shell"},
+                  {"cricket", "it chirps in the grass"},
+                  {"ladybird", "a red beetle with black spots"},
+                  {"worm", "it wriggles in the soil"},
+                  {"gnat", "a very small fly"}});
+    WinDriver driver({"BOB"});
+    SetModalHook(std::ref(driver));
+    auto* game = qobject_cast<SpiderGame*>(PlayFromTitle("Spiderwebs", "Garden Bugs", 3));
+    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+    Shared().SoundOn = kTrue;
+    Pump(16);
+    QVERIFY(fx.music.opened.endsWith("sounds/spiderwebs.mid"));
+    QCOMPARE(LabelText(game, "FliesLabel"), "Flies: 3");
+    QCOMPARE(game->game().flies().size(), 3u);
+    for (int round = 1; round <= 10; ++round) {
+        QCOMPARE(LabelText(game, "RoundLabel"), QString("Definition %1 of 10").arg(round));
+        QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
+        QCOMPARE(game->scene()->call(), QString("Definition %1 of 10").arg(round));
+        if (round == 1) {
+            Shot(game, "spiderwebs-1280");
+            // A wrong fly first: eaten, -25, and the spider half as fast again.
+            const int wrong = WrongFly(game);
+            ClickFly(game, wrong);
+            QCOMPARE(LabelText(game, "ScoreLabel"), "Score: -25");
+            QCOMPARE(game->scene()->call(), "Gulp! Wrong fly, and the spider hurries!");
+            QVERIFY(fx.sound.played.contains("spidereat.wav"));
+            ClickFly(game, wrong);  // eaten already: nothing happens
+            QCOMPARE(LabelText(game, "ScoreLabel"), "Score: -25");
+            QCOMPARE(LabelText(game, "TimeLabel"), "Spider: 8.0 s");
+            // The right one before the spider sets off: 80 tenths x 2.
+            ClickFly(game, game->game().answer());
+            QCOMPARE(game->scene()->call(), "Free! +160 points");
+            QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 135");
+        } else if (round == 2) {
+            // The spider sets off after a second and a half...
+            QVERIFY(!fx.sound.played.contains("spidergo.wav"));
+            while (game->game().phase() == spiderwebs::Phase::Ready) Pump(16);
+            QCOMPARE(game->scene()->call(), "Click the fly with the matching word!");
+            QVERIFY(fx.sound.played.contains("spidergo.wav"));
+            // ... and crawls 11.5 s to its fly in the second round.
+            Pump(1984);
+            QCOMPARE(LabelText(game, "TimeLabel"), "Spider: 9.5 s");
+            Shot(game, "spiderwebs-crawl-1280");
+            ClickFly(game, game->game().answer());
+            QCOMPARE(game->scene()->call(), "Free! +190 points");
+        } else {
+            ClickFly(game, game->game().answer());
+        }
+        QVERIFY(fx.sound.played.contains("spiderfree.wav"));
+        QCOMPARE(game->game().freed(), round);
+        if (round < 10) {
+            Pump(spiderwebs::kFreedMs + 16);
+        }
+    }
+    // Rounds 3 to 10 at their whole crawls: 220 down to 150 points.
+    QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 1805");
+    fx.dialogs.answerYes(false);
+    Pump(spiderwebs::kFreedMs + 16);
+    QCOMPARE(game->scene()->call(), "All ten done! You freed 10 of 10 flies.");
+    QVERIFY(fx.sound.played.contains("spiderwin.wav"));
+    QVERIFY(fx.dialogs.shown.empty());
+    Pump(SpiderGame::kEndMs);
+    QVERIFY2(fx.dialogs.saw("You got a high score of 1805! Would you like to try again?"),
+             qPrintable(fx.dialogs.texts().join(" | ")));
+    QCOMPARE(TableRow(fx, "Spiderwebs"), "BOB 1805");
+    Pump();
+    QVERIFY(Showing<Title>());
+}
+
+void SpiderScreenTest::theSpiderWinsEveryDefinition() {
+    ShellFixture fx;
+    ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
+    Pairs pairs;
+    for (const char* w : {"photosynthesis", "metamorphosis", "camouflaged", "caterpillars",
+                          "grasshoppers", "dragonflies", "hibernation", "chrysalis", "centipede",
+                          "earthworm", "pollinator", "honeycomb", "cobweb"})
+        pairs.push_back({w, std::string("a long definition of ") + w +
+                                ", so long that it has to wrap onto a second line on the sign"});
+    auto* game = OpenGame<SpiderGame>(fx, "Spiderwebs", pairs, 12);
+    QVERIFY(game);
+    Pump(16);
+    QCOMPARE(game->game().flies().size(), 12u);
+    QStringList words;
+    for (int round = 1; round <= 10; ++round) {
+        const QString word = QString::fromLatin1(Shared().TheWord.c_str());
+        QVERIFY2(!words.contains(word), qPrintable(word));
+        words << word;
+        if (round == 1) Shot(game, "spiderwebs-1920");
+        // At the hub a while, then the crawl: 12 s less half a second a round.
+        while (game->game().phase() == spiderwebs::Phase::Ready) Pump(16);
+        Pump(12000 - 500 * (round - 1) - 32);
+        QCOMPARE(game->game().phase(), spiderwebs::Phase::Crawling);
+        Pump(32);
+        QCOMPARE(game->scene()->call(), "Too late! The word was \"" + word + "\".");
+        if (round == 1) Shot(game, "spiderwebs-caught-1920");
+        QVERIFY(fx.sound.played.contains("spidercatch.wav"));
+        QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 0");
+        Pump(spiderwebs::kCaughtMs);
+    }
+    QCOMPARE(game->scene()->call(), "The spider had a feast tonight!");
+    QVERIFY(fx.sound.played.contains("spiderlose.wav"));
+    fx.dialogs.answerYes(true);
+    Pump(SpiderGame::kEndMs);
+    QCOMPARE(fx.dialogs.last(),
+             "All ten definitions are done, but your score is 0, so it cannot go on the high "
+             "score table. Would you like to try again?");
+    QCOMPARE(fx.dialogs.shown.back().title, "Spiderwebs");
+    QCOMPARE(TableRow(fx, "Spiderwebs"), "");
+    // Try again: a fresh game.
+    QCOMPARE(game->scene()->call(), "Definition 1 of 10");
+    QCOMPARE(game->game().round(), 1);
+    // Twelve flies need twelve different words.
+    Shared().WordCount = 11;
+    QVERIFY(TriggerMenu(game, "RS"));
+    Pump();
+    QCOMPARE(fx.dialogs.last(),
+             "At level 12 the web holds 12 flies, each with a different word, but this list has "
+             "only 11 different words. Please choose another list or a lower level.");
+    QVERIFY(Showing<Title>());
+}
+
+QTEST_MAIN(SpiderScreenTest)
+#include "spiderwebs_screen_test.moc"
