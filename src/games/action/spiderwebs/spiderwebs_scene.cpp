@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QSvgRenderer>
+#include <algorithm>
 #include <cmath>
 
 #include "core/shared_state.h"
@@ -92,12 +93,12 @@ QPointF WebScene::flyAt(int fly) const {
 }
 
 QSizeF WebScene::flySize() const {
-    const double w = std::min(width() * 0.052, height() * 0.085);
+    const double w = std::min(width() * 0.058, height() * 0.095);
     return QSizeF(w, w * 0.82);
 }
 
 QSizeF WebScene::spiderSize() const {
-    const double w = std::min(width() * 0.07, height() * 0.115);
+    const double w = std::min(width() * 0.085, height() * 0.14);
     return QSizeF(w, w);
 }
 
@@ -492,7 +493,6 @@ void WebScene::paintEvent(QPaintEvent* event) {
         const QRectF tr = tagRect(i);
         if (event->region().intersects(tr.toAlignedRect())) p.drawPixmap(tr.topLeft(), tags_[i]);
     }
-    paintSpider(p, t);
     for (int i = 0; i < flies() && i < int(tags_.size()); ++i) {
         if (game_->flies()[i].eaten || i == freedFly_) continue;
         if (caughtAt_ >= 0 && i == game_->answer()) {
@@ -505,6 +505,8 @@ void WebScene::paintEvent(QPaintEvent* event) {
         if (!event->region().intersects(r.toAlignedRect().adjusted(-2, -2, 2, 2))) continue;
         p.drawPixmap(r, fly_[(t / 50 + i) % 2], QRectF(fly_[0].rect()));
     }
+    // Over its fly, the spider pounces on it.
+    paintSpider(p, t);
     for (const Effect& e : effects_) paintEffect(p, e, t);
     if (finale_ > 0) {
         // Fireflies dance round the web.

@@ -9,6 +9,7 @@
 #include <QRegion>
 #include <QWidget>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "games/action/spiderwebs/spiderwebs_rules.h"

@@ -18,7 +18,7 @@ using wm::test::ListOf;
 namespace {
 
 // Runs the game on in frames of `step` ms until `ms` have passed; the events, in order.
-std::vector<Event> Run(Game& g, SharedState& s, Rng& rng, int ms, int step = 16) {
+std::vector<Event> Advance(Game& g, SharedState& s, Rng& rng, int ms, int step = 16) {
     std::vector<Event> all;
     for (int t = 0; t < ms; t += step) {
         auto e = g.advance(s, std::min(step, ms - t), rng);
@@ -107,10 +107,10 @@ TEST(SpiderwebsPlay, WrongFlyHurriesTheSpiderThenTheRightOneIsFreed) {
     Game g;
     ASSERT_EQ(g.start(s, rng), Start::Ok);
     // The spider waits at the hub for a second and a half.
-    EXPECT_TRUE(Run(g, s, rng, 1499, 1499).empty());
-    EXPECT_EQ(Run(g, s, rng, 1, 1), std::vector<Event>{Event::Go});
+    EXPECT_TRUE(Advance(g, s, rng, 1499, 1499).empty());
+    EXPECT_EQ(Advance(g, s, rng, 1, 1), std::vector<Event>{Event::Go});
     EXPECT_EQ(g.phase(), Phase::Crawling);
-    Run(g, s, rng, 2000, 20);
+    Advance(g, s, rng, 2000, 20);
     EXPECT_DOUBLE_EQ(g.progress(), 2000.0 / 12000);
     EXPECT_EQ(g.msLeft(), 10000);
     EXPECT_EQ(g.click(1), Click::Wrong);
@@ -119,11 +119,11 @@ TEST(SpiderwebsPlay, WrongFlyHurriesTheSpiderThenTheRightOneIsFreed) {
     EXPECT_EQ(g.click(1), Click::Ignored);  // eaten already
     for (int bad : {-1, 3}) EXPECT_EQ(g.click(bad), Click::Ignored);
     EXPECT_EQ(g.msLeft(), 6667);  // half as fast again
-    Run(g, s, rng, 100, 100);
+    Advance(g, s, rng, 100, 100);
     EXPECT_EQ(g.msLeft(), 6567);
     EXPECT_EQ(g.click(2), Click::Wrong);
     EXPECT_DOUBLE_EQ(g.hurry(), 2.0);
-    EXPECT_EQ(g.msLeft(), 4926);  // 9850 at the first pace, twice as fast
+    EXPECT_EQ(g.msLeft(), 4925);  // 9850 at the first pace, twice as fast
     EXPECT_EQ(g.click(0), Click::Right);
     EXPECT_EQ(g.lastPoints(), 98);
     EXPECT_EQ(g.score(), -50 + 98);
@@ -132,8 +132,8 @@ TEST(SpiderwebsPlay, WrongFlyHurriesTheSpiderThenTheRightOneIsFreed) {
     EXPECT_EQ(g.click(0), Click::Ignored);
     // The fly buzzes away, then the next definition: the spider's pace back to its own.
     rng.pick(2, 4).pick(1, 3).pick(1, 4).pick(3, 4);
-    EXPECT_TRUE(Run(g, s, rng, 1799, 1799).empty());
-    EXPECT_EQ(Run(g, s, rng, 1, 1), std::vector<Event>{Event::NextRound});
+    EXPECT_TRUE(Advance(g, s, rng, 1799, 1799).empty());
+    EXPECT_EQ(Advance(g, s, rng, 1, 1), std::vector<Event>{Event::NextRound});
     EXPECT_EQ(g.round(), 2);
     EXPECT_EQ(s.TheWord, "bee");
     EXPECT_DOUBLE_EQ(g.hurry(), 1.0);
@@ -154,15 +154,15 @@ TEST(SpiderwebsPlay, TheSpiderAtItsFlyThenTenDefinitionsEndTheGame) {
         ASSERT_EQ(g.round(), round);
         defined.insert(s.TheWord);
         EXPECT_EQ(g.flies()[g.answer()].word, s.TheWord);
-        Run(g, s, rng, kReadyMs, kReadyMs);
+        Advance(g, s, rng, kReadyMs, kReadyMs);
         // The crawl of this round, less one ms: still crawling.
-        EXPECT_TRUE(Run(g, s, rng, crawlMs(round) - 1, crawlMs(round) - 1).empty()) << round;
+        EXPECT_TRUE(Advance(g, s, rng, crawlMs(round) - 1, crawlMs(round) - 1).empty()) << round;
         EXPECT_EQ(g.msLeft(), 1);
-        EXPECT_EQ(Run(g, s, rng, 1, 1), std::vector<Event>{Event::Caught});
+        EXPECT_EQ(Advance(g, s, rng, 1, 1), std::vector<Event>{Event::Caught});
         EXPECT_EQ(g.phase(), Phase::Caught);
         EXPECT_EQ(g.click(g.answer()), Click::Ignored);
-        EXPECT_TRUE(Run(g, s, rng, kCaughtMs - 1, kCaughtMs - 1).empty());
-        EXPECT_EQ(Run(g, s, rng, 1, 1),
+        EXPECT_TRUE(Advance(g, s, rng, kCaughtMs - 1, kCaughtMs - 1).empty());
+        EXPECT_EQ(Advance(g, s, rng, 1, 1),
                   std::vector<Event>{round < kRounds ? Event::NextRound : Event::Over});
     }
     EXPECT_EQ(g.phase(), Phase::Over);
