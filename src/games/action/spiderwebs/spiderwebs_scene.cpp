@@ -484,8 +484,8 @@ void WebScene::step() {
 
 void WebScene::paintEvent(QPaintEvent* event) {
     QPainter p(this);
-    const QRect clip = event->rect();
-    p.drawPixmap(clip, scene_, clip);
+    // The scattered flies make a region of many small pieces: only those are copied.
+    for (const QRect& r : event->region()) p.drawPixmap(r, scene_, r);
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::SmoothPixmapTransform);
     const qint64 t = now();
@@ -503,7 +503,7 @@ void WebScene::paintEvent(QPaintEvent* event) {
         }
         const QRectF r = flyDrawRect(i, t);
         if (!event->region().intersects(r.toAlignedRect().adjusted(-2, -2, 2, 2))) continue;
-        p.drawPixmap(r, fly_[(t / 50 + i) % 2], QRectF(fly_[0].rect()));
+        p.drawPixmap(r.topLeft().toPoint(), fly_[(t / 50 + i) % 2]);
     }
     // Over its fly, the spider pounces on it.
     paintSpider(p, t);
