@@ -116,14 +116,50 @@ QRectF WebScene::pickRect(int fly) const {
     return body.united(tagRect(fly));
 }
 
-QPointF WebScene::spiderAt() const {
-    if (!game_ || game_->round() <= 0) return hub();
-    const QPointF to = flyAt(game_->answer());
-    const QPointF d = to - hub();
+void WebScene::buildPath() {
+    path_.clear();
+    along_.clear();
+    if (!game_ || game_->round() <= 0 || width() <= 0) return;
+    // The spider never heads straight for its fly, or the pupil could follow it rather than
+    // read: out along another spoke, round the web on a ring thread, then out to the fly. Where
+    // it sets off and which way round it goes change from round to round.
+    const int fly = game_->answer();
+    const double target = flyAngle(fly);
+    const int turn = game_->round() % 2 == 0 ? 1 : -1;
+    const double away = kPi * (0.55 + 0.1 * ((game_->round() * 3 + fly) % 5));
+    const double start = target + turn * away;
+    const double ring = 0.316;  // one of the inner turns of the spiral
+    auto onRing = [&](double a) {
+        return hub() + QPointF(std::cos(a) * ring * width() * kWebRx,
+                               std::sin(a) * ring * height() * kWebRy);
+    };
+    path_.push_back(hub());
+    const int steps = std::max(2, int(away / (kPi / 40)));
+    for (int k = 0; k <= steps; ++k) path_.push_back(onRing(start - turn * away * k / steps));
+    const QPointF to = flyAt(fly);
+    const QPointF d = to - path_.back();
     const double len = std::max(1.0, std::hypot(d.x(), d.y()));
     // It stops with its jaws at the fly, not on top of it.
-    const QPointF end = to - d / len * flySize().width() * 0.55;
-    return hub() + (end - hub()) * scene::clamp01(game_->progress());
+    path_.push_back(to - d / len * flySize().width() * 0.55);
+    along_.push_back(0);
+    for (std::size_t i = 1; i < path_.size(); ++i) {
+        const QPointF step = path_[i] - path_[i - 1];
+        along_.push_back(along_.back() + std::hypot(step.x(), step.y()));
+    }
+}
+
+QPointF WebScene::spiderAt(double* heading) const {
+    if (path_.size() < 2) {
+        if (heading) *heading = -90;
+        return hub();
+    }
+    const double want = scene::clamp01(game_ ? game_->progress() : 0) * along_.back();
+    std::size_t i = 1;
+    while (i + 1 < path_.size() && along_[i] < want) ++i;
+    const QPointF a = path_[i - 1], b = path_[i];
+    const double seg = std::max(1e-9, along_[i] - along_[i - 1]);
+    if (heading) *heading = std::atan2(b.y() - a.y(), b.x() - a.x()) * 180 / kPi;
+    return a + (b - a) * scene::clamp01((want - along_[i - 1]) / seg);
 }
 
 QRect WebScene::clueRect() const {
@@ -162,6 +198,7 @@ void WebScene::newRound() {
     // A new level hangs another number of flies: the web gets spokes for them.
     if (flies() != builtFor_) buildScene();
     buildTags();
+    buildPath();
     update();
 }
 
@@ -228,6 +265,7 @@ void WebScene::setCall(const QString& text) {
 void WebScene::resizeEvent(QResizeEvent*) {
     buildScene();
     buildTags();
+    buildPath();
     const QString call = call_;
     call_.clear();
     setCall(call);
@@ -427,12 +465,16 @@ void WebScene::paintEffect(QPainter& p, const Effect& e, qint64 t) {
 
 void WebScene::paintSpider(QPainter& p, qint64 t) {
     if (!game_ || game_->round() <= 0) return;
-    const QPointF at = spiderAt();
-    // Its dragline back to the hub.
+    double heading = -90;
+    const QPointF at = spiderAt(&heading);
+    // Its dragline back along the threads it walked.
     p.setPen(QPen(QColor(245, 248, 255, 200), std::max(1.0, height() * 0.0018)));
-    p.drawLine(hub(), at);
-    const QPointF d = flyAt(game_->answer()) - hub();
-    const double angle = std::atan2(d.y(), d.x()) * 180 / kPi + 90;
+    QPolygonF walked;
+    const double done = scene::clamp01(game_->progress()) * (along_.empty() ? 0 : along_.back());
+    for (std::size_t i = 0; i < path_.size() && along_[i] < done; ++i) walked << path_[i];
+    walked << at;
+    p.drawPolyline(walked);
+    const double angle = heading + 90;
     const bool walking = game_->phase() == Phase::Crawling;
     const int frame = walking ? int(t / 110 % 2) : 0;
     // Waiting at the hub it bobs on its thread; at its fly it pounces.

@@ -51,7 +51,8 @@ public:
     QPointF flyAt(int fly) const;
     QRectF tagRect(int fly) const;
     QRectF pickRect(int fly) const;
-    QPointF spiderAt() const;
+    // Where the spider is on its way, and which way it faces (degrees, 0 to the right).
+    QPointF spiderAt(double* heading = nullptr) const;
     QRect clueRect() const;
     QRect callRect() const;
     int flyUnder(QPointF at) const;
@@ -77,6 +78,7 @@ private:
     QSizeF spiderSize() const;
     void buildScene();
     void buildTags();
+    void buildPath();
     QPixmap tagPicture(const QString& word, int look, const QSizeF& size) const;
     QRectF flyDrawRect(int fly, qint64 t) const;
     QRectF spiderRect() const;
@@ -91,6 +93,8 @@ private:
     std::vector<QPixmap> tags_;
     std::vector<Effect> effects_;
     std::vector<QRectF> fliesDrawn_;
+    std::vector<QPointF> path_;  // the spider's way along the threads, hub to fly
+    std::vector<double> along_;  // how far along the way each point is
     QString call_;
     QPixmap callPicture_;
     qint64 roundAt_ = 0;

@@ -191,9 +191,9 @@ void SpiderGame::resizeEvent(QResizeEvent*) {
     const int H = scene_->height(), W = width();
     // The definition on the sign, shrunk until it fits.
     const QRect sign = scene_->clueRect().translated(0, top);
-    const QRect box = sign.adjusted(sign.width() / 14, sign.height() * 22 / 100, -sign.width() / 14,
-                                    -sign.height() * 12 / 100);
-    QFont f = Bold(box.height() * 40 / 100);
+    const QRect box = sign.adjusted(sign.width() / 14, sign.height() * 28 / 100, -sign.width() / 14,
+                                    -sign.height() * 13 / 100);
+    QFont f = Bold(box.height() * 36 / 100);
     for (;;) {
         const QRect need =
             QFontMetrics(f).boundingRect(box, Qt::AlignCenter | Qt::TextWordWrap, Label1->text());
