@@ -93,7 +93,6 @@ std::string Game::drawDecoy(const SharedState& s, Rng& rng) const {
 
 std::vector<Event> Game::advance(SharedState& s, int ms, Rng& rng) {
     std::vector<Event> events;
-    if (ms <= 0 || phase_ == Phase::Over) return events;
     switch (phase_) {
         case Phase::Ready:
             phaseMs_ += ms;
@@ -149,11 +148,10 @@ Click Game::click(int fly) {
 }
 
 double Game::progress() const {
-    return round_ > 0 ? crawled_ / crawlMs(round_) : 0;
+    return crawled_ / crawlMs(round_);
 }
 
 int Game::msLeft() const {
-    if (round_ <= 0) return 0;
     return static_cast<int>(std::ceil((crawlMs(round_) - crawled_) / hurry()));
 }
 

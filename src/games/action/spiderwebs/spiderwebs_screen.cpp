@@ -89,7 +89,6 @@ void SpiderGame::SetupGame() {
         case Start::Ok:
             break;
     }
-    s.Score = 0;
     frame_.startMusic();
     showRound();
     lastTick_ = Ticker::get().now();

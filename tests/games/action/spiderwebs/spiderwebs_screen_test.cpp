@@ -29,6 +29,28 @@ int WrongFly(SpiderGame* game) {
     return game->game().answer() == 0 ? 1 : 0;
 }
 
+// The definition sits on the sign and the plates beside it, each text whole in its box, none
+// over another or off the screen.
+void CheckLayout(SpiderGame* game) {
+    const QRect sign = game->scene()->clueRect().translated(game->scene()->pos());
+    QList<QRect> plates;
+    for (const char* name : {"Label1", "ScoreLabel", "TimeLabel", "RoundLabel", "FliesLabel"}) {
+        auto* l = game->findChild<QLabel*>(name);
+        const QRect box = l->contentsRect();
+        const int flags = int(l->alignment()) | (l->wordWrap() ? int(Qt::TextWordWrap) : 0);
+        const QRect need = QFontMetrics(l->font()).boundingRect(box, flags, l->text());
+        QVERIFY2(box.contains(need), name);
+        QVERIFY2(game->rect().contains(l->geometry()), name);
+        if (l->objectName() == "Label1") {
+            QVERIFY(sign.contains(l->geometry()));
+            continue;
+        }
+        QVERIFY2(!l->geometry().intersects(sign), name);
+        for (const QRect& other : plates) QVERIFY2(!l->geometry().intersects(other), name);
+        plates << l->geometry();
+    }
+}
+
 }  // namespace
 
 void SpiderScreenTest::tenDefinitionsFromTheTitleToTheTable() {
@@ -61,6 +83,7 @@ void SpiderScreenTest::tenDefinitionsFromTheTitleToTheTable() {
         QCOMPARE(game->scene()->call(), QString("Definition %1 of 10").arg(round));
         if (round == 1) {
             Shot(game, "spiderwebs-1920");
+            CheckLayout(game);
             // A wrong fly first: eaten, -25, and the spider half as fast again.
             const int wrong = WrongFly(game);
             ClickFly(game, wrong);
@@ -134,7 +157,10 @@ void SpiderScreenTest::theSpiderWinsEveryDefinition() {
         QCOMPARE(game->game().phase(), spiderwebs::Phase::Crawling);
         for (int i = 0; i < 4 && game->game().phase() == spiderwebs::Phase::Crawling; ++i) Pump(16);
         QCOMPARE(game->scene()->call(), "Too late! The word was \"" + word + "\".");
-        if (round == 1) Shot(game, "spiderwebs-caught-1280");
+        if (round == 1) {
+            Shot(game, "spiderwebs-caught-1280");
+            CheckLayout(game);
+        }
         QVERIFY(fx.sound.played.contains("spidercatch.wav"));
         QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 0");
         Pump(spiderwebs::kCaughtMs);
