@@ -58,7 +58,6 @@ SpiderGame::SpiderGame(QWidget* parent)
     Label1->setAlignment(Qt::AlignCenter);
     Label1->setWordWrap(true);
     Label1->setStyleSheet("color: #3b2208; background: transparent;");
-    Label1->setAttribute(Qt::WA_TransparentForMouseEvents);
     ScoreLabel = new QLabel(this);
     ScoreLabel->setObjectName("ScoreLabel");
     TimeLabel = new QLabel(this);
@@ -70,7 +69,6 @@ SpiderGame::SpiderGame(QWidget* parent)
     for (QLabel* l : {ScoreLabel, TimeLabel, RoundLabel, FliesLabel}) {
         l->setAlignment(Qt::AlignCenter);
         l->setStyleSheet(kPlateStyle);
-        l->setAttribute(Qt::WA_TransparentForMouseEvents);
     }
 
     resize(ScreenMetrics::screenSize());
@@ -185,8 +183,7 @@ void SpiderGame::showHud() {
 
 void SpiderGame::resizeEvent(QResizeEvent*) {
     const int top = frame_.menuHeight();
-    if (scene_->geometry() != QRect(0, top, width(), height() - top))
-        scene_->setGeometry(0, top, width(), height() - top);
+    scene_->setGeometry(0, top, width(), height() - top);
     const int H = scene_->height(), W = width();
     // The definition on the sign, shrunk until it fits.
     const QRect sign = scene_->clueRect().translated(0, top);

@@ -117,7 +117,7 @@ TEST(SpiderwebsPlay, WrongFlyHurriesTheSpiderThenTheRightOneIsFreed) {
     EXPECT_TRUE(g.flies()[1].eaten);
     EXPECT_EQ(g.score(), -25);
     EXPECT_EQ(g.click(1), Click::Ignored);  // eaten already
-    for (int bad : {-1, 3}) EXPECT_EQ(g.click(bad), Click::Ignored);
+    for (int bad : {-1, 3, 100000}) EXPECT_EQ(g.click(bad), Click::Ignored);
     EXPECT_EQ(g.msLeft(), 6667);  // half as fast again
     Advance(g, s, rng, 100, 100);
     EXPECT_EQ(g.msLeft(), 6567);
