@@ -167,6 +167,21 @@ QRect WebScene::clueRect() const {
                  int(height() * 0.175));
 }
 
+QRect WebScene::clueTextRect() const {
+    // The board of the sign, inside its frame and below the nails.
+    const QRect sign = clueRect();
+    return sign.adjusted(sign.width() / 14, sign.height() * 28 / 100, -sign.width() / 14,
+                         -sign.height() * 13 / 100);
+}
+
+QRect WebScene::plateRect(int plate, int plateHeight) const {
+    // Two plates each side of the sign, in the sky's corners.
+    const int w = width() * 17 / 100, margin = width() * 15 / 1000;
+    const int x = plate < 2 ? margin : width() - margin - w;
+    const int y = height() * 2 / 100 + (plate % 2) * (plateHeight + height() / 100);
+    return QRect(x, y, w, plateHeight);
+}
+
 QRect WebScene::callRect() const {
     return QRect(int(width() * 0.22), int(height() * 0.925), int(width() * 0.56),
                  int(height() * 0.065));

@@ -54,6 +54,9 @@ public:
     // Where the spider is on its way, and which way it faces (degrees, 0 to the right).
     QPointF spiderAt(double* heading = nullptr) const;
     QRect clueRect() const;
+    QRect clueTextRect() const;
+    // Plate 0 and 1 (the upper first) at the left, 2 and 3 at the right, `plateHeight` high.
+    QRect plateRect(int plate, int plateHeight) const;
     QRect callRect() const;
     int flyUnder(QPointF at) const;
 

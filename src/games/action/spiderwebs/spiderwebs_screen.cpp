@@ -2,7 +2,6 @@
 
 #include <QFontMetrics>
 #include <QTimer>
-#include <tuple>
 
 #include "core/rng.h"
 #include "core/shared_state.h"
@@ -184,11 +183,8 @@ void SpiderGame::showHud() {
 void SpiderGame::resizeEvent(QResizeEvent*) {
     const int top = frame_.menuHeight();
     scene_->setGeometry(0, top, width(), height() - top);
-    const int H = scene_->height(), W = width();
     // The definition on the sign, shrunk until it fits.
-    const QRect sign = scene_->clueRect().translated(0, top);
-    const QRect box = sign.adjusted(sign.width() / 14, sign.height() * 28 / 100, -sign.width() / 14,
-                                    -sign.height() * 13 / 100);
+    const QRect box = scene_->clueTextRect().translated(scene_->pos());
     QFont f = Bold(box.height() * 36 / 100);
     for (;;) {
         const QRect need =
@@ -199,21 +195,20 @@ void SpiderGame::resizeEvent(QResizeEvent*) {
     }
     Label1->setFont(f);
     Label1->setGeometry(box);
-    // The plates: score and the spider's time on the left, the definition and flies on the right.
-    const int plateW = W * 17 / 100;
-    QFont pf = Bold(H * 30 / 1000);
-    for (QLabel* l : {ScoreLabel, TimeLabel, RoundLabel, FliesLabel})
-        while (pf.pixelSize() > 8 && QFontMetrics(pf).horizontalAdvance(l->text()) > plateW - 36)
-            pf.setPixelSize(pf.pixelSize() - 1);
-    const int plateH = QFontMetrics(pf).height() + 12;
-    const int y1 = top + H * 2 / 100, y2 = y1 + plateH + H / 100;
-    const int left = W * 15 / 1000, right = W - left - plateW;
-    for (auto [l, x, y] : {std::tuple{ScoreLabel, left, y1},
-                           {TimeLabel, left, y2},
-                           {RoundLabel, right, y1},
-                           {FliesLabel, right, y2}}) {
+    // The plates beside the sign, one font for all four, as large as the widest text lets it be.
+    const QList<QLabel*> plates{ScoreLabel, TimeLabel, RoundLabel, FliesLabel};
+    QFont pf = Bold(scene_->plateRect(0, 0).width() / 8);
+    for (QLabel* l : plates) {
         l->setFont(pf);
-        l->setGeometry(x, y, plateW, plateH);
+        while (pf.pixelSize() > 8 && l->sizeHint().width() > scene_->plateRect(0, 0).width()) {
+            pf.setPixelSize(pf.pixelSize() - 1);
+            l->setFont(pf);
+        }
+    }
+    for (int i = 0; i < plates.size(); ++i) {
+        plates[i]->setFont(pf);
+        plates[i]->setGeometry(
+            scene_->plateRect(i, plates[i]->sizeHint().height()).translated(scene_->pos()));
     }
 }
 

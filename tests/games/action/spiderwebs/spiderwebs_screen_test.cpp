@@ -32,6 +32,7 @@ int WrongFly(SpiderGame* game) {
 // The definition sits on the sign and the plates beside it, each text whole in its box, none
 // over another or off the screen.
 void CheckLayout(SpiderGame* game, bool crowded) {
+    QVERIFY(game->rect().contains(game->scene()->geometry()));
     const QRect sign = game->scene()->clueRect().translated(game->scene()->pos());
     QList<QRect> plates;
     for (const char* name : {"Label1", "ScoreLabel", "TimeLabel", "RoundLabel", "FliesLabel"}) {
@@ -53,6 +54,19 @@ void CheckLayout(SpiderGame* game, bool crowded) {
         for (const QRect& other : plates) QVERIFY2(!l->geometry().intersects(other), name);
         plates << l->geometry();
     }
+}
+
+// What the game drew and played is what its card declares, and all it declares is there.
+void CheckDeclared(const ShellFixture& fx) {
+    QStringList used{"images/spider-garden.svg", "images/spider-sprites.svg",
+                     QDir(fx.dir.path()).relativeFilePath(fx.music.opened)};
+    for (const QString& effect : fx.sound.played)
+        if (effect.startsWith("spider")) used << "sounds/" + effect;  // not the title's
+    const auto& declared = FindCard("Spiderwebs")->assets;
+    for (const QString& u : used)
+        QVERIFY2(std::count(declared.begin(), declared.end(), u.toStdString()), qPrintable(u));
+    for (const std::string& a : declared)
+        QVERIFY2(fx.exists(QString::fromStdString(a)), a.c_str());
 }
 
 }  // namespace
@@ -139,6 +153,7 @@ void SpiderScreenTest::tenDefinitionsFromTheTitleToTheTable() {
              qPrintable(fx.dialogs.texts().join(" | ")));
     QCOMPARE(TableRow(fx, "Spiderwebs"), "BOB 1805");
     QVERIFY(dancing);
+    CheckDeclared(fx);
     Pump();
     QVERIFY(Showing<Title>());
 }
@@ -184,6 +199,7 @@ void SpiderScreenTest::theSpiderWinsEveryDefinition() {
              "score table. Would you like to try again?");
     QCOMPARE(fx.dialogs.shown.back().title, "Spiderwebs");
     QCOMPARE(TableRow(fx, "Spiderwebs"), "--- 0");  // nobody on the table
+    CheckDeclared(fx);
     // Try again: a fresh game.
     QCOMPARE(game->scene()->call(), "Definition 1 of 10");
     QCOMPARE(game->game().round(), 1);
