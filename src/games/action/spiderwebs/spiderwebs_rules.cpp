@@ -24,8 +24,8 @@ Start Game::start(SharedState& s, Rng& rng) {
     level_ = std::clamp(s.Difficulty, kMinLevel, kMaxLevel);
     rng.Randomize();
     // A list over the limit keeps WordCount at 1001: the draws are among the entries loaded.
-    loaded_ = std::min({static_cast<int>(s.WordCount), kMaxWords,
-                        static_cast<int>(s.Words.size()) - 1});
+    loaded_ =
+        std::min({static_cast<int>(s.WordCount), kMaxWords, static_cast<int>(s.Words.size()) - 1});
     std::vector<std::string> seen;
     bool defined = false;
     for (int k = 1; k <= loaded_; ++k) {

@@ -222,7 +222,8 @@ void WebScene::eaten(int fly) {
     effects_.push_back({fly, now(), Effect::Pop, QString("-%1").arg(kWrongCost)});
     if (fly >= 0 && fly < int(tags_.size())) {
         update(tagRect(fly).toAlignedRect());
-        tags_[fly] = tagPicture(toQ(game_->flies()[fly].word), Eaten, tags_[fly].deviceIndependentSize());
+        tags_[fly] =
+            tagPicture(toQ(game_->flies()[fly].word), Eaten, tags_[fly].deviceIndependentSize());
     }
 }
 
@@ -231,7 +232,8 @@ void WebScene::freed(int fly, int points) {
     effects_.push_back({fly, now(), Effect::Escape, {}});
     effects_.push_back({fly, now(), Effect::Pop, QString("+%1").arg(points)});
     if (fly >= 0 && fly < int(tags_.size())) {
-        tags_[fly] = tagPicture(toQ(game_->flies()[fly].word), Free, tags_[fly].deviceIndependentSize());
+        tags_[fly] =
+            tagPicture(toQ(game_->flies()[fly].word), Free, tags_[fly].deviceIndependentSize());
         update(tagRect(fly).toAlignedRect());
     }
 }
@@ -240,7 +242,8 @@ void WebScene::caught() {
     caughtAt_ = now();
     const int fly = game_ ? game_->answer() : -1;
     if (fly >= 0 && fly < int(tags_.size())) {
-        tags_[fly] = tagPicture(toQ(game_->flies()[fly].word), Shown, tags_[fly].deviceIndependentSize());
+        tags_[fly] =
+            tagPicture(toQ(game_->flies()[fly].word), Shown, tags_[fly].deviceIndependentSize());
         update(pickRect(fly).toAlignedRect().adjusted(-8, -8, 8, 8));
     }
 }
@@ -263,7 +266,8 @@ void WebScene::setCall(const QString& text) {
         QFont f = boldFont(r.height() * 0.5);
         while (f.pixelSize() > 8 && QFontMetrics(f).horizontalAdvance(text) > r.width() * 0.94)
             f.setPixelSize(f.pixelSize() - 1);
-        const double w = std::min<double>(r.width(), QFontMetrics(f).horizontalAdvance(text) + r.height() * 1.2);
+        const double w =
+            std::min<double>(r.width(), QFontMetrics(f).horizontalAdvance(text) + r.height() * 1.2);
         const QRectF plate((r.width() - w) / 2, 1, w, r.height() - 2);
         p.setPen(QPen(QColor(255, 236, 170, 170), 2));
         p.setBrush(QColor(24, 18, 52, 215));
@@ -303,8 +307,8 @@ void WebScene::buildScene() {
     const double line = std::max(1.0, H * 0.0021);
     p.setPen(QPen(QColor(230, 240, 255, 120), line));
     const std::pair<double, QPointF> anchors[] = {
-        {-2.45, {W * 0.06, H * 0.2}},  {-0.72, {W * 0.94, H * 0.19}}, {0.15, {W, H * 0.62}},
-        {2.95, {0, H * 0.64}},         {1.25, {W * 0.62, H}},         {1.9, {W * 0.36, H}}};
+        {-2.45, {W * 0.06, H * 0.2}}, {-0.72, {W * 0.94, H * 0.19}}, {0.15, {W, H * 0.62}},
+        {2.95, {0, H * 0.64}},        {1.25, {W * 0.62, H}},         {1.9, {W * 0.36, H}}};
     for (const auto& [angle, to] : anchors) p.drawLine(onWeb(angle, 1.0), to);
     // The spokes: every fly hangs on one, with more between.
     const int n = std::max(1, flies());
@@ -375,7 +379,8 @@ QPixmap WebScene::tagPicture(const QString& word, int look, const QSizeF& size) 
     if (look == Eaten) {
         p.setPen(QPen(QColor(60, 60, 75, 200), 2));
         const double w = QFontMetrics(tagFont_).horizontalAdvance(word) / 2.0 + 2;
-        p.drawLine(QPointF(r.center().x() - w, r.center().y()), QPointF(r.center().x() + w, r.center().y()));
+        p.drawLine(QPointF(r.center().x() - w, r.center().y()),
+                   QPointF(r.center().x() + w, r.center().y()));
     }
     return pm;
 }
@@ -424,7 +429,8 @@ QRectF WebScene::effectRect(const Effect& e, qint64 t) const {
             return QRectF(at - QPointF(fs.width() * 0.7, fs.height() * 0.7), fs * 1.4);
         case Effect::Escape: {
             const double k = scene::easeIn(u / kEscapeMs);
-            const QPointF to = at + QPointF(std::sin(u / 90.0) * fs.width() * 0.6, -k * height() * 0.7);
+            const QPointF to =
+                at + QPointF(std::sin(u / 90.0) * fs.width() * 0.6, -k * height() * 0.7);
             return QRectF(to - QPointF(fs.width() * 1.2, fs.height() * 1.2), fs * 2.4)
                 .united(QRectF(at - QPointF(fs.width(), fs.height()), fs * 2));
         }
@@ -454,11 +460,12 @@ void WebScene::paintEffect(QPainter& p, const Effect& e, qint64 t) {
         case Effect::Escape: {
             const QSizeF fs = flySize();
             const double k = scene::easeIn(u / kEscapeMs);
-            const QPointF at = flyAt(e.fly) +
-                               QPointF(std::sin(u / 90.0) * fs.width() * 0.6, -k * height() * 0.7);
+            const QPointF at =
+                flyAt(e.fly) + QPointF(std::sin(u / 90.0) * fs.width() * 0.6, -k * height() * 0.7);
             for (int s = 0; s < 4; ++s)
-                scene::paintSparkle(p, at + QPointF(std::sin(s * 1.7 + u / 120.0) * fs.width() * 0.7,
-                                                    fs.height() * (0.5 + s * 0.2)),
+                scene::paintSparkle(p,
+                                    at + QPointF(std::sin(s * 1.7 + u / 120.0) * fs.width() * 0.7,
+                                                 fs.height() * (0.5 + s * 0.2)),
                                     fs.width() * 0.18, u / 300.0 + s, 1 - u / kEscapeMs);
             p.drawPixmap(QRectF(at - QPointF(fs.width() / 2, fs.height() / 2), fs),
                          fly_[(t / 40) % 2], QRectF(fly_[0].rect()));
@@ -495,8 +502,9 @@ void WebScene::paintSpider(QPainter& p, qint64 t) {
     // Waiting at the hub it bobs on its thread; at its fly it pounces.
     double scale = 1;
     if (game_->phase() == Phase::Ready) scale = 1 + 0.04 * std::sin(t / 160.0);
-    if (caughtAt_ >= 0) scale = 1 + 0.12 * std::max(0.0, std::sin((t - caughtAt_) / 70.0)) *
-                                        (1 - scene::clamp01((t - caughtAt_) / 600.0));
+    if (caughtAt_ >= 0)
+        scale = 1 + 0.12 * std::max(0.0, std::sin((t - caughtAt_) / 70.0)) *
+                        (1 - scene::clamp01((t - caughtAt_) / 600.0));
     const QSizeF ss = spiderSize() * scale;
     p.save();
     p.translate(at);
@@ -532,8 +540,8 @@ void WebScene::step() {
     mark(effectsDrawn_, fx);
     if (finale_ > 0) {
         const QPointF c = hub();
-        const QRectF ring(c.x() - width() * kWebRx, c.y() - height() * kWebRy,
-                          width() * kWebRx * 2, height() * kWebRy * 2);
+        const QRectF ring(c.x() - width() * kWebRx, c.y() - height() * kWebRy, width() * kWebRx * 2,
+                          height() * kWebRy * 2);
         mark(finaleDrawn_, ring.adjusted(-30, -30, 30, 30));
     }
     if (!dirty.isEmpty()) update(dirty);
@@ -572,8 +580,9 @@ void WebScene::paintEvent(QPaintEvent* event) {
         for (int k = 0; k < 14; ++k) {
             const double a = k * 2 * kPi / 14 + u / 900.0;
             const double r = 0.75 + 0.2 * std::sin(u / 400.0 + k);
-            scene::paintSparkle(p, c + QPointF(std::cos(a) * r * width() * kWebRx,
-                                               std::sin(a) * r * height() * kWebRy),
+            scene::paintSparkle(p,
+                                c + QPointF(std::cos(a) * r * width() * kWebRx,
+                                            std::sin(a) * r * height() * kWebRy),
                                 height() * 0.02, u / 250.0 + k, 0.9);
         }
     }

@@ -21,9 +21,9 @@ namespace wm {
 class WebScene : public QWidget {
     Q_OBJECT
 public:
-    static constexpr int kWrapMs = 900;    // a wrong fly wrapped in silk, fading away
+    static constexpr int kWrapMs = 900;     // a wrong fly wrapped in silk, fading away
     static constexpr int kEscapeMs = 1500;  // a freed fly buzzing off
-    static constexpr int kPopMs = 1100;    // points rising from a fly
+    static constexpr int kPopMs = 1100;     // points rising from a fly
 
     explicit WebScene(QWidget* parent = nullptr);
     ~WebScene() override;
@@ -104,7 +104,7 @@ private:
     qint64 caughtAt_ = -1;
     int freedFly_ = -1;
     int builtFor_ = -1;  // the flies the web's spokes were drawn for
-    int finale_ = 0;  // 1 won, -1 quiet
+    int finale_ = 0;     // 1 won, -1 quiet
     qint64 finaleAt_ = 0;
     QRectF spiderDrawn_, effectsDrawn_, finaleDrawn_;
     QFont tagFont_;

@@ -105,7 +105,8 @@ void SpiderGame::tick() {
             case Event::Caught:
                 // No points: the word is shown on its fly and on the plate.
                 scene_->caught();
-                scene_->setCall(QString("Too late! The word was \"%1\".").arg(toQ(Shared().TheWord)));
+                scene_->setCall(
+                    QString("Too late! The word was \"%1\".").arg(toQ(Shared().TheWord)));
                 sound().effect("spidercatch.wav");
                 break;
             case Event::NextRound:
@@ -114,8 +115,9 @@ void SpiderGame::tick() {
             case Event::Over: {
                 const bool won = game_.score() > 0;
                 scene_->finale(won);
-                scene_->setCall(won ? QString("All ten done! You freed %1 of 10 flies.").arg(game_.freed())
-                                    : QString("The spider had a feast tonight!"));
+                scene_->setCall(
+                    won ? QString("All ten done! You freed %1 of 10 flies.").arg(game_.freed())
+                        : QString("The spider had a feast tonight!"));
                 sound().effect(won ? "spiderwin.wav" : "spiderlose.wav");
                 Timer2.start(kEndMs);
                 break;
