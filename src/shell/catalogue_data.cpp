@@ -373,10 +373,13 @@ std::vector<GameCard> BuildCatalogue() {
     cards.push_back(Card(
         "Spiderwebs", AtLeastDifficulty(Elig(WO::Refuse, kMsgM2, "SpiderGame"), kMsgE1),
         Slider(3, 12, 8),
-        "A definition will appear at the top of the screen. Below it, words are caught in spider "
-        "webs, and a hungry spider is crawling toward them. Click the word that matches the "
-        "definition to free it before the spider gets there! A wrong click lets the spider come "
-        "closer. The higher the level, the more webs you watch."));
+        "A definition will appear at the top of the screen. Below it, flies are stuck in a "
+        "spider web in the night garden, and every fly holds a word. A hungry spider crawls from "
+        "the middle of the web toward the fly whose word matches the definition. Click that fly "
+        "before the spider gets there to set it free! The quicker you are, the more points you "
+        "get. If you click a wrong fly, the spider eats it, you lose 25 points, and the spider "
+        "hurries. If the spider gets there first, you see the word but get no points. A game has "
+        "ten definitions, and the level you pick is the number of flies in the web."));
 
     cards.push_back(Card(
         "Safe Cracker", Elig(WO::WarnIfOption, kMsgW1, "SafeCracker"), NoDifficulty(Shown),

@@ -1,0 +1,213 @@
+// Spiderwebs on its screen: from the title at 1920x1080, a wrong fly eaten, the right one freed,
+// ten definitions and the score to the table; twelve flies with long words, the spider winning
+// every definition, the word shown each time, no points and a try again; a list with too few
+// words for the web.
+#include <QtTest>
+
+#include "core/strings.h"
+#include "game_start.h"
+#include "games/action/spiderwebs/spiderwebs_screen.h"
+
+using namespace wm;
+using namespace wm::test;
+
+class SpiderScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void tenDefinitionsFromTheTitleToTheTable();
+    void theSpiderWinsEveryDefinition();
+};
+
+namespace {
+
+// A click on the fly's word tag picks the fly.
+void ClickFly(SpiderGame* game, int fly) {
+    const QPoint at = game->scene()->tagRect(fly).center().toPoint();
+    QTest::mouseClick(game->scene(), Qt::LeftButton, {}, at);
+}
+
+int WrongFly(SpiderGame* game) {
+    return game->game().answer() == 0 ? 1 : 0;
+}
+
+// The definition sits on the sign and the plates beside it, each text whole in its box, none
+// over another or off the screen.
+void CheckLayout(SpiderGame* game, bool crowded) {
+    QVERIFY(game->rect().contains(game->scene()->geometry()));
+    const QRect sign = game->scene()->clueRect().translated(game->scene()->pos());
+    QList<QRect> plates;
+    for (const char* name : {"Label1", "ScoreLabel", "TimeLabel", "RoundLabel", "FliesLabel"}) {
+        auto* l = game->findChild<QLabel*>(name);
+        const QRect box = l->contentsRect();
+        const int flags = int(l->alignment()) | (l->wordWrap() ? int(Qt::TextWordWrap) : 0);
+        const QRect need = QFontMetrics(l->font()).boundingRect(box, flags, l->text());
+        QVERIFY2(box.contains(need), name);
+        QVERIFY2(game->rect().contains(l->geometry()), name);
+        if (l->objectName() == "Label1") {
+            QVERIFY(sign.contains(l->geometry()));
+            // A long definition is as big as the sign lets it be.
+            QFont bigger = l->font();
+            bigger.setPixelSize(bigger.pixelSize() + 1);
+            if (crowded)
+                QVERIFY(!box.contains(QFontMetrics(bigger).boundingRect(box, flags, l->text())));
+            continue;
+        }
+        QVERIFY2(!l->geometry().intersects(sign) && l->y() >= game->scene()->y(), name);
+        for (const QRect& other : plates) QVERIFY2(!l->geometry().intersects(other), name);
+        plates << l->geometry();
+    }
+}
+
+// What the game drew and played is what its card declares, and all it declares is there.
+void CheckDeclared(const ShellFixture& fx) {
+    QStringList used{"images/spider-garden.svg", "images/spider-sprites.svg",
+                     QDir(fx.dir.path()).relativeFilePath(fx.music.opened)};
+    for (const QString& effect : fx.sound.played)
+        if (effect.startsWith("spider")) used << "sounds/" + effect;  // not the title's
+    const auto& declared = FindCard("Spiderwebs")->assets;
+    for (const QString& u : used)
+        QVERIFY2(std::count(declared.begin(), declared.end(), u.toStdString()), qPrintable(u));
+    for (const std::string& a : declared) QVERIFY2(fx.exists(QString::fromStdString(a)), a.c_str());
+}
+
+}  // namespace
+
+void SpiderScreenTest::tenDefinitionsFromTheTitleToTheTable() {
+    ShellFixture fx;
+    ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
+    WriteOneList(fx, "Garden Bugs",
+                 {{"ant", "a tiny insect that lives in a hill"},
+                  {"bee", "it makes honey"},
+                  {"moth", "it flies to the light at night"},
+                  {"slug", "a slimy garden crawler"},
+                  {"wasp", "a striped insect that stings"},
+                  {"snail", "it carries its house"},
+                  {"beetle", "an insect with a hard shell"},
+                  {"cricket", "it chirps"},
+                  {"ladybird", "a red beetle with black spots"},
+                  {"worm", "it wriggles"},
+                  {"gnat", "a very small fly"}});
+    WinDriver driver({"BOB"});
+    SpiderGame* game = nullptr;
+    bool dancing = false;  // the fireflies behind the end boxes
+    SetModalHook([&](QDialog& d) {
+        dancing = game && game->frame().findTimer("Timer1")->isActive();
+        driver(d);
+    });
+    game = qobject_cast<SpiderGame*>(PlayFromTitle("Spiderwebs", "Garden Bugs", 3));
+    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+    Shared().SoundOn = kTrue;
+    Pump(16);
+    QCOMPARE(LabelText(game, "FliesLabel"), "Flies: 3");
+    for (int round = 1; round <= 10; ++round) {
+        QCOMPARE(LabelText(game, "RoundLabel"), QString("Definition %1 of 10").arg(round));
+        QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
+        QCOMPARE(game->scene()->call(), QString("Definition %1 of 10").arg(round));
+        if (round == 1) {
+            Shot(game, "spiderwebs-1920");
+            CheckLayout(game, false);
+            // A wrong fly first: eaten, -25, and the spider half as fast again.
+            const int wrong = WrongFly(game);
+            ClickFly(game, wrong);
+            QCOMPARE(LabelText(game, "ScoreLabel"), "Score: -25");
+            QCOMPARE(game->scene()->call(), "Gulp! Wrong fly, and the spider hurries!");
+            QVERIFY(fx.sound.played.contains("spidereat.wav"));
+            ClickFly(game, wrong);  // eaten already: nothing happens
+            QCOMPARE(LabelText(game, "ScoreLabel"), "Score: -25");
+            QCOMPARE(LabelText(game, "TimeLabel"), "Spider: 8.0 s");
+            // The right one before the spider sets off: 80 tenths x 2.
+            ClickFly(game, game->game().answer());
+            QCOMPARE(game->scene()->call(), "Free! +160 points");
+            QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 135");
+        } else if (round == 2) {
+            // The spider sets off after a second and a half...
+            for (int i = 0; i < 100 && game->game().phase() == spiderwebs::Phase::Ready; ++i)
+                Pump(16);
+            QCOMPARE(game->scene()->call(), "Click the fly with the matching word!");
+            QVERIFY(fx.sound.played.contains("spidergo.wav"));
+            // ... and crawls 11.5 s to its fly in the second round.
+            Pump(1984);
+            QCOMPARE(LabelText(game, "TimeLabel"), "Spider: 9.5 s");
+            Shot(game, "spiderwebs-crawl-1920");
+            ClickFly(game, game->game().answer());
+            QCOMPARE(game->scene()->call(), "Free! +190 points");
+        } else {
+            ClickFly(game, game->game().answer());
+        }
+        QVERIFY(fx.sound.played.contains("spiderfree.wav"));
+        QCOMPARE(game->game().freed(), round);
+        if (round < 10) Pump(spiderwebs::kFreedMs + 16);
+    }
+    // Rounds 3 to 10 at their whole crawls: 220 down to 150 points.
+    QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 1805");
+    fx.dialogs.answerYes(false);
+    Pump(spiderwebs::kFreedMs + 16);
+    QCOMPARE(game->scene()->call(), "All ten done! You freed 10 of 10 flies.");
+    QVERIFY(fx.sound.played.contains("spiderwin.wav"));
+    Pump(SpiderGame::kEndMs);
+    QVERIFY2(fx.dialogs.saw("You got a high score of 1805! Would you like to try again?"),
+             qPrintable(fx.dialogs.texts().join(" | ")));
+    QCOMPARE(TableRow(fx, "Spiderwebs"), "BOB 1805");
+    QVERIFY(dancing);
+    CheckDeclared(fx);
+    Pump();
+    QVERIFY(Showing<Title>());
+}
+
+void SpiderScreenTest::theSpiderWinsEveryDefinition() {
+    ShellFixture fx;
+    Pairs pairs;
+    for (const char* w : {"photosynthesis", "metamorphosis", "camouflaged", "caterpillars",
+                          "grasshoppers", "dragonflies", "hibernation", "chrysalis", "centipede",
+                          "earthworm", "pollinator", "honeycomb", "cobweb"})
+        pairs.push_back({w, std::string("a long definition of ") + w +
+                                ", so long that it has to wrap onto a second line on the sign"});
+    auto* game = OpenGame<SpiderGame>(fx, "Spiderwebs", pairs, 12);
+    QVERIFY(game);
+    Pump(16);
+    QCOMPARE(game->game().flies().size(), 12u);
+    QStringList words;
+    for (int round = 1; round <= 10; ++round) {
+        const QString word = QString::fromLatin1(Shared().TheWord.c_str());
+        QVERIFY2(!words.contains(word), qPrintable(word));
+        words << word;
+        if (round == 1) Shot(game, "spiderwebs-1280");
+        // At the hub a while, then the crawl: 12 s less half a second a round.
+        for (int i = 0; i < 100 && game->game().phase() == spiderwebs::Phase::Ready; ++i) Pump(16);
+        Pump(12000 - 500 * (round - 1) - 32);
+        QCOMPARE(game->game().phase(), spiderwebs::Phase::Crawling);
+        for (int i = 0; i < 4 && game->game().phase() == spiderwebs::Phase::Crawling; ++i) Pump(16);
+        QCOMPARE(game->scene()->call(), "Too late! The word was \"" + word + "\".");
+        if (round == 1) {
+            Shot(game, "spiderwebs-caught-1280");
+            CheckLayout(game, true);
+        }
+        QVERIFY(fx.sound.played.contains("spidercatch.wav"));
+        QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 0");
+        Pump(spiderwebs::kCaughtMs);
+    }
+    QCOMPARE(game->scene()->call(), "The spider had a feast tonight!");
+    QVERIFY(fx.sound.played.contains("spiderlose.wav"));
+    fx.dialogs.answerYes(true);
+    Pump(SpiderGame::kEndMs);
+    QCOMPARE(fx.dialogs.last(),
+             "All ten definitions are done, but your score is 0, so it cannot go on the high "
+             "score table. Would you like to try again?");
+    QCOMPARE(fx.dialogs.shown.back().title, "Spiderwebs");
+    QCOMPARE(TableRow(fx, "Spiderwebs"), "--- 0");  // nobody on the table
+    CheckDeclared(fx);
+    // Try again: a fresh game.
+    QCOMPARE(game->scene()->call(), "Definition 1 of 10");
+    QCOMPARE(game->game().round(), 1);
+    // Twelve flies need twelve different words.
+    Shared().WordCount = 11;
+    QVERIFY(TriggerMenu(game, "RS"));
+    Pump();
+    QCOMPARE(fx.dialogs.last(),
+             "At level 12 the web holds 12 flies, each with a different word, but this list has "
+             "only 11 different words. Please choose another list or a lower level.");
+    QVERIFY(Showing<Title>());
+}
+
+QTEST_MAIN(SpiderScreenTest)
+#include "spiderwebs_screen_test.moc"
