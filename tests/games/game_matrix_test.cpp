@@ -12,6 +12,8 @@
 #include "core/rng.h"
 #include "game_road.h"
 #include "shell/game_registry.h"
+#include "shell/high_score_form.h"
+#include "teacher/program_options.h"
 
 using namespace wm;
 using namespace wm::test;
@@ -107,6 +109,7 @@ class GameMatrix : public QObject {
     Q_OBJECT
 private slots:
     void everyRegistrationNamesACard();
+    void allFortyTwoAreOffered();
     void everyGameSurvivesAwkwardLists_data();
     void everyGameSurvivesAwkwardLists();
 };
@@ -126,6 +129,41 @@ void GameMatrix::everyRegistrationNamesACard() {
         }
     }
     QVERIFY(built >= 1);
+}
+
+// The program offers only games it can play; with every game built, that is all 42 of the
+// catalogue, on the title, in the score browser and in the teacher's show and hide list.
+void GameMatrix::allFortyTwoAreOffered() {
+    if (qEnvironmentVariable("WM_MATRIX_SHARD", "0/1").split('/').value(0) != "0") return;
+    ShellFixture fx;
+    OfferOnlyBuiltGames(true);
+    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
+    QVERIFY(title && title->startedOk());
+    QCOMPARE(Shared().VisibleGameCount, 42);
+    // Large Icons: four pages, of 12, 12, 12 and 6.
+    QList<int> pages;
+    for (int page = 0; page < 6; ++page) {
+        int shown = 0;
+        for (auto* b : title->buttons()) shown += b->isVisible() ? 1 : 0;
+        pages << shown;
+        if (!title->moreButton()->isVisible()) break;
+        QTest::mouseClick(title->moreButton(), Qt::LeftButton);
+    }
+    QCOMPARE(pages, (QList<int>{12, 12, 12, 6}));
+    // The score browser steps through all 42 and stops at the last.
+    Shared().CurrentGame = "Title";
+    HighScoreForm scores;
+    QStringList seen{scores.game()};
+    for (int i = 0; i < 41; ++i) {
+        scores.nextGame();
+        seen << scores.game();
+    }
+    QCOMPARE(QSet<QString>(seen.begin(), seen.end()).size(), 42);
+    scores.nextGame();
+    QCOMPARE(scores.game(), seen.last());
+    EnableDisable shows;
+    QCOMPARE(shows.games()->count(), 42);
+    OfferOnlyBuiltGames(false);
 }
 
 // The built games this shard takes: WM_MATRIX_SHARD="i/n" takes every n-th from the i-th, so that
