@@ -364,7 +364,8 @@ void BreakField::paintBricks(QPainter& p, qint64 t, const QRegion& region) {
         const QPixmap& pm = brickPicture(colourOf(b), b.letter);
         if (tumbleAt_ >= 0) {
             const QRectF body = toWidget(r.adjusted(16, 16, -16, -16));
-            const double turn = std::max(0.0, (t - tumbleAt_) / 16.0) * ((b.row + b.col) % 2 ? 1.5 : -1.5);
+            const double turn =
+                std::max(0.0, (t - tumbleAt_) / 16.0) * ((b.row + b.col) % 2 ? 1.5 : -1.5);
             p.save();
             p.translate(body.center());
             p.rotate(turn);
@@ -436,9 +437,9 @@ void BreakField::paintEffect(QPainter& p, const Effect& e, qint64 t) {
                 scene::paintSparkle(p, c, 40 * s * (1 - u), u * 90, 1 - u);
             }
             const bool right = e.kind == Effect::Shards;
-            p.setPen(QPen(scene::withAlpha(right ? QColor(255, 255, 255) : QColor(255, 80, 70),
-                                           1 - u),
-                          4 * s));
+            p.setPen(
+                QPen(scene::withAlpha(right ? QColor(255, 255, 255) : QColor(255, 80, 70), 1 - u),
+                     4 * s));
             p.setBrush(Qt::NoBrush);
             const double ring = right ? 70 : 36;
             p.drawEllipse(c, (30 + ring * u) * s, (22 + ring * 0.7 * u) * s);

@@ -14,7 +14,8 @@ namespace {
 constexpr double kPi = 3.14159265358979323846;
 constexpr double kSubStep = 4;  // the ball moves at most this far between collision tests
 // The wall's rows stand in the middle of the court.
-constexpr double kWallTop = kCourtTop + (kCourtBottom - kCourtTop - (kRows - 1) * kRowStep - kBrickH) / 2;
+constexpr double kWallTop =
+    kCourtTop + (kCourtBottom - kCourtTop - (kRows - 1) * kRowStep - kBrickH) / 2;
 
 double rad(double degrees) {
     return degrees * kPi / 180;

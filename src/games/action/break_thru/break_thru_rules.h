@@ -27,10 +27,10 @@ constexpr double kBackWall = 1584;                     // behind the bricks
 constexpr double kPaddleX = 40, kPaddleW = 24, kPaddleLen = 150;
 constexpr double kPaddleStep = 13;  // units a tick while Up or Down is held
 constexpr double kBallR = 13;
-constexpr double kBallSpeed = 8;     // units a tick for the first word
-constexpr double kSpeedUp = 1.05;    // each word's ball is 5% faster
-constexpr double kMaxBounce = 60;    // degrees, off the paddle's very end
-constexpr double kServeAngle = 25;   // degrees, towards the court's middle
+constexpr double kBallSpeed = 8;    // units a tick for the first word
+constexpr double kSpeedUp = 1.05;   // each word's ball is 5% faster
+constexpr double kMaxBounce = 60;   // degrees, off the paddle's very end
+constexpr double kServeAngle = 25;  // degrees, towards the court's middle
 // The wall: slots in rows and columns, with channels between them wide enough for the ball,
 // so every brick can be reached however the others stand.
 constexpr int kRows = 8;

@@ -231,7 +231,7 @@ WM_REGISTER_GAME("BreakThru", BreakThruForm, "images/breakthru-space.svg",
                  "sounds/breakthruserve.wav", "sounds/breakthrupaddle.wav",
                  "sounds/breakthruwall.wav", "sounds/breakthrubreak.wav",
                  "sounds/breakthruwrong.wav", "sounds/breakthrumiss.wav",
-                 "sounds/breakthruword.wav", "sounds/breakthruwin.wav",
-                 "sounds/breakthrulose.wav", "sounds/breakthru.mid");
+                 "sounds/breakthruword.wav", "sounds/breakthruwin.wav", "sounds/breakthrulose.wav",
+                 "sounds/breakthru.mid");
 
 }  // namespace wm
