@@ -33,7 +33,8 @@ constexpr double kSink = 0.3;     // units a tick, all the time
 constexpr double kThermal = 150;  // a right letter lifts the glider and its ceiling this far
 constexpr int kLiftTicks = 30;    // ...over this many ticks
 constexpr double kDrop = 70;      // a wrong letter drops it this far at once
-constexpr double kLetterLow = 250, kLetterHigh = 760;  // where letters fly
+// Where letters fly: never so low that the glider meeting one is at the grass.
+constexpr double kLetterLow = 250, kLetterHigh = 700;
 constexpr double kSpacing = 230;   // between letters as they come in
 constexpr double kReachX = 62, kReachY = 58;  // glider centre to a letter's centre for a touch
 constexpr int kEveryFew = 3;  // at most this many decoys in a row before the next letter again

@@ -75,7 +75,6 @@ HangGlider::HangGlider(QWidget* parent)
 void HangGlider::SetupGame() {
     SharedState& s = Shared();
     keys_.clear();
-    pause_ = Pause::None;
     if (!game_.start(s, TheRng())) {
         frame_.refuse(kNoWords, "Hang Glider");
         return;

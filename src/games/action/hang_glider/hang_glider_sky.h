@@ -36,8 +36,8 @@ public:
     // Where a world rectangle is on the widget.
     QRectF toWidget(const QRectF& world) const;
     double scale() const { return scale_; }
-    // The glider's nose angle now, degrees (negative: climbing).
-    double pitch() const { return pitch_; }
+    // Whether it shows a game's end (fireworks or dust) rather than a flight.
+    bool showsEnd() const { return finishAt_ >= 0; }
 
 protected:
     void resizeEvent(QResizeEvent*) override;

