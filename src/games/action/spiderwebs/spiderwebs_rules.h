@@ -60,6 +60,8 @@ public:
     int answer() const { return answer_; }  // the slot of the matching fly
     const std::vector<Fly>& flies() const { return flies_; }
     double score() const { return score_; }
+    // Only a score above nothing goes on the table.
+    bool onTheTable() const { return score_ > 0; }
     int freed() const { return freed_; }
     int lastPoints() const { return lastPoints_; }
     // How far the spider is on its thread, 0 at the hub to 1 at the fly.

@@ -149,10 +149,9 @@ void SpiderGame::picked(int fly) {
 void SpiderGame::endOfGame() {
     SharedState& s = Shared();
     s.Score = game_.score();
-    if (s.Score > 0) {
+    if (game_.onTheTable()) {
         frame_.wonGame();
     } else {
-        // Only a score above nothing goes on the table.
         frame_.askTryAgain(toQ(noPointsText(s.Score)), kTitle);
     }
 }

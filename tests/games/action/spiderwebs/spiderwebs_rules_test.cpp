@@ -130,6 +130,24 @@ TEST(SpiderwebsPlay, WrongFlyHurriesTheSpiderThenTheRightOneIsFreed) {
     EXPECT_EQ(g.lastPoints(), 230);
 }
 
+TEST(SpiderwebsPlay, OnlyAScoreAboveNothingGoesOnTheTable) {
+    SharedState s = ListOf({"ant", "bee", "cat", "dog"}, 3);
+    ScriptedRng rng;
+    rng.pick(1, 4).pick(1, 3).pick(2, 4).pick(3, 4);  // "ant" in slot 1
+    Game g;
+    ASSERT_EQ(g.start(s, rng), Start::Ok);
+    EXPECT_FALSE(g.onTheTable());
+    Advance(g, s, rng, 1500, 100);
+    EXPECT_EQ(g.click(1), Click::Wrong);
+    EXPECT_FALSE(g.onTheTable());
+    // At half as fast again, 6.7 s leave 1.3 s: 13 tenths, 26 points, one above nothing.
+    Advance(g, s, rng, 6700, 100);
+    EXPECT_EQ(g.msLeft(), 1300);
+    EXPECT_EQ(g.click(0), Click::Right);
+    EXPECT_EQ(g.score(), 1);
+    EXPECT_TRUE(g.onTheTable());
+}
+
 TEST(SpiderwebsPlay, TheSpiderAtItsFlyThenTenDefinitionsEndTheGame) {
     SharedState s = ListOf({"a1", "b2", "c3", "d4", "e5", "f6", "g7", "h8", "i9", "j10", "k11"}, 3);
     SystemRng rng;
