@@ -57,6 +57,10 @@ TEST(BreakThruNumbers, SpeedTextAndBricks) {
     EXPECT_EQ(lostText("owl"), "Out of balls! The word was owl.");
     for (char c : std::string("aZ7\xE9\xC9\xDF\xFF")) EXPECT_TRUE(isBrick(c)) << c;
     for (char c : std::string(" -'.\xD7\xF7")) EXPECT_FALSE(isBrick(c)) << c;
+    // The wall's eight rows stand in the court's middle: 20 units clear of each fence.
+    Brick top, bottom;
+    bottom.row = 7;
+    EXPECT_EQ(std::pair(top.y(), bottom.y() + kBrickH), std::pair(230.0, 870.0));
 }
 
 TEST(BreakThruStart, DrawsWordDecoysAndSlotsInThatOrder) {
@@ -118,10 +122,19 @@ TEST(BreakThruPaddle, MovesOnTheKeysCarriesTheBallAndSetsTheAngle) {
         for (int t = 0; t < ticks; ++t) g.tick({move, false});
         EXPECT_EQ(std::pair(g.paddleY(), g.ball().y), std::pair(y, y));
     }
-    // Served from the upper half: down and to the right at 25 degrees, at 8 units a tick.
+    // Served from the upper half: down and to the right at 25 degrees, at 8 units a tick; from
+    // the court's middle (550) or below it, up.
     ASSERT_EQ(g.tick({0, true}).at(0).kind, Event::Served);
     EXPECT_NEAR(std::atan2(g.ball().vy, g.ball().vx) * 180 / M_PI, 25, 1e-9);
     EXPECT_NEAR(std::hypot(g.ball().vx, g.ball().vy), 8, 1e-9);
+    for (auto [at, angle] : {std::pair{549.0, 25.0}, {551.0, -25.0}}) {
+        Game h;
+        ASSERT_TRUE(h.start(s, rng));
+        h.go();
+        h.place(at, {kPaddleX + kPaddleW + kBallR, at, 0, 0});
+        h.tick({0, true});
+        EXPECT_NEAR(std::atan2(h.ball().vy, h.ball().vx) * 180 / M_PI, angle, 1e-9) << at;
+    }
     // Off the paddle: the angle grows with the distance from its middle, up to 60 degrees at
     // its ends (the ball's reach of 13 beyond them counts); always back to the right.
     for (auto [offset, angle] : {std::pair{0.0, 0.0},
