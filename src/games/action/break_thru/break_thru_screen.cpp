@@ -5,6 +5,7 @@
 
 #include "core/rng.h"
 #include "core/shared_state.h"
+#include "platform/scene_kit.h"
 #include "platform/screen_metrics.h"
 #include "platform/services.h"
 #include "platform/sound.h"
@@ -27,13 +28,6 @@ const char* kPlateStyle =
 const char* kClueStyle =
     "color: #2a1850; background: rgba(245, 240, 255, 235); border: 3px solid #8a6ad8;"
     " border-radius: 18px; padding: 2px 16px;";
-
-QFont Bold(int px) {
-    QFont f("DejaVu Sans");
-    f.setBold(true);
-    f.setPixelSize(std::max(8, px));
-    return f;
-}
 
 GameMenuNames MenuNames() {
     GameMenuNames names;
@@ -213,7 +207,7 @@ void BreakThruForm::resizeEvent(QResizeEvent*) {
     }
     Label1->setFont(f);
     Label1->setGeometry(clue);
-    const QFont plate = Bold(int(24 * s));
+    const QFont plate = scene::boldFont(int(24 * s));
     for (QLabel* l : {WordLabel, ScoreLabel, BallsLabel}) {
         l->setFont(plate);
         l->adjustSize();

@@ -5,6 +5,7 @@
 
 #include "core/rng.h"
 #include "core/shared_state.h"
+#include "platform/scene_kit.h"
 #include "platform/screen_metrics.h"
 #include "platform/services.h"
 #include "platform/sound.h"
@@ -26,12 +27,6 @@ const char* kClueStyle =
     "color: #1f3350; background: rgba(255, 252, 236, 230); border: 3px solid #e9a640;"
     " border-radius: 18px; padding: 2px 18px;";
 
-QFont Bold(int px) {
-    QFont f("DejaVu Sans");
-    f.setBold(true);
-    f.setPixelSize(std::max(8, px));
-    return f;
-}
 }  // namespace
 
 HangGlider::HangGlider(QWidget* parent)
@@ -204,7 +199,7 @@ void HangGlider::resizeEvent(QResizeEvent*) {
     const int snug = QFontMetrics(f).horizontalAdvance(meaning) + 80;
     const int w = std::clamp(snug, std::min(int(420 * s), clue.width()), clue.width());
     Label1->setGeometry(clue.center().x() - w / 2, clue.y(), w, clue.height());
-    const QFont plate = Bold(int(22 * s));
+    const QFont plate = scene::boldFont(int(22 * s));
     for (QLabel* l : {LevelLabel, WordLabel, ScoreLabel}) {
         l->setFont(plate);
         l->adjustSize();

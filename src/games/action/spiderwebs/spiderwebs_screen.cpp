@@ -6,6 +6,7 @@
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "core/strings.h"
+#include "platform/scene_kit.h"
 #include "platform/screen_metrics.h"
 #include "platform/services.h"
 #include "platform/sound.h"
@@ -21,13 +22,6 @@ const char* kTitle = "Spiderwebs";
 const char* kPlateStyle =
     "color: #f4f0ff; background: rgba(30, 24, 70, 205); border: 2px solid rgba(210, 200, 255, 130);"
     " border-radius: 12px; padding: 3px 14px;";
-
-QFont Bold(int px) {
-    QFont f("DejaVu Sans");
-    f.setBold(true);
-    f.setPixelSize(std::max(8, px));
-    return f;
-}
 
 GameMenuNames MenuNames() {
     GameMenuNames names;
@@ -186,7 +180,7 @@ void SpiderGame::resizeEvent(QResizeEvent*) {
     scene_->setGeometry(0, top, width(), height() - top);
     // The definition on the sign, shrunk until it fits.
     const QRect box = scene_->clueTextRect().translated(scene_->pos());
-    QFont f = Bold(box.height() * 36 / 100);
+    QFont f = scene::boldFont(box.height() * 36 / 100);
     for (;;) {
         const QRect need =
             QFontMetrics(f).boundingRect(box, Qt::AlignCenter | Qt::TextWordWrap, Label1->text());
@@ -198,7 +192,7 @@ void SpiderGame::resizeEvent(QResizeEvent*) {
     Label1->setGeometry(box);
     // The plates beside the sign, one font for all four, as large as the widest text lets it be.
     const QList<QLabel*> plates{ScoreLabel, TimeLabel, RoundLabel, FliesLabel};
-    QFont pf = Bold(scene_->plateRect(0, 0).width() / 8);
+    QFont pf = scene::boldFont(scene_->plateRect(0, 0).width() / 8);
     for (QLabel* l : plates) {
         l->setFont(pf);
         while (pf.pixelSize() > 8 && l->sizeHint().width() > scene_->plateRect(0, 0).width()) {

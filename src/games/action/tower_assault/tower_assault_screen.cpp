@@ -7,6 +7,7 @@
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "core/strings.h"
+#include "platform/scene_kit.h"
 #include "platform/screen_metrics.h"
 #include "platform/services.h"
 #include "platform/sound.h"
@@ -22,13 +23,6 @@ const char* kTitle = "Tower Assault";
 const char* kPlateStyle =
     "color: #fff3d6; background: rgba(52, 40, 58, 210); border: 2px solid rgba(236, 196, 96, 170);"
     " border-radius: 12px; padding: 3px 14px;";
-
-QFont Bold(int px) {
-    QFont f("DejaVu Sans");
-    f.setBold(true);
-    f.setPixelSize(std::max(8, px));
-    return f;
-}
 
 GameMenuNames MenuNames() {
     GameMenuNames names;
@@ -188,7 +182,7 @@ void TowerGame::resizeEvent(QResizeEvent*) {
     const QRect banner = scene_->clueRect().translated(0, top);
     const QRect box = banner.adjusted(banner.width() / 10, banner.height() * 16 / 100,
                                       -banner.width() / 10, -banner.height() * 24 / 100);
-    QFont f = Bold(box.height() * 40 / 100);
+    QFont f = scene::boldFont(box.height() * 40 / 100);
     for (;;) {
         const QRect need =
             QFontMetrics(f).boundingRect(box, Qt::AlignCenter | Qt::TextWordWrap, Label1->text());
@@ -200,7 +194,7 @@ void TowerGame::resizeEvent(QResizeEvent*) {
     Label1->setGeometry(box);
     // The plates: score and ladder on the left, shields on the right.
     const int plateW = W * 15 / 100;
-    QFont pf = Bold(H * 28 / 1000);
+    QFont pf = scene::boldFont(H * 28 / 1000);
     for (QLabel* l : {ScoreLabel, RungsLabel, ShieldsLabel})
         while (pf.pixelSize() > 8 && QFontMetrics(pf).horizontalAdvance(l->text()) > plateW - 36)
             pf.setPixelSize(pf.pixelSize() - 1);
