@@ -20,6 +20,18 @@ QPixmap coverPicture(QSvgRenderer& drawing, QSize size, const QColor& fill) {
     return out;
 }
 
+QPixmap spritePicture(QSvgRenderer& drawing, const QString& id, QSize px) {
+    px = px.expandedTo(QSize(1, 1));
+    QPixmap pm(px);
+    pm.fill(Qt::transparent);
+    if (drawing.isValid() && drawing.elementExists(id)) {
+        QPainter p(&pm);
+        p.setRenderHint(QPainter::Antialiasing);
+        drawing.render(&p, id, QRectF(QPointF(0, 0), QSizeF(px)));
+    }
+    return pm;
+}
+
 QTransform coverStage(QSizeF size, QSizeF stage) {
     if (stage.isEmpty()) return {};
     const double k = std::max(size.width() / stage.width(), size.height() / stage.height());

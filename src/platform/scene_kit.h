@@ -55,6 +55,9 @@ QPixmap coverPicture(QSvgRenderer& drawing, QSize size, const QColor& fill);
 // From a stage's own units to a screen of `size` that it covers: kept in shape, centred, its
 // edges cut as need be. The scale is the transform's m11().
 QTransform coverStage(QSizeF size, QSizeF stage);
+// One element of a sprite drawing, made into a picture of `px` pixels (one at the least),
+// transparent round it; empty where the drawing lacks the element.
+QPixmap spritePicture(QSvgRenderer& drawing, const QString& id, QSize px);
 // The largest rectangle of the stage's shape centred in `rect`.
 QRectF fitStage(const QRectF& rect, const QSizeF& stage);
 // The house's bold face at `px` pixels, 8 at the least: the games' words, numbers and tiles.

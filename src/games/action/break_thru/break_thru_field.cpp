@@ -177,15 +177,7 @@ void BreakField::buildScene() {
     }
     QSvgRenderer art(appFile("images/breakthru-sprites.svg"));
     auto sprite = [&](const QString& id, QSizeF world) {
-        const QSize px = (world * scale_).toSize().expandedTo(QSize(1, 1));
-        QPixmap pm(px);
-        pm.fill(Qt::transparent);
-        if (art.isValid() && art.elementExists(id)) {
-            QPainter p(&pm);
-            p.setRenderHint(QPainter::Antialiasing);
-            art.render(&p, id, QRectF(QPointF(0, 0), QSizeF(px)));
-        }
-        return pm;
+        return scene::spritePicture(art, id, (world * scale_).toSize());
     };
     paddle_ = sprite("paddle_0", QSizeF(44, 170));
     ball_ = sprite("ball_0", QSizeF(2 * kBallR + 4, 2 * kBallR + 4));

@@ -170,15 +170,7 @@ void CannonSky::buildScene() {
     }
     QSvgRenderer art(appFile("images/cannonshot-sprites.svg"));
     auto sprite = [&](const QString& id, QSizeF world) {
-        const QSize px = (world * scale_).toSize().expandedTo(QSize(1, 1));
-        QPixmap pm(px);
-        pm.fill(Qt::transparent);
-        if (art.isValid() && art.elementExists(id)) {
-            QPainter p(&pm);
-            p.setRenderHint(QPainter::Antialiasing);
-            art.render(&p, id, QRectF(QPointF(0, 0), QSizeF(px)));
-        }
-        return pm;
+        return scene::spritePicture(art, id, (world * scale_).toSize());
     };
     carriage_ = sprite("carriage_0", QSizeF(190, 120));
     barrel_ = sprite("barrel_0", QSizeF(150, 60));

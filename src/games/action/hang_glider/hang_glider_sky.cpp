@@ -216,15 +216,7 @@ void GliderSky::buildScene() {
 
     QSvgRenderer art(appFile("images/hangglider-sprites.svg"));
     auto sprite = [&](const QString& id, QSizeF world) {
-        const QSize px = (world * scale_).toSize().expandedTo(QSize(1, 1));
-        QPixmap pm(px);
-        pm.fill(Qt::transparent);
-        if (art.isValid() && art.elementExists(id)) {
-            QPainter p(&pm);
-            p.setRenderHint(QPainter::Antialiasing);
-            art.render(&p, id, QRectF(QPointF(0, 0), QSizeF(px)));
-        }
-        return pm;
+        return scene::spritePicture(art, id, (world * scale_).toSize());
     };
     glider_ = sprite("glider_0", QSizeF(kGliderW, kGliderH));
     cloud_ = sprite("cloud_0", QSizeF(kCloudW, kCloudH));
