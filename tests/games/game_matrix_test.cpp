@@ -167,14 +167,14 @@ void GameMatrix::allFortyTwoAreOffered() {
 }
 
 // The built games this shard takes: WM_MATRIX_SHARD="i/n" takes every n-th from the i-th, so that
-// shards run side by side.
+// shards run side by side (of those WM_GAMES names, when it is set).
 std::vector<const GameCard*> ShardGames() {
     const QStringList shard = qEnvironmentVariable("WM_MATRIX_SHARD", "0/1").split('/');
     const int part = shard.value(0).toInt(), parts = std::max(1, shard.value(1).toInt());
     std::vector<const GameCard*> games;
     int built = 0;
     for (const GameCard& card : Catalogue())
-        if (card.built() && built++ % parts == part) games.push_back(&card);
+        if (card.built() && GameTaken(card.name) && built++ % parts == part) games.push_back(&card);
     return games;
 }
 

@@ -143,4 +143,11 @@ inline bool TriggerMenu(QWidget* game, const char* name) {
     return true;
 }
 
+// The checks over every game (the matrix, the layout) take only the games named in WM_GAMES
+// ("Name|Name") when it is set, so that one game's screen can be checked alone.
+inline bool GameTaken(const std::string& name) {
+    const QStringList only = qEnvironmentVariable("WM_GAMES").split('|', Qt::SkipEmptyParts);
+    return only.isEmpty() || only.contains(QString::fromStdString(name));
+}
+
 }  // namespace wm::test
