@@ -57,7 +57,7 @@ BreakField::BreakField(const Game& game, QWidget* parent) : QWidget(parent), gam
 }
 
 qint64 BreakField::now() const {
-    return Ticker::get().now();
+    return Ticker::get().now() - born_;
 }
 
 void BreakField::reset() {

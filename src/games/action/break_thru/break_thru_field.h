@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "games/action/break_thru/break_thru_rules.h"
+#include "platform/ticker.h"
 
 namespace wm {
 
@@ -52,6 +53,8 @@ private:
         int life;  // ms
     };
     qint64 now() const;
+    // Times are counted from the scene's making, so that it moves alike whenever it is made.
+    const qint64 born_ = Ticker::get().now();
     void buildScene();
     const QPixmap& brickPicture(int colour, char letter);
     QRectF brickRect(const break_thru::Brick& b) const;

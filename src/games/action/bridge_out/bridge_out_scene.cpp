@@ -62,7 +62,7 @@ BridgeScene::BridgeScene(QWidget* parent) : QWidget(parent) {
 }
 
 qint64 BridgeScene::now() const {
-    return Ticker::get().now();
+    return Ticker::get().now() - born_;
 }
 
 // --- where things are -------------------------------------------------------------------

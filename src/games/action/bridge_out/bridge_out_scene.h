@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "games/action/bridge_out/bridge_out_rules.h"
+#include "platform/ticker.h"
 
 namespace wm {
 
@@ -70,6 +71,8 @@ private:
     };
 
     qint64 now() const;
+    // Times are counted from the scene's making, so that it moves alike whenever it is made.
+    const qint64 born_ = Ticker::get().now();
     void buildScene();
     void buildDeck();
     double deckTop() const;

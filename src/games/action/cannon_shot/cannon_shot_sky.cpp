@@ -57,7 +57,7 @@ CannonSky::CannonSky(const Game& game, QWidget* parent) : QWidget(parent), game_
 }
 
 qint64 CannonSky::now() const {
-    return Ticker::get().now();
+    return Ticker::get().now() - born_;
 }
 
 void CannonSky::reset() {

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "games/action/cannon_shot/cannon_shot_rules.h"
+#include "platform/ticker.h"
 
 namespace wm {
 
@@ -53,6 +54,8 @@ private:
         int life;  // ms
     };
     qint64 now() const;
+    // Times are counted from the scene's making, so that it moves alike whenever it is made.
+    const qint64 born_ = Ticker::get().now();
     void buildScene();
     const QPixmap& balloonPicture(int index, char letter);
     QRectF balloonRect(const cannon_shot::Balloon& b) const;

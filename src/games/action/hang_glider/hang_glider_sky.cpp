@@ -59,7 +59,7 @@ GliderSky::GliderSky(const Game& game, QWidget* parent) : QWidget(parent), game_
 }
 
 qint64 GliderSky::now() const {
-    return Ticker::get().now();
+    return Ticker::get().now() - born_;
 }
 
 void GliderSky::reset() {

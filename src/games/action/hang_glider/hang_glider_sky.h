@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "games/action/hang_glider/hang_glider_rules.h"
+#include "platform/ticker.h"
 
 namespace wm {
 
@@ -36,6 +37,8 @@ public:
     // Where a world rectangle is on the widget.
     QRectF toWidget(const QRectF& world) const;
     double scale() const { return scale_; }
+    // How far the glider's nose is down, in degrees (up when negative).
+    double pitch() const { return pitch_; }
     // Whether it shows a game's end (fireworks or dust) rather than a flight.
     bool showsEnd() const { return finishAt_ >= 0; }
 
@@ -62,6 +65,8 @@ private:
         int width;      // of one tile
     };
     qint64 now() const;
+    // Times are counted from the scene's making, so that it moves alike whenever it is made.
+    const qint64 born_ = Ticker::get().now();
     void buildScene();
     const QPixmap& letterPicture(char letter);
     const QPixmap& wordPicture();

@@ -77,7 +77,7 @@ SlingField::SlingField(QWidget* parent) : QWidget(parent) {
 }
 
 qint64 SlingField::now() const {
-    return Ticker::get().now();
+    return Ticker::get().now() - born_;
 }
 
 QPointF SlingField::toWidget(Point p) const {

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "games/action/slingshot/slingshot_rules.h"
+#include "platform/ticker.h"
 
 namespace wm {
 
@@ -74,6 +75,8 @@ private:
         qint64 t0;
     };
     qint64 now() const;
+    // Times are counted from the scene's making, so that it moves alike whenever it is made.
+    const qint64 born_ = Ticker::get().now();
     // A press here takes hold of the band: near the pouch, or anywhere on the slingshot.
     bool onSlingshot(QPointF widgetPos) const;
     void buildScene();

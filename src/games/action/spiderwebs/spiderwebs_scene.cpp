@@ -62,7 +62,7 @@ WebScene::WebScene(QWidget* parent)
 WebScene::~WebScene() = default;
 
 qint64 WebScene::now() const {
-    return Ticker::get().now();
+    return Ticker::get().now() - born_;
 }
 
 int WebScene::flies() const {

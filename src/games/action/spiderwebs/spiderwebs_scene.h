@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "games/action/spiderwebs/spiderwebs_rules.h"
+#include "platform/ticker.h"
 
 class QSvgRenderer;
 
@@ -74,6 +75,8 @@ private:
     };
 
     qint64 now() const;
+    // Times are counted from the scene's making, so that it moves alike whenever it is made.
+    const qint64 born_ = Ticker::get().now();
     int flies() const;
     double flyRadius(int fly) const;
     double flyAngle(int fly) const;

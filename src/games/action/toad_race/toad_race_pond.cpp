@@ -45,7 +45,7 @@ Pond::Pond(QWidget* parent) : QWidget(parent) {
 }
 
 qint64 Pond::now() const {
-    return Ticker::get().now();
+    return Ticker::get().now() - born_;
 }
 
 void Pond::reset() {

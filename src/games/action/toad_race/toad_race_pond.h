@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "games/action/toad_race/toad_race_rules.h"
+#include "platform/ticker.h"
 
 namespace wm {
 
@@ -60,6 +61,8 @@ private:
     };
 
     qint64 now() const;
+    // Times are counted from the scene's making, so that it moves alike whenever it is made.
+    const qint64 born_ = Ticker::get().now();
     void buildScene();
     QPointF padCentre(int lane, double pad) const;
     double laneScale(int lane) const;

@@ -76,7 +76,7 @@ TowerScene::TowerScene(QWidget* parent) : QWidget(parent) {
 }
 
 qint64 TowerScene::now() const {
-    return Ticker::get().now();
+    return Ticker::get().now() - born_;
 }
 
 // --- where things are -------------------------------------------------------------------

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "games/action/tower_assault/tower_assault_rules.h"
+#include "platform/ticker.h"
 
 namespace wm {
 
@@ -59,6 +60,8 @@ private:
     };
 
     qint64 now() const;
+    // Times are counted from the scene's making, so that it moves alike whenever it is made.
+    const qint64 born_ = Ticker::get().now();
     void buildScene();
     const QPixmap& scrollPicture(const QString& word);
     QRectF guardRect(int g) const;

@@ -24,8 +24,8 @@ constexpr int kFlakes = 22;
 constexpr int kTurns = 8;       // the turns a shard is drawn at
 constexpr double kTall = 1.15;  // a block's height to its width
 
-double rnd(double lo, double hi) {
-    return lo + QRandomGenerator::global()->generateDouble() * (hi - lo);
+double rnd(QRandomGenerator& dice, double lo, double hi) {
+    return lo + dice.generateDouble() * (hi - lo);
 }
 
 }  // namespace
@@ -219,8 +219,8 @@ void FreezeScene::resizeEvent(QResizeEvent*) {
     flake_ = sprite("flake", QSize(fs, fs));
     flakes_.clear();
     for (int i = 0; i < kFlakes; ++i)
-        flakes_.push_back({rnd(0, width()), rnd(0, height()), rnd(0.02, 0.06), rnd(-0.01, 0.01),
-                           int(rnd(0.5, 1.0) * fs), QRect()});
+        flakes_.push_back({rnd(dice_, 0, width()), rnd(dice_, 0, height()), rnd(dice_, 0.02, 0.06), rnd(dice_, -0.01, 0.01),
+                           int(rnd(dice_, 0.5, 1.0) * fs), QRect()});
     layout();
 }
 
@@ -249,10 +249,10 @@ void FreezeScene::burst(int kind, int count, qint64 now) {
     const QRect b = blocksBounds().adjusted(side_, side_, -side_, -side_ * 3 / 2);
     if (b.isEmpty()) return;
     for (int i = 0; i < count; ++i) {
-        const double a = rnd(0, 2 * M_PI), v = rnd(0.15, 0.55) * side_ / 60.0;
-        bits_.push_back({rnd(b.left(), b.right()), rnd(b.top(), b.bottom()), std::cos(a) * v,
-                         std::sin(a) * v - 0.25 * side_ / 60.0, rnd(-0.01, 0.01), rnd(0, 6.28), now,
-                         int(rnd(600, 1100)), kind, QRect()});
+        const double a = rnd(dice_, 0, 2 * M_PI), v = rnd(dice_, 0.15, 0.55) * side_ / 60.0;
+        bits_.push_back({rnd(dice_, b.left(), b.right()), rnd(dice_, b.top(), b.bottom()), std::cos(a) * v,
+                         std::sin(a) * v - 0.25 * side_ / 60.0, rnd(dice_, -0.01, 0.01), rnd(dice_, 0, 6.28), now,
+                         int(rnd(dice_, 600, 1100)), kind, QRect()});
     }
 }
 
@@ -274,7 +274,7 @@ void FreezeScene::step(qint64 now) {
         dirty(f.last);
         f.y += f.speed * dt;
         f.x += f.drift * dt;
-        if (f.y > height()) f.y = -f.size, f.x = rnd(0, width());
+        if (f.y > height()) f.y = -f.size, f.x = rnd(dice_, 0, width());
         f.last = QRect(int(f.x), int(f.y), f.size, f.size);
         dirty(f.last);
     }

@@ -6,6 +6,7 @@
 #include <QPixmap>
 #include <QRect>
 #include <QSvgRenderer>
+#include <QRandomGenerator>
 #include <QWidget>
 #include <map>
 #include <vector>
@@ -25,6 +26,7 @@ public:
     void newWord(const std::vector<freeze_it::Block>& blocks);
     void thawed(int block);
     void frozen(bool on);
+    bool isFrozen() const { return frozen_; }
     void right();
     void wrong();
     void melted();
@@ -49,6 +51,9 @@ protected:
     void resizeEvent(QResizeEvent*) override;
 
 private:
+    // Snow and sparks are scattered by the scene's own dice, so that a scene drawn from its start
+    // looks the same each time.
+    QRandomGenerator dice_{20261124u};
     struct Bit {  // a shard, a sparkle or a drop
         double x, y, vx, vy, spin, angle;
         qint64 born;

@@ -43,10 +43,6 @@ const char* kPanelStyle =
     "QLabel { color: #4a2a0c; background: rgba(255, 246, 222, 236); border: 3px solid #c89a4a;"
     " border-radius: 16px; padding: 4px 16px; }";
 
-qint64 nowMs() {
-    return Ticker::get().now();
-}
-
 GameMenuNames menuNames() {
     GameMenuNames menu;
     menu.foreign.clear();  // every letter is on a stone to click
@@ -60,11 +56,14 @@ bool clueShown() {
 }
 }  // namespace
 
+qint64 frmPrincess::nowMs() const {
+    return Ticker::get().now() - born_;
+}
+
 frmPrincess::frmPrincess(QWidget* parent)
     : QWidget(parent),
       frame_(this, menuNames(), [this] { NewGame(); }),
       Timer1(frame_.timer("Timer1", Ticker::kFrameMs, [this] { animate(); })) {
-    setObjectName("frmPrincess");
     setWindowTitle("Princess");
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);

@@ -10,6 +10,7 @@
 
 #include "games/guess/princess/princess_rules.h"
 #include "games/guess/princess/princess_scene.h"
+#include "platform/ticker.h"
 #include "shell/game_frame.h"
 
 namespace wm {
@@ -39,6 +40,9 @@ protected:
     void resizeEvent(QResizeEvent*) override;
 
 private:
+    // Times are counted from the screen's making, so that the scene moves alike whenever it is made.
+    qint64 nowMs() const;
+    const qint64 born_ = Ticker::get().now();
     void NewGame();
     void startWord(bool first);
     void setPhase(Phase phase);

@@ -27,8 +27,8 @@ constexpr int kKeysPerRow = 13;
 
 enum Ink { Guess, Hinted, Done, Lost, Code, Key, KeyUsed, Shown };
 
-double rnd(double lo, double hi) {
-    return lo + QRandomGenerator::global()->generateDouble() * (hi - lo);
+double rnd(QRandomGenerator& dice, double lo, double hi) {
+    return lo + dice.generateDouble() * (hi - lo);
 }
 
 }  // namespace
@@ -285,10 +285,10 @@ void CodeScene::lost() {
 
 void CodeScene::burst(const QRect& r, int count) {
     for (int i = 0; i < count; ++i) {
-        const double a = rnd(0, 2 * M_PI), v = rnd(0.05, 0.16) * side_ / 50.0;
-        sparks_.push_back({QPointF(rnd(r.left(), r.right()), rnd(r.top(), r.bottom())),
+        const double a = rnd(dice_, 0, 2 * M_PI), v = rnd(dice_, 0.05, 0.16) * side_ / 50.0;
+        sparks_.push_back({QPointF(rnd(dice_, r.left(), r.right()), rnd(dice_, r.top(), r.bottom())),
                            QPointF(std::cos(a) * v, std::sin(a) * v - 0.05), now_,
-                           int(rnd(500, 900))});
+                           int(rnd(dice_, 500, 900))});
     }
 }
 

@@ -26,8 +26,8 @@ constexpr int kJackpotMs = 3000;
 constexpr int kBannerMs = 300;
 constexpr double kWordAngle = 0.5;  // radians of the drum between two words
 
-double rnd(double lo, double hi) {
-    return lo + QRandomGenerator::global()->generateDouble() * (hi - lo);
+double rnd(QRandomGenerator& dice, double lo, double hi) {
+    return lo + dice.generateDouble() * (hi - lo);
 }
 
 QRect frac(const QRect& r, double x0, double y0, double x1, double y1) {
@@ -249,9 +249,9 @@ void SlotScene::paid(int reel, int coins) {
     const QPointF to = QPointF(purse_.left() + purse_.height() * 0.5, purse_.center().y());
     const int n = std::clamp(coins / 10, 3, 16);
     for (int k = 0; k < n; ++k) {
-        const QPointF from = reel >= 0 ? QPointF(reels_[reel].center().x() + rnd(-20, 20), reels_[reel].bottom())
-                                       : QPointF(rnd(tray_.left(), tray_.right()), tray_.center().y());
-        coins_.push_back({from, to, t + k * 70, kCoinMs + int(rnd(0, 200)), rnd(40, 160)});
+        const QPointF from = reel >= 0 ? QPointF(reels_[reel].center().x() + rnd(dice_, -20, 20), reels_[reel].bottom())
+                                       : QPointF(rnd(dice_, tray_.left(), tray_.right()), tray_.center().y());
+        coins_.push_back({from, to, t + k * 70, kCoinMs + int(rnd(dice_, 0, 200)), rnd(dice_, 40, 160)});
     }
 }
 

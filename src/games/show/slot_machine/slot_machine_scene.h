@@ -6,6 +6,7 @@
 
 #include <QPixmap>
 #include <QSvgRenderer>
+#include <QRandomGenerator>
 #include <QWidget>
 #include <map>
 #include <vector>
@@ -51,6 +52,9 @@ protected:
     void resizeEvent(QResizeEvent*) override;
 
 private:
+    // Snow and sparks are scattered by the scene's own dice, so that a scene drawn from its start
+    // looks the same each time.
+    QRandomGenerator dice_{20261124u};
     struct Coin {
         QPointF from, to;
         qint64 start;
