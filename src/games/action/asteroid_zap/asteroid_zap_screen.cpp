@@ -78,7 +78,6 @@ AsteroidBlast::AsteroidBlast(QWidget* parent)
       Timer3(frame_.timer("Timer3", 100, [this] { blastTick(); })),
       Timer1(frame_.timer(
           "Timer1", 100, [this] { frame_.refuse(asteroid::kTooLong, "Oops!"); }, true)) {
-    setObjectName("AsteroidBlast");
     setWindowTitle("Asteroid Blast!");
     frame_.hostPlay(field_);
     loadPictures();

@@ -59,7 +59,6 @@ BasketBallForm::BasketBallForm(QWidget* parent)
       Timer1(frame_.timer("Timer1", 1000, [this] { wordTick(); })),
       Timer2(frame_.timer("Timer2", 1, [this] { revealTick(); })),
       Timer3(frame_.timer("Timer3", 100, [this] { flashTick(); })) {
-    setObjectName("BasketBallForm");
     setWindowTitle("Basketball");
     MovieBox = new Movie(this);
     MovieBox->setObjectName("MovieBox");

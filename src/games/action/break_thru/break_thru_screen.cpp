@@ -41,7 +41,6 @@ BreakThruForm::BreakThruForm(QWidget* parent)
       frame_(this, MenuNames(), [this] { SetupGame(); }),
       keys_(this),
       Timer1(frame_.timer("Timer1", Ticker::kFrameMs, [this] { frameTick(); })) {
-    setObjectName("BreakThruForm");
     setWindowTitle(kTitle);
     setFocusPolicy(Qt::StrongFocus);
     frame_.setMusic(MusicKind::Shared, "breakthru.mid");

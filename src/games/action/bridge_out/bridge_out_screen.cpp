@@ -40,7 +40,6 @@ BridgeOutGame::BridgeOutGame(QWidget* parent)
       Timer1(frame_.timer("Timer1", Ticker::kFrameMs, [this] { tick(); })),
       Timer2(frame_.timer(
           "Timer2", kEndMs, [this] { endOfGame(); }, true)) {
-    setObjectName("BridgeOutGame");
     setWindowTitle(kTitle);
     frame_.setMusic(MusicKind::Shared, "bridgeout.mid");
     // The river keeps flowing and the sparkles keep bursting behind the end boxes.
@@ -81,7 +80,6 @@ void BridgeOutGame::SetupGame() {
         frame_.refuse(kNoWords, kTitle);
         return;
     }
-    s.Score = 0;
     frame_.startMusic();
     showWord();
     lastTick_ = Ticker::get().now();

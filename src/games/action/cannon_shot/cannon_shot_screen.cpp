@@ -36,7 +36,6 @@ CannonShotForm::CannonShotForm(QWidget* parent)
       Timer1(frame_.timer("Timer1", Ticker::kFrameMs, [this] { frameTick(); })),
       Timer2(frame_.timer(
           "Timer2", kReadyMs, [this] { afterPause(); }, true)) {
-    setObjectName("CannonShotForm");
     setWindowTitle("Cannon Shot");
     setFocusPolicy(Qt::StrongFocus);
     frame_.setMusic(MusicKind::Shared, "cannonshot.mid");

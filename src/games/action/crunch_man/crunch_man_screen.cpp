@@ -94,7 +94,6 @@ CrunchManGame::CrunchManGame(QWidget* parent)
               if (!frame_.leaving()) Timer1.start();
           },
           true)) {
-    setObjectName("CrunchManGame");
     setWindowTitle("Crunch Man!");
     frame_.hostPlay(field_);
     const QSize size = field_->logicalSize();

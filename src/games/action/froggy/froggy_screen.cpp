@@ -57,7 +57,6 @@ FroggyForm::FroggyForm(QWidget* parent)
       CarTimer(frame_.timer("CarTimer", 10, [this] { carTick(); })),
       LogTimer(frame_.timer("LogTimer", 40, [this] { logTick(); })),
       Timer1(frame_.timer("Timer1", 50, [this] { froggy::bonusTick(board_); })) {
-    setObjectName("FroggyForm");
     setWindowTitle("Froggy!");
     frame_.hostPlay(field_);
     resize(ScreenMetrics::screenSize());

@@ -36,7 +36,6 @@ HangGlider::HangGlider(QWidget* parent)
       Timer1(frame_.timer("Timer1", Ticker::kFrameMs, [this] { frameTick(); })),
       Timer2(frame_.timer(
           "Timer2", kReadyMs, [this] { afterPause(); }, true)) {
-    setObjectName("HangGlider");
     setWindowTitle("Hang Glider");
     setFocusPolicy(Qt::StrongFocus);
     frame_.setMusic(MusicKind::Shared, "hangglider.mid");
@@ -60,7 +59,6 @@ HangGlider::HangGlider(QWidget* parent)
         l->setAlignment(Qt::AlignCenter);
         l->setStyleSheet(kPlateStyle);
     }
-    for (QLabel* l : {Label1, LevelLabel, WordLabel, ScoreLabel}) l->setFocusPolicy(Qt::NoFocus);
     // The word stands at the top for all to see.
     frame_.setSayIt([] { return ShownWord(); });
     resize(ScreenMetrics::screenSize());

@@ -68,7 +68,6 @@ JailBreakForm::JailBreakForm(QWidget* parent)
           },
           true)),
       Anim(frame_.timer("Anim", kFrameMs, [this] { animTick(); })) {
-    setObjectName("JailBreakForm");
     setWindowTitle("Jailbreak");
     frame_.setMusic(MusicKind::Shared, "jailbreak.mid");
     frame_.setForeign([this](const QString& c) {

@@ -89,7 +89,6 @@ LetterFall::LetterFall(QWidget* parent)
           },
           true)),
       Timer4(frame_.timer("Timer4", 1, [this] { starTick(); })) {
-    setObjectName("LetterFall");
     setWindowTitle("Letter Drop!");
     // Hearing the word and building it from its falling letters is the exercise. The game keeps
     // the word in capitals, which a voice might spell out letter by letter.

@@ -52,7 +52,6 @@ LetterTossGame::LetterTossGame(QWidget* parent)
       Timer3(frame_.timer("Timer3", kLandedMs, [this] { afterLanding(); }, true)),
       Timer4(frame_.timer("Timer4", kTimeUpMs, [this] { finish(); }, true)),
       Anim(frame_.timer("Anim", lt::kStepMs, [this] { animTick(); })) {
-    setObjectName("LetterTossGame");
     setWindowTitle("Letter Toss");
     frame_.setMusic(MusicKind::Shared, "lettertoss.mid");
     frame_.runOnThroughEnd("Anim");  // the fan keeps turning behind the end boxes

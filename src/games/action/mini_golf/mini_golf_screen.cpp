@@ -71,7 +71,6 @@ MiniGolf::MiniGolf(QWidget* parent)
       frame_(this, menuNames(), [this] { SetupGame(); }),
       Timer1(frame_.timer("Timer1", 10, [this] { ballTick(); })),
       Timer2(frame_.timer("Timer2", 1000, [this] { clockTick(); })) {
-    setObjectName("MiniGolf");
     setWindowTitle("Wordmere Mini-Golf Course");
     setAutoFillBackground(true);
     QPalette pal = palette();

@@ -32,7 +32,6 @@ SlingShot::SlingShot(QWidget* parent)
               if (auto then = std::exchange(then_, nullptr)) then();
           },
           true)) {
-    setObjectName("SlingShot");
     setWindowTitle(kTitle);
     frame_.setMusic(MusicKind::Shared, "slingshot.mid");
     // The meadow and its sparkles go on behind the end boxes.

@@ -36,7 +36,6 @@ SpiderGame::SpiderGame(QWidget* parent)
       Timer1(frame_.timer("Timer1", Ticker::kFrameMs, [this] { tick(); })),
       Timer2(frame_.timer(
           "Timer2", kEndMs, [this] { endOfGame(); }, true)) {
-    setObjectName("SpiderGame");
     setWindowTitle(kTitle);
     frame_.setMusic(MusicKind::Shared, "spiderwebs.mid");
     // The fireflies keep dancing behind the end boxes.

@@ -37,7 +37,6 @@ ToadRace::ToadRace(QWidget* parent)
           "Timer2", kReadyMs, [this] { go(); }, true)),
       Timer3(frame_.timer(
           "Timer3", Pond::kHopMs, [this] { afterHome(); }, true)) {
-    setObjectName("ToadRace");
     setWindowTitle("Toad Race");
     frame_.setMusic(MusicKind::Shared, "toadrace.mid");
     frame_.setForeign([this](const QString& c) {

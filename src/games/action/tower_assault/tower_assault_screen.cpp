@@ -38,7 +38,6 @@ TowerGame::TowerGame(QWidget* parent)
       Timer1(frame_.timer("Timer1", Ticker::kFrameMs, [this] { tick(); })),
       Timer2(frame_.timer(
           "Timer2", kEndMs, [this] { endOfGame(); }, true)) {
-    setObjectName("TowerGame");
     setWindowTitle(kTitle);
     setFocusPolicy(Qt::StrongFocus);
     frame_.setMusic(MusicKind::Shared, "towerassault.mid");
@@ -83,7 +82,6 @@ void TowerGame::SetupGame() {
         case Start::Ok:
             break;
     }
-    s.Score = 0;
     frame_.startMusic();
     scene_->reset();
     showWord();

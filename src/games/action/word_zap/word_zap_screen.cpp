@@ -49,7 +49,6 @@ Zap::Zap(QWidget* parent)
       Timer2(frame_.timer("Timer2", 10, [this] { ++gallery_.reaction; })),
       TimeTimer(frame_.timer("TimeTimer", 1000, [this] { timeTick(); })),
       StarTimer(frame_.timer("StarTimer", 1, [this] { starTick(); })) {
-    setObjectName("Zap");
     setWindowTitle("Word Zap");
     frame_.hostPlay(field_);
     field_->setCursor(Qt::CrossCursor);

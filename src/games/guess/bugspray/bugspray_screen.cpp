@@ -26,7 +26,6 @@ bool soundOn() {
 
 BugSprayForm::BugSprayForm(QWidget* parent)
     : GuessScreen("images/hangback.svg", menuNames(), parent) {
-    setObjectName("BugSprayForm");
     setWindowTitle("Bug Spray!");
     // No background music in this game.
     frame_.setMusic(MusicKind::None);

@@ -72,7 +72,6 @@ CowForm::CowForm(QWidget* parent)
     : QWidget(parent),
       frame_(this, menuNames(), [this] { NewGame(); }),
       Timer1(frame_.timer("Timer1", Ticker::kFrameMs, [this] { animate(); })) {
-    setObjectName("CowForm");
     setWindowTitle("Flying Cow");
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);

@@ -48,7 +48,6 @@ FreezeIt::FreezeIt(QWidget* parent)
       Timer3(frame_.pauseTimer("Timer3", kReadyMs)),
       Timer4(frame_.timer(
           "Timer4", 1300, [this] { scene_->banner({}); }, true)) {
-    setObjectName("FreezeIt");
     setWindowTitle("Freeze-It!");
     setFocusPolicy(Qt::StrongFocus);
     frame_.setMusic(MusicKind::Shared, "freeze.mid");

@@ -27,7 +27,6 @@ HangMan::HangMan(QWidget* parent)
               Label3->hide();
           },
           true)) {
-    setObjectName("HangMan");
     setWindowTitle("Hangman!");
     frame_.setMusic(MusicKind::Shared, "hangman.mid");
 

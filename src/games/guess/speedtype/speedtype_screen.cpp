@@ -48,7 +48,6 @@ SpeedType::SpeedType(QWidget* parent)
     : Backdrop("images/speedback.svg", parent),
       frame_(this, menuNames(), [this] { NewWord(); }),
       Timer1(frame_.timer("Timer1", kCallMs, [this] { tick(); })) {
-    setObjectName("SpeedType");
     setWindowTitle("Speed Type");
     setFocusPolicy(Qt::StrongFocus);
     frame_.setForeign([this](const QString& c) { typeKey(speedtype::KeyKind::Char, c); });

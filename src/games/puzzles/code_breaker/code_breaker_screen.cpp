@@ -50,7 +50,6 @@ CodeBreaker::CodeBreaker(QWidget* parent)
               Label4->show();
           },
           true)) {
-    setObjectName("CodeBreaker");
     setWindowTitle("Code Breaker");
     setFocusPolicy(Qt::StrongFocus);
     frame_.setMusic(MusicKind::Shared, "codebreaker.mid");

@@ -85,7 +85,6 @@ SafeCracker::SafeCracker(QWidget* parent)
     : QWidget(parent),
       frame_(this, GameMenuNames{}, [this] { NewGame(); }),
       Timer1(frame_.timer("Timer1", Ticker::kFrameMs, [this] { animate(); })) {
-    setObjectName("SafeCracker");
     setWindowTitle("Safe Cracker");
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);

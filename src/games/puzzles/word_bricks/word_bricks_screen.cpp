@@ -71,7 +71,6 @@ WordBricks::WordBricks(QWidget* parent)
               frame_.wonGame();
           },
           true)) {
-    setObjectName("WordBricks");
     setWindowTitle("Word Bricks");
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(false);

@@ -49,7 +49,6 @@ WordMazeForm::WordMazeForm(QWidget* parent)
           Label6->setProperty("red", !red);
           Label6->setStyleSheet(red ? kPenaltyGold : kPenaltyRed);
       })) {
-    setObjectName("WordMazeForm");
     setWindowTitle("Word Maze");
     frame_.setMusic(MusicKind::None);  // this game has no background music
 

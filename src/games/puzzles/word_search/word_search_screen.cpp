@@ -39,7 +39,6 @@ WordSearchForm::WordSearchForm(QWidget* parent)
                               TimeLabel->setText("Time: " + QString::number(ws_.Seconds));
                           })),
       FlashTimer(frame_.timer("FlashTimer", 50, [this] { flash(); })) {
-    setObjectName("WordSearchForm");
     setWindowTitle("Word Search");
     frame_.setMusic(MusicKind::Shared, "music.mid");
     // Timer1 runs from the opening and is not restarted with a round (see setTimer1).

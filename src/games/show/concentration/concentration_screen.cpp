@@ -66,7 +66,6 @@ Concentration::Concentration(QWidget* parent)
               frame_.wonGame();
           },
           true)) {
-    setObjectName("Concentration");
     setWindowTitle("Concentration");
     setAttribute(Qt::WA_OpaquePaintEvent);
     frame_.setMusic(MusicKind::Shared, "concentration.mid");

@@ -54,7 +54,6 @@ Plachinko::Plachinko(QWidget* parent)
                                  })),
       AnswerPause(frame_.timer(
           "AnswerPause", 700, [this] { NextQuestion(); }, true)) {
-    setObjectName("Plachinko");
     setWindowTitle("Pachinko");
     setFocusPolicy(Qt::StrongFocus);
     // The board lies under the question panel and the lamps. Mouse presses go to the game,

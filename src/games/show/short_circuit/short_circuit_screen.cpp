@@ -40,7 +40,6 @@ ShortCircuit::ShortCircuit(QWidget* parent)
       Timer2(frame_.timer(
           "Timer2", 3000, [this] { score(); }, true)),
       Timer4(frame_.timer("Timer4", 500, [this] { ++circuit_.halfSeconds; })) {
-    setObjectName("ShortCircuit");
     // The shorted column goes on flashing behind the try-again box.
     frame_.runOnThroughEnd("Timer1");
     setWindowTitle("Short Circuit");

@@ -64,7 +64,6 @@ SlotMachine::SlotMachine(QWidget* parent)
               if (then) then();
           },
           true)) {
-    setObjectName("SlotMachine");
     setWindowTitle("Slot Machine");
     setFocusPolicy(Qt::StrongFocus);
     frame_.setMusic(MusicKind::Shared, "slotmachine.mid");

@@ -54,7 +54,6 @@ SpellCrushGame::SpellCrushGame(QWidget* parent)
       frame_(this, menuNames(), [this] { NewGame(); }),
       safePicture_(findAsset("images/spellcrush-safe.svg")),
       robot_(findAsset("images/spellcrush-robot.svg")) {
-    setObjectName("SpellCrushGame");
     setWindowTitle("Spell Crush");
     setFocusPolicy(Qt::StrongFocus);
 

@@ -94,7 +94,6 @@ TicTacToe::TicTacToe(QWidget* parent)
           for (auto& u : saucers_) u.phase += u.speed;
           redrawOverlay();
       })) {
-    setObjectName("TicTacToe");
     // The winning line keeps changing colour, the sparks fall and the saucers wander on
     // while the end boxes stand.
     for (const char* name : {"Timer3", "StarTimer", "UfoTimer"}) frame_.runOnThroughEnd(name);

@@ -148,7 +148,6 @@ GameShowForm::GameShowForm(QWidget* parent)
     : QWidget(parent),
       frame_(this, menuNames(), [this] { SetupGame(); }),
       back_(findAsset("images/moneyback.svg")) {
-    setObjectName("GameShowForm");
     setWindowTitle("Wheel of Money");
     setFocusPolicy(Qt::StrongFocus);
     frame_.setForeign([this](const QString& c) { FLForm::InsertAt(Text1, c); });

@@ -90,7 +90,6 @@ FlashCardForm::FlashCardForm(QWidget* parent)
           // Once opened, the cover goes away for this card.
           if (transparent_ && !MovieBox->isPlaying()) MovieBox->hide();
       })) {
-    setObjectName("FlashCardForm");
     setWindowTitle("Flash Cards");
     setFocusPolicy(Qt::StrongFocus);
     // Flash cards have Quit only; Escape asks whether to end the program.

@@ -80,7 +80,6 @@ Quiz::Quiz(QWidget* parent)
           flashRed_ = !flashRed_;
           setColour(run_.CorrectChoice - 1, flashRed_ ? kRed : kBlue);
       })) {
-    setObjectName("Quiz");
     setWindowTitle("Quiz");
     setFocusPolicy(Qt::StrongFocus);
     // The quiz has Restart and Quit only, and no Escape: a stray key must not throw away a run.

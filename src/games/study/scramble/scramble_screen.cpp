@@ -52,7 +52,6 @@ Scramble::Scramble(QWidget* parent)
           if (step.black1 >= 0) setLetterBlack(step.black1, true);
           if (step.black2 >= 0) setLetterBlack(step.black2, true);
       })) {
-    setObjectName("Scramble");
     setWindowTitle("Scramble");
     setFocusPolicy(Qt::StrongFocus);
     SharedState& s = Shared();
