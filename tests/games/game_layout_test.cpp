@@ -1,6 +1,7 @@
 // Every registered game laid out at the two screens a classroom has, on a list a teacher might
 // make, a moment into play: no control or text reaches past the screen, no two texts lie over
-// each other, and no text is cut by its box. WM_GAMES="Name|Name" takes only those games.
+// each other, and no text is cut by its box; each shows its caption and offers the palette where
+// words are typed; and it looks as it did (see LookFault). WM_GAMES="Name|Name" takes only those games.
 #include <QAbstractButton>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,6 +14,53 @@ using namespace wm;
 using namespace wm::test;
 
 namespace {
+
+// Each game's window caption, and whether it offers the palette of foreign letters (the games
+// where words are typed).
+const std::map<QString, std::pair<QString, bool>> kCaptions = {
+    {"Asteroid Zap", {"Asteroid Blast!", false}},
+    {"Basketball", {"Basketball", false}},
+    {"Blind Tiles", {"Blind Tiles!", true}},
+    {"Bomb Squad 2", {"Bomb Squad 2", false}},
+    {"Bomb Squad", {"Bomb Squad", false}},
+    {"BreakThru", {"BreakThru", false}},
+    {"Bridge Out", {"Bridge Out", false}},
+    {"Bug Spray", {"Bug Spray!", true}},
+    {"Cannon Shot", {"Cannon Shot", false}},
+    {"Code Breaker", {"Code Breaker", true}},
+    {"Concentration", {"Concentration", false}},
+    {"Crossword", {"Crossword", true}},
+    {"Crunch Man", {"Crunch Man!", false}},
+    {"Flash Cards", {"Flash Cards", false}},
+    {"Flying Cow", {"Flying Cow", true}},
+    {"Freeze-It", {"Freeze-It!", true}},
+    {"Froggy", {"Froggy!", false}},
+    {"Hang Glider", {"Hang Glider", false}},
+    {"HangMan", {"Hangman!", true}},
+    {"Jailbreak", {"Jailbreak", true}},
+    {"Letter Drop", {"Letter Drop!", false}},
+    {"Letter Toss", {"Letter Toss", false}},
+    {"Mini Golf", {"Wordmere Mini-Golf Course", false}},
+    {"Pachinko", {"Pachinko", false}},
+    {"Princess", {"Princess", false}},
+    {"Quiz", {"Quiz", false}},
+    {"Safe Cracker", {"Safe Cracker", true}},
+    {"Scramble", {"Scramble", true}},
+    {"Short Circuit", {"Short Circuit", false}},
+    {"Slingshot", {"Slingshot", false}},
+    {"Slot Machine", {"Slot Machine", false}},
+    {"Speed Type", {"Speed Type", false}},
+    {"Spell Crush", {"Spell Crush", false}},
+    {"Spiderwebs", {"Spiderwebs", false}},
+    {"Tic-Tac-Toe", {"Tic-Tac-Toe", false}},
+    {"Toad Race", {"Toad Race", true}},
+    {"Tower Assault", {"Tower Assault", false}},
+    {"Wheel of Money", {"Wheel of Money", true}},
+    {"Word Bricks", {"Word Bricks", false}},
+    {"Word Maze", {"Word Maze", false}},
+    {"Word Search", {"Word Search", false}},
+    {"Word Zap", {"Word Zap", false}},
+};
 
 // Short and long words, and definitions long enough to wrap.
 const std::vector<std::pair<std::string, std::string>> kList = {
@@ -121,6 +169,35 @@ QStringList Faults(QWidget* screen) {
     return faults;
 }
 
+// The look of each game a moment into play at 1280x800, against its picture kept at half size
+// in tests/games/looks/: a box moved, a colour changed or a text in another size shows as a
+// patch of changed pixels. Small moving sparkles are let through. A look changed on purpose is
+// taken as the new picture with WM_LOOK_REFRESH=1.
+QString LookFault(const QString& game, const QImage& shot) {
+    const QImage now = shot.scaled(640, 400, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                           .convertToFormat(QImage::Format_RGB32);
+    const QString kept = QString(WM_LOOKS_DIR) + "/" + QString(game).replace(' ', '_') + ".png";
+    if (qEnvironmentVariableIsSet("WM_LOOK_REFRESH")) {
+        now.save(kept);
+        return {};
+    }
+    const QImage was = QImage(kept).convertToFormat(QImage::Format_RGB32);
+    if (was.size() != now.size()) return "no picture of the look kept at " + kept;
+    int changed = 0;
+    for (int y = 0; y < now.height(); ++y) {
+        const QRgb* a = reinterpret_cast<const QRgb*>(now.constScanLine(y));
+        const QRgb* b = reinterpret_cast<const QRgb*>(was.constScanLine(y));
+        for (int x = 0; x < now.width(); ++x)
+            changed += std::max({std::abs(qRed(a[x]) - qRed(b[x])), std::abs(qGreen(a[x]) - qGreen(b[x])),
+                                 std::abs(qBlue(a[x]) - qBlue(b[x]))}) > 40;
+    }
+    if (changed <= 300) return {};
+    const QString seen = QDir::temp().filePath("look-" + QString(game).replace(' ', '_') + ".png");
+    now.save(seen);
+    return QString("%1's look changed in %2 pixels: compare %3 with %4, and if the change was "
+                   "meant, take it with WM_LOOK_REFRESH=1").arg(game).arg(changed).arg(seen, kept);
+}
+
 }  // namespace
 
 class GameLayout : public QObject {
@@ -160,7 +237,15 @@ void GameLayout::nothingClipsOrOverlaps() {
     QVERIFY2(screen && screen->objectName() == QString::fromStdString(card->screen),
              qPrintable(fx.dialogs.last()));
     for (int t = 0; t < 2500; t += 50) Pump(50);
+    const auto look = kCaptions.find(game);
+    QVERIFY2(look != kCaptions.end(), "a game with no caption in this table");
+    QCOMPARE(screen->windowTitle(), look->second.first);
+    QCOMPARE(TriggerMenu(screen, "FLang"), look->second.second);
     QCOMPARE(screen->size(), size);
+    if (size == QSize(1280, 800)) {
+        const QString fault = LookFault(game, screen->grab().toImage());
+        QVERIFY2(fault.isEmpty(), qPrintable(fault));
+    }
     const QStringList faults = Faults(screen);
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join("\n")));
 }

@@ -136,9 +136,12 @@ void BreakThruScreenTest::outOfBallsLoses() {
     for (const char* effect : {"breakthruwall.wav", "breakthrumiss.wav", "breakthrulose.wav"})
         QVERIFY2(fx.sound.played.contains(effect), effect);
     fx.dialogs.answerYes(true);
+    bool behind = false;  // the court plays on behind the box
+    fx.dialogs.whileOpen = [&](const auto&) { behind = game->frame().findTimer("Timer1")->isActive(); };
     Pump(BreakThruForm::kEndMs);
     QCOMPARE(fx.dialogs.last(), "Out of balls! The word was ox. Would you like to try again?");
     QCOMPARE(fx.dialogs.shown.back().title, "Try Again?");
+    QVERIFY(behind);
     // Try again: a fresh game with three balls.
     QCOMPARE(game->field()->call() + " " + LabelText(game, "BallsLabel"), "Get ready! Balls: 3");
     // Words too long for the top row: said clearly, then back to the title.

@@ -132,12 +132,15 @@ void TowerScreenTest::threeWrongScrollsDriveTheKnightBack() {
     QVERIFY(fx.sound.played.contains("towerlose.wav"));
     const QString word = QString::fromLatin1(Shared().TheWord.c_str());
     fx.dialogs.answerYes(true);
+    bool behind = false;  // the scene plays on behind the box
+    fx.dialogs.whileOpen = [&](const auto&) { behind = game->frame().findTimer("Timer1")->isActive(); };
     Pump(TowerGame::kEndMs / 2);
     Shot(game, "tower-assault-lost");
     Pump(TowerGame::kEndMs / 2);
     QCOMPARE(fx.dialogs.last(), "The guards drove you back! The word was \"" + word +
                                     "\". Would you like to try again?");
     QCOMPARE(fx.dialogs.shown.back().title, "Tower Assault");
+    QVERIFY(behind);
     // Try again: a fresh game.
     QCOMPARE(LabelText(game, "ShieldsLabel"), "Shields: 3");
     QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 0");

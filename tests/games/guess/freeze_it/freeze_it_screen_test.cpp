@@ -69,10 +69,12 @@ void FreezeItScreenTest::tenWordsToTheTable() {
     QTest::keyClick(game, Qt::Key_Space);
     QCOMPARE(game->hintLabel()->text(), QString("Type the word and press ENTER"));
     QCOMPARE(fx.sound.played.last(), QString("freeze-crack.wav"));
+    QVERIFY(game->scene()->isFrozen());
     Pump(2000);
     QCOMPARE(game->game().hidden(), n - 1);
     QTest::keyClick(game->answerBox(), Qt::Key_Escape);  // closes the box, not the game
     QVERIFY(!game->answerBox()->isVisible());
+    QVERIFY(!game->scene()->isFrozen());
     QCOMPARE(CurrentScreen(), game.data());
 
     // A letter typed straight away freezes the ice and starts the answer; a wrong one costs
@@ -170,6 +172,7 @@ void FreezeItScreenTest::aListWithNoLettersIsRefused() {
     Pump();
     QVERIFY(fx.dialogs.saw("The words on this vocabulary list have no letters to hide in the "
                            "ice. Please choose another list or another game."));
+    QCOMPARE(fx.dialogs.shown.back().title, QString("Freeze-It!"));
     Pump();
     QVERIFY(Showing<Title>());
 }
