@@ -15,51 +15,56 @@ using namespace wm::test;
 
 namespace {
 
-// Each game's window caption, and whether it offers the palette of foreign letters (the games
-// where words are typed).
-const std::map<QString, std::pair<QString, bool>> kCaptions = {
-    {"Asteroid Zap", {"Asteroid Blast!", false}},
-    {"Basketball", {"Basketball", false}},
-    {"Blind Tiles", {"Blind Tiles!", true}},
-    {"Bomb Squad 2", {"Bomb Squad 2", false}},
-    {"Bomb Squad", {"Bomb Squad", false}},
-    {"BreakThru", {"BreakThru", false}},
-    {"Bridge Out", {"Bridge Out", false}},
-    {"Bug Spray", {"Bug Spray!", true}},
-    {"Cannon Shot", {"Cannon Shot", false}},
-    {"Code Breaker", {"Code Breaker", true}},
-    {"Concentration", {"Concentration", false}},
-    {"Crossword", {"Crossword", true}},
-    {"Crunch Man", {"Crunch Man!", false}},
-    {"Flash Cards", {"Flash Cards", false}},
-    {"Flying Cow", {"Flying Cow", true}},
-    {"Freeze-It", {"Freeze-It!", true}},
-    {"Froggy", {"Froggy!", false}},
-    {"Hang Glider", {"Hang Glider", false}},
-    {"HangMan", {"Hangman!", true}},
-    {"Jailbreak", {"Jailbreak", true}},
-    {"Letter Drop", {"Letter Drop!", false}},
-    {"Letter Toss", {"Letter Toss", false}},
-    {"Mini Golf", {"Wordmere Mini-Golf Course", false}},
-    {"Pachinko", {"Pachinko", false}},
-    {"Princess", {"Princess", false}},
-    {"Quiz", {"Quiz", false}},
-    {"Safe Cracker", {"Safe Cracker", true}},
-    {"Scramble", {"Scramble", true}},
-    {"Short Circuit", {"Short Circuit", false}},
-    {"Slingshot", {"Slingshot", false}},
-    {"Slot Machine", {"Slot Machine", false}},
-    {"Speed Type", {"Speed Type", false}},
-    {"Spell Crush", {"Spell Crush", false}},
-    {"Spiderwebs", {"Spiderwebs", false}},
-    {"Tic-Tac-Toe", {"Tic-Tac-Toe", false}},
-    {"Toad Race", {"Toad Race", true}},
-    {"Tower Assault", {"Tower Assault", false}},
-    {"Wheel of Money", {"Wheel of Money", true}},
-    {"Word Bricks", {"Word Bricks", false}},
-    {"Word Maze", {"Word Maze", false}},
-    {"Word Search", {"Word Search", false}},
-    {"Word Zap", {"Word Zap", false}},
+// Each game's window caption, whether it offers the palette of foreign letters (the games where
+// words are typed), and the tune playing a moment into play (none yet where it is empty).
+struct Opening {
+    QString caption;
+    bool palette;
+    QString tune;
+};
+const std::map<QString, Opening> kOpenings = {
+    {"Asteroid Zap", {"Asteroid Blast!", false, ""}},
+    {"Basketball", {"Basketball", false, ""}},
+    {"Blind Tiles", {"Blind Tiles!", true, "vivaldi.mid"}},
+    {"Bomb Squad 2", {"Bomb Squad 2", false, ""}},
+    {"Bomb Squad", {"Bomb Squad", false, ""}},
+    {"BreakThru", {"BreakThru", false, "breakthru.mid"}},
+    {"Bridge Out", {"Bridge Out", false, "bridgeout.mid"}},
+    {"Bug Spray", {"Bug Spray!", true, ""}},
+    {"Cannon Shot", {"Cannon Shot", false, "cannonshot.mid"}},
+    {"Code Breaker", {"Code Breaker", true, "codebreaker.mid"}},
+    {"Concentration", {"Concentration", false, "concentration.mid"}},
+    {"Crossword", {"Crossword", true, "entertainer.mid"}},
+    {"Crunch Man", {"Crunch Man!", false, ""}},
+    {"Flash Cards", {"Flash Cards", false, ""}},
+    {"Flying Cow", {"Flying Cow", true, "cowtune.mid"}},
+    {"Freeze-It", {"Freeze-It!", true, "freeze.mid"}},
+    {"Froggy", {"Froggy!", false, ""}},
+    {"Hang Glider", {"Hang Glider", false, "hangglider.mid"}},
+    {"HangMan", {"Hangman!", true, "hangman.mid"}},
+    {"Jailbreak", {"Jailbreak", true, "jailbreak.mid"}},
+    {"Letter Drop", {"Letter Drop!", false, ""}},
+    {"Letter Toss", {"Letter Toss", false, "lettertoss.mid"}},
+    {"Mini Golf", {"Wordmere Mini-Golf Course", false, ""}},
+    {"Pachinko", {"Pachinko", false, ""}},
+    {"Princess", {"Princess", false, "princess.mid"}},
+    {"Quiz", {"Quiz", false, ""}},
+    {"Safe Cracker", {"Safe Cracker", true, "safecracker.mid"}},
+    {"Scramble", {"Scramble", true, ""}},
+    {"Short Circuit", {"Short Circuit", false, ""}},
+    {"Slingshot", {"Slingshot", false, "slingshot.mid"}},
+    {"Slot Machine", {"Slot Machine", false, "slotmachine.mid"}},
+    {"Speed Type", {"Speed Type", false, ""}},
+    {"Spell Crush", {"Spell Crush", false, ""}},
+    {"Spiderwebs", {"Spiderwebs", false, "spiderwebs.mid"}},
+    {"Tic-Tac-Toe", {"Tic-Tac-Toe", false, ""}},
+    {"Toad Race", {"Toad Race", true, "toadrace.mid"}},
+    {"Tower Assault", {"Tower Assault", false, "towerassault.mid"}},
+    {"Wheel of Money", {"Wheel of Money", true, ""}},
+    {"Word Bricks", {"Word Bricks", false, "wordbricks.mid"}},
+    {"Word Maze", {"Word Maze", false, ""}},
+    {"Word Search", {"Word Search", false, "music.mid"}},
+    {"Word Zap", {"Word Zap", false, ""}},
 };
 
 // Short and long words, and definitions long enough to wrap.
@@ -237,10 +242,11 @@ void GameLayout::nothingClipsOrOverlaps() {
     QVERIFY2(screen && screen->objectName() == QString::fromStdString(card->screen),
              qPrintable(fx.dialogs.last()));
     for (int t = 0; t < 2500; t += 50) Pump(50);
-    const auto look = kCaptions.find(game);
-    QVERIFY2(look != kCaptions.end(), "a game with no caption in this table");
-    QCOMPARE(screen->windowTitle(), look->second.first);
-    QCOMPARE(TriggerMenu(screen, "FLang"), look->second.second);
+    const auto opening = kOpenings.find(game);
+    QVERIFY2(opening != kOpenings.end(), "a game missing from the table of openings");
+    QCOMPARE(screen->windowTitle(), opening->second.caption);
+    QCOMPARE(QFileInfo(fx.music.opened).fileName(), opening->second.tune);
+    QCOMPARE(TriggerMenu(screen, "FLang"), opening->second.palette);
     QCOMPARE(screen->size(), size);
     if (size == QSize(1280, 800)) {
         const QString fault = LookFault(game, screen->grab().toImage());

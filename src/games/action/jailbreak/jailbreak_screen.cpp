@@ -27,12 +27,6 @@ const char* kChip =
     "color: #ffe9a8; background: rgba(20, 22, 36, 210); border: 2px solid #b88a2a;"
     " border-radius: 12px; padding: 4px 16px;";
 
-GameMenuNames menuNames() {
-    GameMenuNames menu;
-    menu.foreignKey = "jailbreak";
-    return menu;
-}
-
 QString wonWithoutPoints(double score) {
     return QString("You escaped from all three cells, but your score is %1, so it cannot go on the "
                    "high score table. Would you like to try again?")
@@ -42,7 +36,7 @@ QString wonWithoutPoints(double score) {
 
 JailBreakForm::JailBreakForm(QWidget* parent)
     : Backdrop("images/jail-back.svg", parent),
-      frame_(this, menuNames(), [this] { NewGame(); }),
+      frame_(this, GameMenuNames(), [this] { NewGame(); }),
       Timer1(frame_.timer("Timer1", jb::kStepMs, [this] { guardTick(); })),
       Timer2(frame_.timer(
           "Timer2", kReadyMs,

@@ -29,17 +29,11 @@ const char* kHelp = "Click a code letter, then type the letter it stands for.";
 const char* kHud = "QLabel { color: #ffe9b0; background: transparent; padding: 2px 16px; }";
 const char* kHudWarn = "QLabel { color: #ff6b5e; background: transparent; padding: 2px 16px; }";
 
-GameMenuNames menuNames() {
-    GameMenuNames menu;
-    // The palette's key is the game's own name: the score file stays where it is.
-    menu.foreignKey = "code breaker";
-    return menu;
-}
 }  // namespace
 
 CodeBreaker::CodeBreaker(QWidget* parent)
     : QWidget(parent),
-      frame_(this, menuNames(), [this] { NewGame(); }),
+      frame_(this, GameMenuNames(), [this] { NewGame(); }),
       Timer1(frame_.timer("Timer1", 1000, [this] { clockTick(); })),
       Timer2(frame_.timer("Timer2", Ticker::kFrameMs, [this] { frameTick(); })),
       Timer3(frame_.pauseTimer("Timer3", kReadyMs)),

@@ -127,7 +127,11 @@ void JailbreakScreenTest::locksHintsAndThePalette() {
     QVERIFY(game);
     Pump(2000);
     JailScene* scene = game->scene();
-    // A click on the third tag shows its definition below.
+    QCOMPARE(LabelText(game, "Label4"), "Type the word, then press Enter:");
+    // A click on a tag shows its definition below, and makes its word the one said aloud.
+    QTest::mouseClick(scene, Qt::LeftButton, {}, scene->tagRect(0).center().toPoint());
+    QCOMPARE(LabelText(game, "Label1"), "Lock 1 of 4 says:");
+    QCOMPARE(QString::fromStdString(Shared().TheMeaning), LabelText(game, "Label2"));
     QTest::mouseClick(scene, Qt::LeftButton, {}, scene->tagRect(2).center().toPoint());
     QCOMPARE(LabelText(game, "Label1"), "Lock 3 of 4 says:");
     QCOMPARE(LabelText(game, "Label2"), "it floats in the sky");
@@ -138,6 +142,7 @@ void JailbreakScreenTest::locksHintsAndThePalette() {
     QCOMPARE(LabelText(game, "Label3"), "It begins with \"C\"");
     Type(game, "Cloud");
     QCOMPARE(Shared().Score, 90.0);
+    QVERIFY(scene->springing(2));
     // Accents count, case does not; the palette types into the box.
     WinDriver driver;
     SetModalHook(PaletteThen(0xC9, driver));

@@ -50,6 +50,7 @@ void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
     QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheWord.c_str()));
     QCOMPARE(LabelText(game, "Label2"), QString::fromLatin1(Shared().TheMeaning.c_str()));
     QCOMPARE(LabelText(game, "PadsLabel"), "Pads to go: 12");
+    QCOMPARE(LabelText(game, "LevelLabel"), "Level 2");
 
     // A wrong word: the toad sits, the word stands, the box keeps what was typed, selected to
     // be typed over. The croak only with sound on.
@@ -83,6 +84,7 @@ void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
             // Halfway, the computer's toads have had their first hop (every 6700 ms at level 2).
             Pump(6000);
             for (int t = 1; t <= 3; ++t) QCOMPARE(game->pond()->shownPad(t), 1);
+            QVERIFY(fx.sound.played.contains("toadplop.wav"));
         }
         Pump(16);
     }
