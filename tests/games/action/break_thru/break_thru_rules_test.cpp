@@ -55,7 +55,7 @@ TEST(BreakThruNumbers, SpeedTextAndBricks) {
     for (auto [word, speed] : {std::pair{1, 8.0}, {2, 8.4}, {3, 8.82}})
         EXPECT_DOUBLE_EQ(ballSpeed(word), speed);
     EXPECT_EQ(lostText("owl"), "Out of balls! The word was owl.");
-    for (char c : std::string("aZ7\xE9\xC9\xDF\xFF")) EXPECT_TRUE(isBrick(c)) << c;
+    for (char c : std::string("aZ079\xE9\xC9\xDF\xFF")) EXPECT_TRUE(isBrick(c)) << c;
     for (char c : std::string(" -'.\xD7\xF7")) EXPECT_FALSE(isBrick(c)) << c;
     // The wall's eight rows stand in the court's middle: 20 units clear of each fence.
     Brick top, bottom;
@@ -176,9 +176,20 @@ TEST(BreakThruCourt, FencesTheBackWallAndBricksTurnTheBall) {
           {Event::Wrong, b.x() - 15, b.y() + 8, 8.0, 2.0, -8.0, 2.0},
           {Event::Wrong, b.x() + 37, b.y() - 13.2, 0.0, 0.5, 0.0, -0.5}}) {
         g.place(550, {x, y, vx, vy});
-        EXPECT_EQ(g.tick({}).at(0).kind, kind) << x;
+        const Event e = g.tick({}).at(0);
+        EXPECT_EQ(e.kind, kind) << x;
+        if (kind == Event::Wall) EXPECT_EQ(e.brick, -1) << x;
         EXPECT_EQ(std::pair(g.ball().vx, g.ball().vy), std::pair(wantVx, wantVy)) << x;
     }
+}
+
+// Marks in a word are no bricks: they count as spelled from the start, the first one too.
+TEST(BreakThruBricks, MarksInTheWordAreSpelledAlready) {
+    SharedState s = ListOf({"'o-x"}, 1);
+    ScriptedRng rng(0.0);
+    Game g = Serving(s, rng);
+    EXPECT_EQ(g.done(), (std::vector<bool>{true, false, true, false}));
+    EXPECT_EQ(g.nextPos(), 1);
 }
 
 TEST(BreakThruBricks, InOrderScoresByTheWordAndWrongCostsOnce) {
