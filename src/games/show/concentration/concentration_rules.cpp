@@ -27,14 +27,12 @@ Game deal(const SharedState& state, int level, Rng& rng) {
     g.level = level;
     const int count = std::min<int>(state.WordCount, int(state.Words.size()) - 1);
     if (level < 1 || count < level) return g;
-    std::vector<bool> used(count + 1, false);
+    // A word drawn again is turned away with the words already dealt.
     std::set<std::string> words, meanings;
     std::vector<int> drawn;
     for (int draws = 0; int(drawn.size()) < level; ++draws) {
         if (draws == kMaxDraws) return g;
         const int k = roll(rng, count);
-        if (used[k]) continue;
-        used[k] = true;
         // Two cards with one text would make a pair nobody can tell apart.
         const std::string w = key(state.Words[k]), m = key(state.Meanings[k]);
         if (w.empty() || m.empty() || words.count(w) || meanings.count(m)) continue;

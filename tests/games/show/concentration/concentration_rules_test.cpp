@@ -43,8 +43,10 @@ TEST(ConcentrationDeal, DrawsThenShufflesInAFixedOrder) {
 }
 
 TEST(ConcentrationDeal, AmbiguousAndShortListsEndInsteadOfSpinning) {
-    // The same word twice, a blank definition: neither makes a second pair.
+    // The same word twice (with another meaning), a blank definition: neither makes a second
+    // pair.
     SharedState s = listOf({"apple", "APPLE ", "cloud"});
+    s.Meanings[2] = "a computer maker";
     s.Meanings[3] = "  ";
     ScriptedRng rng;
     rng.pick(1, 3).pick(2, 3).pick(3, 3);
@@ -53,6 +55,16 @@ TEST(ConcentrationDeal, AmbiguousAndShortListsEndInsteadOfSpinning) {
     EXPECT_EQ(rng.draws, kMaxDraws);  // the draws stop at the bound
     EXPECT_EQ(kMaxDraws, 20000);
     EXPECT_FALSE(deal(listOf({"apple"}), 2, rng).ready());
+    // A count past the end of the list's store draws up to its last place.
+    SharedState full = listOf({});
+    const int last = int(full.Words.size()) - 1;
+    full.Words[last] = "zebra";
+    full.Meanings[last] = "a striped horse";
+    full.WordCount = 32767;
+    ScriptedRng top(1.0);
+    const Game z = deal(full, 1, top);
+    ASSERT_TRUE(z.ready());
+    EXPECT_EQ(z.cards[0].entry, last);
 }
 
 TEST(ConcentrationPlay, ScoresMissesAndTheThirdClick) {
@@ -133,7 +145,8 @@ TEST(ConcentrationTable, GridFitsTheCardsToTheScreen) {
     };
     const Row rows[] = {{4, 1240, 560, 2, 2},  {6, 1240, 560, 3, 2},  {12, 1240, 560, 4, 3},
                         {16, 1240, 560, 4, 4}, {16, 1860, 800, 6, 3}, {20, 1240, 560, 5, 4},
-                        {20, 560, 1240, 3, 7}, {1, 100, 100, 1, 1}};
+                        {20, 560, 1240, 3, 7}, {1, 100, 100, 1, 1},
+                        {2, 300, 200, 1, 2}};  // a tie: the fewer columns
     for (const Row& r : rows) {
         const Grid gr = grid(r.cards, r.w, r.h);
         EXPECT_EQ(gr.columns, r.columns) << r.cards << " in " << r.w << "x" << r.h;
