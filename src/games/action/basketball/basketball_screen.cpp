@@ -25,7 +25,6 @@ const QColor kFlashB(128, 255, 128);  // 8454016
 GameMenuNames menuNames() {
     GameMenuNames n;
     n.restart = "Restart";
-    n.foreign.clear();
     n.scores = "HighS";
     n.quit = "Quit";
     return n;

@@ -29,16 +29,11 @@ const char* kClueStyle =
     "color: #2a1850; background: rgba(245, 240, 255, 235); border: 3px solid #8a6ad8;"
     " border-radius: 18px; padding: 2px 16px;";
 
-GameMenuNames MenuNames() {
-    GameMenuNames names;
-    names.foreign.clear();  // nothing is typed
-    return names;
-}
 }  // namespace
 
 BreakThruForm::BreakThruForm(QWidget* parent)
     : QWidget(parent),
-      frame_(this, MenuNames(), [this] { SetupGame(); }),
+      frame_(this, GameMenuNames(), [this] { SetupGame(); }),
       keys_(this),
       Timer1(frame_.timer("Timer1", Ticker::kFrameMs, [this] { frameTick(); })) {
     setWindowTitle(kTitle);

@@ -27,16 +27,11 @@ const char* kPlateStyle =
     "color: #fff6dc; background: rgba(74, 46, 20, 205); border: 2px solid rgba(255, 226, 160, 140);"
     " border-radius: 12px; padding: 3px 14px;";
 
-GameMenuNames MenuNames() {
-    GameMenuNames names;
-    names.foreign.clear();  // planks are dragged, not typed
-    return names;
-}
 }  // namespace
 
 BridgeOutGame::BridgeOutGame(QWidget* parent)
     : QWidget(parent),
-      frame_(this, MenuNames(), [this] { SetupGame(); }),
+      frame_(this, GameMenuNames(), [this] { SetupGame(); }),
       Timer1(frame_.timer("Timer1", Ticker::kFrameMs, [this] { tick(); })),
       Timer2(frame_.timer(
           "Timer2", kEndMs, [this] { endOfGame(); }, true)) {

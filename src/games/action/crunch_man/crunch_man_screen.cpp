@@ -30,7 +30,6 @@ const QColor kBorder(70, 120, 255);
 
 GameMenuNames menuNames() {
     GameMenuNames menu;
-    menu.foreign.clear();
     menu.scores = "HighS";
     menu.quit = "Quit";
     return menu;

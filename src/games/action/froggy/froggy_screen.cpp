@@ -27,7 +27,6 @@ const QColor kGrass(86, 170, 70);
 GameMenuNames menuNames() {
     GameMenuNames menu;
     menu.restart = "mnuRestart";
-    menu.foreign.clear();
     menu.scores = "mnuHighScores";
     menu.quit = "mnuQuit";
     return menu;

@@ -32,7 +32,6 @@ const QColor kTileBlink(255, 128, 128);  // 8421631
 GameMenuNames menuNames() {
     GameMenuNames n;
     n.restart = "Back";
-    n.foreign.clear();
     n.quit = "Back2";
     return n;
 }

@@ -31,12 +31,6 @@ const char* kCard =
     "color: #23324f; background: rgba(255, 252, 238, 235); border: 3px solid #8a6a3a;"
     " border-radius: 16px; padding: 4px 14px;";
 
-GameMenuNames menuNames() {
-    GameMenuNames menu;
-    menu.foreign.clear();  // nothing is typed in this game
-    return menu;
-}
-
 QString noPointsText(double score) {
     return QString("Time's up! Your score is %1, so it cannot go on the high score table. Would "
                    "you like to try again?")
@@ -46,7 +40,7 @@ QString noPointsText(double score) {
 
 LetterTossGame::LetterTossGame(QWidget* parent)
     : QWidget(parent),
-      frame_(this, menuNames(), [this] { NewGame(); }),
+      frame_(this, GameMenuNames(), [this] { NewGame(); }),
       Timer1(frame_.timer("Timer1", 1000, [this] { clockTick(); })),
       Timer2(frame_.timer("Timer2", kReadyMs, [this] { play(); }, true)),
       Timer3(frame_.timer("Timer3", kLandedMs, [this] { afterLanding(); }, true)),

@@ -23,12 +23,6 @@ int px(double twips) {
     return int(std::lround(twips / 15));
 }
 
-GameMenuNames menuNames() {
-    GameMenuNames n;
-    n.foreign.clear();  // nothing on the course takes typed text
-    return n;
-}
-
 QImage BallPicture() {
     const int d = kBallSize / 15;
     QImage img(d + 2, d + 2, QImage::Format_ARGB32_Premultiplied);
@@ -68,7 +62,7 @@ void DrawBlock(QPainter& p, QPoint c, int half) {
 
 MiniGolf::MiniGolf(QWidget* parent)
     : QWidget(parent),
-      frame_(this, menuNames(), [this] { SetupGame(); }),
+      frame_(this, GameMenuNames(), [this] { SetupGame(); }),
       Timer1(frame_.timer("Timer1", 10, [this] { ballTick(); })),
       Timer2(frame_.timer("Timer2", 1000, [this] { clockTick(); })) {
     setWindowTitle("Wordmere Mini-Golf Course");

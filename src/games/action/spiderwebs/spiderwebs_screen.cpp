@@ -23,16 +23,11 @@ const char* kPlateStyle =
     "color: #f4f0ff; background: rgba(30, 24, 70, 205); border: 2px solid rgba(210, 200, 255, 130);"
     " border-radius: 12px; padding: 3px 14px;";
 
-GameMenuNames MenuNames() {
-    GameMenuNames names;
-    names.foreign.clear();  // flies are clicked, not typed
-    return names;
-}
 }  // namespace
 
 SpiderGame::SpiderGame(QWidget* parent)
     : QWidget(parent),
-      frame_(this, MenuNames(), [this] { SetupGame(); }),
+      frame_(this, GameMenuNames(), [this] { SetupGame(); }),
       Timer1(frame_.timer("Timer1", Ticker::kFrameMs, [this] { tick(); })),
       Timer2(frame_.timer(
           "Timer2", kEndMs, [this] { endOfGame(); }, true)) {

@@ -24,16 +24,11 @@ const char* kPlateStyle =
     "color: #fff3d6; background: rgba(52, 40, 58, 210); border: 2px solid rgba(236, 196, 96, 170);"
     " border-radius: 12px; padding: 3px 14px;";
 
-GameMenuNames MenuNames() {
-    GameMenuNames names;
-    names.foreign.clear();  // the knight is steered, nothing is typed
-    return names;
-}
 }  // namespace
 
 TowerGame::TowerGame(QWidget* parent)
     : QWidget(parent),
-      frame_(this, MenuNames(), [this] { SetupGame(); }),
+      frame_(this, GameMenuNames(), [this] { SetupGame(); }),
       keys_(this),
       Timer1(frame_.timer("Timer1", Ticker::kFrameMs, [this] { tick(); })),
       Timer2(frame_.timer(

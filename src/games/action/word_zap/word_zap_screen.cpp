@@ -29,7 +29,6 @@ const double kShelves[] = {0.6, 0.425, 0.3, 0.2};  // under targets 0-1, 2-3, 4-
 
 GameMenuNames menuNames() {
     GameMenuNames menu;
-    menu.foreign.clear();
     menu.quit = "Back";
     return menu;
 }

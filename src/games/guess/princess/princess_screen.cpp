@@ -43,12 +43,6 @@ const char* kPanelStyle =
     "QLabel { color: #4a2a0c; background: rgba(255, 246, 222, 236); border: 3px solid #c89a4a;"
     " border-radius: 16px; padding: 4px 16px; }";
 
-GameMenuNames menuNames() {
-    GameMenuNames menu;
-    menu.foreign.clear();  // every letter is on a stone to click
-    return menu;
-}
-
 // The meaning is the clue when the pupil asked for it and the list has one.
 bool clueShown() {
     const SharedState& s = Shared();
@@ -62,7 +56,7 @@ qint64 frmPrincess::nowMs() const {
 
 frmPrincess::frmPrincess(QWidget* parent)
     : QWidget(parent),
-      frame_(this, menuNames(), [this] { NewGame(); }),
+      frame_(this, GameMenuNames(), [this] { NewGame(); }),
       Timer1(frame_.timer("Timer1", Ticker::kFrameMs, [this] { animate(); })) {
     setWindowTitle("Princess");
     setFocusPolicy(Qt::StrongFocus);

@@ -26,12 +26,6 @@ namespace {
 constexpr int kFallMs = 420;   // one brick's fall from the sky to the heap
 constexpr int kGlowMs = 700;   // a built girder's sparkle
 
-GameMenuNames menuNames() {
-    GameMenuNames menu;
-    menu.foreign.clear();  // nothing to type here
-    return menu;
-}
-
 QLabel* statusLabel(const char* name, Qt::Alignment align, QWidget* parent) {
     auto* l = new QLabel(parent);
     l->setObjectName(name);
@@ -55,7 +49,7 @@ double easeOut(double u) {
 
 WordBricks::WordBricks(QWidget* parent)
     : QWidget(parent),
-      frame_(this, menuNames(), [this] { SetupGame(); }),
+      frame_(this, GameMenuNames(), [this] { SetupGame(); }),
       Timer1(frame_.timer("Timer1", 1000,
                           [this] {
                               tick(game_);

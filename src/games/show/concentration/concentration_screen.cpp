@@ -24,12 +24,6 @@ using namespace concentration;
 namespace {
 constexpr int kPopMs = 300;  // a found pair swells a little as it turns green
 
-GameMenuNames menuNames() {
-    GameMenuNames menu;
-    menu.foreign.clear();  // nothing to type here
-    return menu;
-}
-
 QLabel* statusLabel(const char* name, Qt::Alignment align, QWidget* parent) {
     auto* l = new QLabel(parent);
     l->setObjectName(name);
@@ -49,7 +43,7 @@ qint64 now() {
 
 Concentration::Concentration(QWidget* parent)
     : QWidget(parent),
-      frame_(this, menuNames(), [this] { SetupGame(); }),
+      frame_(this, GameMenuNames(), [this] { SetupGame(); }),
       Timer1(frame_.timer("Timer1", 1000,
                           [this] {
                               tick(game_);

@@ -45,16 +45,11 @@ void fitLine(QLabel* l, int points, const QString& longest) {
     l->setFont(f);
 }
 
-GameMenuNames menuNames() {
-    GameMenuNames menu;
-    menu.foreign.clear();  // nothing to type here
-    return menu;
-}
 }  // namespace
 
 SlotMachine::SlotMachine(QWidget* parent)
     : QWidget(parent),
-      frame_(this, menuNames(), [this] { NewGame(); }),
+      frame_(this, GameMenuNames(), [this] { NewGame(); }),
       Timer1(frame_.timer("Timer1", Ticker::kFrameMs, [this] { frameTick(); })),
       Timer2(frame_.timer(
           "Timer2", kReadyMs,

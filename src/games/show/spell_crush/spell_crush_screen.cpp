@@ -42,16 +42,11 @@ const QString kPointsStyle =
 const char* kBadgeStyle =
     "color: white; background: rgba(40, 30, 20, 170); border-radius: 12px; padding: 4px 14px;";
 
-GameMenuNames menuNames() {
-    GameMenuNames names;
-    names.foreign.clear();  // nothing is typed in this game
-    return names;
-}
 }  // namespace
 
 SpellCrushGame::SpellCrushGame(QWidget* parent)
     : QWidget(parent),
-      frame_(this, menuNames(), [this] { NewGame(); }),
+      frame_(this, GameMenuNames(), [this] { NewGame(); }),
       safePicture_(findAsset("images/spellcrush-safe.svg")),
       robot_(findAsset("images/spellcrush-robot.svg")) {
     setWindowTitle("Spell Crush");

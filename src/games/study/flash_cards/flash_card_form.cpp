@@ -20,11 +20,6 @@
 namespace wm {
 
 namespace {
-GameMenuNames menuNames() {
-    GameMenuNames menu;
-    menu.foreign.clear();
-    return menu;
-}
 
 QLabel* bigLabel(const char* name, QWidget* parent) {
     auto* l = new QLabel(parent);
@@ -85,7 +80,7 @@ QIcon arrowIcon(bool right) {
 
 FlashCardForm::FlashCardForm(QWidget* parent)
     : QWidget(parent),
-      frame_(this, menuNames(), [this] { setup(); }),
+      frame_(this, GameMenuNames(), [this] { setup(); }),
       Timer1(frame_.timer("Timer1", 50, [this] {
           // Once opened, the cover goes away for this card.
           if (transparent_ && !MovieBox->isPlaying()) MovieBox->hide();

@@ -64,17 +64,11 @@ QPixmap drawing(const QString& name, QSize size) {
     return out;
 }
 
-GameMenuNames menuNames() {
-    GameMenuNames menu;
-    menu.foreign.clear();
-    return menu;
-}
-
 }  // namespace
 
 Quiz::Quiz(QWidget* parent)
     : QWidget(parent),
-      frame_(this, menuNames(), [this] { StartRun(); }),
+      frame_(this, GameMenuNames(), [this] { StartRun(); }),
       Timer1(frame_.timer("Timer1", 300, [this] {
           // The right answer flashes red and blue while the pupil looks at a wrong one.
           flashRed_ = !flashRed_;
