@@ -15,6 +15,7 @@ class HangGliderScreenTest : public QObject {
 private slots:
     void fiveWordsWonWithTheKeys();
     void landingTooEarlyLoses();
+    void aLongClueShrinksToFit();
 };
 
 namespace {
@@ -167,6 +168,22 @@ void HangGliderScreenTest::landingTooEarlyLoses() {
              "This list has no words that fit Hang Glider: a word may have at most 20 letters. "
              "Please choose another list.");
     QVERIFY(Showing<Title>());
+}
+
+void HangGliderScreenTest::aLongClueShrinksToFit() {
+    ShellFixture fx;
+    ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
+    const std::string longer =
+        "a large bird of prey with a hooked beak and broad wings that soars for hours on warm "
+        "rising air over hills, cliffs and open country, looking down for small animals to catch";
+    auto* game = OpenGame<HangGlider>(fx, "Hang Glider", {{"eagle", longer}, {"eagle", longer}}, 1);
+    QVERIFY(game);
+    Pump();
+    const QLabel* clue = game->findChild<QLabel*>("Label1");
+    QVERIFY(clue->font().pixelSize() < 30);  // 30 at this size for a short clue
+    const QRect need = QFontMetrics(clue->font()).boundingRect(
+        clue->contentsRect(), Qt::AlignCenter | Qt::TextWordWrap, clue->text());
+    QVERIFY(need.height() <= clue->contentsRect().height());
 }
 
 QTEST_MAIN(HangGliderScreenTest)
