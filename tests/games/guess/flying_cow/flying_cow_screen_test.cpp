@@ -88,6 +88,9 @@ void FlyingCowScreenTest::fiveWordsFromTheTitleToTheTable() {
     QCOMPARE(label(game, "MeaningLabel"), "Meaning: a house for animals");
     QVERIFY(!game->hintButton()->isEnabled());
     for (char c : {'b', 'a', 'r', 'n'}) game->key(c)->click();
+    // Clicking a key or Hint leaves the keyboard with the game.
+    QCOMPARE(game->key('b')->focusPolicy(), Qt::NoFocus);
+    QCOMPARE(game->hintButton()->focusPolicy(), Qt::NoFocus);
     QCOMPARE(fx.sound.played.last(), "cowmoo.wav");
     QCOMPARE(label(game, "ScoreLabel"), "Score: 410");  // + (40 + 35) x 4 / 2
     // + (80 + 35) x 4, then + (30 + 30) x 4: the hyphen is shown from the start.

@@ -145,6 +145,9 @@ void FreezeItScreenTest::noPointsNoTable() {
     QVERIFY(game);
     QVERIFY(UntilThawing(game));
     QVERIFY(!game->clue()->isVisible());  // no meaning on a words-only list
+    const int hidden = game->game().hidden();  // level 5 thaws a block every 300 ms
+    Pump(300);
+    QCOMPARE(game->game().hidden(), hidden - 1);
     QTest::keyClick(game, Qt::Key_Space);
     TypeAnswer(game, "snow");
     // Every word melts at 1800 - 300 x 5 = 300 ms a block.
