@@ -42,6 +42,7 @@ void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
     QCOMPARE(game->pond()->call(), "Ready...");
     QVERIFY(fx.sound.played.contains("toadready.wav"));
     QLineEdit* box = game->typingBox();
+    QCOMPARE(game->findChild<QLineEdit*>("Text1"), box);
     // No false starts: nothing can be typed before "Go!".
     Enter(box, "frog");
     QCOMPARE(box->text(), "");
@@ -64,6 +65,7 @@ void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
     QCOMPARE(game->race().pad(0), 0);
     QCOMPARE(LabelText(game, "Label1"), first);
     QCOMPARE(box->selectedText(), "zzz");
+    QCOMPARE(box->property("edge").toString(), "#d8402c");  // a red edge until put right
     // The palette's character goes into the typing box.
     box->clear();
     QVERIFY(TriggerMenu(game, "FLang"));
@@ -80,6 +82,8 @@ void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
         letters += int(word.size());
         enter(game, word.toUpper());
         QCOMPARE(LabelText(game, "PadsLabel"), QString("Pads to go: %1").arg(12 - pad));
+        QCOMPARE(game->pond()->shownPad(0), pad);  // the pupil's own toad hops
+        QCOMPARE(box->property("edge").toString(), "#5da03a");
         if (pad == 6) {
             // Halfway, the computer's toads have had their first hop (every 6700 ms at level 2).
             Pump(6000);
