@@ -96,6 +96,8 @@ void JailbreakScreenTest::roadFromTitleThroughThreeCellsToTheTable() {
     Type(game, "river");  // 100, then the guard's 35 steps to go x 10
     QCOMPARE(s.Score, 70.0 + 100 + 350);
     QCOMPARE(game->scene()->banner(), "Escaped!");
+    QCOMPARE(LabelText(game, "Label1"), "All the locks are open!");
+    QCOMPARE(LabelText(game, "Label2"), "");  // no definition left standing
     Pump(1500);  // the guard stands still while you escape
     QCOMPARE(game->jail().guardSteps, 5);
     Pump(2200);
@@ -147,8 +149,10 @@ void JailbreakScreenTest::locksHintsAndThePalette() {
     WinDriver driver;
     SetModalHook(PaletteThen(0xC9, driver));
     QTest::keyClicks(game->typingBox(), "caf");
+    scene->setFocus();  // wherever the keyboard was, the palette hands it back to the box
     QVERIFY(TriggerMenu(game, "FLang"));
     QCOMPARE(game->typingBox()->text(), "caf\u00C9");
+    QCOMPARE(game->focusWidget(), game->typingBox());
     QTest::keyClick(game->typingBox(), Qt::Key_Return);
     QCOMPARE(Shared().Score, 90.0 + 80);
     // With the sound off a mistake is silent, but still costs.
