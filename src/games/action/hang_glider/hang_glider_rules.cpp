@@ -101,7 +101,6 @@ void Game::spawn(Rng& rng) {
 
 std::vector<Event> Game::tick(const Input& in, Rng& rng) {
     std::vector<Event> ev;
-    ++ticks_;
     // A landed glider stops the world; otherwise the sky scrolls on in every phase and the
     // letters in the air drift by, behind the boxes too.
     if (phase_ == Phase::Lost) return ev;
@@ -137,7 +136,7 @@ std::vector<Event> Game::tick(const Input& in, Rng& rng) {
     if (phase_ == Phase::Flying && y_ + kKeel >= kGroundY) {
         y_ = kGroundY - kKeel;
         phase_ = Phase::Lost;
-        ev.push_back({Event::Lost, 0, kGliderX, kGroundY});
+        ev.push_back({.kind = Event::Lost, .x = kGliderX, .y = kGroundY});
     }
     return ev;
 }

@@ -92,7 +92,6 @@ public:
     double ceiling() const { return ceiling_; }
     bool lifting() const { return lift_ > 0; }
     int score() const { return score_; }
-    long long ticks() const { return ticks_; }
     // How far the scenery has scrolled: letters' speed x ticks in flight.
     double scroll() const { return scroll_; }
 
@@ -119,7 +118,6 @@ private:
     double untilNext_ = 0;  // distance to go before the next letter comes in
     int decoysInARow_ = 0;
     int score_ = 0;
-    long long ticks_ = 0;
     double scroll_ = 0;
 };
 

@@ -69,7 +69,6 @@ bool Game::start(SharedState& s, Rng& rng) {
     used_.clear();
     missed_.clear();
     wordNumber_ = 0;
-    last_ = 0;
     return nextWord(s, rng);
 }
 
