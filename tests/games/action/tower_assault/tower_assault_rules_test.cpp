@@ -57,6 +57,7 @@ TEST(TowerStart, DrawsADefinedWordAndRefusesListsItCannotPlay) {
     SharedState same = ListOf({"cat", "CAT", " "});
     EXPECT_EQ(Game().start(same, rng), Start::TooFewWords);
     for (auto [r, ms] : {std::pair{0, 1500}, {1, 1450}, {9, 1050}}) EXPECT_EQ(dropInterval(r), ms);
+    for (auto [g, x] : {std::pair{1, 100.0}, {4, 700.0}}) EXPECT_EQ(guardX(g), x);  // four windows
     EXPECT_EQ(lostText("dog"),
               "The guards drove you back! The word was \"dog\". Would you like to try again?");
 }
