@@ -18,6 +18,7 @@
 #include "platform/services.h"
 #include "platform/sound.h"
 #include "platform/text.h"
+#include "platform/text_fit.h"
 
 using namespace wm;
 
@@ -221,6 +222,42 @@ private slots:
             QCOMPARE(QPointF(t.dx(), t.dy()), QPointF(r.dx, r.dy));
         }
         QCOMPARE(scene::coverStage({800, 600}, {}), QTransform());
+    }
+    // Type comes down a pixel at a time to the largest size at which the text fits its box both
+    // ways (a long word shrinks it as a long clue does), and never below the floor.
+    void typeShrinksToTheLargestSizeThatFits() {
+        QFont start("DejaVu Sans");
+        start.setPixelSize(40);
+        auto at = [&](int px) {
+            QFont f = start;
+            f.setPixelSize(px);
+            return f;
+        };
+        auto fits = [](const QFont& f, const QRect& box, const QString& text) {
+            const QRect need =
+                QFontMetrics(f).boundingRect(box, Qt::AlignCenter | Qt::TextWordWrap, text);
+            return need.height() <= box.height() && need.width() <= box.width();
+        };
+        const QString clue = "a bird that swims in icy seas but never flies";
+        for (const QRect& box : {QRect(0, 0, 300, 70), QRect(0, 0, 120, 400)}) {
+            for (const QString& text : {clue, QString("photosynthesis")}) {
+                const int px = scene::shrinkToFit(start, box, text).pixelSize();
+                QVERIFY2(px < 40 && px > 8, qPrintable(text));
+                QVERIFY(fits(at(px), box, text));
+                QVERIFY(!fits(at(px + 1), box, text));
+            }
+        }
+        QCOMPARE(scene::shrinkToFit(start, QRect(0, 0, 900, 200), "ox").pixelSize(), 40);
+        QCOMPARE(scene::shrinkToFit(start, QRect(0, 0, 20, 6), clue).pixelSize(), 8);
+        QCOMPARE(scene::shrinkToFit(start, QRect(0, 0, 20, 6), clue, 11).pixelSize(), 11);
+
+        const QString plate = "Score: 12345";
+        const int px = scene::shrinkToWidth(start, 150, plate).pixelSize();
+        QVERIFY(QFontMetrics(at(px)).horizontalAdvance(plate) <= 150);
+        QVERIFY(QFontMetrics(at(px + 1)).horizontalAdvance(plate) > 150);
+        QCOMPARE(scene::shrinkToWidth(start, 2000, plate).pixelSize(), 40);
+        QCOMPARE(scene::shrinkToWidth(start, 5, plate).pixelSize(), 8);
+        QCOMPARE(scene::shrinkToWidth(start, 5, plate, 10).pixelSize(), 10);
     }
 };
 

@@ -12,6 +12,7 @@
 #include "platform/services.h"
 #include "platform/sound.h"
 #include "platform/text.h"
+#include "platform/text_fit.h"
 #include "shell/game_registry.h"
 
 namespace wm {
@@ -196,21 +197,13 @@ void BridgeOutGame::resizeEvent(QResizeEvent*) {
     const QRect box = sign.adjusted(sign.width() / 12, sign.height() * 18 / 100, -sign.width() / 12,
                                     -sign.height() * 14 / 100);
     QFont f = scene::boldFont(box.height() * 42 / 100);
-    for (;;) {
-        const QRect need =
-            QFontMetrics(f).boundingRect(box, Qt::AlignCenter | Qt::TextWordWrap, Label1->text());
-        if (f.pixelSize() <= 8 || (need.height() <= box.height() && need.width() <= box.width()))
-            break;
-        f.setPixelSize(f.pixelSize() - 1);
-    }
-    Label1->setFont(f);
+    Label1->setFont(scene::shrinkToFit(f, box, Label1->text()));
     Label1->setGeometry(box);
     // The plates: score and road on the left, bridges and trucks on the right.
     const int plateW = W * 19 / 100;
     QFont pf = scene::boldFont(H * 30 / 1000);
     for (QLabel* l : {ScoreLabel, RoadLabel, BridgeLabel, TrucksLabel})
-        while (pf.pixelSize() > 8 && QFontMetrics(pf).horizontalAdvance(l->text()) > plateW - 36)
-            pf.setPixelSize(pf.pixelSize() - 1);
+        pf = scene::shrinkToWidth(pf, plateW - 36, l->text());
     const int plateH = QFontMetrics(pf).height() + 12;
     const int y1 = top + H * 2 / 100, y2 = y1 + plateH + H / 100;
     const int left = W * 15 / 1000, right = W - left - plateW;

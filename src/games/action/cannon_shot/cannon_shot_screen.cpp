@@ -10,6 +10,7 @@
 #include "platform/services.h"
 #include "platform/sound.h"
 #include "platform/text.h"
+#include "platform/text_fit.h"
 #include "shell/game_registry.h"
 
 namespace wm {
@@ -215,14 +216,7 @@ void CannonShotForm::resizeEvent(QResizeEvent*) {
     const QRect clue = place(QRectF(330, 14, 940, 128)).toRect();
     QFont f("DejaVu Sans");
     f.setPixelSize(std::max(8, int(38 * s)));
-    const QString meaning = Label1->text();
-    for (;;) {
-        const QRect need = QFontMetrics(f).boundingRect(
-            clue.adjusted(24, 8, -24, -8), Qt::AlignCenter | Qt::TextWordWrap, meaning);
-        if (f.pixelSize() <= 8 || need.height() <= clue.height() - 16) break;
-        f.setPixelSize(f.pixelSize() - 1);
-    }
-    Label1->setFont(f);
+    Label1->setFont(scene::shrinkToFit(f, clue.adjusted(24, 8, -24, -8), Label1->text()));
     Label1->setGeometry(clue);
     const QFont plate = scene::boldFont(int(24 * s));
     for (QLabel* l : {LevelLabel, WordLabel, ScoreLabel, BallsLabel}) {

@@ -10,6 +10,7 @@
 #include "platform/services.h"
 #include "platform/sound.h"
 #include "platform/text.h"
+#include "platform/text_fit.h"
 #include "shell/game_registry.h"
 
 namespace wm {
@@ -186,12 +187,7 @@ void HangGlider::resizeEvent(QResizeEvent*) {
     QFont f("DejaVu Sans");
     f.setPixelSize(std::max(8, int(30 * s)));
     const QString meaning = Label1->text();
-    for (;;) {
-        const QRect need = QFontMetrics(f).boundingRect(
-            clue.adjusted(24, 6, -24, -6), Qt::AlignCenter | Qt::TextWordWrap, meaning);
-        if (f.pixelSize() <= 8 || need.height() <= clue.height() - 12) break;
-        f.setPixelSize(f.pixelSize() - 1);
-    }
+    f = scene::shrinkToFit(f, clue.adjusted(24, 6, -24, -6), meaning);
     Label1->setFont(f);
     // A short clue gets a snug box rather than the whole width.
     const int snug = QFontMetrics(f).horizontalAdvance(meaning) + 80;

@@ -11,6 +11,7 @@
 #include "platform/services.h"
 #include "platform/sound.h"
 #include "platform/text.h"
+#include "platform/text_fit.h"
 #include "shell/game_registry.h"
 
 namespace wm {
@@ -196,14 +197,7 @@ void SlingShot::resizeEvent(QResizeEvent*) {
     const QRect board = field_->boardRect().translated(0, top);
     QFont f = scene::boldFont(board.height() * 44 / 100);
     f.setBold(false);
-    const QString meaning = Label1->text();
-    for (;;) {
-        const QRect need = QFontMetrics(f).boundingRect(board.adjusted(8, 0, -8, 0),
-                                                        Qt::AlignCenter | Qt::TextWordWrap, meaning);
-        if (f.pixelSize() <= 9 || need.height() <= board.height()) break;
-        f.setPixelSize(f.pixelSize() - 1);
-    }
-    Label1->setFont(f);
+    Label1->setFont(scene::shrinkToFit(f, board.adjusted(8, 0, -8, 0), Label1->text(), 9));
     Label1->setGeometry(board);
     // Two lines on each plate.
     auto place = [&](QRect plate, QLabel* upper, QLabel* lower) {

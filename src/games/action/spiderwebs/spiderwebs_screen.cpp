@@ -11,6 +11,7 @@
 #include "platform/services.h"
 #include "platform/sound.h"
 #include "platform/text.h"
+#include "platform/text_fit.h"
 #include "shell/game_registry.h"
 
 namespace wm {
@@ -175,14 +176,7 @@ void SpiderGame::resizeEvent(QResizeEvent*) {
     // The definition on the sign, shrunk until it fits.
     const QRect box = scene_->clueTextRect().translated(scene_->pos());
     QFont f = scene::boldFont(box.height() * 36 / 100);
-    for (;;) {
-        const QRect need =
-            QFontMetrics(f).boundingRect(box, Qt::AlignCenter | Qt::TextWordWrap, Label1->text());
-        if (f.pixelSize() <= 8 || (need.height() <= box.height() && need.width() <= box.width()))
-            break;
-        f.setPixelSize(f.pixelSize() - 1);
-    }
-    Label1->setFont(f);
+    Label1->setFont(scene::shrinkToFit(f, box, Label1->text()));
     Label1->setGeometry(box);
     // The plates beside the sign, one font for all four, as large as the widest text lets it be.
     const QList<QLabel*> plates{ScoreLabel, TimeLabel, RoundLabel, FliesLabel};

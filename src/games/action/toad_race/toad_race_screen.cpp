@@ -10,6 +10,7 @@
 #include "platform/services.h"
 #include "platform/sound.h"
 #include "platform/text.h"
+#include "platform/text_fit.h"
 #include "shell/game_registry.h"
 #include "shell/style.h"
 
@@ -217,21 +218,12 @@ void ToadRace::resizeEvent(QResizeEvent*) {
                         sign.width() * 12 / 14, h * 44 / 100);
     QFont f = scene::boldFont(wordBox.height() * 78 / 100);
     const QString word = Label1->text().isEmpty() ? QString("W") : Label1->text();
-    while (f.pixelSize() > 8 && QFontMetrics(f).horizontalAdvance(word) > wordBox.width() - 8)
-        f.setPixelSize(f.pixelSize() - 1);
-    Label1->setFont(f);
+    Label1->setFont(scene::shrinkToWidth(f, wordBox.width() - 8, word));
     Label1->setGeometry(wordBox);
     const QRect meaningBox(wordBox.left(), wordBox.bottom() + 1, wordBox.width(), h * 30 / 100);
     QFont m("DejaVu Sans");
     m.setPixelSize(std::max(8, meaningBox.height() * 40 / 100));
-    const QString meaning = Label2->text();
-    for (;;) {
-        const QRect need = QFontMetrics(m).boundingRect(
-            meaningBox.adjusted(6, 0, -6, 0), Qt::AlignCenter | Qt::TextWordWrap, meaning);
-        if (m.pixelSize() <= 8 || need.height() <= meaningBox.height()) break;
-        m.setPixelSize(m.pixelSize() - 1);
-    }
-    Label2->setFont(m);
+    Label2->setFont(scene::shrinkToFit(m, meaningBox.adjusted(6, 0, -6, 0), Label2->text()));
     Label2->setGeometry(meaningBox);
 
     const QRect bank = pond_->bankRect().translated(0, top);

@@ -12,6 +12,7 @@
 #include "platform/services.h"
 #include "platform/sound.h"
 #include "platform/text.h"
+#include "platform/text_fit.h"
 #include "shell/game_registry.h"
 
 namespace wm {
@@ -176,21 +177,13 @@ void TowerGame::resizeEvent(QResizeEvent*) {
     const QRect box = banner.adjusted(banner.width() / 10, banner.height() * 16 / 100,
                                       -banner.width() / 10, -banner.height() * 24 / 100);
     QFont f = scene::boldFont(box.height() * 40 / 100);
-    for (;;) {
-        const QRect need =
-            QFontMetrics(f).boundingRect(box, Qt::AlignCenter | Qt::TextWordWrap, Label1->text());
-        if (f.pixelSize() <= 8 || (need.height() <= box.height() && need.width() <= box.width()))
-            break;
-        f.setPixelSize(f.pixelSize() - 1);
-    }
-    Label1->setFont(f);
+    Label1->setFont(scene::shrinkToFit(f, box, Label1->text()));
     Label1->setGeometry(box);
     // The plates: score and ladder on the left, shields on the right.
     const int plateW = W * 15 / 100;
     QFont pf = scene::boldFont(H * 28 / 1000);
     for (QLabel* l : {ScoreLabel, RungsLabel, ShieldsLabel})
-        while (pf.pixelSize() > 8 && QFontMetrics(pf).horizontalAdvance(l->text()) > plateW - 36)
-            pf.setPixelSize(pf.pixelSize() - 1);
+        pf = scene::shrinkToWidth(pf, plateW - 36, l->text());
     const int plateH = QFontMetrics(pf).height() + 12;
     const int y1 = top + H * 15 / 1000, y2 = y1 + plateH + H / 100;
     const int left = W * 12 / 1000, right = W - left - plateW;
