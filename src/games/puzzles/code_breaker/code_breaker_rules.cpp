@@ -120,7 +120,6 @@ bool Game::usable(const SharedState& s, int k, int tiles, int accents) const {
 
 int Game::drawWord(const SharedState& s, Rng& rng, int tiles, int accents) {
     const int loaded = std::min<int>({s.WordCount, kMaxWords, int(s.Words.size()) - 1});
-    if (loaded <= 0) return 0;
     auto fit = [&](int k) { return usable(s, k, tiles, accents); };
     int left = 0;
     for (int k = 1; k <= loaded; ++k) left += fit(k) ? 1 : 0;

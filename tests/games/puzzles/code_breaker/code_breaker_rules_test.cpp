@@ -61,6 +61,12 @@ TEST(CodeBreaker, DifferentWordsDrawnWithinTheRoom) {
     // Nothing fit was left for a fourth word: no draw for it; then the 26 draws of the key.
     EXPECT_EQ(rng.draws, 6 + 26);
     EXPECT_EQ(g.letters(), 9);
+    // Another game on the same board takes its clue from its own first word.
+    SharedState two = listOf({"ant", "bee"});
+    ScriptedRng again(0.0);
+    again.pick(2, 2);
+    ASSERT_TRUE(g.start(two, again));
+    EXPECT_EQ(two.TheWord, "bee");
 
     // 25 + 25 letters leave room for 10 more, not 25: the draw gives up on a word after 50 tries.
     SharedState big = listOf({std::string(25, 'a'), std::string(25, 'b'), std::string(25, 'c'),
@@ -261,6 +267,12 @@ TEST(CodeBreaker, WordsFlowAlongLinesAndKeysMoveBetweenThem) {
     EXPECT_TRUE(g.step(1));
     EXPECT_EQ(g.selected(), 2);  // over the hyphen and the gap
     EXPECT_TRUE(g.select(0));
+    EXPECT_EQ(g.selectedSymbol(), 0);  // a, the first letter given a symbol
     EXPECT_TRUE(g.step(-1));
     EXPECT_EQ(g.selected(), 11);  // round the end
+    // A code of one letter: a step comes round to the same tile.
+    SharedState one = listOf({"a"});
+    ASSERT_TRUE(g.start(one, rng));
+    EXPECT_TRUE(g.step(1));
+    EXPECT_EQ(g.selected(), 0);
 }
