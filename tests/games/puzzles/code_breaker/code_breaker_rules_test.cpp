@@ -275,4 +275,11 @@ TEST(CodeBreaker, WordsFlowAlongLinesAndKeysMoveBetweenThem) {
     ASSERT_TRUE(g.start(one, rng));
     EXPECT_TRUE(g.step(1));
     EXPECT_EQ(g.selected(), 0);
+    // A letter typed on the last tile moves on round to the first.
+    SharedState bead = listOf({"bead"}, 10);
+    ASSERT_TRUE(g.start(bead, rng));
+    g.begin();
+    EXPECT_TRUE(g.select(3));
+    EXPECT_EQ(g.type('q'), Typed::Placed);
+    EXPECT_EQ(g.selected(), 0);
 }
