@@ -112,7 +112,8 @@ TEST(WordBricksPlay, LinesFillCheckAndLock) {
     EXPECT_EQ(wrong.shaken, (std::vector<int>{3, 2}));
     EXPECT_EQ(g.score, 40);
     EXPECT_EQ(g.bricks[3].line, -1);
-    g.seconds = 71;
+    g.seconds = 70;
+    tick(g);  // a second a tick while the wall goes up
     drop(g, 2, 1);
     EXPECT_EQ(drop(g, 3, 1).what, Drop::Won);
     EXPECT_EQ(g.score, 40 + 20 + (80 - 71) * 2);
@@ -137,4 +138,5 @@ TEST(WordBricksScore, BonusAndClock) {
     EXPECT_EQ(finishBonus(81, 2), 0);
     EXPECT_EQ(clockText(69), "1:09");
     EXPECT_EQ(clockText(600), "10:00");
+    EXPECT_EQ(clockText(75), "1:15");
 }
