@@ -87,6 +87,7 @@ TEST(WordBricksDeal, UnusableListsEndInsteadOfSpinning) {
     EXPECT_FALSE(deal(ListOf({"ant", "extraordinarily", "bee"}), 3, all).ready());
     EXPECT_EQ(all.draws, 3);
     EXPECT_FALSE(deal(ListOf({}), 2, all).ready());
+    EXPECT_FALSE(deal(SharedState{}, 2, all).ready());  // nothing loaded at all
 }
 
 // The screen's road covers a refused brick, a wrong line shaken off and the last word's bonus;
@@ -105,6 +106,9 @@ TEST(WordBricksPlay, LinesFillCheckAndLock) {
     // A built line keeps its bricks and takes no more.
     EXPECT_EQ(drop(g, 1, -1).what, Drop::Refused);
     EXPECT_EQ(drop(g, 4, 0).what, Drop::Refused);
+    // A line past the last is the heap.
+    EXPECT_EQ(drop(g, 3, 7).what, Drop::Moved);
+    EXPECT_EQ(g.bricks[3].line, -1);
     // A full wrong line: every brick off, ten points gone.
     drop(g, 3, 1);
     const DropResult wrong = drop(g, 2, 1);
@@ -112,6 +116,9 @@ TEST(WordBricksPlay, LinesFillCheckAndLock) {
     EXPECT_EQ(wrong.shaken, (std::vector<int>{3, 2}));
     EXPECT_EQ(g.score, 40);
     EXPECT_EQ(g.bricks[3].line, -1);
+    g.seconds = 32767;
+    tick(g);  // the clock's count stops at the largest the table holds
+    EXPECT_EQ(g.seconds, 32767);
     g.seconds = 70;
     tick(g);  // a second a tick while the wall goes up
     drop(g, 2, 1);
