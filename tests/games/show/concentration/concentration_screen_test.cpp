@@ -5,6 +5,7 @@
 
 #include "core/score_table.h"
 #include "game_road.h"
+#include "look.h"
 #include "games/show/concentration/concentration_screen.h"
 
 using namespace wm;
@@ -49,8 +50,11 @@ private slots:
 
 void ConcentrationScreenTest::fromTheTitleThroughAWinToTheTable() {
     ShellFixture fx;
+    Shared().Score = 99;
     auto* g = startGame(fx, 3);
     QVERIFY2(g, qPrintable(fx.dialogs.texts().join(" | ")));
+    QCOMPARE(Shared().Score, 0.0);  // every game starts from nothing, with a fresh shuffle
+    QCOMPARE(fx.rng.randomizeCount, 1);
     QCOMPARE(g->game().cards.size(), std::size_t(6));
     QCOMPARE(g->ScoreLabel->text(), "Score: 0");
     QCOMPARE(g->PairsLabel->text(), "Pairs: 0 of 3");
@@ -105,6 +109,9 @@ void ConcentrationScreenTest::fromTheTitleThroughAWinToTheTable() {
     QCOMPARE(g->ScoreLabel->text(), "Score: 570");
     Pump(1300);  // the 1.2 s of the turned pair no longer matter
     QVERIFY(g->game().cards[4].up);
+    // The board mid-game: the found pair, a card face up, the rest face down.
+    const QString look = LookFault("Concentration_play", g->grab().toImage());
+    QVERIFY2(look.isEmpty(), qPrintable(look));
 
     // The last pair: +300 and (300 - seconds) x 3, then the table.
     WinDriver driver({"CAT"});
