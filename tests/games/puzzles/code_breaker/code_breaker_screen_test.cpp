@@ -85,6 +85,10 @@ void CodeBreakerScreenTest::crackTheCodeToTheTable() {
     QCOMPARE(g.holder('Q'), 2);
     QCOMPARE(g.symbols()[1].guess, char(0));
     QCOMPARE(fx.sound.played.last(), QString("cb-move.wav"));
+    // The letter flies across on the picture's frames, which stop when nothing moves.
+    QVERIFY(game->frame().findTimer("Timer2")->isActive());
+    Pump(600);
+    QVERIFY(!game->frame().findTimer("Timer2")->isActive());
     // The arrow keys move the choice; Backspace, Delete, Space and "Clear" take a letter away.
     const int at = g.selected();
     QTest::keyClick(game, Qt::Key_Left);
