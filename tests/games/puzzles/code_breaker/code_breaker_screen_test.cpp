@@ -61,12 +61,12 @@ void CodeBreakerScreenTest::crackTheCodeToTheTable() {
     QCOMPARE(game->clockLabel()->text(), QString("Time: 4:30"));
     QCOMPARE(game->clue()->text(),
              QString::fromLatin1(("Clue for the first word: " + s.TheMeaning).c_str()));
-    QVERIFY(!game->hintButton()->isEnabled());
+    QVERIFY(!game->hintButton()->isEnabled() && !game->clearButton()->isEnabled());
 
     // The clock starts after the pause and runs a second at a time.
     Pump(1480);
     QCOMPARE(g.phase(), Phase::Playing);
-    QVERIFY(game->hintButton()->isEnabled());
+    QVERIFY(game->hintButton()->isEnabled() && game->clearButton()->isEnabled());
     QCOMPARE(game->helpLabel()->text(),
              QString("Click a code letter, then type the letter it stands for."));
     Pump(1000);
