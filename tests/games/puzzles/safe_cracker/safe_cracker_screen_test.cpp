@@ -73,9 +73,12 @@ void SafeCrackerScreenTest::fiveSafesFromTheTitleToTheTable() {
     Guess(game, "gox");
     QCOMPARE(LabelText(game, "MessageLabel"), "Fill every tumbler first!");
     QCOMPARE(fx.sound.played.last(), "sc-buzz.wav");
+    fx.sound.played.clear();
     QTest::keyClick(game, Qt::Key_Backspace);
     QCOMPARE(Letters(game, 0), "GO__");
+    QCOMPARE(fx.sound.played, QStringList{"sc-click.wav"});  // each letter in or out clicks
     Guess(game, "od");
+    QCOMPARE(fx.sound.played.mid(1, 2), (QStringList{"sc-click.wav", "sc-click.wav"}));
     QCOMPARE(fx.sound.played.last(), "sc-tumbler.wav");
     QCOMPARE(LabelText(game, "MessageLabel"), "Not yet! 5 tries left.");
     QCOMPARE(LabelText(game, "TriesLabel"), "Tries left: 5");
@@ -88,6 +91,7 @@ void SafeCrackerScreenTest::fiveSafesFromTheTitleToTheTable() {
     QCOMPARE(LabelText(game, "TriesLabel"), "Tries left: 5");
 
     // The on-screen keys: Back four times, the letters, Enter.
+    QCOMPARE(game->findChild<QPushButton*>("Command1"), game->enterKey());
     for (int i = 0; i < 4; ++i) game->backKey()->click();
     for (char c : {'g', 'o', 'l', 'd'}) game->key(c)->click();
     game->enterKey()->click();
