@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include "game_start.h"
+#include "look.h"
 #include "games/puzzles/safe_cracker/safe_cracker_screen.h"
 
 using namespace wm;
@@ -84,6 +85,9 @@ void SafeCrackerScreenTest::fiveSafesFromTheTitleToTheTable() {
     QCOMPARE(LabelText(game, "TriesLabel"), "Tries left: 5");
     Pump(600);
     QCOMPARE(Lights(game, 0), "GGxG");
+    // The safe after a first try: its lights, the keys it coloured, the message and the clue.
+    const QString look = LookFault("Safe_Cracker_play", game->grab().toImage());
+    QVERIFY2(look.isEmpty(), qPrintable(look));
     // The keys' colours (1 not tried, 2 grey, 3 amber, 4 green): green beats grey elsewhere.
     for (char c : {'g', 'o'}) QCOMPARE(game->key(c)->property("look").toInt(), 4);
     Guess(game, "GOOD");  // the same guess in capitals costs nothing
