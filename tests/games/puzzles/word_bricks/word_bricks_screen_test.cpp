@@ -3,6 +3,7 @@
 #include <QtTest>
 
 #include "game_start.h"
+#include "look.h"
 #include "games/puzzles/word_bricks/word_bricks_screen.h"
 
 using namespace wm;
@@ -66,6 +67,7 @@ void WordBricksScreenTest::fromTheTitleThroughAWinToTheTable() {
     QCOMPARE(g->game().bricks[1].line, -1);
     Pump(500);
     QVERIFY(g->playing() && !g->Caption->isVisible());
+    QCOMPARE(g->frame().findTimer("Timer1")->interval(), 1000);  // the clock, a second a tick
     QVERIFY(fx.music.opened.endsWith("sounds/wordbricks.mid"));
 
     // "tig" does not fit the girder of "ox": it goes back where it lay.
@@ -99,6 +101,14 @@ void WordBricksScreenTest::fromTheTitleThroughAWinToTheTable() {
     const int seconds = g->game().seconds;
     QVERIFY(seconds >= 5 && seconds <= 7);
     QCOMPARE(LabelText(g, "ClockLabel"), QString("Time: 0:0%1").arg(seconds));
+    // "ox" lifted over the site, tiger built: how it looks in the hand.
+    QCOMPARE(g->game().bricks[2].text, "ox");
+    const QPointF ox = g->brickRect(2).center();
+    mouse(g, QEvent::MouseButtonPress, ox);
+    mouse(g, QEvent::MouseMove, (ox + front(g, 1)) / 2);
+    const QString look = LookFault("Word_Bricks_play", g->grab().toImage());
+    QVERIFY2(look.isEmpty(), qPrintable(look));
+    mouse(g, QEvent::MouseButtonRelease, (ox + front(g, 1)) / 2);
     drag(g, "ox", front(g, 1));
     const int score = 40 + 20 + (80 - seconds) * 2;
     QCOMPARE(LabelText(g, "ScoreLabel"), QString("Score: %1").arg(score));
