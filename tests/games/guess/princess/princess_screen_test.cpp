@@ -143,8 +143,11 @@ void PrincessScreenTest::clueSilenceAndAListItCannotPlay() {
     struct Row {
         bool option, sound, wordsOnly;
         const char* meaning;
-    } rows[] = {{true, false, true, "Click the stones in the right order to spell the word!"},
-                {false, false, false, "Click the stones in the right order to spell the word!"}};
+        const char* woken;  // once the dragon wakes, a list's meaning is shown
+    } rows[] = {{true, false, true, "Click the stones in the right order to spell the word!",
+                 "Click the stones in the right order to spell the word!"},
+                {false, false, false, "Click the stones in the right order to spell the word!",
+                 "Meaning: a strong animal"}};
     for (const Row& r : rows) {
         ShellFixture fx;
         auto* game = OpenGame<frmPrincess>(fx, "Princess", {{"ox", "a strong animal"}}, 5, r.option,
@@ -153,8 +156,10 @@ void PrincessScreenTest::clueSilenceAndAListItCannotPlay() {
         Ready(game, 1650);
         QCOMPARE(LabelText(game, "MeaningLabel"), r.meaning);
         Click(game, 'x');
-        Click(game, 'o');
         QCOMPARE(game->game().splashes(), 1);
+        for (int i = 0; i < 7; ++i) Click(game, 'x');  // no splash nor roar is heard
+        QCOMPARE(game->phase(), frmPrincess::Phase::Woken);
+        QCOMPARE(LabelText(game, "MeaningLabel"), r.woken);
         QVERIFY(fx.sound.played.isEmpty());
     }
     ShellFixture fx;
