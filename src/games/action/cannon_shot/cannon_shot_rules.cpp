@@ -16,8 +16,8 @@ constexpr double kBob = 9;  // how far a balloon bobs up and down
 double rad(double degrees) {
     return degrees * kPi / 180;
 }
+}  // namespace
 
-// Distance from `c` to the segment a..b, and how far along it the nearest point lies (0..1).
 double segmentDistance(double ax, double ay, double bx, double by, double cx, double cy,
                        double* along) {
     const double dx = bx - ax, dy = by - ay;
@@ -27,7 +27,6 @@ double segmentDistance(double ax, double ay, double bx, double by, double cx, do
     *along = u;
     return std::hypot(ax + u * dx - cx, ay + u * dy - cy);
 }
-}  // namespace
 
 double balloonSpeed(int level) {
     return 0.5 + 0.09 * level;
@@ -240,7 +239,7 @@ void Game::flyBall(std::vector<Event>& ev) {
     for (std::size_t i = 0; i < balloons_.size(); ++i) {
         const Balloon& bl = balloons_[i];
         if (!bl.shown()) continue;
-        double along = 0;
+        double along;
         if (segmentDistance(x0, y0, b.x, b.y, bl.x, bl.y, &along) <= kBalloonR + kBallR &&
             along < first) {
             first = along;

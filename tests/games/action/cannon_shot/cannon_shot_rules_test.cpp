@@ -124,6 +124,16 @@ TEST(CannonShotWords, NoRepeatsInAGameAndTheDrawIsBounded) {
     EXPECT_EQ(played, (std::vector<std::string>{"a", "b", "c", "a", "b"}));
     EXPECT_EQ(g.wordNumber(), 5);
     EXPECT_FALSE(g.nextWord(s, rng));
+
+    // Two words that fit: once both have come, the one just played waits a turn.
+    SharedState two = ListOf({"a", "b"}, 2);
+    ScriptedRng r2(0.0);
+    Game t = Started(two, r2);
+    r2.pick(2, 2);
+    ASSERT_TRUE(t.nextWord(two, r2));
+    r2.pick(2, 2);
+    ASSERT_TRUE(t.nextWord(two, r2));
+    EXPECT_EQ(two.TheWord, "a");
 }
 
 TEST(CannonShotAim, BarrelAndBarFollowTheKeysAndTheArcIsTrue) {
@@ -235,4 +245,43 @@ TEST(CannonShotEnd, OutOfBallsLosesWhenTheLastLands) {
     EXPECT_LT(l.balloons()[0].x, x);
     EXPECT_EQ(l.angle(), 10);
     EXPECT_FALSE(l.charging());
+}
+TEST(CannonShotAim, APathMeetsABalloonWhereItComesNearest) {
+    // (segment a..b, point c) -> distance, and how far along the nearest point lies
+    struct Row {
+        double ax, ay, bx, by, cx, cy, distance, along;
+    } rows[] = {{0, 0, 10, 0, 4, 3, 3, 0.4},    {0, 0, 10, 0, -3, 4, 5, 0},
+                {0, 0, 10, 0, 16, -8, 10, 1},   {0, 0, 0, 10, 2, 7, 2, 0.7},
+                {2, 2, 2, 2, 5, 6, 5, 0},       {0, 0, 8, 6, 5, 5, 1, 0.7}};
+    for (const Row& r : rows) {
+        double along = -1;
+        EXPECT_NEAR(segmentDistance(r.ax, r.ay, r.bx, r.by, r.cx, r.cy, &along), r.distance, 1e-9)
+            << r.cx << "," << r.cy;
+        EXPECT_NEAR(along, r.along, 1e-9) << r.cx << "," << r.cy;
+    }
+}
+
+TEST(CannonShotEnd, ABallOffTheSideEndsItsFlightAndTheFifthWordWins) {
+    SharedState s = ListOf({"a", "b", "c", "d", "e"}, 1);
+    ScriptedRng rng(0.0);
+    Game g = Started(s, rng);
+    // 45 degrees at full power clears the sky to the right, well above the ground.
+    const auto off = test::PlayShot(g, {0, 0, kChargeTicks}, rng);
+    ASSERT_EQ(off.size(), 1u);
+    EXPECT_EQ(off[0].kind, Event::Landed);
+    EXPECT_GT(off[0].x, kWorldW + 60);
+    EXPECT_LT(off[0].y, 600);
+    for (int w = 1; w <= 5; ++w) {
+        if (w > 1) {
+            ASSERT_TRUE(g.nextWord(s, rng));
+            g.go();
+        }
+        const char letter = char(std::toupper(s.TheWord[0]));
+        for (int t = 0; t < 3000 && Find(g, letter) < 0; ++t) g.tick({}, rng);
+        const auto ev = Shoot(g, Find(g, letter), rng);
+        ASSERT_GE(ev.size(), 2u) << w;
+        EXPECT_EQ(ev[1].kind, Event::Spelled);
+        EXPECT_EQ(ev.size() == 3 && ev[2].kind == Event::Won, w == 5) << w;
+    }
+    EXPECT_EQ(g.phase(), Phase::Won);
 }
