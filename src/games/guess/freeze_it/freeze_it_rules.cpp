@@ -97,19 +97,16 @@ int Game::thaw(Rng& rng) {
     const int n = hidden();
     if (n == 0) return -1;
     const int j = std::clamp(static_cast<int>(Int(rng.Rnd() * n + 1)), 1, n);
-    int seen = 0;
-    for (int i = 0; i < int(blocks_.size()); ++i) {
-        if (blocks_[i].shown) continue;
-        if (++seen == j) {
-            blocks_[i].shown = true;
-            if (n == 1) {
-                phase_ = Phase::Melted;
-                missed_.push_back(word_);
-            }
-            return i;
-        }
+    // The j-th block still hidden, counted from the left: there are n of them.
+    int i = 0;
+    for (int seen = 0;; ++i)
+        if (!blocks_[i].shown && ++seen == j) break;
+    blocks_[i].shown = true;
+    if (n == 1) {
+        phase_ = Phase::Melted;
+        missed_.push_back(word_);
     }
-    return -1;
+    return i;
 }
 
 bool Game::freeze() {
