@@ -77,6 +77,12 @@ TEST(CodeBreaker, DifferentWordsDrawnWithinTheRoom) {
     EXPECT_EQ(g.words()[2], std::string(10, 'd'));
     EXPECT_EQ(zero.draws, 1 + 50 + 50 + 26);
 
+    // Only the first entry fits: the walk after the last draw comes round to it.
+    SharedState first = listOf({"owl", "- -", "42"});
+    ScriptedRng late(0.9);
+    ASSERT_TRUE(g.start(first, late));
+    EXPECT_EQ(g.words(), (std::vector<std::string>{"owl"}));
+
     SharedState many = listOf({"a", "b", "c", "d", "e", "f", "g"});
     ASSERT_TRUE(g.start(many, zero));
     EXPECT_EQ(g.words().size(), 5u);  // five at most
@@ -171,6 +177,9 @@ TEST(CodeBreaker, LettersMoveAndTheCodeIsCracked) {
     EXPECT_EQ(g.points(), 250 * 10 + 10 * 4);
     EXPECT_EQ(g.type('q'), Typed::Ignored);
     EXPECT_FALSE(g.select(0));
+    // Try again: the same board waits for its clock again.
+    ASSERT_TRUE(g.start(s, rng));
+    EXPECT_EQ(g.phase(), Phase::Ready);
 }
 
 TEST(CodeBreaker, HintsCostThirtySecondsAndStay) {
