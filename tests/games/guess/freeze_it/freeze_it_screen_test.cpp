@@ -59,6 +59,7 @@ void FreezeItScreenTest::tenWordsToTheTable() {
     // Nothing thaws in the pause; then a block every 1800 - 300 x 3 = 900 ms.
     QVERIFY(UntilThawing(game));
     QCOMPARE(game->hintLabel()->text(), QString("Press SPACE to freeze the ice!"));
+    QCOMPARE(game->findChild<QLabel*>("Label4"), game->hintLabel());
     Pump(880);
     QCOMPARE(game->game().hidden(), n);
     Pump(40);
