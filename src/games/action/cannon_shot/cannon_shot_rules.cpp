@@ -50,7 +50,7 @@ bool isShot(char c) {
     if (b >= '0' && b <= '9') return true;
     // Letters of any language the code page holds: those with two cases, and the accented
     // letters without a capital of their own (the sharp s, the y with diaeresis).
-    const std::string one(1, c);
+    const std::string one{c};
     if (UCase(one) != LCase(one)) return true;
     return b >= 0xC0 && b != 0xD7 && b != 0xF7;
 }

@@ -104,6 +104,10 @@ TEST(CannonShotStart, LevelHeldAndListsThatCannotPlayRefused) {
         SharedState s = ListOf(words, 4);
         EXPECT_FALSE(Game().start(s, rng));
     }
+    // A count beyond the words held is refused, not read past.
+    SharedState broken = ListOf({"cat"}, 4);
+    broken.WordCount = 4000;
+    EXPECT_FALSE(Game().start(broken, rng));
 }
 
 TEST(CannonShotWords, NoRepeatsInAGameAndTheDrawIsBounded) {
@@ -252,7 +256,8 @@ TEST(CannonShotAim, APathMeetsABalloonWhereItComesNearest) {
         double ax, ay, bx, by, cx, cy, distance, along;
     } rows[] = {{0, 0, 10, 0, 4, 3, 3, 0.4},    {0, 0, 10, 0, -3, 4, 5, 0},
                 {0, 0, 10, 0, 16, -8, 10, 1},   {0, 0, 0, 10, 2, 7, 2, 0.7},
-                {2, 2, 2, 2, 5, 6, 5, 0},       {0, 0, 8, 6, 5, 5, 1, 0.7}};
+                {2, 2, 2, 2, 5, 6, 5, 0},       {0, 0, 8, 6, 5, 5, 1, 0.7},
+                {2, 1, 12, 1, 6, 4, 3, 0.4},    {1, 2, 1, 12, 4, 6, 3, 0.4}};
     for (const Row& r : rows) {
         double along = -1;
         EXPECT_NEAR(segmentDistance(r.ax, r.ay, r.bx, r.by, r.cx, r.cy, &along), r.distance, 1e-9)
