@@ -92,12 +92,18 @@ void ConcentrationScreenTest::fromTheTitleThroughAWinToTheTable() {
     clickCard(g, 0);
     clickCard(g, 1);
     QCOMPARE(g->shownFace(1), Face::Back);  // the back shows until half the turn is done
+    QCOMPARE(g->shownFace(0), Face::Word);  // and both turn green once it is over
     QCOMPARE(fx.sound.played.last(), "conc-match.wav");
     QCOMPARE(g->ScoreLabel->text(), "Score: 300");
     QCOMPARE(g->PairsLabel->text(), "Pairs: 1 of 3");
-    Pump(300);
+    Pump(200);
+    QCOMPARE(g->shownFace(1), Face::Meaning);
+    Pump(200);
     QCOMPARE(g->shownFace(0), Face::Found);
     QCOMPARE(g->shownFace(1), Face::Found);
+    QVERIFY(g->frame().findTimer("Timer3")->isActive());  // the found pair swells, then rests
+    Pump(200);
+    QVERIFY(!g->frame().findTimer("Timer3")->isActive());
 
     // heron and badger's definition: -10 x 3; a third click turns them back at once.
     clickCard(g, 2);
