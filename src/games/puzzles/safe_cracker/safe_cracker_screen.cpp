@@ -170,6 +170,7 @@ void SafeCracker::startSafe(bool first) {
     MeaningLabel->setVisible(clue);
     ReadyLabel->setText(first ? "Get ready!"
                               : QString("Safe %1 of %2").arg(game_.safeNumber()).arg(kSafesPerGame));
+    placeReady();
     ReadyLabel->show();
     say(QString("Type a word of %1 letters and press Enter.").arg(game_.openCount()));
     setPhase(Phase::Ready);
@@ -430,6 +431,15 @@ void SafeCracker::fitMeaning() {
     }
 }
 
+// The plate over the safe, sized to its text each time the text changes.
+void SafeCracker::placeReady() {
+    ReadyLabel->adjustSize();
+    ReadyLabel->resize(ReadyLabel->width() + 40, ReadyLabel->height() + 16);
+    ReadyLabel->move(picture_.safeRect().center() -
+                     QPoint(ReadyLabel->width() / 2, ReadyLabel->height() / 2));
+    ReadyLabel->raise();
+}
+
 void SafeCracker::resizeEvent(QResizeEvent*) {
     const int w = width(), h = height();
     if (w <= 0 || h <= 0) return;
@@ -478,11 +488,7 @@ void SafeCracker::resizeEvent(QResizeEvent*) {
     picture_.resize(size(), safeArea);
     picture_.placeBeacon(QPoint(w - mx - sideW / 2,
                                 top + hudH + gap + picture_.beaconRect().height() / 2 + gap));
-    ReadyLabel->adjustSize();
-    ReadyLabel->resize(ReadyLabel->width() + 40, ReadyLabel->height() + 16);
-    ReadyLabel->move(picture_.safeRect().center() -
-                     QPoint(ReadyLabel->width() / 2, ReadyLabel->height() / 2));
-    ReadyLabel->raise();
+    placeReady();
     fitMeaning();
     view_ = viewAt(nowMs());
     update();

@@ -51,6 +51,7 @@ private:
     void showKeys();
     void showHud();
     void fitMeaning();
+    void placeReady();
     safe::SafeView viewAt(qint64 now) const;
     qint64 revealEnd() const;
     bool moving(qint64 now) const;

@@ -110,6 +110,8 @@ void SafeCrackerScreenTest::fiveSafesFromTheTitleToTheTable() {
     Pump(1700);
     QCOMPARE(LabelText(game, "ReadyLabel"), "Safe 2 of 5");
     QCOMPARE(LabelText(game, "MeaningLabel"), "Clue: it opens a lock");
+    const QString next = LookFault("Safe_Cracker_next", game->grab().toImage());
+    QVERIFY2(next.isEmpty(), qPrintable(next));
     Ready(game);
 
     // Six wrong tries: the alarm, and the word shown.
