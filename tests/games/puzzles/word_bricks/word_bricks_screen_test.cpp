@@ -63,6 +63,8 @@ void WordBricksScreenTest::fromTheTitleThroughAWinToTheTable() {
     QCOMPARE(fx.sound.played.last(), "bricks-tip.wav");
     Pump(200);
     QVERIFY(g->brickRect(2).bottom() < g->lineRect(1).top());
+    const QString tip = LookFault("Word_Bricks_tip", g->grab().toImage());  // mid-fall
+    QVERIFY2(tip.isEmpty(), qPrintable(tip));
     drag(g, "er", back(g, 0));
     QCOMPARE(g->game().bricks[1].line, -1);
     Pump(500);
