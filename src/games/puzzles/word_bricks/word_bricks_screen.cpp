@@ -429,7 +429,7 @@ void WordBricks::renderBackdrop() {
 }
 
 void WordBricks::paintSite(QPainter& p, const QRegion& region) {
-    if (backdropStale_ || backdrop_.size() != size()) renderBackdrop();
+    if (backdropStale_) renderBackdrop();  // every new layout marks it stale
     for (const QRect& r : region) p.drawPixmap(r, backdrop_, r);
     p.setRenderHint(QPainter::Antialiasing);
     const qint64 t = now();
