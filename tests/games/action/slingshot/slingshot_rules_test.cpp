@@ -52,9 +52,9 @@ Shot shootAt(Game& g, int slot) {
     return flyOut(g);
 }
 
-// A stone sideways, under every target: it drops into the grass.
-Shot miss(Game& g) {
-    EXPECT_TRUE(g.fire({pouchRest().x + 120, pouchRest().y}));
+// A stone sideways, under every target: it drops into the grass, off to the left or the right.
+Shot miss(Game& g, int side = -1) {
+    EXPECT_TRUE(g.fire({pouchRest().x - side * 120, pouchRest().y}));
     return flyOut(g);
 }
 
@@ -176,6 +176,15 @@ TEST(SlingshotFlight, StraightWithALittleDropSpeedByThePull) {
     EXPECT_NEAR(g.stone().y, rest.y - 21.8, 1e-9);
     EXPECT_EQ(g.step(), Shot::Flying);
     EXPECT_NEAR(g.stone().y, rest.y - 21.8 - 21.6, 1e-9);
+    // A stone out of the side of the field is gone at once, not when it would reach the grass:
+    // at 22 a tick from the middle it is past either side, 22 beyond, on the 31st tick.
+    for (int side : {-1, 1}) {
+        ASSERT_EQ(g.start(s, rng), "");
+        ASSERT_TRUE(g.fire({rest.x + side * 200, rest.y}));
+        int ticks = 1;
+        while (g.step() == Shot::Flying) ++ticks;
+        EXPECT_EQ(ticks, 31) << side;
+    }
     // Seen from the slingshot no target hides another (the outer ones hang lower): a stone at
     // each hits that one.
     EXPECT_GT(ropeLength(0), ropeLength(1));
@@ -214,7 +223,8 @@ TEST(SlingshotScore, RightIsAHundredALevelWrongCostsFifty) {
         // answer, and no more fly.
         const std::string first = s.TheWord;
         ASSERT_TRUE(g.next(s, rng));
-        EXPECT_EQ(miss(g), Shot::Miss);
+        EXPECT_LT(dist(g.target(1), pivot(1)), kTargetRadius);  // let down afresh from the beam
+        EXPECT_EQ(miss(g, +1), Shot::Miss);
         EXPECT_EQ(g.score(), -100 + 100 * r.level);
         EXPECT_EQ(shootAt(g, (g.rightSlot() + 1) % kTargets), Shot::Wrong);
         EXPECT_EQ(g.phase(), Phase::Aiming);
@@ -253,6 +263,22 @@ TEST(SlingshotSwing, WiderAndFasterWithTheLevelNeighboursNeverMeet) {
         }
         EXPECT_NEAR(std::asin(widest) * 180 / 3.14159265358979, swingDegrees(level), 0.2);
     }
+    // The swing: (6 + 3 x level) degrees x sin(2 pi t / (3800 - 250 x level) + 0.7 x slot).
+    const double deg = 3.14159265358979 / 180;
+    struct Row {
+        int slot, level, ms;
+        double degrees;
+    } rows[] = {{0, 1, 0, 0},
+                {0, 1, 3550 / 4, 9},  // a quarter swing out: the widest
+                {0, 9, 1550 / 2, 0},
+                {2, 1, 0, 9 * std::sin(1.4)},
+                {3, 4, 2800 * 3 / 4, 18 * std::sin(1.5 * 3.14159265358979 + 2.1)}};
+    for (const Row& r : rows) {
+        const Point p = targetAt(r.slot, r.level, r.ms, 10'000), at = pivot(r.slot);
+        EXPECT_NEAR(p.x, at.x + ropeLength(r.slot) * std::sin(r.degrees * deg), 0.01) << r.slot;
+        EXPECT_NEAR(p.y, at.y + ropeLength(r.slot) * std::cos(r.degrees * deg), 0.01) << r.slot;
+    }
+    EXPECT_EQ(pivot(0).x, 1280 / 2 - 1.5 * 290);
     // A new definition's targets are let down from the beam and hang at full length after.
     const Point down = targetAt(1, 1, 0, 0), half = targetAt(1, 1, 0, kDropInMs / 2);
     EXPECT_LT(dist(down, pivot(1)), kTargetRadius);
