@@ -143,7 +143,6 @@ Flick flickOf(const std::vector<Sample>& drag) {
     Sample from = drag.front();
     for (std::size_t i = 0; i + 1 < drag.size(); ++i) {
         if (drag[i].ms > cut) break;
-        from = drag[i];
         const Sample& next = drag[i + 1];
         if (next.ms > cut && next.ms > drag[i].ms) {
             // Where the pointer was a tenth of a second before the end, between two samples.

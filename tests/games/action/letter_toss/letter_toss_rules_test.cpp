@@ -187,3 +187,39 @@ TEST(LetterTossView, TheRoomInPerspective) {
     EXPECT_DOUBLE_EQ(rim.y, 540);
     EXPECT_DOUBLE_EQ(rim.scale, 0.5);
 }
+
+// One step of the flight (16 ms; gravity 2400) against the back wall, a rim and a basket's side,
+// with a basket 340 right of the middle: what each bounce leaves of the speed and where it puts
+// the ball.
+TEST(LetterTossFlight, OneStepAgainstTheBackWallARimAndABasketsSide) {
+    struct Case {
+        const char* what;
+        Vec3 at, speed, wantAt, wantSpeed;
+    } cases[] = {
+        // The back wall (1180, the ball's radius 30 off it) keeps 0.35 of the speed.
+        {"back wall", {0, 1140, 600}, {100, 1000, 0}, {1.6, 1150, 599.3856}, {35, -350, -38.4}},
+        // A rim (120 to 150 from the middle, dropping past 220): out at 0.6, up at 0.3.
+        {"rim", {470, 1000, 225}, {-100, 0, -400}, {468.4, 1000, 220}, {60, 0, 438.4 * 0.3}},
+        // The side, below the rim: back out to 150 from the middle, at half the speed.
+        {"side", {495, 1000, 150}, {-400, 0, 0}, {490, 1000, 149.3856}, {200, 0, -38.4}},
+    };
+    for (const Case& c : cases) {
+        SharedState s = ListOf({"cat", "dog"}, 2);
+        Room r;
+        r.baskets = {Basket{}};
+        r.baskets[0].x = 340;
+        r.right = 0;
+        r.ball.at = c.at;
+        r.ball.speed = c.speed;
+        r.ball.flying = true;
+        const Step st = step(s, r);
+        EXPECT_TRUE(st.bounced) << c.what;
+        EXPECT_EQ(st.basket, -1) << c.what;
+        EXPECT_NEAR(r.ball.at.x, c.wantAt.x, 1e-6) << c.what;
+        EXPECT_NEAR(r.ball.at.z, c.wantAt.z, 1e-6) << c.what;
+        EXPECT_NEAR(r.ball.at.h, c.wantAt.h, 1e-6) << c.what;
+        EXPECT_NEAR(r.ball.speed.x, c.wantSpeed.x, 1e-6) << c.what;
+        EXPECT_NEAR(r.ball.speed.z, c.wantSpeed.z, 1e-6) << c.what;
+        EXPECT_NEAR(r.ball.speed.h, c.wantSpeed.h, 1e-6) << c.what;
+    }
+}
