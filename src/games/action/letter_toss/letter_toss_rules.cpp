@@ -132,8 +132,7 @@ bool nextWord(SharedState& s, Room& r, Rng& rng) {
 
 void newToss(Room& r, Rng& rng) {
     r.draught = static_cast<int>(Int(rng.Rnd() * (2 * kMaxDraught + 1) + 1)) - kMaxDraught - 1;
-    r.ball = Ball{};
-    r.ball.at = {0, 0, kHandH};
+    r.ball.at = {0, 0, kHandH};  // back in the hand; a toss starts the ball afresh
 }
 
 Flick flickOf(const std::vector<Sample>& drag) {

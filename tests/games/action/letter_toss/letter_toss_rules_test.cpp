@@ -77,6 +77,7 @@ TEST(LetterTossDraw, TooFewDifferentWordsOrDefinitionsForTheBaskets) {
     Room r;
     EXPECT_FALSE(newGame(s, r, rng));
     EXPECT_TRUE(r.baskets.empty());
+    EXPECT_EQ(rng.draws, 0);  // two different entries for three baskets: known before any draw
     s.Difficulty = 2;
     EXPECT_TRUE(newGame(s, r, rng));
     s.Difficulty = 3;  // the next word cannot have its baskets: none are left standing
