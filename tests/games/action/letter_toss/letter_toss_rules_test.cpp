@@ -203,6 +203,7 @@ TEST(LetterTossFlight, OneStepAgainstTheBackWallARimAndABasketsSide) {
         {"rim", {470, 1000, 225}, {-100, 0, -400}, {468.4, 1000, 220}, {60, 0, 438.4 * 0.3}},
         // The side, below the rim: back out to 150 from the middle, at half the speed.
         {"side", {495, 1000, 150}, {-400, 0, 0}, {490, 1000, 149.3856}, {200, 0, -38.4}},
+        {"front", {340, 845, 150}, {0, 400, 0}, {340, 850, 149.3856}, {0, -200, -38.4}},
     };
     for (const Case& c : cases) {
         SharedState s = ListOf({"cat", "dog"}, 2);
