@@ -189,7 +189,7 @@ TEST(LetterTossView, TheRoomInPerspective) {
     EXPECT_DOUBLE_EQ(rim.scale, 0.5);
 }
 
-// One step of the flight (16 ms; gravity 2400) against the back wall, a rim and a basket's side,
+// One step of the flight (16 ms; gravity 2400) against the walls, a rim and a basket's sides,
 // with a basket 340 right of the middle: what each bounce leaves of the speed and where it puts
 // the ball.
 TEST(LetterTossFlight, OneStepAgainstTheBackWallARimAndABasketsSide) {
@@ -204,6 +204,8 @@ TEST(LetterTossFlight, OneStepAgainstTheBackWallARimAndABasketsSide) {
         // The side, below the rim: back out to 150 from the middle, at half the speed.
         {"side", {495, 1000, 150}, {-400, 0, 0}, {490, 1000, 149.3856}, {200, 0, -38.4}},
         {"front", {340, 845, 150}, {0, 400, 0}, {340, 850, 149.3856}, {0, -200, -38.4}},
+        // A side wall (1500, less the ball's radius) keeps 0.4 of the speed across.
+        {"side wall", {-1460, 600, 600}, {-1000, 0, 0}, {-1470, 600, 599.3856}, {400, 0, -38.4}},
     };
     for (const Case& c : cases) {
         SharedState s = ListOf({"cat", "dog"}, 2);
