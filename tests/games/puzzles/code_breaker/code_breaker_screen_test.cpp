@@ -185,6 +185,7 @@ void CodeBreakerScreenTest::theClockRunsOut() {
     QVERIFY(!game->clue()->isVisible());  // no meaning on a words-only list
     Pump(1500);
     QCOMPARE(game->clockLabel()->text(), QString("Time: 0:30"));
+    QCOMPARE(game->frame().findTimer("Timer1")->interval(), 1000);  // a second a tick
     QVERIFY(!game->hintButton()->isEnabled());  // 30 seconds leave no room for a hint
     Pump(19000);
     QCOMPARE(game->clockLabel()->text(), QString("Time: 0:11"));
