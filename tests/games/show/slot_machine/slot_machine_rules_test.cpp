@@ -170,3 +170,19 @@ TEST(SlotMachine, PullsStopsAndTheJackpotInOnePull) {
     ASSERT_TRUE(g.start(s, rng));  // a new game counts its jackpots afresh
     EXPECT_EQ(g.jackpots(), 0);
 }
+
+TEST(SlotMachine, TheTenthJackpotWinsTheGame) {
+    SharedState s = ListOf(kEight, 1);
+    Walk rng;
+    Game g;
+    ASSERT_TRUE(g.start(s, rng));
+    for (int d = 1; d <= 10; ++d) {
+        if (d > 1) g.nextDefinition(s, rng);
+        ASSERT_TRUE(g.pull()) << d;
+        for (int reel = 0; reel < 2; ++reel) stopAt(g, reel, answerAt(g, reel));
+        EXPECT_EQ(stopAt(g, 2, answerAt(g, 2)), d < 10 ? Stop::Jackpot : Stop::Won) << d;
+    }
+    EXPECT_EQ(g.phase(), Phase::Won);
+    EXPECT_EQ(g.jackpots(), 10);
+    EXPECT_FALSE(g.pull());
+}
