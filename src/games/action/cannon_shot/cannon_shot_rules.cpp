@@ -239,7 +239,7 @@ void Game::flyBall(std::vector<Event>& ev) {
     for (std::size_t i = 0; i < balloons_.size(); ++i) {
         const Balloon& bl = balloons_[i];
         if (!bl.shown()) continue;
-        double along;
+        double along = 0;
         if (segmentDistance(x0, y0, b.x, b.y, bl.x, bl.y, &along) <= kBalloonR + kBallR &&
             along < first) {
             first = along;
