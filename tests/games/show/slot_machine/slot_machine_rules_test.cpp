@@ -126,6 +126,13 @@ TEST(SlotMachine, AnswersDoNotRepeatUntilTheListIsUsedUp) {
         asked.push_back(s.TheWord);
     }
     EXPECT_EQ(asked, (std::vector<std::string>{"bee", "ant", "cat", "ant"}));
+    // A generator stuck on the last entry: after the bounded draw the walk starts from the top.
+    ScriptedRng last(0.99);
+    SharedState t = PairsList({{"ant", "a"}, {"bee", "b"}, {"cat", "c"}});
+    ASSERT_TRUE(g.start(t, last));
+    g.nextDefinition(t, last);
+    EXPECT_EQ(t.TheWord, "ant");
+    EXPECT_EQ(Reel{}.shown(), 0);  // a reel with no strip yet shows its first place
 }
 
 TEST(SlotMachine, PullsStopsAndTheJackpotInOnePull) {
@@ -137,8 +144,11 @@ TEST(SlotMachine, PullsStopsAndTheJackpotInOnePull) {
     EXPECT_FALSE(g.pull());  // not while the reels roll
     EXPECT_EQ(std::make_pair(g.coins(), g.rolling()), std::make_pair(95, 3));
     // 13 words a second at level 9: a second rolls 13 words; a stop takes the nearest word.
-    g.spin(1000);
-    EXPECT_DOUBLE_EQ(g.reel(0).pos, 13);
+    g.spin(1);
+    EXPECT_DOUBLE_EQ(g.reel(0).pos, 0.013);
+    g.spin(-1000);  // time never runs backwards
+    g.spin(999);
+    EXPECT_NEAR(g.reel(0).pos, 13, 1e-9);
     g.spin(1000 * 0.4 / 13);
     EXPECT_EQ(g.reel(0).shown(), 13 % 6);
     g.spin(1000 * 0.2 / 13);
