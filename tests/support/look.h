@@ -43,3 +43,10 @@ inline QString LookFault(const QString& game, const QImage& shot) {
 }
 
 }  // namespace wm::test
+
+// Checks `widget`'s look now against the picture kept as `name`, inside a QtTest function.
+#define WM_CHECK_LOOK(name, widget)                                                  \
+    do {                                                                            \
+        const QString lookFault_ = wm::test::LookFault(name, (widget)->grab().toImage()); \
+        QVERIFY2(lookFault_.isEmpty(), qPrintable(lookFault_));                     \
+    } while (0)

@@ -3,6 +3,8 @@
 // gap at 1920x1080, the box naming the words, a try again; a list with nothing to build.
 #include <QtTest>
 
+#include "look.h"
+
 #include "core/strings.h"
 #include "game_start.h"
 #include "games/action/bridge_out/bridge_out_screen.h"
@@ -118,7 +120,7 @@ void BridgeOutScreenTest::threeTrucksStoppedNameTheWords() {
         for (int i = 0; i < 1000 && game->game().phase() != bridge_out::Phase::Stopped; ++i)
             Pump(16);
         QCOMPARE(game->scene()->call(), "Bridge out!");
-        if (truck == 1) Shot(game, "bridge-out-stopped");
+        if (truck == 1) WM_CHECK_LOOK("Bridge_Out_stopped", game);
         QVERIFY(fx.sound.played.contains("bridgehorn.wav"));
         QCOMPARE(LabelText(game, "TrucksLabel"), QString("Trucks: %1").arg(3 - truck));
         for (int i = 0; i < 300 && game->game().phase() == bridge_out::Phase::Stopped; ++i)

@@ -4,6 +4,8 @@
 // words are all too long.
 #include <QtTest>
 
+#include "look.h"
+
 #include "cannon_aim.h"
 #include "game_start.h"
 #include "games/action/cannon_shot/cannon_shot_screen.h"
@@ -86,7 +88,7 @@ void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
                 QCOMPARE(LabelText(game, "ScoreLabel"), QString("Score: %1").arg(score));
                 QCOMPARE(game->game().nextPos(), 1);
                 Shared().SoundOn = kTrue;
-                Shot(game, "cannon-play");
+                WM_CHECK_LOOK("Cannon_Shot_play", game);
             }
         }
         QVERIFY(fx.sound.played.contains("cannonpop.wav"));
@@ -143,7 +145,7 @@ void CannonShotScreenTest::outOfCannonballsLoses() {
     QVERIFY(fx.sound.played.contains("cannonthud.wav"));
     QCOMPARE(game->sky()->call(), "Out of cannonballs!");
     QVERIFY(fx.sound.played.contains("cannonlose.wav"));
-    Shot(game, "cannon-lost");
+    WM_CHECK_LOOK("Cannon_Shot_lost", game);
     fx.dialogs.answerYes(true);
     Pump(CannonShotForm::kEndMs);
     QCOMPARE(fx.dialogs.last(),

@@ -3,6 +3,8 @@
 // a try again, the last ball in the air when the clock runs out; a list it cannot use.
 #include <QtTest>
 
+#include "look.h"
+
 #include "game_start.h"
 #include "games/action/letter_toss/letter_toss_screen.h"
 
@@ -66,7 +68,7 @@ void LetterTossScreenTest::roadFromTitleThroughSixtySecondsToTheTable() {
     QVERIFY(game->room().ball.flying);
     QCOMPARE(fx.sound.played.last(), "toss-throw.wav");
     Pump(1200);
-    Shot(game, "toss-swish");
+    WM_CHECK_LOOK("Letter_Toss_swish", game);
     QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 150");
     QCOMPARE(fx.sound.played.last(), "toss-swish.wav");
     QCOMPARE(LabelText(game, "TimeLabel"), "Time left: 59");
@@ -114,7 +116,7 @@ void LetterTossScreenTest::missesNoPointsTryAgainAndTheLastBallInTheAir() {
     Pump(2000);
     Flick(game, 0, -150);  // between the two baskets
     Pump(500);
-    Shot(game, "toss-flight-1280");
+    WM_CHECK_LOOK("Letter_Toss_flight", game);
     game->resize(1920, 1080);
     Shot(game, "toss-flight-1920");
     game->resize(1280, 800);

@@ -4,6 +4,8 @@
 // again.
 #include <QtTest>
 
+#include "look.h"
+
 #include <cmath>
 
 #include "game_start.h"
@@ -71,7 +73,7 @@ void SlingShotScreenTest::aGameWonFromTheTitleToTheTable() {
     QCOMPARE(g.phase(), Phase::Aiming);
     Pump(SlingShot::kReadyMs);
     QCOMPARE(game->field()->call(), "");
-    test::Shot(game, "slingshot-1280");
+    WM_CHECK_LOOK("Slingshot_play", game);
 
     // A wrong target wobbles and costs 50; its thunk only with sound on.
     Shared().SoundOn = kFalse;
@@ -145,7 +147,7 @@ void SlingShotScreenTest::aGameOfMissesShowsTheWordsAndTriesAgain() {
             QVERIFY(fx.sound.played.contains("slingmiss.wav"));
             pull(game, aimAt(g, g.rightSlot()));
             QCOMPARE(g.phase(), Phase::Revealed);
-            test::Shot(game, "slingshot-1920-reveal");
+            WM_CHECK_LOOK("Slingshot_reveal", game);
         }
         Pump(SlingField::kFlashMs);
     }

@@ -4,6 +4,7 @@
 #include <QtTest>
 
 #include "games/show/slot_machine/slot_machine_screen.h"
+#include "look.h"
 #include "road_kit.h"
 
 using namespace wm;
@@ -76,6 +77,7 @@ void SlotMachineScreenTest::tenJackpotsToTheTable() {
     QCOMPARE(road.sound.played.last(), QString("slot-ding.wav"));
     QCOMPARE(LabelText(game, "Label2"), QString("Coins: 100"));
     QCOMPARE(game->stopButton(0)->text(), QString("RIGHT!"));
+    WM_CHECK_LOOK("Slot_Machine_play", game);
     QVERIFY(!game->stopButton(0)->isEnabled() && game->stopButton(1)->isEnabled());
     StopOn(game, 1, false, true);
     QCOMPARE(road.sound.played.last(), QString("slot-stop.wav"));
@@ -94,6 +96,7 @@ void SlotMachineScreenTest::tenJackpotsToTheTable() {
     StopOn(game, 2, true);
     QCOMPARE(road.sound.played.last(), QString("slot-jackpot.wav"));
     QCOMPARE(game->scene()->bannerText(), QString("JACKPOT! +20 coins"));
+    WM_CHECK_LOOK("Slot_Machine_jackpot", game);
     QCOMPARE(LabelText(game, "Label2"), QString("Coins: 135"));
     QTest::keyClick(game, Qt::Key_Space);  // the jackpot shows before the next pull
     const std::string first = s.TheWord;
