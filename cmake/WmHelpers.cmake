@@ -4,13 +4,18 @@ function(wm_qt_pch target)
     <QString> <QWidget> <QPainter> <QTimer> <QLabel> <QPushButton> <vector> <string>)
 endfunction()
 
+# Test time limits: a screen program takes a few seconds and a rules program well under one, so a
+# test that hangs is stopped long before the five minutes a whole run is allowed.
+set(WM_QT_TEST_TIMEOUT 120)
+set(WM_GTEST_TIMEOUT 60)
+
 # A QtTest program run offscreen by ctest.
 function(wm_qt_test name)
   cmake_parse_arguments(T "" "" "SOURCES;LIBS" ${ARGN})
   add_executable(${name} ${T_SOURCES})
   target_link_libraries(${name} PRIVATE ${T_LIBS} Qt6::Test)
   add_test(NAME ${name} COMMAND ${name})
-  set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;WM_TEST_APP_DIR=${WM_APP_DIR}" TIMEOUT 300)
+  set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;WM_TEST_APP_DIR=${WM_APP_DIR}" TIMEOUT ${WM_QT_TEST_TIMEOUT})
 endfunction()
 
 # A GoogleTest program.
@@ -19,7 +24,7 @@ function(wm_gtest name)
   add_executable(${name} ${T_SOURCES})
   target_link_libraries(${name} PRIVATE ${T_LIBS} GTest::gtest GTest::gtest_main)
   add_test(NAME ${name} COMMAND ${name})
-  set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${WM_GTEST_TIMEOUT})
 endfunction()
 
 # Adds a folder when it already has its CMakeLists.txt, so pieces can land one by one.
