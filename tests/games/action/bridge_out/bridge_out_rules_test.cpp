@@ -214,6 +214,16 @@ TEST(BridgeOutEndings, EightBridgesWinWithoutRepeatsWhileTheListLasts) {
     EXPECT_NE(played[7], played[6]);
     // Each word: one gap at +20, and the whole 44 metres to spare at level 2.
     EXPECT_EQ(g.score(), 8 * (20 + 44 * 2));
+    // Draws stuck on the middle word: the walk after them goes round the end to the first.
+    SharedState three = ListOf({"cat", "dog", "owl"}, 2);
+    ASSERT_TRUE(g.start(three, rng));
+    std::string order = g.word();
+    for (int word = 2; word <= 3; ++word) {
+        Build(g);
+        g.advance(three, 2600, rng);
+        order += " " + g.word();
+    }
+    EXPECT_EQ(order, "dog owl cat");
 }
 
 TEST(BridgeOutStart, LevelHeldToTheSliderListsThatCannotBeUsedRefused) {
