@@ -81,16 +81,16 @@ TEST(BridgeOutStart, ReseedsDrawsTheWordItsGapsThenFillsTheRiver) {
 }
 
 TEST(BridgeOutRiver, RightLettersAtMostTwiceAfloatAndDecoysNoGapWants) {
-    SharedState s = ListOf({"ab"}, 2);  // one gap: a or b
+    SharedState s = ListOf({"zb"}, 2);  // one gap: z or b
     ScriptedRng rng;
-    // Gap "a"; first plank A (forced); then a share under a half each time: a second A, then
-    // no third: a decoy from 0.0 = A, which the gap wants, so B.
+    // Gap "z"; first plank Z (forced); then a share under a half each time: a second Z, then
+    // no third: a decoy from 0.0, A.
     rng.pick(1, 1).pick(1, 2).then(0.9).then(0.0).then(0.1).then(0.0).then(0.1).then(0.0);
-    rng.setFallback(0.99);  // decoys from Z
+    rng.setFallback(0.99);  // decoys from Z, which the gap wants: round to A
     Game g;
     ASSERT_TRUE(g.start(s, rng));
     ASSERT_GE(g.river().size(), 3u);
-    for (auto [i, letter] : {std::pair{0, "A"}, {1, "A"}, {2, "B"}, {3, "Z"}})
+    for (auto [i, letter] : {std::pair{0, "Z"}, {1, "Z"}, {2, "A"}, {3, "A"}})
         EXPECT_EQ(g.river()[i].letter, letter) << i;
     // Planks leave the river downstream once wholly past its end: the first lane-0 plank is
     // at 642 after the prefill, gone once 1030 is passed (388 more at 70 a second).
@@ -207,6 +207,8 @@ TEST(BridgeOutEndings, EightBridgesWinWithoutRepeatsWhileTheListLasts) {
         const auto ev = g.advance(s, 2600, rng);
         EXPECT_EQ(ev.back(), word < 8 ? Event::NextWord : Event::Won);
     }
+    EXPECT_EQ(g.phase(), Phase::Won);
+    EXPECT_TRUE(g.advance(s, 5000, rng).empty());  // the game is over
     // Seven fit words: all of them before the first comes back, and never the one just played.
     std::vector<std::string> first7(played.begin(), played.begin() + 7);
     std::sort(first7.begin(), first7.end());
@@ -239,8 +241,11 @@ TEST(BridgeOutStart, LevelHeldToTheSliderListsThatCannotBeUsedRefused) {
     Game g;
     ASSERT_TRUE(g.start(one, rng));
     Build(g);
-    g.advance(one, 2600, rng);
+    g.advance(one, 2599, rng);
+    rng.then(0.0).then(0.9);  // the word's own draw, then its gap's: on the "l"
+    g.advance(one, 1, rng);
     EXPECT_EQ(g.word(), "owl");
+    EXPECT_TRUE(g.isGap(2) && !g.isGap(0));
     // Nothing fits the bridge, or nothing at all: refused, and the draws bounded.
     SharedState none = ListOf({"abcdefghijklmnopqrstu", "- -", "123"}, 2);
     EXPECT_FALSE(Game().start(none, rng));
