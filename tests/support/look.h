@@ -2,10 +2,12 @@
 #pragma once
 
 #include <QDir>
+#include <QEvent>
 #include <QImage>
 #include <QString>
 #include <algorithm>
 #include <cstdlib>
+#include <functional>
 
 #ifndef WM_LOOKS_DIR
 #error "a test that checks looks is built with WM_LOOKS_DIR"
@@ -40,6 +42,22 @@ inline QString LookFault(const QString& game, const QImage& shot) {
     now.save(seen);
     return QString("%1's look changed in %2 pixels: compare %3 with %4, and if the change was "
                    "meant, take it with WM_LOOK_REFRESH=1").arg(game).arg(changed).arg(seen, kept);
+}
+
+// How many times `w` was painted while `act` ran. A scene that stops asking to be repainted
+// looks frozen on a real screen, though a grab() still draws it right.
+inline int PaintsDuring(QWidget* w, const std::function<void()>& act) {
+    struct Count : QObject {
+        int paints = 0;
+        bool eventFilter(QObject*, QEvent* e) override {
+            paints += e->type() == QEvent::Paint;
+            return false;
+        }
+    } count;
+    w->installEventFilter(&count);
+    act();
+    w->removeEventFilter(&count);
+    return count.paints;
 }
 
 }  // namespace wm::test

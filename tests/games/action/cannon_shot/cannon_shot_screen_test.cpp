@@ -67,6 +67,10 @@ void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
     QCOMPARE(LabelText(game, "LevelLabel"), "Level 2");
     Pump(CannonShotForm::kReadyMs);
     QCOMPARE(game->sky()->call(), "");
+    // A click on the sky gives the keys back to the cannon after the pupil was elsewhere.
+    game->clearFocus();
+    QTest::mouseClick(game, Qt::LeftButton, {}, QPoint(640, 300));
+    QVERIFY(game->hasFocus());
 
     int score = 0;
     for (int w = 1; w <= 5; ++w) {
@@ -140,6 +144,7 @@ void CannonShotScreenTest::outOfCannonballsLoses() {
         SendKey(game, Qt::Key_Space, QEvent::KeyRelease);
         Pump(32);
         QVERIFY(game->game().ball().flying);
+        QVERIFY(PaintsDuring(game->sky(), [] { Pump(32); }) > 0);  // the ball is seen to fly
         for (int t = 0; t < 200 && game->game().ball().flying; ++t) Pump(16);
     }
     QVERIFY(fx.sound.played.contains("cannonthud.wav"));
@@ -154,6 +159,7 @@ void CannonShotScreenTest::outOfCannonballsLoses() {
     // Try again: a fresh game with a full rack.
     QCOMPARE(game->sky()->call(), "Get ready!");
     QCOMPARE(LabelText(game, "BallsLabel"), "Cannonballs: 7");
+    WM_CHECK_LOOK("Cannon_Shot_again", game);  // the barrel up again, the sky cleared
     // Words too long for the blanks: said clearly, then back to the title.
     Shared().Words = {"", "hippopotomonstrous", "photosynthesise"};
     QVERIFY(TriggerMenu(game, "RS"));
