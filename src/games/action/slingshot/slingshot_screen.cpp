@@ -157,8 +157,8 @@ void SlingShot::nextDefinition() {
 }
 
 void SlingShot::endGame() {
+    // Reached only from the pause after a last hit or reveal: the stones are already held.
     SharedState& s = Shared();
-    waiting_ = true;
     s.Score = game_.score();
     if (s.Score > 0) {
         field_->setCall("Well shot!", true);
@@ -182,7 +182,6 @@ void SlingShot::showDefinition() {
 }
 
 void SlingShot::showScore() {
-    Shared().Score = game_.score();
     ScoreLabel->setText("Score: " + frame_.scoreText(game_.score()));
     RoundLabel->setText(QString("Definition %1 of %2").arg(game_.definition()).arg(kDefinitions));
     LevelLabel->setText(QString("Level %1").arg(game_.level()));
