@@ -158,7 +158,7 @@ void SlotScene::composeBack() {
 void SlotScene::newStrips() {
     words_.clear();
     for (qint64& t : stopAt_) t = -100000;
-    jackpotAt_ = lostAt_ = -100000;
+    jackpotAt_ = -100000;
     composeBack();
     update();
 }
@@ -200,7 +200,7 @@ const QPixmap& SlotScene::wordPicture(int entry) {
 
 bool SlotScene::busy() const {
     if (game_.rolling() > 0) return true;
-    if (now_ - pullAt_ < kLeverMs || now_ - jackpotAt_ < kJackpotMs || now_ - lostAt_ < kJackpotMs)
+    if (now_ - pullAt_ < kLeverMs || now_ - jackpotAt_ < kJackpotMs)
         return true;
     if (now_ - bannerAt_ < kBannerMs || !coins_.empty()) return true;
     for (qint64 t : stopAt_)
@@ -257,10 +257,6 @@ void SlotScene::paid(int reel, int coins) {
 
 void SlotScene::jackpot() {
     jackpotAt_ = Ticker::get().now();
-}
-
-void SlotScene::lost() {
-    lostAt_ = Ticker::get().now();
 }
 
 void SlotScene::banner(const QString& text, Mood mood) {
@@ -345,7 +341,7 @@ void SlotScene::paintLever(QPainter& p) {
 void SlotScene::paintBulbs(QPainter& p) {
     const int n = int(bulbs_.size());
     const bool party = now_ - jackpotAt_ < kJackpotMs;
-    const bool dark = now_ - lostAt_ >= 0 && game_.phase() == Phase::Lost;
+    const bool dark = game_.phase() == Phase::Lost;
     for (int i = 0; i < n; ++i) {
         bool lit;
         if (party) lit = (now_ / 120 + i) % 2 == 0;

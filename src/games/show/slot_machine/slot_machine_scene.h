@@ -38,7 +38,6 @@ public:
     void stopped(int reel, bool right);
     void paid(int reel, int coins);
     void jackpot();
-    void lost();
     void banner(const QString& text, Mood mood = Mood::Plain);
     QString bannerText() const { return banner_; }
 
@@ -81,7 +80,7 @@ private:
     QRect lever_, definition_, prompt_, purse_, count_, tray_;
     std::vector<QPointF> bulbs_;
     std::vector<Coin> coins_;
-    qint64 now_ = 0, pullAt_ = -100000, jackpotAt_ = -100000, lostAt_ = -100000,
+    qint64 now_ = 0, pullAt_ = -100000, jackpotAt_ = -100000,
            bannerAt_ = -100000;
     qint64 stopAt_[slot_machine::kReels] = {-100000, -100000, -100000};
     bool right_[slot_machine::kReels] = {};

@@ -199,7 +199,6 @@ void SlotMachine::stopReel(int i) {
         case Stop::Broke: {
             ready_ = false;
             sound().effect("slot-lose.wav");
-            scene_->lost();
             scene_->banner(kOutOfCoins, SlotScene::Mood::Bad);
             Label4->setText(QString());
             const QString text = toQ(outOfCoinsText(Shared().TheWord));

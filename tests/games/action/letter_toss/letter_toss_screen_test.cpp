@@ -49,9 +49,14 @@ private slots:
 void LetterTossScreenTest::roadFromTitleThroughSixtySecondsToTheTable() {
     ShellFixture fx;
     WinDriver win({"LTS"});
-    SetModalHook(std::ref(win));
+    LetterTossGame* game = nullptr;
+    bool fanTurning = false;  // behind the end boxes
+    SetModalHook([&](QDialog& d) {
+        fanTurning = game && game->frame().findTimer("Anim")->isActive();
+        win(d);
+    });
     WriteOneList(fx, "Toss Words", kFour);
-    auto* game = qobject_cast<LetterTossGame*>(PlayFromTitle("Letter Toss", "Toss Words", 3));
+    game = qobject_cast<LetterTossGame*>(PlayFromTitle("Letter Toss", "Toss Words", 3));
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     // The generator's middle value: cloud, its basket the middle one of three, no draught.
     QCOMPARE(game->room().baskets.size(), std::size_t(3));
@@ -92,11 +97,12 @@ void LetterTossScreenTest::roadFromTitleThroughSixtySecondsToTheTable() {
     Pump(1000);
     QCOMPARE(game->scene()->banner(), "Time's up!");
     QCOMPARE(fx.sound.played.last(), "toss-end.wav");
-    Shot(game, "toss-time-up");
+    WM_CHECK_LOOK("Letter_Toss_time_up", game);
     Flick(game, 0, -150);
     QVERIFY(!game->room().ball.flying);
     Pump(1800);
     QCOMPARE(fx.dialogs.last(), "You got a high score of 100! Would you like to try again?");
+    QVERIFY(fanTurning);
     QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
     Pump();
     QVERIFY(Showing<Title>());

@@ -140,6 +140,7 @@ void SlotMachineScreenTest::outOfCoins() {
     }
     QCOMPARE(road.sound.played.last(), QString("slot-lose.wav"));
     QCOMPARE(game->scene()->bannerText(), QString("You're out of coins!"));
+    WM_CHECK_LOOK("Slot_Machine_broke", game);
     QTest::keyClick(game, Qt::Key_Space);
     Pump(2700);
     QVERIFY(road.dialogs.shown.empty());
