@@ -92,6 +92,10 @@ bool IsLetter(char c) {
            u == 0x9F;
 }
 
+bool IsLetterOrDigit(char c) {
+    return IsLetter(c) || (c >= '0' && c <= '9');
+}
+
 std::string LTrim(std::string_view s) {
     std::size_t i = 0;
     while (i < s.size() && s[i] == ' ') ++i;

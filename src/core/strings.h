@@ -20,6 +20,8 @@ std::string LCase(std::string_view s);
 // A letter of Windows-1252: the two alphabets and the accented letters, the few scattered below
 // 0xC0 too; the multiplication and division signs are not letters.
 bool IsLetter(char c);
+// What a pupil types or shoots in a word: a letter or a digit; spaces and marks are given.
+bool IsLetterOrDigit(char c);
 // Blanks only, as the list files are compared; tabs and other characters stay.
 std::string Trim(std::string_view s);
 std::string LTrim(std::string_view s);

@@ -51,6 +51,9 @@ TEST(Strings, WhatCountsAsALetter) {
     for (char c : letters) EXPECT_TRUE(IsLetter(c)) << int(c);
     const std::string others = " -'@[`{0\x80\x8B\x8D\x9B\xAA\xBF\xD7\xF7";
     for (char c : others) EXPECT_FALSE(IsLetter(c)) << int(c);
+    // What a pupil types or shoots: the digits too, but never a blank or a mark.
+    for (char c : std::string("09aZ\xDF\xFF")) EXPECT_TRUE(IsLetterOrDigit(c)) << int(c);
+    for (char c : std::string(" -'./:\xD7\xF7")) EXPECT_FALSE(IsLetterOrDigit(c)) << int(c);
 }
 
 TEST(Strings, TrimTakesBlanksOnly) {

@@ -45,15 +45,6 @@ int ballsFor(const std::string& word) {
     return 2 * Len(word) + 3;
 }
 
-bool isShot(char c) {
-    const auto b = static_cast<unsigned char>(c);
-    if (b >= '0' && b <= '9') return true;
-    // Letters of any language the code page holds: those with two cases, and the accented
-    // letters without a capital of their own (the sharp s, the y with diaeresis).
-    const std::string one{c};
-    if (UCase(one) != LCase(one)) return true;
-    return b >= 0xC0 && b != 0xD7 && b != 0xF7;
-}
 
 bool Game::start(SharedState& s, Rng& rng) {
     *this = Game{};
@@ -67,7 +58,7 @@ bool Game::start(SharedState& s, Rng& rng) {
     bool any = false;
     for (int k = 1; k <= loaded; ++k) {
         const std::string& w = s.Words[k];
-        fits_[k] = Len(w) <= kMaxLength && std::any_of(w.begin(), w.end(), isShot);
+        fits_[k] = Len(w) <= kMaxLength && std::any_of(w.begin(), w.end(), IsLetterOrDigit);
         any = any || fits_[k];
     }
     if (!any) return false;
@@ -119,7 +110,7 @@ void Game::setUpWord(Rng& rng) {
     std::vector<Balloon> set;
     std::string inWord;
     for (std::size_t i = 0; i < word_.size(); ++i) {
-        if (!isShot(word_[i])) {
+        if (!IsLetterOrDigit(word_[i])) {
             blanks_[i] = word_[i];
             continue;
         }

@@ -45,9 +45,6 @@ double maxWind(int level);
 double powerAfter(int ticks);
 // Cannonballs for a word: 2 x length + 3.
 int ballsFor(const std::string& word);
-// True for the characters that float up as balloons; blanks, hyphens, apostrophes and other
-// marks stand in the blanks from the start.
-bool isShot(char c);
 // Distance from `c` to the segment a..b, and how far along it the nearest point lies (0..1):
 // a ball's path in one tick against a balloon.
 double segmentDistance(double ax, double ay, double bx, double by, double cx, double cy,

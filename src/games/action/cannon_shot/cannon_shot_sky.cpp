@@ -426,7 +426,7 @@ void CannonSky::paintTiles(QPainter& p) {
     for (std::size_t i = 0; i < word.size(); ++i) {
         const QRectF r = toWidget(QRectF(left + i * kTileStep, kTilesY, kTile, kTile));
         const char c = blanks[i];
-        if (c != '\0' && !isShot(c)) {
+        if (c != '\0' && !IsLetterOrDigit(c)) {
             // A blank, hyphen or apostrophe of the word stands as it is.
             if (c != ' ') {
                 p.setFont(boldFont(r.height() * 0.7));

@@ -15,7 +15,7 @@ constexpr double kEnterX = kWorldW + 60;  // a letter comes in just beyond the r
 constexpr double kLeaveX = -80;           // ...and is gone past the left one
 
 bool playable(const std::string& word) {
-    return Len(word) <= kMaxLength && std::any_of(word.begin(), word.end(), isLetter);
+    return Len(word) <= kMaxLength && std::any_of(word.begin(), word.end(), IsLetterOrDigit);
 }
 
 char capital(char c) {
@@ -27,15 +27,6 @@ double letterSpeed(int level) {
     return 2 + 0.35 * level;
 }
 
-bool isLetter(char c) {
-    const auto b = static_cast<unsigned char>(c);
-    if (b >= '0' && b <= '9') return true;
-    // Letters of any language the code page holds: those with two cases, and the accented
-    // letters without a capital of their own (the sharp s, the y with diaeresis).
-    const std::string one(1, c);
-    if (UCase(one) != LCase(one)) return true;
-    return b >= 0xC0 && b != 0xD7 && b != 0xF7;
-}
 
 bool Game::start(SharedState& s, Rng& rng) {
     *this = Game{};
@@ -68,7 +59,7 @@ bool Game::nextWord(SharedState& s, Rng& rng) {
 }
 
 void Game::skipMarks() {
-    while (done_ < int(word_.size()) && !isLetter(word_[done_])) ++done_;
+    while (done_ < int(word_.size()) && !IsLetterOrDigit(word_[done_])) ++done_;
 }
 
 void Game::go() {

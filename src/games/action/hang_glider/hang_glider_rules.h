@@ -41,9 +41,6 @@ constexpr int kEveryFew = 3;  // at most this many decoys in a row before the ne
 
 // Letters drift right to left this many units a tick: faster with the level.
 double letterSpeed(int level);
-// True for the characters the glider collects; blanks, hyphens, apostrophes and other marks
-// stand in the word from the start.
-bool isLetter(char c);
 
 struct Letter {
     char letter = 'A';  // as shown: a capital

@@ -7,6 +7,7 @@
 #include <QSvgRenderer>
 #include <cmath>
 
+#include "core/strings.h"
 #include "platform/scene_kit.h"
 #include "platform/services.h"
 #include "platform/text.h"
@@ -284,7 +285,7 @@ const QPixmap& GliderSky::wordPicture() {
     for (int i = 0; i < int(word.size()); ++i) {
         const QRectF r = toWidget(tileRect(i)).translated(-box.topLeft());
         const char c = word[i];
-        if (!isLetter(c)) {
+        if (!IsLetterOrDigit(c)) {
             if (c != ' ')
                 paintOutlined(p, toQ(std::string(1, c)), boldFont(r.height() * 0.7), r.center(),
                               Qt::white, QColor(20, 40, 90), std::max(1.5, 4 * scale_));

@@ -17,7 +17,7 @@ std::string upper1(char c) {
 }  // namespace
 
 bool typable(char c) {
-    return IsLetter(c) || (c >= '0' && c <= '9');
+    return IsLetterOrDigit(c);
 }
 
 bool fixedChar(char c) {

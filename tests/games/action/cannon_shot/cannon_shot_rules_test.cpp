@@ -52,8 +52,6 @@ TEST(CannonShotNumbers, SpeedWindBarBallsAndLetters) {
     // 2 x length + 3
     EXPECT_EQ(ballsFor("cat"), 9);
     EXPECT_EQ(ballsFor("ice cream"), 21);
-    for (char c : std::string("aZ7\xE9\xC9\xDF\xFF")) EXPECT_TRUE(isShot(c)) << c;
-    for (char c : std::string(" -'.\xD7\xF7")) EXPECT_FALSE(isShot(c)) << c;
 }
 
 TEST(CannonShotStart, DrawsWordWindDecoysOrderAndHeightsInThatOrder) {

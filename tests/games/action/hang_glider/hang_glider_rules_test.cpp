@@ -39,8 +39,6 @@ std::string Kinds(const std::vector<Event>& ev) {
 TEST(HangGliderNumbers, SpeedAndLetters) {
     EXPECT_DOUBLE_EQ(letterSpeed(1), 2.35);
     EXPECT_DOUBLE_EQ(letterSpeed(10), 5.5);
-    for (char c : std::string("aZ079\xE9\xC9\xDF\xFF")) EXPECT_TRUE(isLetter(c)) << c;
-    for (char c : std::string(" -'./:\xD7\xF7")) EXPECT_FALSE(isLetter(c)) << c;
 }
 
 TEST(HangGliderStart, DrawsFreshWordsThatFitAndStandsTheMarks) {
