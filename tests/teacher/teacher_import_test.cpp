@@ -264,30 +264,29 @@ private slots:
     void badFilesChangeNothing_data() {
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("message");
-        QTest::newRow("empty") << "empty.csv" << "The file empty.csv is empty.";
-        QTest::newRow("binary") << "picture.png"
-                                << "The file picture.png is not a text file. Choose a CSV, tab "
-                                   "separated or KVTML file.";
-        QTest::newRow("the older KVTML")
-            << "old.kvtml"
-            << "The file old.kvtml is in the older KVTML 1 format, which is not supported. Open "
-               "it in a vocabulary trainer, save it as KVTML 2, and import that file.";
-        QTest::newRow("outside the code page")
-            << "outside.csv"
-            << "The text \"水\" has characters this program cannot store (it keeps Western "
-               "European letters only). Nothing was imported.";
-        QTest::newRow("broken xml") << "broken.kvtml"
-                                    << "The file broken.kvtml is not a KVTML file that can be "
-                                       "read (Premature end of document).";
-        QTest::newRow("a word twice")
-            << "twice.csv" << "The word \"CAT\" appears twice in twice.csv. Nothing was imported.";
-        QTest::newRow("a missing definition")
-            << "missingdef.csv"
-            << "The word \"dog\" has no definition. Give every word a definition, or none at all "
-               "for a words-only list. Nothing was imported.";
-        QTest::newRow("name in use") << "quoted.csv"
-                                     << "The list name you typed already exists. Please choose "
-                                        "another name for your new list.";
+        auto row = [](const char* file, const char* message) {
+            QTest::newRow(file) << QString(file) << QString(message);
+        };
+        row("empty.csv", "The file empty.csv is empty.");
+        row("picture.png",
+            "The file picture.png is not a text file. Choose a CSV, tab separated or KVTML file.");
+        row("old.kvtml",
+            "The file old.kvtml is in the older KVTML 1 format, which is not supported. Open it in "
+            "a vocabulary trainer, save it as KVTML 2, and import that file.");
+        row("outside.csv",
+            "The text \"水\" has characters this program cannot store (it keeps Western European "
+            "letters only). Nothing was imported.");
+        row("broken.kvtml",
+            "The file broken.kvtml is not a KVTML file that can be read (Premature end of "
+            "document).");
+        row("twice.csv", "The word \"CAT\" appears twice in twice.csv. Nothing was imported.");
+        row("missingdef.csv",
+            "The word \"dog\" has no definition. Give every word a definition, or none at all for "
+            "a words-only list. Nothing was imported.");
+        // The file is good; the name the teacher types is taken.
+        row("quoted.csv",
+            "The list name you typed already exists. Please choose another name for your new "
+            "list.");
     }
     void badFilesChangeNothing() {
         QFETCH(QString, file);

@@ -389,6 +389,8 @@ private slots:
             box.answerKey()->setChecked(false);
             QCOMPARE(box.status(), QString("1 page for the pupil."));
             f.then<QFileDialog>([&](QFileDialog& save) {
+                QCOMPARE(QFileInfo(save.selectedFiles().value(0)).fileName(),
+                         "Our Pets - Matching.pdf");
                 save.selectFile(saved);
                 static_cast<QDialog&>(save).accept();
             });
