@@ -1,403 +1,318 @@
 // The list screens one by one: every refusal of a new list, deletion, merge and build, each
 // seen in the file's bytes.
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QtTest>
-#include <functional>
-#include <memory>
-
-#include "core/category_file.h"
-#include "teacher/build_list_form.h"
-#include "teacher/categories.h"
-#include "teacher/create_list.h"
-#include "teacher/delete_list.h"
-#include "teacher/edit_list.h"
-#include "teacher/make_new_list.h"
-#include "teacher/manager.h"
-#include "teacher/merge_form.h"
-#include "teacher/word_boxes.h"
 #include "teacher_fixture.h"
 
 using namespace wm;
 using namespace wm::test;
 
-namespace {
-
 const QStringList kTwoLists = {"Animals",    "cat", "a pet", "<New List>",
                                "[S]Colours", "red", "rojo"};
-
-int rowOf(QListWidget* list, const QString& start) {
-    for (int i = 0; i < list->count(); ++i) {
-        if (list->item(i)->text().startsWith(start)) return i;
-    }
-    return -1;
-}
-
-MakeNewList* startList(TeacherFixture& f, const QString& name, bool wordsOnly = false,
-                       const QString& language = {}) {
-    SharedState& s = Shared();
-    s.NewListName = name.toStdString();
-    s.WordsOnly = wordsOnly ? kTrue : kFalse;
-    s.ListLanguage = language.toStdString();
-    return qobject_cast<MakeNewList*>(OpenScreen("MakeNewList"));
-}
-
-}  // namespace
+const QString kTaken =
+    "The list name you typed already exists. Please choose another name for your new list.";
 
 class TeacherListsTest : public QObject {
     Q_OBJECT
 private slots:
-    void createListRefusals_data();
-    void createListRefusals();
-    void createListKinds();
-    void newListMessages();
-    void newListRenameAndQuit();
-    void firstListWordsOnlyAndForeign();
-    void deleteFirstAndOnlyList();
-    void deleteCleansCategoriesUnlessLocked();
-    void mergeWordsOnlyWithNormal();
-    void buildFromTwoLists();
-    void captionsAsDesigned();
-    void editorDeletesTheFirstWord();
-};
-
-void TeacherListsTest::createListRefusals_data() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("foreign");
-    QTest::addColumn<int>("language");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("no language")
-        << "Verbs" << true << 0
-        << "Please choose a supported language for your vocabulary list from the drop-down "
-           "selection box...";
-    QTest::newRow("blank name") << "   " << false << 0
-                                << "Type a name for your list before you continue...";
-    QTest::newRow("taken, other case and blanks")
-        << " animals " << false << 0
-        << "The list name you typed already exists. Please choose another name for your new list.";
-    QTest::newRow("taken without the prefix")
-        << "colours" << true << 1
-        << "The list name you typed already exists. Please choose another name for your new list.";
-}
-
-void TeacherListsTest::createListRefusals() {
-    QFETCH(QString, name);
-    QFETCH(bool, foreign);
-    QFETCH(int, language);
-    QFETCH(QString, message);
-    TeacherFixture f(kTwoLists);
-    CreateList c;
-    c.name()->setText(name);
-    c.foreign()->setChecked(foreign);
-    c.languages()->setCurrentIndex(language);
-    c.confirm();
-    QCOMPARE(f.dialogs.texts(), QStringList{message});
-    QCOMPARE(c.result(), int(QDialog::Rejected));
-}
-
-void TeacherListsTest::createListKinds() {
-    TeacherFixture f(kTwoLists);
-    CreateList c;
-    QCOMPARE(c.languages()->itemText(0), "Choose a Supported Language...");
-    QVERIFY(c.languages()->count() > 1);
-    // Ticking words-only warns; No unticks it.
-    c.wordsOnly()->setChecked(true);
-    QVERIFY(f.dialogs.last().startsWith("Warning: If you create a words-only list"));
-    QVERIFY(!c.wordsOnly()->isChecked());
-    c.foreign()->setChecked(true);
-    QVERIFY(!c.languages()->isHidden());
-    f.dialogs.answerYes();
-    c.wordsOnly()->setChecked(true);
-    QVERIFY(!c.foreign()->isChecked());
-    QVERIFY(c.languages()->isHidden());
-    // A leading "[" is refused only by a rename, not here.
-    c.name()->setText("[x] odd");
-    c.confirm();
-    QCOMPARE(c.result(), int(QDialog::Accepted));
-    QCOMPARE(Shared().NewListName, "[x] odd");
-    QCOMPARE(Shared().WordsOnly, kTrue);
-    QCOMPARE(Shared().ListLanguage, "");
-
-    CreateList foreign;
-    foreign.name()->setText("Verbs");
-    foreign.foreign()->setChecked(true);
-    foreign.languages()->setCurrentIndex(1);
-    foreign.confirm();
-    QVERIFY(f.dialogs.last().startsWith("Tip: When creating your Foreign Language list"));
-    QVERIFY(!Shared().ListLanguage.empty());
-    QCOMPARE(Shared().WordsOnly, kFalse);
-}
-
-void TeacherListsTest::newListMessages() {
-    TeacherFixture f(kTwoLists);
-    MakeNewList* m = startList(f, "Birds");
-    m->wordEntered();
-    QCOMPARE(f.dialogs.last(), "You need to type a word!");
-    m->word()->setText("owl");
-    m->wordEntered();  // moves on to the definition
-    QCOMPARE(f.dialogs.shown.size(), size_t(1));
-    m->meaningEntered();
-    QCOMPARE(f.dialogs.last(), "You need to type a definition!");
-    m->addWord();
-    QCOMPARE(f.dialogs.last(),
-             "To add a word, you must title type a word and definition in the spaces below.");
-    QCOMPARE(f.dialogs.shown.back().title, "Hey!");
-    m->deleteWord();
-    QCOMPARE(f.dialogs.last(), "You must title choose a word to delete from the list below.");
-    m->editWord();
-    QCOMPARE(f.dialogs.last(), "You need to choose a word to edit from the list below.");
-    m->saveAndQuit();  // "owl" has no definition yet: not added
-    QCOMPARE(f.dialogs.last(),
-             "Unable to save a blank word list. Please add one or more words to continue...)");
-    m->meaning()->setText("wise bird");
-    m->addWord();
-    m->word()->setText("hen");
-    m->meaning()->setText("lays eggs");
-    m->addWord();
-    // Edit takes the pair back into the boxes; delete asks first.
-    m->words()->setCurrentRow(0);
-    m->editWord();
-    QCOMPARE(m->word()->text(), "owl");
-    QCOMPARE(m->meaning()->text(), "wise bird");
-    QCOMPARE(m->words()->count(), 1);
-    m->words()->setCurrentRow(0);
-    m->deleteWord();  // No
-    QCOMPARE(f.dialogs.shown.back().title, "Confirm Delete");
-    QCOMPARE(m->words()->count(), 1);
-    f.dialogs.answerYes();
-    m->deleteWord();
-    QCOMPARE(m->words()->count(), 0);
-    QCOMPARE(m->totalText(), "Total words in this list: 0");
-    // Save and Quit adds the pending pair first.
-    f.dialogs.answerYes();
-    m->saveAndQuit();
-    QCOMPARE(f.lists(), f.crlf(kTwoLists + QStringList{"<New List>", "Birds", "owl", "wise bird"}));
-    QVERIFY(Showing<Manager>());
-}
-
-void TeacherListsTest::newListRenameAndQuit() {
-    TeacherFixture f(kTwoLists);
-    MakeNewList* m = startList(f, "Birds");
-    const QByteArray before = f.lists();
-    const QList<QPair<QString, QString>> refusals = {
-        {"Birds", "You did not change the list name."},
-        {"^Birds", "You cannot use this character ^ as the first character in a list name."},
-        {"[Birds", "You cannot use this character [ as the first character in a list name."},
-        {"COLOURS", "The list name you typed already exists. This list was not renamed."}};
-    for (const auto& [typed, message] : refusals) {
-        f.dialogs.answerInput(typed);
-        m->renameList();
-        QCOMPARE(f.dialogs.last(), message);
-        QCOMPARE(f.dialogs.shown.back().title, "");
+    void createListRefusals_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("foreign");
+        QTest::addColumn<int>("language");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("no language")
+            << "Verbs" << true << 0
+            << "Please choose a supported language for your vocabulary list from the drop-down "
+               "selection box...";
+        QTest::newRow("blank name") << "   " << false << 0
+                                    << "Type a name for your list before you continue...";
+        QTest::newRow("taken, other case and blanks") << " animals " << false << 0 << kTaken;
+        QTest::newRow("taken without the prefix") << "colours" << true << 1 << kTaken;
     }
-    f.dialogs.answerInput("  Garden Birds ");
-    m->renameList();
-    QCOMPARE(m->caption(), "Garden Birds");
-    // Quit with No leaves the file alone; Quit with Yes and no words refuses.
-    f.dialogs.answerYes();
-    m->quitScreen();
-    QCOMPARE(f.dialogs.last(),
-             "Unable to save a blank word list. Please add one or more words to continue...)");
-    QCOMPARE(Showing<MakeNewList>(), m);
-    m->word()->setText("robin");
-    m->meaning()->setText("red breast");
-    m->quitScreen();
-    QCOMPARE(f.dialogs.shown.back().title, "Save?");
-    QCOMPARE(f.lists(), before);
-    QVERIFY(Showing<Manager>());
-}
 
-void TeacherListsTest::firstListWordsOnlyAndForeign() {
-    TeacherFixture f({"No Lists"});
-    MakeNewList* m = startList(f, "Spelling", true);
-    QVERIFY(m->meaning()->isHidden());
-    for (const char* w : {"rhythm", "their"}) {
-        m->word()->setText(w);
-        m->wordEntered();
+    void createListRefusals() {
+        QFETCH(QString, name);
+        QFETCH(bool, foreign);
+        QFETCH(int, language);
+        QFETCH(QString, message);
+        TeacherFixture f(kTwoLists);
+        CreateList c;
+        c.name()->setText(name);
+        c.foreign()->setChecked(foreign);
+        c.languages()->setCurrentIndex(language);
+        c.confirm();
+        QCOMPARE(f.dialogs.texts(), QStringList{message});
+        QCOMPARE(c.result(), int(QDialog::Rejected));
     }
-    f.dialogs.answerYes();
-    m->saveAndQuit();
-    // A first list: no separator, "No Lists" gone, the marker as every definition.
-    QCOMPARE(f.lists(), f.crlf({"Spelling", "rhythm", "-----", "their", "-----"}));
 
-    m = startList(f, "Verbs", false, "S");
-    m->word()->setText("to run");
-    m->meaning()->setText("correr");
-    f.dialogs.answerYes();
-    m->saveAndQuit();
-    QCOMPARE(f.lists(), f.crlf({"Spelling", "rhythm", "-----", "their", "-----", "<New List>",
-                                "[S]Verbs", "to run", "correr"}));
-}
-
-void TeacherListsTest::deleteFirstAndOnlyList() {
-    TeacherFixture f(kTwoLists);
-    DeleteList d;
-    QCOMPARE(d.lists()->count(), 2);
-    d.deleteClicked();
-    QCOMPARE(f.dialogs.last(), "You need to choose a list!");
-    d.lists()->setCurrentRow(rowOf(d.lists(), "Animals"));
-    d.deleteClicked();
-    QVERIFY(d.asking());
-    d.answer(false);
-    QVERIFY(!d.asking());
-    QCOMPARE(f.lists(), f.crlf(kTwoLists));
-    d.deleteClicked();
-    d.answer(true);
-    QCOMPARE(f.dialogs.last(), "The list was successfully deleted.");
-    // The separator behind the first list stays at the head, as it always has, and the readers
-    // take it for a list's name until the next save heals the file.
-    QCOMPARE(f.lists(), f.crlf({"<New List>", "[S]Colours", "red", "rojo"}));
-    QCOMPARE(d.lists()->count(), 1);
-    QCOMPARE(d.lists()->item(0)->text(), "<New List>");
-
-    f.writeLines("thelists.dat", {"Animals", "cat", "a pet"});
-    DeleteList only;
-    only.lists()->setCurrentRow(0);
-    only.deleteClicked();
-    only.answer(true);
-    QCOMPARE(f.lists(), f.crlf({"No Lists"}));
-    QCOMPARE(only.lists()->count(), 0);
-}
-
-void TeacherListsTest::deleteCleansCategoriesUnlessLocked() {
-    TeacherFixture f({"Animals", "cat", "a pet", "<New List>", "Birds", "owl", "o", "<New List>",
-                      "Fish", "cod", "c"});
-    DeleteList d;
-    f.writeLines("folders.dat", {"^Zoo", "Animals", "Birds", "^Farm", "Animals", "Birds"});
-    d.lists()->setCurrentRow(rowOf(d.lists(), "Birds"));
-    d.deleteClicked();
-    d.answer(true);
-    QCOMPARE(f.read("folders.dat"), f.crlf({"^Zoo", "Animals", "^Farm", "Animals"}));
-    LockCategories(Shared().FolderFilePath);
-    d.lists()->setCurrentRow(rowOf(d.lists(), "Animals"));
-    d.deleteClicked();
-    d.answer(true);
-    QCOMPARE(f.read("folders.lok"), f.crlf({"^Zoo", "Animals", "^Farm", "Animals"}));
-    QCOMPARE(f.lists(), f.crlf({"<New List>", "Fish", "cod", "c"}));
-}
-
-void TeacherListsTest::mergeWordsOnlyWithNormal() {
-    TeacherFixture f({"Spelling", "rhythm", "-----", "<New List>", "Animals", "cat", "a pet", "dog",
-                      "", "<New List>", "[S]Colours", "red", "rojo"});
-    MergeForm m;
-    QCOMPARE(m.lists()->item(1)->text(), "Animals (2 words)");
-    // Picked by clicks, one list after another, and clicked again to let go.
-    m.show();
-    for (int row : {0, 2, 2}) {
-        const QRect r = m.lists()->visualItemRect(m.lists()->item(row));
-        QTest::mouseClick(m.lists()->viewport(), Qt::LeftButton, {}, r.center());
-    }
-    QCOMPARE(m.lists()->selectedItems(), QList<QListWidgetItem*>{m.lists()->item(0)});
-    m.lists()->item(0)->setSelected(true);
-    m.confirm();
-    QCOMPARE(f.dialogs.last(), "You must select two or more lists to merge.");
-    m.lists()->item(1)->setSelected(true);
-    QCOMPARE(m.label(), "Merge lists: Spelling, Animals");
-    f.dialogs.answerInput("animals");
-    m.confirm();
-    QCOMPARE(
-        f.dialogs.last(),
-        "The list name you typed already exists. Please choose another name for your new list.");
-    f.dialogs.answerInput("Mixed");
-    m.confirm();
-    QCOMPARE(f.dialogs.last(),
-             "The selected lists have been merged into the new list \"Mixed\". "
-             "The original lists are also still intact.");
-    // The marker lines become ordinary definitions; the blank line is left out.
-    QVERIFY(f.lists().endsWith(
-        f.crlf({"<New List>", "Mixed", "rhythm", "-----", "cat", "a pet", "dog"})));
-    // A foreign list among the picks warns; No stops.
-    MergeForm again;
-    const QByteArray before = f.lists();
-    again.lists()->item(1)->setSelected(true);
-    again.lists()->item(2)->setSelected(true);
-    again.confirm();
-    QVERIFY(f.dialogs.last().startsWith("If you merge words from a foreign language list"));
-    QCOMPARE(f.lists(), before);
-}
-
-void TeacherListsTest::buildFromTwoLists() {
-    TeacherFixture f(kTwoLists +
-                     QStringList{"<New List>", "Birds", "owl", "wise", "cat", "bird eater"});
-    Manager manager;
-    f.dialogs.answerInput("Birds");
-    f.dialogs.answerInput("Mix");
-    f.then<BuildListForm>([&](BuildListForm& b) {
-        QCOMPARE(b.words()->item(0)->text(), "<<Choose a List");
-        b.addPicked();
-        QCOMPARE(f.dialogs.last(), "You need to highlight some words in the middle column first!");
-        b.chooseList(rowOf(b.lists(), "Animals"));
-        QCOMPARE(b.wordsCaption(), "Words (1):");
-        b.words()->item(0)->setSelected(true);
-        b.addPicked();
-        b.chooseList(rowOf(b.lists(), "Birds"));
-        b.words()->item(0)->setSelected(true);
-        b.words()->item(1)->setSelected(true);
-        b.addPicked();
-        QCOMPARE(f.dialogs.last(),
-                 "One or more of the words you are trying to add to this new list has already been "
-                 "added. They will not be added again.");
-        QCOMPARE(b.newListCaption(), "New Word List (2):");
-        b.deletePicked();
-        QCOMPARE(f.dialogs.last(),
-                 "Choose a word you would like to delete from the new list "
-                 "before clicking this button.");
-        b.picked()->setCurrentRow(1);
-        b.deletePicked();
-        QCOMPARE(b.newListCaption(), "New Word List (1):");
-        b.chooseList(rowOf(b.lists(), "Birds"));
-        b.words()->item(0)->setSelected(true);
-        b.addPicked();
+    void createListKinds() {
+        TeacherFixture f(kTwoLists);
+        CreateList c;
+        QCOMPARE(c.languages()->itemText(0), "Choose a Supported Language...");
+        // Ticking words-only warns; No unticks it.
+        c.wordsOnly()->setChecked(true);
+        QVERIFY(f.dialogs.last().startsWith("Warning: If you create a words-only list"));
+        QVERIFY(!c.wordsOnly()->isChecked());
+        c.foreign()->setChecked(true);
+        QVERIFY(!c.languages()->isHidden());
         f.dialogs.answerYes();
-        b.save();
-    });
-    manager.command("Create List from Existing Lists");
-    QVERIFY(f.dialogs.saw(
-        "The list name you typed already exists. Please choose another name for your new list."));
-    QVERIFY(f.lists().endsWith(f.crlf({"<New List>", "Mix", "cat", "a pet", "owl", "wise"})));
-}
+        c.wordsOnly()->setChecked(true);
+        QVERIFY(!c.foreign()->isChecked());
+        QVERIFY(c.languages()->isHidden());
+        // A leading "[" is refused only by a rename, not here.
+        c.name()->setText("[x] odd");
+        c.confirm();
+        QCOMPARE(c.result(), int(QDialog::Accepted));
+        QCOMPARE(Shared().NewListName, "[x] odd");
+        QCOMPARE(Shared().WordsOnly, kTrue);
+        QCOMPARE(Shared().ListLanguage, "");
 
-// The boxes' own words, as designed (typos included).
-void TeacherListsTest::captionsAsDesigned() {
-    TeacherFixture f(kTwoLists);
-    const std::vector<std::pair<std::function<QDialog*()>, QStringList>> boxes = {
-        {[] { return new DeleteList; },
-         {"Label1=To Delete A List:",
-          "Label2=Choose the List Name in the Box Below and Click the \"Delete\" Button.",
-          "Sure=Are you sure you want to permenantly delete this list?", "Command1=Delete",
-          "Command2=Finished"}},
-        {[] { return new MergeForm; },
-         {"Label1=Select two or more lists to merge.", "Command1=OK", "Command2=Cancel"}},
-        {[] { return new BuildListForm; },
-         {"Label4=New Word List:", "Command3=Add to List >>>", "Command4=Delete Word",
-          "Command2=Save", "Command1=Cancel"}},
-        {[] { return new Categories; },
-         {"Label2=Categories", "Label3=Word Lists (None Selected)", "Command2=Add New Category",
-          "Command3=Delete Category", "Command1=Save", "Command4=Cancel"}},
-    };
-    for (const auto& [make, captions] : boxes) {
-        std::unique_ptr<QDialog> box(make());
-        for (const QString& c : captions) {
-            QWidget* w = box->findChild<QWidget*>(c.section('=', 0, 0));
-            QVERIFY2(w, qPrintable(c));
-            QCOMPARE(c.section('=', 0, 0) + "=" + w->property("text").toString(), c);
-        }
+        CreateList foreign;
+        foreign.name()->setText("Verbs");
+        foreign.foreign()->setChecked(true);
+        foreign.languages()->setCurrentIndex(1);
+        foreign.confirm();
+        QVERIFY(f.dialogs.last().startsWith("Tip: When creating your Foreign Language list"));
+        QVERIFY(!Shared().ListLanguage.empty());
+        QCOMPARE(Shared().WordsOnly, kFalse);
     }
-}
 
-void TeacherListsTest::editorDeletesTheFirstWord() {
-    TeacherFixture f(kTwoLists);
-    Shared().CurrentListName = "Animals";
-    auto* edit = qobject_cast<EditList*>(OpenScreen("EditList"));
-    QVERIFY(edit);
-    edit->select(0);
-    f.dialogs.answerYes();
-    edit->deleteWord();
-    QCOMPARE(edit->words()->count(), 0);
-    QCOMPARE(edit->totalText(), "Total Words In This List: 0");
-}
+    void newListMessages() {
+        TeacherFixture f(kTwoLists);
+        MakeNewList* m = OpenMaker("Birds");
+        m->word()->setText("owl");
+        m->addWord();
+        QCOMPARE(f.box(), "Hey!: To add a word, you must title type a word and definition in the "
+                          "spaces below.");
+        m->deleteWord();
+        QCOMPARE(f.dialogs.last(), "You must title choose a word to delete from the list below.");
+        m->editWord();
+        QCOMPARE(f.dialogs.last(), "You need to choose a word to edit from the list below.");
+        m->saveAndQuit();  // "owl" has no definition yet: not added
+        QCOMPARE(f.dialogs.last(),
+                 "Unable to save a blank word list. Please add one or more words to continue...)");
+        m->meaning()->setText("wise bird");
+        m->addWord();
+        m->word()->setText("hen");
+        m->meaning()->setText("lays eggs");
+        m->addWord();
+        // Edit takes the pair back into the boxes; delete asks first.
+        m->words()->setCurrentRow(0);
+        m->editWord();
+        QCOMPARE(m->word()->text(), "owl");
+        QCOMPARE(m->meaning()->text(), "wise bird");
+        QCOMPARE(m->words()->count(), 1);
+        m->words()->setCurrentRow(0);
+        m->deleteWord();  // No
+        QVERIFY(f.box().startsWith("Confirm Delete: "));
+        QCOMPARE(m->words()->count(), 1);
+        f.dialogs.answerYes();
+        m->deleteWord();
+        QCOMPARE(m->words()->count(), 0);
+        QCOMPARE(m->totalText(), "Total words in this list: 0");
+        // Save and Quit adds the pending pair first.
+        f.dialogs.answerYes();
+        m->saveAndQuit();
+        QCOMPARE(f.lists(),
+                 f.crlf(kTwoLists + QStringList{"<New List>", "Birds", "owl", "wise bird"}));
+        QVERIFY(Showing<Manager>());
+    }
+
+    void newListRenameAndQuit() {
+        TeacherFixture f(kTwoLists);
+        MakeNewList* m = OpenMaker("Birds");
+        const QByteArray before = f.lists();
+        // The refusals themselves are the rules' own; here, that the screen asks them.
+        for (const auto& [typed, message] :
+             {std::pair{"Birds", "You did not change the list name."},
+              std::pair{"COLOURS",
+                        "The list name you typed already exists. This list was not renamed."}}) {
+            f.dialogs.answerInput(typed);
+            m->renameList();
+            QCOMPARE(f.box(), QString(": ") + message);
+        }
+        f.dialogs.answerInput("  Garden Birds ");
+        m->renameList();
+        QCOMPARE(m->caption(), "Garden Birds");
+        // Quit with No leaves the file alone; Quit with Yes and no words refuses.
+        f.dialogs.answerYes();
+        m->quitScreen();
+        QCOMPARE(f.dialogs.last(),
+                 "Unable to save a blank word list. Please add one or more words to continue...)");
+        QCOMPARE(Showing<MakeNewList>(), m);
+        m->word()->setText("robin");
+        m->meaning()->setText("red breast");
+        m->quitScreen();
+        QVERIFY(f.box().startsWith("Save?: "));
+        QCOMPARE(f.lists(), before);
+        QVERIFY(Showing<Manager>());
+        // Quit with Yes and a pair typed: the pair is added and the list saved.
+        m = OpenMaker("Owls");
+        m->word()->setText("barn owl");
+        m->meaning()->setText("white-faced");
+        f.dialogs.answerYes();
+        m->quitScreen();
+        QCOMPARE(f.lists(), before + f.crlf({"<New List>", "Owls", "barn owl", "white-faced"}));
+    }
+
+    void firstListWordsOnlyAndForeign() {
+        TeacherFixture f({"No Lists"});
+        MakeNewList* m = OpenMaker("Spelling", true);
+        QVERIFY(m->meaning()->isHidden());
+        for (const char* w : {"rhythm", "their"}) {
+            m->word()->setText(w);
+            m->wordEntered();
+        }
+        f.dialogs.answerYes();
+        m->saveAndQuit();
+        // A first list: no separator, "No Lists" gone, the marker as every definition.
+        QCOMPARE(f.lists(), f.crlf({"Spelling", "rhythm", "-----", "their", "-----"}));
+
+        m = OpenMaker("Verbs", false, "S");
+        m->word()->setText("to run");
+        m->meaning()->setText("correr");
+        f.dialogs.answerYes();
+        m->saveAndQuit();
+        QCOMPARE(f.lists(), f.crlf({"Spelling", "rhythm", "-----", "their", "-----", "<New List>",
+                                    "[S]Verbs", "to run", "correr"}));
+    }
+
+    void deleteFirstAndOnlyList() {
+        TeacherFixture f(kTwoLists);
+        DeleteList d;
+        QCOMPARE(d.lists()->count(), 2);
+        d.deleteClicked();
+        QCOMPARE(f.dialogs.last(), "You need to choose a list!");
+        d.lists()->setCurrentRow(RowOf(d.lists(), "Animals"));
+        d.deleteClicked();
+        QVERIFY(d.asking());
+        d.answer(false);
+        QVERIFY(!d.asking());
+        QCOMPARE(f.lists(), f.crlf(kTwoLists));
+        d.deleteClicked();
+        d.answer(true);
+        QCOMPARE(f.dialogs.last(), "The list was successfully deleted.");
+        // The separator behind the first list stays at the head, as it always has, and the readers
+        // take it for a list's name until the next save heals the file.
+        QCOMPARE(f.lists(), f.crlf({"<New List>", "[S]Colours", "red", "rojo"}));
+        QCOMPARE(d.lists()->count(), 1);
+        QCOMPARE(d.lists()->item(0)->text(), "<New List>");
+
+        f.writeLines("thelists.dat", {"Animals", "cat", "a pet"});
+        DeleteList only;
+        only.lists()->setCurrentRow(0);
+        only.deleteClicked();
+        only.answer(true);
+        QCOMPARE(f.lists(), f.crlf({"No Lists"}));
+        QCOMPARE(only.lists()->count(), 0);
+    }
+
+    void deleteCleansCategoriesUnlessLocked() {
+        TeacherFixture f({"Animals", "cat", "a pet", "<New List>", "Birds", "owl", "o",
+                          "<New List>", "Fish", "cod", "c"});
+        DeleteList d;
+        f.writeLines("folders.dat", {"^Zoo", "Animals", "Birds", "^Farm", "Animals", "Birds"});
+        d.lists()->setCurrentRow(RowOf(d.lists(), "Birds"));
+        d.deleteClicked();
+        d.answer(true);
+        QCOMPARE(f.read("folders.dat"), f.crlf({"^Zoo", "Animals", "^Farm", "Animals"}));
+        LockCategories(Shared().FolderFilePath);
+        d.lists()->setCurrentRow(RowOf(d.lists(), "Animals"));
+        d.deleteClicked();
+        d.answer(true);
+        QCOMPARE(f.read("folders.lok"), f.crlf({"^Zoo", "Animals", "^Farm", "Animals"}));
+        QCOMPARE(f.lists(), f.crlf({"<New List>", "Fish", "cod", "c"}));
+    }
+
+    void mergeWordsOnlyWithNormal() {
+        TeacherFixture f({"Spelling", "rhythm", "-----", "<New List>", "Animals", "cat", "a pet",
+                          "dog", "", "<New List>", "[S]Colours", "red", "rojo"});
+        MergeForm m;
+        QCOMPARE(m.lists()->item(1)->text(), "Animals (2 words)");
+        // Picked by clicks, one list after another, and clicked again to let go.
+        m.show();
+        for (int row : {0, 2, 2}) {
+            const QRect r = m.lists()->visualItemRect(m.lists()->item(row));
+            QTest::mouseClick(m.lists()->viewport(), Qt::LeftButton, {}, r.center());
+        }
+        QCOMPARE(m.lists()->selectedItems(), QList<QListWidgetItem*>{m.lists()->item(0)});
+        m.lists()->item(0)->setSelected(true);
+        m.confirm();
+        QCOMPARE(f.dialogs.last(), "You must select two or more lists to merge.");
+        m.lists()->item(1)->setSelected(true);
+        QCOMPARE(m.label(), "Merge lists: Spelling, Animals");
+        f.dialogs.answerInput("animals");
+        m.confirm();
+        QCOMPARE(f.dialogs.last(), kTaken);
+        f.dialogs.answerInput("Mixed");
+        m.confirm();
+        QCOMPARE(f.dialogs.last(),
+                 "The selected lists have been merged into the new list \"Mixed\". "
+                 "The original lists are also still intact.");
+        // The marker lines become ordinary definitions; the blank line is left out.
+        QVERIFY(f.lists().endsWith(
+            f.crlf({"<New List>", "Mixed", "rhythm", "-----", "cat", "a pet", "dog"})));
+        // A foreign list among the picks warns; No stops.
+        MergeForm again;
+        const QByteArray before = f.lists();
+        again.lists()->item(1)->setSelected(true);
+        again.lists()->item(2)->setSelected(true);
+        again.confirm();
+        QVERIFY(f.dialogs.last().startsWith("If you merge words from a foreign language list"));
+        QCOMPARE(f.lists(), before);
+    }
+
+    void buildFromTwoLists() {
+        TeacherFixture f(kTwoLists +
+                         QStringList{"<New List>", "Birds", "owl", "wise", "cat", "bird eater"});
+        Manager manager;
+        f.dialogs.answerInput("Birds");
+        f.dialogs.answerInput("Mix");
+        f.then<BuildListForm>([&](BuildListForm& b) {
+            QCOMPARE(b.words()->item(0)->text(), "<<Choose a List");
+            b.addPicked();
+            QCOMPARE(f.dialogs.last(),
+                     "You need to highlight some words in the middle column first!");
+            b.chooseList(RowOf(b.lists(), "Animals"));
+            QCOMPARE(b.wordsCaption(), "Words (1):");
+            b.words()->item(0)->setSelected(true);
+            b.addPicked();
+            b.chooseList(RowOf(b.lists(), "Birds"));
+            b.words()->item(0)->setSelected(true);
+            b.words()->item(1)->setSelected(true);
+            b.addPicked();
+            QCOMPARE(f.dialogs.last(), "One or more of the words you are trying to add to this "
+                                       "new list has already been added. They will not be added "
+                                       "again.");
+            QCOMPARE(b.newListCaption(), "New Word List (2):");
+            b.deletePicked();
+            QCOMPARE(f.dialogs.last(),
+                     "Choose a word you would like to delete from the new list "
+                     "before clicking this button.");
+            b.picked()->setCurrentRow(1);
+            b.deletePicked();
+            QCOMPARE(b.newListCaption(), "New Word List (1):");
+            b.chooseList(RowOf(b.lists(), "Birds"));
+            b.words()->item(0)->setSelected(true);
+            b.addPicked();
+            f.dialogs.answerYes();
+            b.save();
+        });
+        manager.command("Create List from Existing Lists");
+        QVERIFY(f.dialogs.saw(kTaken));
+        QVERIFY(f.lists().endsWith(f.crlf({"<New List>", "Mix", "cat", "a pet", "owl", "wise"})));
+    }
+
+    void editorDeletesTheFirstWord() {
+        TeacherFixture f(kTwoLists);
+        EditList* edit = OpenEditor("Animals");
+        edit->select(0);
+        f.dialogs.answerYes();
+        edit->deleteWord();
+        QCOMPARE(edit->words()->count(), 0);
+        QCOMPARE(edit->totalText(), "Total Words In This List: 0");
+        edit->editWord();  // nothing left to choose
+        QCOMPARE(f.dialogs.last(), "You need to choose a word to edit from the list below.");
+    }
+};
 
 QTEST_MAIN(TeacherListsTest)
 #include "teacher_lists_test.moc"

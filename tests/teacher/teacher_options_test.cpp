@@ -2,22 +2,11 @@
 // default, each seen in the files and at the next start of the title.
 #include <sys/wait.h>
 #include <unistd.h>
-#include <QCheckBox>
-#include <QListWidget>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QSlider>
-#include <QtTest>
 
-#include "core/category_file.h"
 #include "core/display_file.h"
 #include "platform/speech.h"
-#include "platform/text.h"
 #include "shell/catalogue.h"
-#include "shell/title.h"
-#include "teacher/categories.h"
-#include "teacher/manager.h"
-#include "teacher/program_options.h"
 #include "teacher_fixture.h"
 
 using namespace wm;
@@ -27,13 +16,6 @@ namespace {
 
 const QStringList kLists = {"Animals", "cat",        "a pet", "<New List>", "[S]Colours", "red",
                             "rojo",    "<New List>", "Birds", "owl",        "wise"};
-
-int rowOf(QListWidget* list, const QString& text) {
-    for (int i = 0; i < list->count(); ++i) {
-        if (list->item(i)->text() == text) return i;
-    }
-    return -1;
-}
 
 // Another program takes the lock, as a second teacher's copy would, and goes away.
 void LockFromAnotherProcess(const std::string& folderFile) {
@@ -56,169 +38,157 @@ void LockFromAnotherProcess(const std::string& folderFile) {
 class TeacherOptionsTest : public QObject {
     Q_OBJECT
 private slots:
-    void categoriesSaveHoldsTheLockWhileOpen();
-    void categoriesCancelAndCloseBoxLeaveTheFile();
-    void lockHeldByAnotherProcess();
-    void visibilityCountsFromTheNextStart();
-    void soundDefaultCountsFromTheNextStart();
-    void speechSettingCountsAtOnceAndIsKeptBehindTheSix();
-};
-
-void TeacherOptionsTest::categoriesSaveHoldsTheLockWhileOpen() {
-    TeacherFixture f(kLists);
-    f.writeLines("folders.dat", {"^Zoo", "Animals", "", "^Home"});
-    Categories c;
-    QVERIFY(f.exists("folders.lok"));
-    QVERIFY(!f.exists("folders.dat"));
-    QCOMPARE(c.lists()->count(), 3);
-    QCOMPARE(c.categories()->count(), 2);
-    // A tick with no category chosen is refused and undone.
-    c.setTicked("Birds", true);
-    QCOMPARE(f.dialogs.last(), "You must first highlight a category to add these lists to.");
-    QCOMPARE(c.lists()->item(rowOf(c.lists(), "Birds"))->checkState(), Qt::Unchecked);
-    c.pickCategory(0);
-    QCOMPARE(c.countText(), "Word Lists (1 Selected)");
-    c.setTicked("Birds", true);
-    c.setTicked("Animals", false);
-    QCOMPARE(c.countText(), "Word Lists (1 Selected)");
-    f.dialogs.answerInput("Art");
-    c.addCategory();
-    QCOMPARE(c.countText(), "Word Lists (None Selected)");
-    QVERIFY(f.dialogs.last().startsWith("Your new category has been created."));
-    c.setTicked("Colours", true);
-    c.deleteCategory();  // No
-    QCOMPARE(f.dialogs.shown.back().text, "Are you sure you want to delete the category ART?");
-    c.pickCategory(1);
-    f.dialogs.answerYes();
-    c.deleteCategory();
-    QCOMPARE(c.categories()->count(), 2);
-    c.save();  // No: still open and locked
-    QVERIFY(f.exists("folders.lok"));
-    f.dialogs.answerYes();
-    c.save();
-    QVERIFY(!f.exists("folders.lok"));
-    // Blank lines are dropped; a category is only its "^" line and the names under it.
-    QCOMPARE(f.read("folders.dat"), f.crlf({"^Zoo", "Birds", "^Art", "Colours"}));
-}
-
-void TeacherOptionsTest::categoriesCancelAndCloseBoxLeaveTheFile() {
-    TeacherFixture f(kLists);
-    f.writeLines("folders.dat", {"^Zoo", "Animals"});
-    const QByteArray before = f.read("folders.dat");
-    {
+    void categoriesSaveHoldsTheLockWhileOpen() {
+        TeacherFixture f(kLists);
+        f.writeLines("folders.dat", {"^Zoo", "Animals", "", "^Home"});
         Categories c;
-        c.pickCategory(0);
+        QVERIFY(f.exists("folders.lok"));
+        QVERIFY(!f.exists("folders.dat"));
+        QCOMPARE(c.lists()->count(), 3);
+        QCOMPARE(c.categories()->count(), 2);
+        // A tick with no category chosen is refused and undone.
         c.setTicked("Birds", true);
-        c.reject();  // Cancel
-    }
-    QCOMPARE(f.read("folders.dat"), before);
-    QVERIFY(!f.exists("folders.lok"));
-    {
-        Categories c;
-        c.show();
-        c.close();  // the close box
-        QVERIFY(f.exists("folders.dat"));
-    }
-    QCOMPARE(f.read("folders.dat"), before);
-}
-
-void TeacherOptionsTest::lockHeldByAnotherProcess() {
-    TeacherFixture f(kLists);
-    f.writeLines("folders.dat", {"^Zoo", "Animals"});
-    LockFromAnotherProcess(Shared().FolderFilePath);
-    QVERIFY(f.exists("folders.lok"));
-    Manager m;
-    m.command("List Categories");  // No: the lock stands
-    QVERIFY(f.dialogs.last().startsWith(
-        "The categories list is currently being edited by another user."));
-    QVERIFY(f.exists("folders.lok"));
-    QVERIFY(!f.opened.contains("Categories"));
-    f.dialogs.answerYes();
-    m.command("List Categories");  // Yes, then No to the second question
-    QCOMPARE(f.dialogs.last(),
-             "Are you sure that you want to force this file unlocked?. Note that forcing an "
-             "unlock while another user is modifying the categories will cause system "
-             "instability.");
-    QVERIFY(f.exists("folders.lok"));
-    f.dialogs.answerYes().answerYes();
-    f.then<Categories>([&](Categories& c) {
-        QCOMPARE(c.categories()->item(0)->text(), "Zoo");
-        QVERIFY(f.exists("folders.lok"));  // locked again, now by this box
-        c.reject();
-    });
-    m.command("List Categories");
-    QVERIFY(f.opened.contains("Categories"));
-    QVERIFY(f.exists("folders.dat"));
-    QVERIFY(!f.exists("folders.lok"));
-}
-
-void TeacherOptionsTest::visibilityCountsFromTheNextStart() {
-    TeacherFixture f;
-    OpenScreen("Title");
-    const int shown = Shared().VisibleGameCount;
-    QCOMPARE(shown, Shared().GameCount);
-    f.then<EnableDisable>([&](EnableDisable& e) {
-        QCOMPARE(e.games()->count(), Shared().GameCount);
-        QVERIFY(e.option(0)->isChecked());
-        e.option(2)->setChecked(true);
-        e.games()->item(0)->setCheckState(Qt::Unchecked);
-        e.games()->item(2)->setCheckState(Qt::Unchecked);
-        e.apply();  // No
-        QCOMPARE(f.dialogs.last(), "Apply these changes?");
+        QCOMPARE(f.dialogs.last(), "You must first highlight a category to add these lists to.");
+        QCOMPARE(c.lists()->item(RowOf(c.lists(), "Birds"))->checkState(), Qt::Unchecked);
+        c.pickCategory(0);
+        QCOMPARE(c.countText(), "Word Lists (1 Selected)");
+        c.setTicked("Birds", true);
+        c.setTicked("Animals", false);
+        QCOMPARE(c.countText(), "Word Lists (1 Selected)");
+        f.dialogs.answerInput("Art");
+        c.addCategory();
+        QCOMPARE(c.countText(), "Word Lists (None Selected)");
+        QVERIFY(f.dialogs.last().startsWith("Your new category has been created."));
+        c.setTicked("Colours", true);
+        c.deleteCategory();  // No
+        QCOMPARE(f.dialogs.shown.back().text, "Are you sure you want to delete the category ART?");
+        c.pickCategory(1);
         f.dialogs.answerYes();
-        e.apply();
-    });
-    auto* m = qobject_cast<Manager*>(OpenScreen("Manager", CurrentScreen()));
-    m->command("Show/Hide Games");
-    const DisplaySettings d = ReadDisplaySettings(f.path("wmgdisplay.dat").toStdString());
-    QCOMPARE(d.scale, DisplaySettings::SmallIcons().scale);
-    QCOMPARE(d.hidden, (std::vector<std::string>{Shared().GameNames[1], Shared().GameNames[3]}));
-    QCOMPARE(Shared().VisibleGameCount, shown);  // not before the next start
-    m->quit();
-    QCOMPARE(Shared().VisibleGameCount, shown - 2);
-    // The box reads back what it wrote.
-    EnableDisable again;
-    QVERIFY(again.option(2)->isChecked());
-    QCOMPARE(again.games()->item(0)->checkState(), Qt::Unchecked);
-    QCOMPARE(again.games()->item(1)->checkState(), Qt::Checked);
-}
+        c.deleteCategory();
+        QCOMPARE(c.categories()->count(), 2);
+        c.save();  // No: still open and locked
+        QVERIFY(f.exists("folders.lok"));
+        f.dialogs.answerYes();
+        c.save();
+        QVERIFY(!f.exists("folders.lok"));
+        // Blank lines are dropped; a category is only its "^" line and the names under it.
+        QCOMPARE(f.read("folders.dat"), f.crlf({"^Zoo", "Birds", "^Art", "Colours"}));
+        // Cancel and the close box leave the file as it was, and unlocked.
+        const QByteArray before = f.read("folders.dat");
+        {
+            Categories cancelled;
+            cancelled.pickCategory(0);
+            cancelled.setTicked("Animals", true);
+            cancelled.reject();
+        }
+        QCOMPARE(f.read("folders.dat"), before);
+        QVERIFY(!f.exists("folders.lok"));
+        {
+            Categories closed;
+            closed.show();
+            closed.close();  // the close box
+        }
+        QCOMPARE(f.read("folders.dat"), before);
+    }
 
-void TeacherOptionsTest::soundDefaultCountsFromTheNextStart() {
-    TeacherFixture f;
-    OpenScreen("Title");
-    QCOMPARE(Shared().SoundDefault, kTrue);
-    SoundOptions box;
-    QVERIFY(box.on()->isChecked());
-    box.off()->setChecked(true);
-    box.save();
-    QCOMPARE(f.read("wmdata.dat"), f.crlf({"Wordmere settings", "Version 1.01", "Sound Off",
-                                           "mapleton", "listpath", "folderpath"}));
-    QCOMPARE(Shared().SoundDefault, kTrue);
-    OpenScreen("Title", CurrentScreen());
-    QCOMPARE(Shared().SoundDefault, kFalse);
-    // Any other text leaves both buttons clear.
-    RewriteSettingsLine(f.dir.path().toStdString(), kSoundLine, "loud");
-    SoundOptions odd;
-    QVERIFY(!odd.on()->isChecked() && !odd.off()->isChecked());
-}
+    void lockHeldByAnotherProcess() {
+        TeacherFixture f(kLists);
+        f.writeLines("folders.dat", {"^Zoo", "Animals"});
+        LockFromAnotherProcess(Shared().FolderFilePath);
+        QVERIFY(f.exists("folders.lok"));
+        Manager m;
+        m.command("List Categories");  // No: the lock stands
+        QVERIFY(f.dialogs.last().startsWith(
+            "The categories list is currently being edited by another user."));
+        QVERIFY(f.exists("folders.lok"));
+        QVERIFY(!f.opened.contains("Categories"));
+        f.dialogs.answerYes();
+        m.command("List Categories");  // Yes, then No to the second question
+        QCOMPARE(f.dialogs.last(),
+                 "Are you sure that you want to force this file unlocked?. Note that forcing an "
+                 "unlock while another user is modifying the categories will cause system "
+                 "instability.");
+        QVERIFY(f.exists("folders.lok"));
+        f.dialogs.answerYes().answerYes();
+        f.then<Categories>([&](Categories& c) {
+            QCOMPARE(c.categories()->item(0)->text(), "Zoo");
+            QVERIFY(f.exists("folders.lok"));  // locked again, now by this box
+            c.reject();
+        });
+        m.command("List Categories");
+        QVERIFY(f.exists("folders.dat"));
+        QVERIFY(!f.exists("folders.lok"));
+    }
 
-void TeacherOptionsTest::speechSettingCountsAtOnceAndIsKeptBehindTheSix() {
-    RecordingSpeech voice;  // outlives the screens the fixture closes
-    TeacherFixture f;
-    services().speech = &voice;
-    OpenScreen("Title");
-    SpeechOptions box;
-    QVERIFY(box.speechOn()->isChecked());  // the factory file has no speech lines
-    box.rate()->setValue(-6);
-    box.tryIt()->click();
-    QCOMPARE(voice.said.value(0).rate, -6);
-    box.speechOn()->setChecked(false);
-    box.save();
-    QCOMPARE(f.read("wmdata.dat"),
-             f.crlf({"Wordmere settings", "Version 1.01", "Sound On", "mapleton", "listpath",
-                     "folderpath", "Speech Off", "-6"}));
-    QCOMPARE(Shared().SpeechOn, kFalse);
-}
+    void visibilityCountsFromTheNextStart() {
+        TeacherFixture f;
+        OpenScreen("Title");
+        const int shown = Shared().VisibleGameCount;
+        QCOMPARE(shown, Shared().GameCount);
+        f.then<EnableDisable>([&](EnableDisable& e) {
+            QCOMPARE(e.games()->count(), Shared().GameCount);
+            QVERIFY(e.option(0)->isChecked());
+            e.option(2)->setChecked(true);
+            e.games()->item(0)->setCheckState(Qt::Unchecked);
+            e.games()->item(2)->setCheckState(Qt::Unchecked);
+            e.apply();  // No
+            QCOMPARE(f.dialogs.last(), "Apply these changes?");
+            f.dialogs.answerYes();
+            e.apply();
+        });
+        auto* m = qobject_cast<Manager*>(OpenScreen("Manager", CurrentScreen()));
+        m->command("Show/Hide Games");
+        const DisplaySettings d = ReadDisplaySettings(f.path("wmgdisplay.dat").toStdString());
+        QCOMPARE(d.scale, DisplaySettings::SmallIcons().scale);
+        const auto& names = Shared().GameNames;
+        QCOMPARE(d.hidden, (std::vector<std::string>{names[1], names[3]}));
+        QCOMPARE(Shared().VisibleGameCount, shown);  // not before the next start
+        m->quit();
+        QCOMPARE(Shared().VisibleGameCount, shown - 2);
+        // The box reads back what it wrote.
+        EnableDisable again;
+        QVERIFY(again.option(2)->isChecked());
+        QCOMPARE(again.games()->item(0)->checkState(), Qt::Unchecked);
+        QCOMPARE(again.games()->item(1)->checkState(), Qt::Checked);
+    }
+
+    void soundDefaultCountsFromTheNextStart() {
+        TeacherFixture f;
+        OpenScreen("Title");
+        QCOMPARE(Shared().SoundDefault, kTrue);
+        SoundOptions box;
+        QVERIFY(box.on()->isChecked());
+        box.off()->setChecked(true);
+        box.save();
+        QCOMPARE(f.read("wmdata.dat"), f.crlf({"Wordmere settings", "Version 1.01", "Sound Off",
+                                               "mapleton", "listpath", "folderpath"}));
+        QCOMPARE(Shared().SoundDefault, kTrue);
+        OpenScreen("Title", CurrentScreen());
+        QCOMPARE(Shared().SoundDefault, kFalse);
+        // Any other text leaves both buttons clear.
+        RewriteSettingsLine(f.dir.path().toStdString(), kSoundLine, "loud");
+        SoundOptions odd;
+        QVERIFY(!odd.on()->isChecked() && !odd.off()->isChecked());
+    }
+
+    void speechSettingCountsAtOnceAndIsKeptBehindTheSix() {
+        RecordingSpeech voice;  // outlives the screens the fixture closes
+        TeacherFixture f;
+        services().speech = &voice;
+        OpenScreen("Title");
+        SpeechOptions box;
+        QVERIFY(box.speechOn()->isChecked());  // the factory file has no speech lines
+        box.rate()->setValue(-6);
+        box.tryIt()->click();
+        QCOMPARE(voice.said.value(0).rate, -6);
+        box.speechOn()->setChecked(false);
+        box.save();
+        QCOMPARE(f.read("wmdata.dat"),
+                 f.crlf({"Wordmere settings", "Version 1.01", "Sound On", "mapleton", "listpath",
+                         "folderpath", "Speech Off", "-6"}));
+        QCOMPARE(Shared().SpeechOn, kFalse);
+    }
+};
 
 QTEST_MAIN(TeacherOptionsTest)
 #include "teacher_options_test.moc"

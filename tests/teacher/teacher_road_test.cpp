@@ -1,20 +1,9 @@
 // The teacher's roads: the gate, the manager's file commands, and a list made, edited and saved
 // from the title onwards, checked in the file's bytes.
 #include <QAction>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
 #include <QToolBar>
-#include <QtTest>
 
 #include "shell/title.h"
-#include "teacher/create_list.h"
-#include "teacher/edit_choose_list.h"
-#include "teacher/edit_list.h"
-#include "teacher/gate.h"
-#include "teacher/make_new_list.h"
-#include "teacher/manager.h"
-#include "teacher/word_boxes.h"
 #include "teacher_fixture.h"
 
 using namespace wm;
@@ -38,233 +27,218 @@ void typePair(MakeNewList* m, const QString& w, const QString& d) {
     m->meaningEntered();
 }
 
-int rowOf(QListWidget* list, const QString& text) {
-    for (int i = 0; i < list->count(); ++i) {
-        if (list->item(i)->text() == text) return i;
-    }
-    return -1;
-}
-
 }  // namespace
 
 class TeacherRoadTest : public QObject {
     Q_OBJECT
 private slots:
-    void wholeRoadFromTheTitle();
-    void gateRefusesAndIgnoresCase();
-    void changePasswordChecks_data();
-    void changePasswordChecks();
-    void backupRestoreAndClearScores();
-    void linkToAnotherListFile();
-};
+    void wholeRoadFromTheTitle() {
+        TeacherFixture f;
+        auto* title = qobject_cast<Title*>(OpenScreen("Title"));
+        f.then<PasswordForm>([](PasswordForm& p) {
+            p.box()->setText("MapleTon");
+            p.confirm();
+        });
+        pressTitleEntry(title, "Teacher Management");
+        // The factory password is still set: the alert comes first.
+        QCOMPARE(f.dialogs.shown.front().title, "Password Alert");
+        auto* manager = Showing<Manager>();
+        QVERIFY(!title->isVisible());
 
-void TeacherRoadTest::wholeRoadFromTheTitle() {
-    TeacherFixture f;
-    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
-    QVERIFY(title);
-    f.then<PasswordForm>([](PasswordForm& p) {
-        p.box()->setText("MapleTon");
-        p.confirm();
-    });
-    pressTitleEntry(title, "Teacher Management");
-    // The factory password is still set: the alert comes first.
-    QCOMPARE(f.dialogs.shown.front().title, "Password Alert");
-    auto* manager = Showing<Manager>();
-    QVERIFY(manager);
-    QVERIFY(!title->isVisible());
-
-    f.then<CreateList>([](CreateList& c) {
-        c.name()->setText("Fruit");
-        c.confirm();
-    });
-    QVERIFY(manager->command("Create New Vocabulary List"));
-    auto* make = Showing<MakeNewList>();
-    QVERIFY(make);
-    QCOMPARE(make->caption(), "Fruit");
-    typePair(make, "apple", "a red fruit");
-    typePair(make, "Banana", "a long yellow fruit");
-    typePair(make, "APPLE", "something else");
-    QCOMPARE(f.dialogs.last(), "This word already exists on the list!");
-    QCOMPARE(make->word()->selectedText(), "APPLE");
-    typePair(make, "cherry", "A RED FRUIT");
-    QCOMPARE(f.dialogs.last(),
-             "Another word with the same definition appears on this list. This could cause "
-             "confusion with some activities. Please re-word the definition so it is not the same "
-             "as the definition for \"apple\".");
-    make->meaning()->setText("a small stone fruit");
-    make->meaningEntered();
-    QCOMPARE(make->totalText(), "Total words in this list: 3");
-    QCOMPARE(make->numberText(), "Word Number: 4");
-    f.dialogs.answerYes();
-    make->saveAndQuit();
-    QCOMPARE(f.dialogs.shown.back().title, "Confirm Save");
-    QCOMPARE(f.lists(), f.crlf({"Animals", "cat", "a pet", "dog", "a loyal pet", "<New List>",
-                                "Fruit", "apple", "a red fruit", "Banana", "a long yellow fruit",
-                                "cherry", "a small stone fruit"}));
-
-    manager = Showing<Manager>();
-    QVERIFY(manager);
-    f.then<EditChooseList>([](EditChooseList& e) {
-        QCOMPARE(e.lists()->count(), 2);
-        e.lists()->setCurrentRow(rowOf(e.lists(), "Fruit"));
-        e.choose();
-    });
-    manager->command("View / Edit Vocabulary List");
-    auto* edit = Showing<EditList>();
-    QVERIFY(edit);
-    QCOMPARE(edit->totalText(), "Total Words In This List: 3");
-    QCOMPARE(edit->definition(), "a red fruit");
-    f.then<WordBox>([](WordBox& a) {
-        QCOMPARE(a.objectName(), "AddWord");
-        a.word()->setText("date");
-        a.meaning()->setText("a sweet brown fruit");
-        a.confirm();
-    });
-    edit->addWord();
-    f.dialogs.answerInput("Fruits");
-    edit->renameList();
-    QCOMPARE(f.dialogs.last(), "List name changed successfully.");
-    QCOMPARE(edit->caption(), "Fruits");
-    edit->select(rowOf(edit->words(), "Banana"));
-    f.dialogs.answerYes();
-    edit->deleteWord();
-    QCOMPARE(f.dialogs.shown.back().text, "Are you sure you want to delete the word Banana");
-    QCOMPARE(edit->totalText(), "Total Words In This List: 3");
-    // The rename is only written by the save.
-    QVERIFY(f.lists().contains("Fruit\r\n"));
-    f.dialogs.answerYes();
-    edit->saveAndQuit();
-    QCOMPARE(f.lists(), f.crlf({"Animals", "cat", "a pet", "dog", "a loyal pet", "<New List>",
-                                "Fruits", "apple", "a red fruit", "cherry", "a small stone fruit",
-                                "date", "a sweet brown fruit"}));
-    manager = Showing<Manager>();
-    QVERIFY(manager);
-    manager->quit();
-    QVERIFY(Showing<Title>());
-}
-
-void TeacherRoadTest::gateRefusesAndIgnoresCase() {
-    TeacherFixture f;
-    RewriteSettingsLine(f.dir.path().toStdString(), kPasswordLine, "Secret");
-    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
-    f.then<PasswordForm>([](PasswordForm& p) {
-        p.box()->setText("mapleton");
-        p.confirm();
-    });
-    pressTitleEntry(title, "Teacher Management");
-    QCOMPARE(f.dialogs.texts(), QStringList{"Incorrect Password."});
-    QCOMPARE(Showing<Title>(), title);
-    QVERIFY(title->isVisible());
-    f.then<PasswordForm>([](PasswordForm& p) {
-        p.box()->setText("sECRET");
-        p.confirm();
-    });
-    pressTitleEntry(title, "Teacher Management");
-    QVERIFY(Showing<Manager>());
-    QCOMPARE(f.dialogs.texts().size(), 1);  // no alert for a password of the teacher's own
-
-    // A settings file that cannot be read opens nothing, not even for an empty password.
-    QFile::remove(f.path("wmdata.dat"));
-    PasswordForm gate;
-    gate.confirm();
-    QCOMPARE(f.dialogs.shown[f.dialogs.shown.size() - 2].title, "File Error");
-    QVERIFY(f.dialogs.shown[f.dialogs.shown.size() - 2].text.contains("wmdata.dat"));
-    QCOMPARE(f.dialogs.last(), "Incorrect Password.");
-    QCOMPARE(gate.result(), int(QDialog::Rejected));
-}
-
-void TeacherRoadTest::changePasswordChecks_data() {
-    QTest::addColumn<QStringList>("typed");
-    QTest::addColumn<bool>("changed");
-    QTest::newRow("right") << QStringList{"mapleton", "owl", "owl"} << true;
-    QTest::newRow("old compared exactly") << QStringList{"MAPLETON", "owl", "owl"} << false;
-    QTest::newRow("new ones differ") << QStringList{"mapleton", "owl", "Owl"} << false;
-    QTest::newRow("empty field") << QStringList{"mapleton", "", ""} << false;
-    QTest::newRow("wrong old") << QStringList{"maple", "owl", "owl"} << false;
-}
-
-void TeacherRoadTest::changePasswordChecks() {
-    QFETCH(QStringList, typed);
-    QFETCH(bool, changed);
-    TeacherFixture f;
-    ChangePassword box;
-    for (int i = 0; i < 3; ++i) box.field(i)->setText(typed[i]);
-    box.confirm();
-    const QByteArray settings = f.read("wmdata.dat");
-    if (changed) {
-        QVERIFY(f.dialogs.shown.empty());
-        QVERIFY(!box.success()->isHidden());
-        QVERIFY(box.field(0)->isHidden());
-        QCOMPARE(settings, f.crlf({"Wordmere settings", "Version 1.01", "Sound On", "owl",
-                                   "listpath", "folderpath"}));
-    } else {
+        f.then<CreateList>([](CreateList& c) {
+            c.name()->setText("Fruit");
+            c.confirm();
+        });
+        QVERIFY(manager->command("Create New Vocabulary List"));
+        auto* make = Showing<MakeNewList>();
+        QCOMPARE(make->caption(), "Fruit");
+        typePair(make, "apple", "a red fruit");
+        typePair(make, "Banana", "a long yellow fruit");
+        typePair(make, "APPLE", "something else");
+        QCOMPARE(f.dialogs.last(), "This word already exists on the list!");
+        QCOMPARE(make->word()->selectedText(), "APPLE");
+        typePair(make, "cherry", "A RED FRUIT");
         QCOMPARE(f.dialogs.last(),
-                 "One or more fields contains incorrect information. Please try again.");
-        QVERIFY(box.success()->isHidden());
-        QVERIFY(settings.contains("\r\nmapleton\r\n"));
+                 "Another word with the same definition appears on this list. This could cause "
+                 "confusion with some activities. Please re-word the definition so it is not the "
+                 "same as the definition for \"apple\".");
+        make->meaning()->setText("a small stone fruit");
+        make->meaningEntered();
+        QCOMPARE(make->totalText(), "Total words in this list: 3");
+        QCOMPARE(make->numberText(), "Word Number: 4");
+        f.dialogs.answerYes();
+        make->saveAndQuit();
+        QCOMPARE(f.dialogs.shown.back().title, "Confirm Save");
+        const QStringList animals = {"Animals", "cat", "a pet", "dog", "a loyal pet", "<New List>"};
+        QCOMPARE(f.lists(), f.crlf(animals + QStringList{"Fruit", "apple", "a red fruit", "Banana",
+                                                         "a long yellow fruit", "cherry",
+                                                         "a small stone fruit"}));
+
+        manager = Showing<Manager>();
+        f.then<EditChooseList>([](EditChooseList& e) {
+            QCOMPARE(e.lists()->count(), 2);
+            e.lists()->setCurrentRow(RowOf(e.lists(), "Fruit"));
+            e.choose();
+        });
+        manager->command("View / Edit Vocabulary List");
+        auto* edit = Showing<EditList>();
+        QCOMPARE(edit->totalText(), "Total Words In This List: 3");
+        QCOMPARE(edit->definition(), "a red fruit");
+        f.then<WordBox>([](WordBox& a) {
+            QCOMPARE(a.objectName(), "AddWord");
+            a.word()->setText("date");
+            a.meaning()->setText("a sweet brown fruit");
+            a.confirm();
+        });
+        edit->addWord();
+        f.dialogs.answerInput("Fruits");
+        edit->renameList();
+        QCOMPARE(f.dialogs.last(), "List name changed successfully.");
+        QCOMPARE(edit->caption(), "Fruits");
+        edit->select(RowOf(edit->words(), "Banana"));
+        f.dialogs.answerYes();
+        edit->deleteWord();
+        QCOMPARE(f.dialogs.shown.back().text, "Are you sure you want to delete the word Banana");
+        QCOMPARE(edit->totalText(), "Total Words In This List: 3");
+        // The rename is only written by the save.
+        QVERIFY(f.lists().contains("Fruit\r\n"));
+        f.dialogs.answerYes();
+        edit->saveAndQuit();
+        QCOMPARE(f.lists(), f.crlf(animals + QStringList{"Fruits", "apple", "a red fruit", "cherry",
+                                                         "a small stone fruit", "date",
+                                                         "a sweet brown fruit"}));
+        Showing<Manager>()->quit();
+        QVERIFY(Showing<Title>());
     }
-}
 
-void TeacherRoadTest::backupRestoreAndClearScores() {
-    TeacherFixture f;
-    Manager m;
-    const QByteArray before = f.lists();
-    m.command("Backup Lists");  // No: nothing written
-    QVERIFY(!f.exists("thelists.bak"));
-    f.dialogs.answerYes();
-    m.command("Restore Backup Lists");
-    QCOMPARE(f.dialogs.shown.back().text, "No Backup file can be found");
-    QCOMPARE(f.dialogs.shown.back().title, "Error");
-    f.dialogs.answerYes();
-    m.command("Backup Lists");
-    QCOMPARE(f.dialogs.shown.back().text, "Backup successful.");
-    QCOMPARE(f.dialogs.shown.back().title, "Backup Complete");
-    QCOMPARE(f.read("thelists.bak"), before);
-    f.writeLines("thelists.dat", {"No Lists"});
-    f.dialogs.answerYes();
-    m.command("Restore Backup Lists");
-    QCOMPARE(f.dialogs.shown.back().text, "Restore successful.");
-    QCOMPARE(f.lists(), before);
+    void gateRefusesAndIgnoresCase() {
+        TeacherFixture f;
+        RewriteSettingsLine(f.dir.path().toStdString(), kPasswordLine, "Secret");
+        auto* title = qobject_cast<Title*>(OpenScreen("Title"));
+        f.then<PasswordForm>([](PasswordForm& p) {
+            p.box()->setText("mapleton");
+            p.confirm();
+        });
+        pressTitleEntry(title, "Teacher Management");
+        QCOMPARE(f.dialogs.texts(), QStringList{"Incorrect Password."});
+        QCOMPARE(Showing<Title>(), title);
+        QVERIFY(title->isVisible());
+        f.then<PasswordForm>([](PasswordForm& p) {
+            p.box()->setText("sECRET");
+            p.confirm();
+        });
+        pressTitleEntry(title, "Teacher Management");
+        QVERIFY(Showing<Manager>());
+        QCOMPARE(f.dialogs.texts().size(), 1);  // no alert for a password of the teacher's own
 
-    f.writeLines("scores/Hangman.dat", {"x"});
-    f.writeLines("scores/Quiz.dat", {"x"});
-    m.command("Clear High Scores");  // No
-    QVERIFY(f.exists("scores/Hangman.dat"));
-    f.dialogs.answerYes();
-    m.command("Clear High Scores");
-    QCOMPARE(f.dialogs.shown[f.dialogs.shown.size() - 2].title, "Are you sure?");
-    QCOMPARE(f.dialogs.last(), "High Scores Cleared");
-    QVERIFY(!f.exists("scores/Hangman.dat"));
-    QVERIFY(!f.exists("scores/Quiz.dat"));
-}
+        // A settings file that cannot be read opens nothing, not even for an empty password.
+        QFile::remove(f.path("wmdata.dat"));
+        PasswordForm gate;
+        gate.confirm();
+        QVERIFY(f.box(2).startsWith("File Error: ") && f.box(2).contains("wmdata.dat"));
+        QCOMPARE(f.dialogs.last(), "Incorrect Password.");
+        QCOMPARE(gate.result(), int(QDialog::Rejected));
+    }
 
-void TeacherRoadTest::linkToAnotherListFile() {
-    TeacherFixture f;
-    QDir(f.dir.path()).mkpath("shared");
-    f.writeLines("shared/thelists.dat", {"Planets", "Mars", "the red planet"});
-    Manager m;
-    f.dialogs.answerYes().answerYes();
-    f.dialogs.fileAnswers.push_back(f.path("shared/thelists.dat"));
-    m.command("Link to Alternate Vocabulary List File");
-    QCOMPARE(f.dialogs.last(), "Link successful.");
-    QCOMPARE(f.dialogs.shown[f.dialogs.shown.size() - 2].title, "Use this file?");
-    QCOMPARE(Shared().ListFilePath, f.path("shared/thelists.dat").toStdString());
-    QVERIFY(
-        f.read("wmdata.dat")
-            .endsWith("\r\n" + f.path("shared/thelists.dat").toLatin1() + "\r\nfolderpath\r\n"));
-    // The editors now read the linked file; the backup still goes to the program's folder.
-    EditChooseList choose;
-    QCOMPARE(choose.lists()->count(), 1);
-    QCOMPARE(choose.lists()->item(0)->text(), "Planets");
-    f.dialogs.answerYes();
-    m.command("Backup Lists");
-    QCOMPARE(f.read("thelists.bak"), f.crlf({"Planets", "Mars", "the red planet"}));
-    // A cancelled file dialog changes nothing.
-    const QByteArray settings = f.read("wmdata.dat");
-    f.dialogs.answerYes();
-    m.command("Link to Alternate Vocabulary List File");
-    QCOMPARE(f.read("wmdata.dat"), settings);
-}
+    void changePasswordChecks_data() {
+        QTest::addColumn<QString>("stored");  // written over the factory password first, if any
+        QTest::addColumn<QStringList>("typed");
+        QTest::addColumn<QString>("refusal");  // "" for a change
+        QTest::addColumn<QString>("after");    // the password in the settings file after
+        const QString wrong =
+            "One or more fields contains incorrect information. Please try again.";
+        auto row = [](const char* what, QStringList typed, QString refusal, QString after,
+                      QString stored = {}) {
+            QTest::newRow(what) << stored << typed << refusal << after;
+        };
+        row("right", {"mapleton", "owl", "owl"}, "", "owl");
+        row("old compared exactly", {"MAPLETON", "owl", "owl"}, wrong, "mapleton");
+        row("new ones differ", {"mapleton", "owl", "Owl"}, wrong, "mapleton");
+        row("empty field", {"mapleton", "", ""}, wrong, "mapleton");
+        row("wrong old", {"maple", "owl", "owl"}, wrong, "mapleton");
+        // The message does not show the password.
+        row("a new one the file cannot hold", {"mapleton", "пароль", "пароль"},
+            "The new password has characters this program cannot store (it keeps Western "
+            "European letters only). Please choose a password without them.",
+            "mapleton");
+        // Not the stored one, even where the stored one holds the "?" an older save made of
+        // such a character.
+        row("an old one the file cannot hold", {"mapleΩ", "owl", "owl"}, wrong, "maple?", "maple?");
+        row("an accent typed apart", {"mapleton", "pau\u0308se", "paüse"}, "", "paüse");
+    }
+
+    void changePasswordChecks() {
+        QFETCH(QString, stored);
+        QFETCH(QStringList, typed);
+        QFETCH(QString, refusal);
+        QFETCH(QString, after);
+        TeacherFixture f;
+        if (!stored.isEmpty()) RewriteSettingsLine(Shared().AppPath, kPasswordLine, fromQ(stored));
+        ChangePassword box;
+        for (int i = 0; i < 3; ++i) box.field(i)->setText(typed[i]);
+        box.confirm();
+        QCOMPARE(f.dialogs.last(), refusal);
+        QCOMPARE(box.success()->isHidden(), !refusal.isEmpty());
+        QCOMPARE(box.field(0)->isHidden(), refusal.isEmpty());
+        QCOMPARE(f.read("wmdata.dat"), f.crlf({"Wordmere settings", "Version 1.01", "Sound On",
+                                               after, "listpath", "folderpath"}));
+    }
+
+    void backupRestoreClearScoresAndLink() {
+        TeacherFixture f;
+        Manager m;
+        const QByteArray before = f.lists();
+        m.command("Backup Lists");  // No: nothing written
+        QVERIFY(!f.exists("thelists.bak"));
+        f.dialogs.answerYes();
+        m.command("Restore Backup Lists");
+        QCOMPARE(f.box(), "Error: No Backup file can be found");
+        f.dialogs.answerYes();
+        m.command("Backup Lists");
+        QCOMPARE(f.box(), "Backup Complete: Backup successful.");
+        QCOMPARE(f.read("thelists.bak"), before);
+        f.writeLines("thelists.dat", {"No Lists"});
+        f.dialogs.answerYes();
+        m.command("Restore Backup Lists");
+        QCOMPARE(f.dialogs.shown.back().text, "Restore successful.");
+        QCOMPARE(f.lists(), before);
+
+        f.writeLines("scores/Hangman.dat", {"x"});
+        f.writeLines("scores/Quiz.dat", {"x"});
+        m.command("Clear High Scores");  // No
+        QVERIFY(f.exists("scores/Hangman.dat"));
+        f.dialogs.answerYes();
+        m.command("Clear High Scores");
+        QVERIFY(f.box(2).startsWith("Are you sure?: "));
+        QCOMPARE(f.dialogs.last(), "High Scores Cleared");
+        QVERIFY(!f.exists("scores/Hangman.dat"));
+        QVERIFY(!f.exists("scores/Quiz.dat"));
+
+        QDir(f.dir.path()).mkpath("shared");
+        f.writeLines("shared/thelists.dat", {"Planets", "Mars", "the red planet"});
+        f.dialogs.answerYes().answerYes();
+        f.dialogs.fileAnswers.push_back(f.path("shared/thelists.dat"));
+        m.command("Link to Alternate Vocabulary List File");
+        QCOMPARE(f.dialogs.last(), "Link successful.");
+        QVERIFY(f.box(2).startsWith("Use this file?: "));
+        QCOMPARE(Shared().ListFilePath, f.path("shared/thelists.dat").toStdString());
+        QVERIFY(f.read("wmdata.dat")
+                    .endsWith("\r\n" + f.path("shared/thelists.dat").toLatin1() +
+                              "\r\nfolderpath\r\n"));
+        // The editors now read the linked file; the backup still goes to the program's folder.
+        EditChooseList choose;
+        QCOMPARE(choose.lists()->count(), 1);
+        QCOMPARE(choose.lists()->item(0)->text(), "Planets");
+        f.dialogs.answerYes();
+        m.command("Backup Lists");
+        QCOMPARE(f.read("thelists.bak"), f.crlf({"Planets", "Mars", "the red planet"}));
+        // A cancelled file dialog changes nothing.
+        const QByteArray settings = f.read("wmdata.dat");
+        f.dialogs.answerYes();
+        m.command("Link to Alternate Vocabulary List File");
+        QCOMPARE(f.read("wmdata.dat"), settings);
+    }
+};
 
 QTEST_MAIN(TeacherRoadTest)
 #include "teacher_road_test.moc"

@@ -2,26 +2,6 @@
 // never Cancel; text the list file cannot hold is refused where it is typed, and letters typed
 // with a separate accent are stored as the one accented letter. Also the category file the
 // editor may not take.
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
-#include <QtTest>
-
-#include "core/category_file.h"
-#include "platform/text.h"
-#include "teacher/build_list_form.h"
-#include "teacher/categories.h"
-#include "teacher/create_list.h"
-#include "teacher/delete_list.h"
-#include "teacher/edit_choose_list.h"
-#include "teacher/edit_list.h"
-#include "teacher/gate.h"
-#include "teacher/make_new_list.h"
-#include "teacher/manager.h"
-#include "teacher/merge_form.h"
-#include "teacher/program_options.h"
-#include "teacher/word_boxes.h"
 #include "teacher_fixture.h"
 
 using namespace wm;
@@ -56,341 +36,292 @@ QString Refusal(const QString& typed, const QString& characters) {
         .arg(typed, kCannotStore, characters);
 }
 
-EditList* OpenEditor(const QString& list) {
-    Shared().CurrentListName = list.toStdString();
-    return qobject_cast<EditList*>(OpenScreen("EditList"));
-}
-
-MakeNewList* OpenMaker(const QString& name, bool wordsOnly = false) {
-    SharedState& s = Shared();
-    s.NewListName = fromQ(name);
-    s.WordsOnly = wordsOnly ? kTrue : kFalse;
-    s.ListLanguage.clear();
-    return qobject_cast<MakeNewList*>(OpenScreen("MakeNewList"));
-}
-
 }  // namespace
 
 class TeacherTypingTest : public QObject {
     Q_OBJECT
 private slots:
-    void everyBoxPressesItsOkOnEnter();
-    void addWordByKeys_data();
-    void addWordByKeys();
-    void newListByKeys();
-    void textTheFileCannotHold_data();
-    void textTheFileCannotHold();
-    void accentTypedApartIsStoredComposed();
-    void passwordTheFileCannotHold();
-    void categoryFileNotNamedFoldersDat();
-};
-
-// No box lets Enter fall to Cancel: each has a default button, and it is not the way out.
-void TeacherTypingTest::everyBoxPressesItsOkOnEnter() {
-    TeacherFixture f(kLists);
-    Shared().CurrentListName = "Animals";
-    QList<QPair<QDialog*, QString>> boxes = {
-        {new WordBox(WordBox::Add), "OK"},
-        {new WordBox(WordBox::Edit), "OK"},
-        {new ChangePassword, "Change Password"},
-        {new PasswordForm, "OK"},
-        {new CreateList, "OK"},
-        {new EditChooseList, "Edit List"},
-        {new DeleteList, "Delete"},
-        {new MergeForm, "OK"},
-        {new BuildListForm, "Save"},
-        {new Categories, "Save"},
-        {new SoundOptions, "Save"},
-        {new EnableDisable, "Apply"},
-    };
-    for (auto& [box, okText] : boxes) {
-        QStringList defaults;
-        for (QPushButton* b : box->findChildren<QPushButton*>()) {
-            if (b->isDefault()) defaults << b->text();
+    // The boxes' own words (typos included), and the one button Enter presses in each: never
+    // the way out.
+    void captionsAndTheButtonEnterPresses() {
+        TeacherFixture f(kLists);
+        Shared().CurrentListName = "Animals";
+        const std::vector<std::tuple<std::function<QDialog*()>, QString, QStringList>> boxes = {
+            {[] { return new WordBox(WordBox::Add); }, "OK", {}},
+            {[] { return new WordBox(WordBox::Edit); }, "OK", {}},
+            {[] { return new ChangePassword; }, "Change Password", {}},
+            {[] { return new PasswordForm; }, "OK", {}},
+            {[] { return new CreateList; }, "OK", {}},
+            {[] { return new EditChooseList; }, "Edit List", {}},
+            {[] { return new DeleteList; }, "Delete",
+             {"Label1=To Delete A List:",
+              "Label2=Choose the List Name in the Box Below and Click the \"Delete\" Button.",
+              "Sure=Are you sure you want to permenantly delete this list?", "Command1=Delete",
+              "Command2=Finished"}},
+            {[] { return new MergeForm; }, "OK",
+             {"Label1=Select two or more lists to merge.", "Command1=OK", "Command2=Cancel"}},
+            {[] { return new BuildListForm; }, "Save",
+             {"Label4=New Word List:", "Command3=Add to List >>>", "Command4=Delete Word",
+              "Command2=Save", "Command1=Cancel"}},
+            {[] { return new Categories; }, "Save",
+             {"Label2=Categories", "Label3=Word Lists (None Selected)", "Command2=Add New Category",
+              "Command3=Delete Category", "Command1=Save", "Command4=Cancel"}},
+            {[] { return new SoundOptions; }, "Save", {}},
+            {[] { return new EnableDisable; }, "Apply", {}},
+        };
+        for (const auto& [make, okText, captions] : boxes) {
+            std::unique_ptr<QDialog> box(make());
+            QStringList defaults;
+            for (QPushButton* b : box->findChildren<QPushButton*>()) {
+                if (b->isDefault()) defaults << b->text();
+            }
+            QCOMPARE(defaults, QStringList{okText});
+            for (const QString& c : captions) {
+                QWidget* w = box->findChild<QWidget*>(c.section('=', 0, 0));
+                QVERIFY2(w, qPrintable(c));
+                QCOMPARE(c.section('=', 0, 0) + "=" + w->property("text").toString(), c);
+            }
         }
-        QCOMPARE(defaults, QStringList{okText});
-        delete box;
     }
-}
 
-void TeacherTypingTest::addWordByKeys_data() {
-    QTest::addColumn<bool>("wordsOnly");
-    QTest::addColumn<QStringList>("lines");
-    QTest::newRow("with definitions")
-        << false << QStringList{"cat", "a pet", "dog", "a loyal pet", "owl", "a wise bird"};
-    QTest::newRow("words only") << true
-                                << QStringList{"cat", "-----", "dog", "-----", "owl", "-----"};
-}
-
-// Enter in the word moves on to the definition; Enter there is OK, which beeps and stays while a
-// box is empty. A words-only list has no definition box: Enter in the word is OK.
-void TeacherTypingTest::addWordByKeys() {
-    QFETCH(bool, wordsOnly);
-    QFETCH(QStringList, lines);
-    QStringList file = {"Trees", "oak", "a big tree", "<New List>", "Animals"};
-    for (int i = 0; i < 4; ++i) file << lines[i];
-    TeacherFixture f(file);
-    EditList* edit = OpenEditor("Animals");
-    QVERIFY(edit);
-    f.then<WordBox>([&](WordBox& box) {
-        QCOMPARE(box.objectName(), "AddWord");
-        Enter(&box);  // empty word: moves on (or, words-only, beeps and stays)
-        QVERIFY(box.isVisible());
-        QCOMPARE(Focused(&box), wordsOnly ? box.word() : box.meaning());
-        if (!wordsOnly) {
-            Enter(&box);  // both empty: beeps and stays
-            QVERIFY(box.isVisible());
-            box.word()->setFocus();
-        }
-        Type(&box, "owl");
-        Enter(&box);
-        if (!wordsOnly) {
-            QVERIFY(box.isVisible());
-            QCOMPARE(Focused(&box), box.meaning());
-            QCOMPARE(box.word()->text(), "owl");
-            Type(&box, "a wise bird");
-            Enter(&box);
-        }
-        QCOMPARE(box.result(), int(QDialog::Accepted));
-    });
-    edit->addWord();
-    QCOMPARE(edit->totalText(), "Total Words In This List: 3");
-    f.dialogs.answerYes();
-    edit->saveAndQuit();
-    QCOMPARE(f.lists(), f.crlf(file.mid(0, 3) + QStringList{"<New List>", "Animals"} + lines));
-}
-
-// The new-list screens: the name box takes Enter as OK; the word and definition boxes of the
-// list being made move on and add.
-void TeacherTypingTest::newListByKeys() {
-    TeacherFixture f(kLists);
-    CreateList create;
-    create.show();
-    create.name()->setFocus();
-    Type(&create, "Birds");
-    Enter(&create);
-    QCOMPARE(create.result(), int(QDialog::Accepted));
-    QCOMPARE(Shared().NewListName, "Birds");
-
-    MakeNewList* m = OpenMaker("Birds");
-    QCOMPARE(Focused(m), m->word());
-    Enter(m);
-    QCOMPARE(f.dialogs.last(), "You need to type a word!");
-    Type(m, "owl");
-    Enter(m);
-    QCOMPARE(Focused(m), m->meaning());
-    Enter(m);
-    QCOMPARE(f.dialogs.last(), "You need to type a definition!");
-    Type(m, "a wise bird");
-    Enter(m);
-    QCOMPARE(m->words()->count(), 1);
-    QCOMPARE(Focused(m), m->word());
-    QCOMPARE(m->meaning()->text(), "");
-    // With the definition already there, Enter in the word adds the pair.
-    m->meaning()->setText("lays eggs");
-    m->word()->setFocus();
-    Type(m, "hen");
-    Enter(m);
-    QCOMPARE(m->words()->count(), 2);
-    QCOMPARE(m->totalText(), "Total words in this list: 2");
-}
-
-void TeacherTypingTest::textTheFileCannotHold_data() {
-    QTest::addColumn<QString>("where");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("characters");
-    const QString greek = QString::fromUtf8("Ωmega");
-    const QString mixed = QString::fromUtf8("Жук и жаба 😀");
-    const QString q = "q" + kAcute;  // no letter q with an acute: it stays two characters
-    for (const char* where :
-         {"new definition", "edit box", "edit rename", "create", "category", "merge", "build"}) {
-        QTest::newRow(qPrintable(QString(where) + ", greek")) << where << greek << "Ω";
+    void addWordByKeys_data() {
+        QTest::addColumn<bool>("wordsOnly");
+        QTest::addColumn<QStringList>("lines");
+        QTest::newRow("with definitions")
+            << false << QStringList{"cat", "a pet", "dog", "a loyal pet", "owl", "a wise bird"};
+        QTest::newRow("words only") << true
+                                    << QStringList{"cat", "-----", "dog", "-----", "owl", "-----"};
     }
-    QTest::newRow("new word, each character once")
-        << "new word" << mixed << QString::fromUtf8("Ж у к и ж а б 😀");
-    QTest::newRow("link, greek") << "link" << greek << "Ω";
-    QTest::newRow("edit box, a lone accent") << "edit box" << q << QString(QChar(0x25CC)) + kAcute;
-}
 
-// Each place that takes typed text refuses what the file cannot hold, says which characters,
-// and keeps the file as it was.
-void TeacherTypingTest::textTheFileCannotHold() {
-    QFETCH(QString, where);
-    QFETCH(QString, typed);
-    QFETCH(QString, characters);
-    TeacherFixture f(kLists);
-    const QByteArray lists = f.lists();
-    const QByteArray folders = f.read("folders.dat");
-    const QString message = Refusal(typed, characters);
-    if (where == "new word" || where == "new definition") {
-        MakeNewList* m = OpenMaker("Birds");
-        m->word()->setText(where == "new word" ? typed : "owl");
-        m->meaning()->setText(where == "new word" ? "a bird" : typed);
-        m->addWord();
-        QCOMPARE(f.dialogs.last(), message);
-        QCOMPARE(m->words()->count(), 0);
-        QCOMPARE(Focused(m), where == "new word" ? m->word() : m->meaning());
-    } else if (where == "edit box") {
+    // Enter in the word moves on to the definition; Enter there is OK, which beeps and stays
+    // while a box is empty. A words-only list has no definition box: Enter in the word is OK.
+    void addWordByKeys() {
+        QFETCH(bool, wordsOnly);
+        QFETCH(QStringList, lines);
+        QStringList file = {"Trees", "oak", "a big tree", "<New List>", "Animals"};
+        for (int i = 0; i < 4; ++i) file << lines[i];
+        TeacherFixture f(file);
         EditList* edit = OpenEditor("Animals");
-        edit->select(0);
         f.then<WordBox>([&](WordBox& box) {
-            box.word()->setText(typed);
-            box.meaning()->setText("a bird");
-            box.confirm();
-            QCOMPARE(f.dialogs.last(), message);
+            QCOMPARE(box.objectName(), "AddWord");
+            Enter(&box);  // empty word: moves on (or, words-only, beeps and stays)
             QVERIFY(box.isVisible());
-            QCOMPARE(Focused(&box), box.word());
-            box.reject();
+            QCOMPARE(Focused(&box), wordsOnly ? box.word() : box.meaning());
+            if (!wordsOnly) {
+                Enter(&box);  // both empty: beeps and stays
+                QVERIFY(box.isVisible());
+                box.word()->setFocus();
+            }
+            Type(&box, "owl");
+            Enter(&box);
+            if (!wordsOnly) {
+                QVERIFY(box.isVisible());
+                QCOMPARE(Focused(&box), box.meaning());
+                QCOMPARE(box.word()->text(), "owl");
+                Type(&box, "a wise bird");
+                Enter(&box);
+            }
+            QCOMPARE(box.result(), int(QDialog::Accepted));
         });
-        edit->editWord();
-        QVERIFY(f.hands.empty());  // the box was shown
-        QCOMPARE(edit->words()->count(), 2);
-        QCOMPARE(edit->words()->item(0)->text(), "cat");
-    } else if (where == "edit rename") {
-        EditList* e = OpenEditor("Animals");
-        f.dialogs.answerInput(typed);
-        e->renameList();
-        QCOMPARE(e->caption(), "Animals");
-        QCOMPARE(f.dialogs.last(), message);
-    } else if (where == "create") {
-        CreateList c;
-        c.name()->setText(typed);
-        c.confirm();
-        QCOMPARE(f.dialogs.last(), message);
-        QCOMPARE(c.result(), int(QDialog::Rejected));
-    } else if (where == "category") {
+        edit->addWord();
+        QCOMPARE(edit->totalText(), "Total Words In This List: 3");
+        f.dialogs.answerYes();
+        edit->saveAndQuit();
+        QCOMPARE(f.lists(), f.crlf(file.mid(0, 3) + QStringList{"<New List>", "Animals"} + lines));
+    }
+
+    // The new-list screens: the name box takes Enter as OK; the word and definition boxes of the
+    // list being made move on and add.
+    void newListByKeys() {
+        TeacherFixture f(kLists);
+        CreateList create;
+        create.show();
+        create.name()->setFocus();
+        Type(&create, "Birds");
+        Enter(&create);
+        QCOMPARE(create.result(), int(QDialog::Accepted));
+        QCOMPARE(Shared().NewListName, "Birds");
+
+        MakeNewList* m = OpenMaker("Birds");
+        QCOMPARE(Focused(m), m->word());
+        Enter(m);
+        QCOMPARE(f.dialogs.last(), "You need to type a word!");
+        Type(m, "owl");
+        Enter(m);
+        QCOMPARE(Focused(m), m->meaning());
+        Enter(m);
+        QCOMPARE(f.dialogs.texts(),
+                 (QStringList{"You need to type a word!", "You need to type a definition!"}));
+        Type(m, "a wise bird");
+        Enter(m);
+        QCOMPARE(m->words()->count(), 1);
+        QCOMPARE(Focused(m), m->word());
+        QVERIFY(m->word()->text().isEmpty() && m->meaning()->text().isEmpty());
+        // With the definition already there, Enter in the word adds the pair.
+        m->meaning()->setText("lays eggs");
+        m->word()->setFocus();
+        Type(m, "hen");
+        Enter(m);
+        QCOMPARE(m->words()->count(), 2);
+        QCOMPARE(m->totalText(), "Total words in this list: 2");
+    }
+
+    void textTheFileCannotHold_data() {
+        QTest::addColumn<QString>("where");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("characters");
+        const QString greek = QString::fromUtf8("Ωmega");
+        const QString mixed = QString::fromUtf8("Жук и жаба 😀");
+        const QString q = "q" + kAcute;  // no letter q with an acute: it stays two characters
+        for (const char* where : {"new definition", "edit box", "edit rename", "create",
+                                  "category", "merge", "build"}) {
+            QTest::newRow(qPrintable(QString(where) + ", greek")) << where << greek << "Ω";
+        }
+        QTest::newRow("new word, each character once")
+            << "new word" << mixed << QString::fromUtf8("Ж у к и ж а б 😀");
+        QTest::newRow("link, greek") << "link" << greek << "Ω";
+        QTest::newRow("edit box, a lone accent")
+            << "edit box" << q << QString(QChar(0x25CC)) + kAcute;
+    }
+
+    // Each place that takes typed text refuses what the file cannot hold, says which characters,
+    // and keeps the file as it was.
+    void textTheFileCannotHold() {
+        QFETCH(QString, where);
+        QFETCH(QString, typed);
+        QFETCH(QString, characters);
+        TeacherFixture f(kLists);
+        const QByteArray lists = f.lists();
+        const QByteArray folders = f.read("folders.dat");
+        const QString message = Refusal(typed, characters);
+        if (where == "new word" || where == "new definition") {
+            MakeNewList* m = OpenMaker("Birds");
+            m->word()->setText(where == "new word" ? typed : "owl");
+            m->meaning()->setText(where == "new word" ? "a bird" : typed);
+            m->addWord();
+            QCOMPARE(m->words()->count(), 0);
+            QCOMPARE(Focused(m), where == "new word" ? m->word() : m->meaning());
+        } else if (where == "edit box") {
+            EditList* edit = OpenEditor("Animals");
+            edit->select(0);
+            f.then<WordBox>([&](WordBox& box) {
+                box.word()->setText(typed);
+                box.meaning()->setText("a bird");
+                box.confirm();
+                QVERIFY(f.dialogs.saw(message) && box.isVisible());
+                QCOMPARE(Focused(&box), box.word());
+                box.reject();
+            });
+            edit->editWord();
+            QCOMPARE(edit->words()->count(), 2);
+            QCOMPARE(edit->words()->item(0)->text(), "cat");
+        } else if (where == "edit rename") {
+            EditList* e = OpenEditor("Animals");
+            f.dialogs.answerInput(typed);
+            e->renameList();
+            QCOMPARE(e->caption(), "Animals");
+        } else if (where == "create") {
+            CreateList c;
+            c.name()->setText(typed);
+            c.confirm();
+            QCOMPARE(c.result(), int(QDialog::Rejected));
+        } else if (where == "category") {
+            {
+                Categories c;
+                f.dialogs.answerInput(typed);
+                c.addCategory();
+                QCOMPARE(c.categories()->count(), 0);
+                f.dialogs.answerYes();
+                c.save();
+            }
+            QCOMPARE(f.read("folders.dat"), folders);
+        } else if (where == "merge") {
+            MergeForm merge;
+            merge.lists()->selectAll();
+            f.dialogs.answerYes().answerInput(typed);
+            merge.confirm();
+            QCOMPARE(merge.result(), int(QDialog::Rejected));
+        } else if (where == "link") {
+            // A list file in a folder whose name the settings file cannot hold is not linked.
+            const QString folder = f.path(typed);
+            QDir().mkpath(folder);
+            const QByteArray settings = f.read("wmdata.dat");
+            Manager m;
+            f.dialogs.answerYes();
+            f.dialogs.fileAnswers.push_back(folder + "/thelists.dat");
+            m.command("Link to Alternate Vocabulary List File");
+            QCOMPARE(f.dialogs.last(),
+                     "The file " + folder +
+                         "/thelists.dat cannot be linked: its "
+                         "name or folder has characters this program cannot store (it "
+                         "keeps Western European letters only). Move the file to a "
+                         "folder with a plainer name, then try again.");
+            QCOMPARE(f.read("wmdata.dat"), settings);
+        } else if (where == "build") {
+            // The name is asked for again, as for a taken one.
+            Manager m;
+            f.dialogs.answerInput(typed).answerInput(std::nullopt);
+            m.command("Create List from Existing Lists");
+            QCOMPARE(f.dialogs.texts().mid(1, 2),
+                     (QStringList{message, "Type in the name for your new vocabulary list."}));
+            QVERIFY(!f.opened.contains("BuildListForm"));
+        }
+        if (where != "link") QVERIFY2(f.dialogs.saw(message), qPrintable(f.dialogs.last()));
+        QCOMPARE(f.lists(), lists);
+    }
+
+    // "e" followed by a combining acute, as some keyboards send it, is the one byte of "é" in the
+    // file: in words, definitions and list names alike.
+    void accentTypedApartIsStoredComposed() {
+        const QString cafe = "cafe" + kAcute;
+        const QString creme = "cre" + QString(QChar(0x0300)) + "me";  // crème
+        TeacherFixture f(kLists);
+        CreateList create;
+        create.name()->setText(cafe);
+        create.confirm();
+        QCOMPARE(create.result(), int(QDialog::Accepted));
+        QCOMPARE(Shared().NewListName, "caf\xE9");
+
+        MakeNewList* m = OpenMaker(toQ(Shared().NewListName));
+        m->word()->setText(creme);
+        m->meaning()->setText(cafe + " au lait");
+        m->addWord();
+        QCOMPARE(m->words()->item(0)->text(), QString::fromUtf8("crème"));
+        f.dialogs.answerYes();
+        m->saveAndQuit();
+        QCOMPARE(f.lists(), f.crlf(kLists) + QByteArray("<New List>\r\ncaf\xE9\r\ncr\xE8me\r\n"
+                                                        "caf\xE9 au lait\r\n"));
+    }
+
+    // The settings may name a category file of another name. Readers then read its .lok name (kept
+    // so), which the editor would take for the categories and save over the real file: it refuses.
+    void categoryFileNotNamedFoldersDat() {
+        TeacherFixture f(kLists);
+        f.writeLines("cats.dat", {"^Zoo", "Animals"});
+        const QByteArray before = f.read("cats.dat");
+        Shared().FolderFilePath = f.path("cats.dat").toStdString();
+        const QString refusal =
+            "The category file " + f.path("cats.dat") +
+            " cannot be edited, because it is not named folders.dat: its categories cannot be read "
+            "safely while it is locked. Rename it to folders.dat (and change its path in the "
+            "settings file to match), then try again. The file has not been changed.";
+        Manager m;
+        m.command("List Categories");
+        QCOMPARE(f.dialogs.texts(), QStringList{refusal});
+        QCOMPARE(f.dialogs.shown.back().title, "Categories");
+        QVERIFY(!f.opened.contains("Categories"));
+        // Opened all the same, the box holds nothing and its save writes nothing.
         {
             Categories c;
-            f.dialogs.answerInput(typed);
-            c.addCategory();
-            QCOMPARE(f.dialogs.last(), message);
-            QCOMPARE(c.categories()->count(), 0);
+            QVERIFY(!c.loaded());
+            QCOMPARE(f.dialogs.last(), refusal);
             f.dialogs.answerYes();
             c.save();
         }
-        QCOMPARE(f.read("folders.dat"), folders);
-    } else if (where == "merge") {
-        MergeForm merge;
-        merge.lists()->selectAll();
-        f.dialogs.answerYes().answerInput(typed);
-        merge.confirm();
-        QCOMPARE(f.dialogs.last(), message);
-        QCOMPARE(merge.result(), int(QDialog::Rejected));
-    } else if (where == "link") {
-        // A list file in a folder whose name the settings file cannot hold is not linked.
-        const QString folder = f.path(typed);
-        QDir().mkpath(folder);
-        const QByteArray settings = f.read("wmdata.dat");
-        Manager m;
-        f.dialogs.answerYes();
-        f.dialogs.fileAnswers.push_back(folder + "/thelists.dat");
-        m.command("Link to Alternate Vocabulary List File");
-        QCOMPARE(f.dialogs.last(),
-                 "The file " + folder +
-                     "/thelists.dat cannot be linked: its "
-                     "name or folder has characters this program cannot store (it "
-                     "keeps Western European letters only). Move the file to a "
-                     "folder with a plainer name, then try again.");
-        QCOMPARE(f.read("wmdata.dat"), settings);
-    } else if (where == "build") {
-        // The name is asked for again, as for a taken one.
-        Manager m;
-        f.dialogs.answerInput(typed).answerInput(std::nullopt);
-        m.command("Create List from Existing Lists");
-        QCOMPARE(f.dialogs.texts().mid(1, 2),
-                 (QStringList{message, "Type in the name for your new vocabulary list."}));
-        QVERIFY(!f.opened.contains("BuildListForm"));
+        QCOMPARE(f.read("cats.dat"), before);
+        QVERIFY(!f.exists("cats.lok"));
     }
-    QCOMPARE(f.lists(), lists);
-}
-
-// "e" followed by a combining acute, as some keyboards send it, is the one byte of "é" in the
-// file: in words, definitions and list names alike.
-void TeacherTypingTest::accentTypedApartIsStoredComposed() {
-    const QString cafe = "cafe" + kAcute;
-    const QString creme = "cre" + QString(QChar(0x0300)) + "me";  // crème
-    TeacherFixture f(kLists);
-    CreateList create;
-    create.name()->setText(cafe);
-    create.confirm();
-    QCOMPARE(create.result(), int(QDialog::Accepted));
-    QCOMPARE(Shared().NewListName, "caf\xE9");
-
-    MakeNewList* m = OpenMaker(toQ(Shared().NewListName));
-    m->word()->setText(creme);
-    m->meaning()->setText(cafe + " au lait");
-    m->addWord();
-    QCOMPARE(m->words()->item(0)->text(), QString::fromUtf8("crème"));
-    f.dialogs.answerYes();
-    m->saveAndQuit();
-    QCOMPARE(f.lists(), f.crlf(kLists) +
-                            QByteArray("<New List>\r\ncaf\xE9\r\ncr\xE8me\r\ncaf\xE9 au lait\r\n"));
-}
-
-void TeacherTypingTest::passwordTheFileCannotHold() {
-    TeacherFixture f;
-    const QByteArray before = f.read("wmdata.dat");
-    {
-        ChangePassword box;
-        const QString russian = QString::fromUtf8("пароль");
-        box.field(0)->setText("mapleton");
-        box.field(1)->setText(russian);
-        box.field(2)->setText(russian);
-        box.confirm();
-        // The message does not show the password.
-        QCOMPARE(f.dialogs.last(), QString("The new password ") + kCannotStore +
-                                       ". Please choose a password without them.");
-        QCOMPARE(f.read("wmdata.dat"), before);
-        QVERIFY(box.success()->isHidden());
-        // An old password the file cannot hold is not the stored one, even where the stored
-        // one holds the "?" an older save made of such a character.
-        RewriteSettingsLine(Shared().AppPath, kPasswordLine, "maple?");
-        box.field(0)->setText(QString::fromUtf8("mapleΩ"));
-        box.field(1)->setText("owl");
-        box.field(2)->setText("owl");
-        box.confirm();
-        QCOMPARE(f.dialogs.last(),
-                 "One or more fields contains incorrect information. Please try again.");
-        QVERIFY(f.read("wmdata.dat").contains("\r\nmaple?\r\n"));
-        RewriteSettingsLine(Shared().AppPath, kPasswordLine, "mapleton");
-    }
-    ChangePassword box;
-    box.field(0)->setText("mapleton");
-    box.field(1)->setText("pa" + QString("u") + QChar(0x0308) + "se");  // päuse, typed apart
-    box.field(2)->setText(QString::fromUtf8("paüse"));
-    box.confirm();
-    QVERIFY(!box.success()->isHidden());
-    QVERIFY(f.read("wmdata.dat").contains("\r\npa\xFCse\r\n"));
-}
-
-// The settings may name a category file of another name. Readers then read its .lok name (kept
-// so), which the editor would take for the categories and save over the real file: it refuses.
-void TeacherTypingTest::categoryFileNotNamedFoldersDat() {
-    TeacherFixture f(kLists);
-    f.writeLines("cats.dat", {"^Zoo", "Animals"});
-    const QByteArray before = f.read("cats.dat");
-    Shared().FolderFilePath = f.path("cats.dat").toStdString();
-    const QString refusal =
-        "The category file " + f.path("cats.dat") +
-        " cannot be edited, because it is not named folders.dat: its categories cannot be read "
-        "safely while it is locked. Rename it to folders.dat (and change its path in the "
-        "settings file to match), then try again. The file has not been changed.";
-    Manager m;
-    m.command("List Categories");
-    QCOMPARE(f.dialogs.texts(), QStringList{refusal});
-    QCOMPARE(f.dialogs.shown.back().title, "Categories");
-    QVERIFY(!f.opened.contains("Categories"));
-    // Opened all the same, the box holds nothing and its save writes nothing.
-    {
-        Categories c;
-        QVERIFY(!c.loaded());
-        QCOMPARE(f.dialogs.last(), refusal);
-        f.dialogs.answerYes();
-        c.save();
-    }
-    QCOMPARE(f.read("cats.dat"), before);
-    QVERIFY(!f.exists("cats.lok"));
-}
+};
 
 QTEST_MAIN(TeacherTypingTest)
 #include "teacher_typing_test.moc"
