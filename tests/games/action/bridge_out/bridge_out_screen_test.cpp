@@ -51,8 +51,13 @@ void BridgeOutScreenTest::eightBridgesFromTheTitleToTheTable() {
                   {"emu", "a big bird"},
                   {"fox", "a red animal"}});
     WinDriver driver({"BOB"});
-    SetModalHook(std::ref(driver));
-    auto* game = qobject_cast<BridgeOutGame*>(PlayFromTitle("Bridge Out", "River Words", 2));
+    BridgeOutGame* game = nullptr;
+    bool rolling = false;  // the river flows on behind the end boxes
+    SetModalHook([&](QDialog& d) {
+        rolling = game && game->frame().findTimer("Timer1")->isActive();
+        driver(d);
+    });
+    game = qobject_cast<BridgeOutGame*>(PlayFromTitle("Bridge Out", "River Words", 2));
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Shared().SoundOn = kTrue;
     Pump(16);
@@ -91,6 +96,7 @@ void BridgeOutScreenTest::eightBridgesFromTheTitleToTheTable() {
     QVERIFY2(fx.dialogs.saw("You got a high score of 854! Would you like to try again?"),
              qPrintable(fx.dialogs.texts().join(" | ")));
     QCOMPARE(TableRow(fx, "Bridge Out"), "BOB 854");
+    QVERIFY(rolling);
     Pump();
     QVERIFY(Showing<Title>());
 }
