@@ -82,6 +82,8 @@ TEST(Strings, NumberTexts) {
     EXPECT_EQ(NumText(-3.5), "-3.5");
     EXPECT_EQ(NumText(0.75), "0.75");
     EXPECT_EQ(NumText(1.01), "1.01");
+    EXPECT_EQ(NumText(999999999999999), "999999999999999");  // whole numbers up to 15 digits
+    EXPECT_EQ(NumText(1e15), "1e+15");
     EXPECT_EQ(StrText(120), " 120");
     EXPECT_EQ(StrText(-0.5), "-.5");
     EXPECT_EQ(StrText(2.5), " 2.5");
