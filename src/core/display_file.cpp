@@ -24,12 +24,11 @@ bool DisplaySettings::isHidden(const std::string& game) const {
 
 DisplaySettings ReadDisplaySettings(const std::string& path) {
     DisplaySettings s = DisplaySettings::LargeIcons();
-    if (!FileExists(path)) return s;
     std::vector<std::string> lines;
     try {
         lines = ReadLines(path);
     } catch (const FileError&) {
-        return s;
+        return s;  // missing or unreadable: the large icons
     }
     if (lines.size() >= 6) {
         double scale = Val(lines[1]);

@@ -85,4 +85,16 @@ TEST(RandomWord, DrawsOnlyLoadedEntries) {
         }
         EXPECT_EQ(rng.randomizeCount, 1);
     }
+    // A count beyond the words held: the last one held, never one past it.
+    SharedState few;
+    few.Words = {"", "ant", "bee"};
+    few.Meanings = {"", "a", "b"};
+    few.WordCount = 5;
+    ScriptedRng top(0.99);
+    EXPECT_EQ(PickRandomWord(few, top), 2);
+    // The generator a test installs is the one every draw uses, until it is taken away.
+    SetRng(&top);
+    EXPECT_EQ(&TheRng(), &top);
+    SetRng(nullptr);
+    EXPECT_NE(&TheRng(), &top);
 }

@@ -84,6 +84,8 @@ TEST(Strings, NumberTexts) {
     EXPECT_EQ(NumText(1.01), "1.01");
     EXPECT_EQ(NumText(999999999999999), "999999999999999");  // whole numbers up to 15 digits
     EXPECT_EQ(NumText(1e15), "1e+15");
+    EXPECT_EQ(NumText(std::nan("")), "0");  // not a number, or endless: shown as 0
+    EXPECT_EQ(NumText(-HUGE_VAL), "0");
     EXPECT_EQ(StrText(120), " 120");
     EXPECT_EQ(StrText(-0.5), "-.5");
     EXPECT_EQ(StrText(2.5), " 2.5");
