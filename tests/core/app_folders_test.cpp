@@ -54,6 +54,20 @@ TEST(AppFolders, SeedingFillsOnlyWhatIsMissing) {
     SeedDataFolder({assets.path(), data.path(), true});
     EXPECT_EQ(data.read("wmdata.dat"), "factory wmdata.new");
 
+    // A data folder that cannot be made is named, with what to do.
+    data.write("blocker", "a file, not a folder");
+    const std::string blocked = data.file("blocker") + "/wordmere";
+    try {
+        SeedDataFolder({assets.path(), blocked, true});
+        ADD_FAILURE() << "no refusal";
+    } catch (const FileError& e) {
+        const std::string start = "The data folder " + blocked + " cannot be made (";
+        EXPECT_EQ(std::string(e.what()).substr(0, start.size()), start);
+        EXPECT_NE(std::string(e.what()).find("). Ask the person who looks after this computer to "
+                                             "make it, writable for you."),
+                  std::string::npos);
+    }
+
     // A build's folder is the program's own: nothing to seed.
     SeedDataFolder({assets.path(), data.file("build"), false});
     EXPECT_FALSE(data.exists("build"));

@@ -95,4 +95,8 @@ TEST(Categories, AFileOfAnotherNameIsNeverWrittenOver) {
     EnsureCategoryFile(app.path(), dir.file("elsewhere.dat"));
     EXPECT_TRUE(app.exists("folders.dat"));
     EXPECT_FALSE(dir.exists("elsewhere.dat"));
+    // A category file found at the path, unlocked: nothing is made beside the program.
+    TempFolder app2;
+    EnsureCategoryFile(app2.path(), dir.file("folders.dat"));
+    EXPECT_FALSE(app2.exists("folders.dat"));
 }

@@ -92,6 +92,9 @@ TEST(RandomWord, DrawsOnlyLoadedEntries) {
     few.WordCount = 5;
     ScriptedRng top(0.99);
     EXPECT_EQ(PickRandomWord(few, top), 2);
+    // Two games started apart draw apart: the system generator is seeded from the clock.
+    SystemRng first, second;
+    EXPECT_NE(first.Rnd(), second.Rnd());
     // The generator a test installs is the one every draw uses, until it is taken away.
     SetRng(&top);
     EXPECT_EQ(&TheRng(), &top);
