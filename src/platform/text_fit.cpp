@@ -1,6 +1,7 @@
 #include "platform/text_fit.h"
 
 #include <QFontMetrics>
+#include <QFontMetricsF>
 
 namespace wm::scene {
 
@@ -16,6 +17,12 @@ QFont shrinkToFit(QFont font, const QRect& box, const QString& text, int minPx) 
 
 QFont shrinkToWidth(QFont font, int width, const QString& text, int minPx) {
     while (font.pixelSize() > minPx && QFontMetrics(font).horizontalAdvance(text) > width)
+        font.setPixelSize(font.pixelSize() - 1);
+    return font;
+}
+
+QFont shrinkToWidth(QFont font, double width, const QString& text, int minPx) {
+    while (font.pixelSize() > minPx && QFontMetricsF(font).horizontalAdvance(text) > width)
         font.setPixelSize(font.pixelSize() - 1);
     return font;
 }

@@ -13,5 +13,7 @@ namespace wm::scene {
 QFont shrinkToFit(QFont font, const QRect& box, const QString& text, int minPx = 8);
 // The same for one line no wider than `width`.
 QFont shrinkToWidth(QFont font, int width, const QString& text, int minPx = 8);
+// The same against a width in fractions of a pixel, as a painted scene measures it.
+QFont shrinkToWidth(QFont font, double width, const QString& text, int minPx = 8);
 
 }  // namespace wm::scene

@@ -12,6 +12,7 @@
 #include "platform/scene_kit.h"
 #include "platform/services.h"
 #include "platform/text.h"
+#include "platform/text_fit.h"
 #include "platform/ticker.h"
 
 namespace wm {
@@ -244,9 +245,7 @@ void SlingField::buildTargets() {
         // The word fills the ribbon's middle, smaller for a long word.
         const QString word = toQ(game_->word(slot));
         const QRectF text = ribbon.adjusted(ribbon.width() * 0.12, 0, -ribbon.width() * 0.12, 0);
-        QFont f = boldFont(ribbon.height() * 0.56);
-        while (f.pixelSize() > 8 && QFontMetricsF(f).horizontalAdvance(word) > text.width())
-            f.setPixelSize(f.pixelSize() - 1);
+        const QFont f = scene::shrinkToWidth(boldFont(ribbon.height() * 0.56), text.width(), word);
         p.setFont(f);
         p.setPen(QColor(70, 30, 5));
         p.drawText(text.translated(0, -ribbon.height() * 0.06), Qt::AlignCenter, word);

@@ -8,6 +8,7 @@
 
 #include "platform/scene_kit.h"
 #include "platform/services.h"
+#include "platform/text_fit.h"
 #include "platform/ticker.h"
 
 namespace wm {
@@ -216,10 +217,9 @@ void Pond::buildScene() {
         const QRectF plate(width() * 0.008, stone.y() - laneH_ * 0.62, width() * 0.078,
                            laneH_ * 0.5);
         draw(toad == 0 ? "plate_1" : "plate_0", plate);
-        QFont f = scene::boldFont(int(plate.height() * 0.42));
         const QString name = toadName(toad);
-        while (f.pixelSize() > 8 && QFontMetricsF(f).horizontalAdvance(name) > plate.width() * 0.84)
-            f.setPixelSize(f.pixelSize() - 1);
+        const QFont f =
+            scene::shrinkToWidth(scene::boldFont(int(plate.height() * 0.42)), plate.width() * 0.84, name);
         p.setFont(f);
         p.setPen(toad == 0 ? QColor(90, 40, 0) : QColor(255, 246, 220));
         p.drawText(plate.adjusted(0, -plate.height() * 0.08, 0, 0), Qt::AlignCenter, name);

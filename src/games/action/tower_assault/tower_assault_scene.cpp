@@ -10,6 +10,7 @@
 #include "platform/scene_kit.h"
 #include "platform/services.h"
 #include "platform/text.h"
+#include "platform/text_fit.h"
 #include "platform/ticker.h"
 
 namespace wm {
@@ -295,9 +296,7 @@ const QPixmap& TowerScene::scrollPicture(const QString& word) {
     p.setRenderHint(QPainter::Antialiasing);
     const QRectF box = QRectF(pm.rect()).adjusted(pm.width() * 0.13, pm.height() * 0.14,
                                                   -pm.width() * 0.13, -pm.height() * 0.16);
-    QFont f = boldFont(box.height() * 0.8);
-    while (f.pixelSize() > 8 && QFontMetricsF(f).horizontalAdvance(word) > box.width())
-        f.setPixelSize(f.pixelSize() - 1);
+    const QFont f = scene::shrinkToWidth(boldFont(box.height() * 0.8), box.width(), word);
     p.setFont(f);
     p.setPen(QColor(92, 52, 18));
     p.drawText(box, Qt::AlignCenter, word);

@@ -10,6 +10,7 @@
 #include "platform/scene_kit.h"
 #include "platform/services.h"
 #include "platform/text.h"
+#include "platform/text_fit.h"
 #include "platform/ticker.h"
 
 namespace wm {
@@ -135,8 +136,7 @@ void SlotScene::composeBack() {
     const QRectF sign = QRectF(marquee_).adjusted(marquee_.height() * 0.45, marquee_.height() * 0.2,
                                                   -marquee_.height() * 0.45, -marquee_.height() * 0.2);
     const QString text = QString("JACKPOT %1").arg(jackpotFor(game_.level()));
-    QFont f = scene::boldFont(int(sign.height() * 0.7));
-    while (f.pixelSize() > 10 && QFontMetricsF(f).horizontalAdvance(text) > sign.width()) f.setPixelSize(f.pixelSize() - 1);
+    const QFont f = scene::shrinkToWidth(scene::boldFont(int(sign.height() * 0.7)), sign.width(), text, 10);
     p.setFont(f);
     p.setPen(QColor(120, 30, 0));
     p.drawText(sign.translated(2, 3), Qt::AlignCenter, text);
@@ -185,8 +185,7 @@ const QPixmap& SlotScene::wordPicture(int entry) {
     const SharedState& s = Shared();
     const QString text = entry > 0 && entry < int(s.Words.size()) ? toQ(s.Words[entry]) : QString();
     // The largest letters that keep the word on its reel; a very long one is cut short.
-    QFont f = scene::boldFont(int(size.height() * 0.72));
-    while (f.pixelSize() > 9 && QFontMetricsF(f).horizontalAdvance(text) > size.width()) f.setPixelSize(f.pixelSize() - 1);
+    const QFont f = scene::shrinkToWidth(scene::boldFont(int(size.height() * 0.72)), double(size.width()), text, 9);
     QPainter p(&pm);
     p.setRenderHint(QPainter::Antialiasing);
     p.setFont(f);
@@ -367,9 +366,7 @@ void SlotScene::paintBanner(QPainter& p) {
     const double k = 0.6 + 0.4 * easeOut(u) + 0.06 * std::sin(M_PI * u);
     const QRectF box(window_.left() + window_.width() * 0.06, window_.top() + window_.height() * 0.03,
                      window_.width() * 0.88, window_.height() * 0.28);
-    QFont f = scene::boldFont(int(box.height() * 0.55));
-    while (f.pixelSize() > 10 && QFontMetricsF(f).horizontalAdvance(banner_) > box.width() * 0.92)
-        f.setPixelSize(f.pixelSize() - 1);
+    const QFont f = scene::shrinkToWidth(scene::boldFont(int(box.height() * 0.55)), box.width() * 0.92, banner_, 10);
     p.save();
     p.translate(box.center());
     p.scale(k, k);
