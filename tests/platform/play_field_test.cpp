@@ -123,13 +123,12 @@ private slots:
             for (int y = 0; y < 30; ++y) {
                 for (int x = 0; x < 40; ++x) {
                     const QRgb want = covered.contains(x, y) ? qRgb(0, 0, 255) : back.pixel(x, y);
-                    if (field.surface().pixel(x, y) != want) {
-                        QFAIL(qPrintable(QStringLiteral("copy to %1,%2 wrong at %3,%4")
+                    if (field.surface().pixel(x, y) != want)
+                        QFAIL(qPrintable(QString("copy to %1,%2 wrong at %3,%4")
                                              .arg(at.x())
                                              .arg(at.y())
                                              .arg(x)
                                              .arg(y)));
-                    }
                 }
             }
         }
@@ -152,34 +151,29 @@ private slots:
         QVERIFY(field.save({50, 50, 5, 5}).isNull());
     }
 
-    void screenMappingKeepsAspect_data() {
-        QTest::addColumn<QSize>("widget");
-        QTest::addColumn<QRect>("target");
-        QTest::newRow("wide screen: bars left and right")
-            << QSize(1920, 1080) << QRect(240, 0, 1440, 1080);
-        QTest::newRow("tall: bars above and below") << QSize(640, 600) << QRect(0, 60, 640, 480);
-        QTest::newRow("exact") << QSize(640, 480) << QRect(0, 0, 640, 480);
-        QTest::newRow("laptop") << QSize(1280, 800) << QRect(107, 0, 1066, 800);
-    }
-
     void screenMappingKeepsAspect() {
-        QFETCH(QSize, widget);
-        QFETCH(QRect, target);
-        PlayField field({640, 480});
-        field.resize(widget);
-        QCOMPARE(field.targetRect(), target);
-        QCOMPARE(field.toLogical(target.topLeft()), QPoint(0, 0));
-        QCOMPARE(field.toLogical(target.bottomRight()), QPoint(639, 479));
-        QVERIFY(field.toLogical(target.topLeft() - QPoint(1, 1)).x() < 0);
-        // A logical rectangle's widget area covers every screen pixel that maps back into it,
-        // and no more than the pixels it touches.
-        for (const QRect logical :
-             {QRect(0, 0, 1, 1), QRect(100, 200, 32, 32), QRect(639, 479, 1, 1)}) {
-            const QRect w = field.toWidget(logical);
-            QVERIFY(logical.contains(field.toLogical(w.center())));
-            QVERIFY(!logical.contains(field.toLogical(w.topLeft() - QPoint(1, 1))));
-            QVERIFY(!logical.contains(field.toLogical(w.bottomRight() + QPoint(1, 1))));
-            QVERIFY(w.width() <= int(std::ceil(logical.width() * target.width() / 640.0)) + 1);
+        // Bars left and right on a wide screen, above and below on a tall one.
+        const std::pair<QSize, QRect> rows[] = {{{1920, 1080}, {240, 0, 1440, 1080}},
+                                                {{640, 600}, {0, 60, 640, 480}},
+                                                {{640, 480}, {0, 0, 640, 480}},
+                                                {{1280, 800}, {107, 0, 1066, 800}}};
+        for (const auto& [widget, target] : rows) {
+            PlayField field({640, 480});
+            field.resize(widget);
+            QCOMPARE(field.targetRect(), target);
+            QCOMPARE(field.toLogical(target.topLeft()), QPoint(0, 0));
+            QCOMPARE(field.toLogical(target.bottomRight()), QPoint(639, 479));
+            QVERIFY(field.toLogical(target.topLeft() - QPoint(1, 1)).x() < 0);
+            // A logical rectangle's widget area covers every screen pixel that maps back into it,
+            // and no more than the pixels it touches.
+            for (const QRect logical :
+                 {QRect(0, 0, 1, 1), QRect(100, 200, 32, 32), QRect(639, 479, 1, 1)}) {
+                const QRect w = field.toWidget(logical);
+                QVERIFY(logical.contains(field.toLogical(w.center())));
+                QVERIFY(!logical.contains(field.toLogical(w.topLeft() - QPoint(1, 1))));
+                QVERIFY(!logical.contains(field.toLogical(w.bottomRight() + QPoint(1, 1))));
+                QVERIFY(w.width() <= int(std::ceil(logical.width() * target.width() / 640.0)) + 1);
+            }
         }
     }
 
