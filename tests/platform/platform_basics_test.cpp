@@ -290,8 +290,7 @@ private slots:
         const QByteArray pcm = RenderMidi(midi, 5.0);
         QCOMPARE(pcm.size(), qsizetype(5 * kRate * 4));
         const auto [rms, peak] = levelOf(pcm, 0.05, 2.0);
-        QVERIFY(rms > 300);
-        QVERIFY(peak < 32000);  // a modest gain: no clipping on a simple tune
+        QVERIFY(rms > 300 && peak < 32000);  // a modest gain: no clipping on a simple tune
         // Background music goes round again: the file ends at two seconds.
         QVERIFY(levelOf(pcm, 4.1, 4.9).first > 300);
         // The same file renders the same samples: nothing depends on the wall clock.
@@ -303,8 +302,7 @@ private slots:
         auto* child = new QLineEdit(&screen);  // takes arrow keys for itself
         KeyState keys(&screen);
         key(child, QEvent::KeyPress, Qt::Key_Left);
-        QVERIFY(keys.isDown(Qt::Key_Left));
-        QVERIFY(!keys.isDown(Qt::Key_Right));
+        QVERIFY(keys.isDown(Qt::Key_Left) && !keys.isDown(Qt::Key_Right));
         // The keyboard repeating: release and press pairs marked auto-repeat change nothing.
         for (int i = 0; i < 3; ++i) {
             key(child, QEvent::KeyRelease, Qt::Key_Left, true);
@@ -317,8 +315,7 @@ private slots:
         // Keys to a window that is not the screen are not ours.
         QWidget other;
         key(&other, QEvent::KeyPress, Qt::Key_Up);
-        QVERIFY(!keys.isDown(Qt::Key_Up));
-        QVERIFY(!keys.takePressed(Qt::Key_Up));
+        QVERIFY(!keys.isDown(Qt::Key_Up) && !keys.takePressed(Qt::Key_Up));
     }
 
     void pressedSinceLastReadIsOneShot() {
@@ -387,8 +384,7 @@ private slots:
         QCOMPARE(qRed(sheet.frame("walk", 5).pixel(3, 3)), 150);
         QCOMPARE(qRed(sheet.frame("walk_6").pixel(0, 0)), 180);
         QVERIFY(sheet.frame("walk", 8).isNull() && sheet.frame("walk", -1).isNull());
-        QVERIFY(sheet.frame("run", 0).isNull());
-        QVERIFY(sheet.error().isEmpty());
+        QVERIFY(sheet.frame("run", 0).isNull() && sheet.error().isEmpty());
         QCOMPARE(SpriteSheet::fromGrid(path, "walk", {10, 8}, 3).frameCount("walk"), 3);
         // Cells that do not fill the picture exactly: the ragged edge is left out.
         QCOMPARE(SpriteSheet::fromGrid(path, "walk", {15, 8}).frameCount("walk"), 4);
@@ -400,8 +396,7 @@ private slots:
         }
         const QString missing = dir.filePath("nothing.png");
         const SpriteSheet none = SpriteSheet::fromGrid(missing, "walk", {10, 8});
-        QVERIFY(none.isEmpty() && none.error().contains(missing));
-        QVERIFY(none.frame("walk_0").isNull());
+        QVERIFY(none.isEmpty() && none.error().contains(missing) && none.frame("walk_0").isNull());
     }
 
     void spriteSvgFramesByElementId() {

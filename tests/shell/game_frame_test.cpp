@@ -17,11 +17,8 @@ namespace {
 // A game with nothing of its own: it counts the rounds it was asked to start.
 class TinyGame : public QWidget {
 public:
-    TinyGame() : frame(this, names(), [this] { ++starts; }) { setWindowTitle("Tiny"); }
-    static GameMenuNames names() {
-        GameMenuNames n;
-        n.foreignKey = "tinykey";
-        return n;
+    TinyGame() : frame(this, {.foreignKey = "tinykey"}, [this] { ++starts; }) {
+        setWindowTitle("Tiny");
     }
     GameFrame frame;
     int starts = 0;
@@ -93,8 +90,7 @@ private slots:
         int ticks = 0;
         game->frame.timer("Timer1", 100, [&] { ++ticks; }).start();
         QTest::keyClick(game, Qt::Key_Escape);
-        QVERIFY(game->frame.leaving());
-        QVERIFY(!game->frame.findTimer("Timer1")->isActive());
+        QVERIFY(game->frame.leaving() && !game->frame.findTimer("Timer1")->isActive());
         QVERIFY(Showing<Title>() != nullptr);
         QVERIFY(fx->music.closes >= 1);
         // A second Quit (a box answered late, a key still queued) does nothing.
@@ -194,8 +190,7 @@ private slots:
         Shared().SoundOn = kTrue;
         game->frame.setMusic(MusicKind::Own, "crossword.mid");
         game->frame.startMusic();
-        QVERIFY(game->frame.musicOpen());
-        QVERIFY(fx->music.opened.endsWith("sounds/crossword.mid"));
+        QVERIFY(game->frame.musicOpen() && fx->music.opened.endsWith("sounds/crossword.mid"));
         QCOMPARE(Shared().BgmOpen, kFalse);  // a flag of its own, not the shared one
         game->frame.startMusic();
         QCOMPARE(fx->music.plays, 1);
@@ -208,7 +203,7 @@ private slots:
         QCOMPARE(fx->music.plays, 1);  // sound off: no music
         Shared().SoundOn = kTrue;
         game->frame.startMusic();
-        QCOMPARE(Shared().BgmOpen, kTrue);
+        QVERIFY(Shared().BgmOpen == kTrue && game->frame.musicOpen());
         game->frame.quit();
         QCOMPARE(Shared().BgmOpen, kFalse);
     }
@@ -255,13 +250,9 @@ private slots:
             for (bool a : r.answers) fx->dialogs.answerYes(a);
             s.Score = 1234.75;  // made whole before the table is searched
             EndTexts end;
-            if (r.money) {
+            if (r.money)
                 end.placed =
                     "You won a cash and prize total of ${score}! Would you like to try again?";
-                end.notPlaced =
-                    "Congratulations! Your cash and prize total for this game was ${score}! "
-                    "Would you like to try again?";
-            }
             game->frame.wonGame(end);
             QStringList asked;
             for (const auto& shown : fx->dialogs.shown) {
@@ -319,6 +310,13 @@ private slots:
         QVERIFY(!game->frame.sayIt());
         QCOMPARE(entry->toolTip(), "Your teacher has turned off speech in Teacher Management.");
         QCOMPARE(voice.said.size(), 2);
+        // Where finding the word is the game: the word once shown, else the meaning once shown.
+        Shared().TheWord = "perro";
+        Shared().TheMeaning = "dog";
+        QCOMPARE(SecretWord(true, true).text, "perro");
+        QVERIFY(SecretWord(false, true).text == "dog" &&
+                SecretWord(false, true).side == ListSide::Meaning);
+        QVERIFY(SecretWord(false, false).text.isEmpty() && !SecretWord(false, false).why.isEmpty());
     }
 };
 

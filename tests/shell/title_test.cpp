@@ -45,8 +45,8 @@ private slots:
         ShellFixture fx;
         Title* title = OpenTitle();
         QVERIFY(title && title->startedOk());
-        QVERIFY(fx.exists("wmdata.dat") && !fx.exists("wmdata.new"));
-        QVERIFY(fx.exists("thelists.dat") && !fx.exists("thelists.new"));
+        for (const char* name : {"wmdata", "thelists"})
+            QVERIFY(fx.exists(name + QString(".dat")) && !fx.exists(name + QString(".new")));
         QVERIFY(fx.exists("folders.dat"));
         for (auto name : kGameNames) {
             const QString file =
@@ -166,8 +166,7 @@ private slots:
         Pump(60);
         QTest::keyClick(splash, Qt::Key_Space);
         Pump();
-        QVERIFY(Showing<Title>() != nullptr);
-        QVERIFY(fx.sound.stops >= 1);
+        QVERIFY(Showing<Title>() != nullptr && fx.sound.stops >= 1);
     }
 
     void pickRoutesByGame() {
@@ -232,6 +231,7 @@ private slots:
             OpenTitle();
             Shared().CurrentGame = game.toStdString();
             HighScoreForm form;
+            QCOMPARE(form.objectName(), "HighScoreForm");
             QCOMPARE(form.tableText(), table);
             bool headed = false;
             for (auto* l : form.findChildren<QLabel*>())
