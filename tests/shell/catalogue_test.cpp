@@ -13,10 +13,13 @@
 #include <string>
 #include <tuple>
 
+#include "../support/chooser_texts.h"
 #include "core/game_names.h"
 
 namespace wm {
 namespace {
+
+using namespace wm::test;
 
 // Throws on an unknown name, so a failed lookup fails the test instead of crashing it.
 const GameCard& Get(std::string_view name) {
@@ -42,11 +45,9 @@ TEST(Catalogue, FindCardIgnoresCaseOnly) {
     EXPECT_EQ(Get("BOMB SQUAD 2").name, "Bomb Squad 2");
     EXPECT_EQ(Get("bomb squad").name, "Bomb Squad");  // not its longer twin
     EXPECT_EQ(Get("breakthru").index, 7);
-    EXPECT_EQ(FindCard(""), nullptr);
-    EXPECT_EQ(FindCard("Hang Man"), nullptr);
-    EXPECT_EQ(FindCard("Quiz "), nullptr);
-    EXPECT_EQ(FindCard("vocabulary quiz"), nullptr);  // the options screen's dead Back test
-    EXPECT_EQ(FindCard("Title"), nullptr);            // the high-score screen's pseudo game
+    // Nor the options screen's dead Back test, nor the high-score screen's pseudo game.
+    for (const char* name : {"", "Hang Man", "Quiz ", "vocabulary quiz", "Title"})
+        EXPECT_EQ(FindCard(name), nullptr) << name;
 }
 
 TEST(Catalogue, FirstScreenAndClampingFollowTheListFirstGames) {
@@ -214,43 +215,6 @@ TEST(Catalogue, HowToTextsBeginAsGivenAndStayReadable) {
 
 using W = WordsOnlyRule;
 using C = CountRule;
-
-const std::string kM1 =
-    "The list you have selected contains words only, with no definitions, and cannot be used "
-    "for this game. Please choose another game or another list.";
-const std::string kM2 =
-    "The list you have selected contains words only, with no definitions, and cannot be played "
-    "with this game. Please choose another game or another list.";
-const std::string kW1 =
-    "The list you have selected contains words only, with no definitions. The word meaning "
-    "will not be displayed during the game.";
-const std::string kW2 =
-    "The list you have selected contains words only, with no definitions. The <hint> button "
-    "will not be available during the game.";
-const std::string kE1 =
-    "There are not enough words in this vocabulary list to play this game! Please choose "
-    "another list or another game.";
-const std::string kE2 =
-    "There are not enough words in this vocabulary list to play this game at the level you have "
-    "chosen! Please choose another list or go back and lower the difficulty level.";
-const std::string kCannon =
-    "The list you have selected contains words only, with no definitions. During the game, the "
-    "word meaning will not be displayed (making this game a bit harder than it would be "
-    "otherwise...)";
-const std::string kFlash =
-    "The list you have selected contains words only, with no definitions, and cannot be used "
-    "for flash cards. Please choose another game or another list.";
-const std::string kQuiz =
-    "The list you have selected contains words only, with no definitions, and cannot be used "
-    "for a quiz. Please choose another game or another list.";
-const std::string kSearch =
-    "The list you have selected contains words only, with no definitions. The word clue will "
-    "be the word and not the definition...";
-
-std::string N(int k) {
-    return "You need a list with at least " + std::to_string(k) +
-           " words to play this game. Please choose another game or another list.";
-}
 
 struct Row {
     const char* game;

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QtTest>
 
+#include "chooser_texts.h"
 #include "core/line_file.h"
 #include "game_road.h"
 #include "shell/lang_choose.h"
@@ -63,62 +64,40 @@ private slots:
 
     void wordsOnlyListsAreRefusedOrWarned() {
         // One game for each way of meeting a words-only list, the option on.
-        const QString refused =
-            "The list you have selected contains words only, with no definitions, and cannot be "
-            "used for this game. Please choose another game or another list.";
         const struct {
             const char* game;
-            int difficulty;
             QString message;
             bool optionAfter;
-            QString opens;  // empty: the chooser stays
-        } rows[] = {
-            {"Pachinko", 5, refused, true, ""},
-            {"Word Zap", 2, refused, true, ""},  // the option on
-            {"Word Search", 5,
-             "The list you have selected contains words only, with no definitions. The word clue "
-             "will be the word and not the definition...",
-             false, "WordSearchForm"},
-            // Kept by the chooser, then inverted by the game as it loads.
-            {"Scramble", 1,
-             "The list you have selected contains words only, with no definitions. The <hint> "
-             "button will not be available during the game.",
-             false, "Scramble"},
-            {"Hang Glider", 4, "", true, "HangGlider"}};
+            QString opens;
+        } rows[] = {{"Pachinko", kM1, true, "ChooseList"},
+                    {"Word Zap", kM1, true, "ChooseList"},  // the option on
+                    {"Word Search", kSearch, false, "WordSearchForm"},
+                    // Kept by the chooser, then inverted by the game as it loads.
+                    {"Scramble", kW2, false, "Scramble"},
+                    {"Hang Glider", "", true, "HangGlider"}};
         for (const auto& r : rows) {
             ShellFixture fx;
             ChooseList* chooser = OpenChooser(fx, r.game);
-            Shared().Difficulty = r.difficulty;
             Shared().GameOptionOn = kTrue;
             QVERIFY(chooser->lists()->isVisible());
             QVERIFY(SelectList(chooser, "Tricky Spelling Words (") >= 0);
             chooser->continueOn();
             QCOMPARE(fx.dialogs.texts().value(0), r.message);
             QCOMPARE(Shared().GameOptionOn == kTrue, r.optionAfter);
-            QCOMPARE(CurrentScreen()->objectName(), r.opens.isEmpty() ? "ChooseList" : r.opens);
-            if (r.opens.isEmpty()) QCOMPARE(CurrentScreen(), chooser);
+            QCOMPARE(CurrentScreen()->objectName(), r.opens);
         }
     }
 
     void countBoundaries() {
         // Each side of a fixed minimum and of the difficulty (7) as the minimum.
-        const QString fewer =
-            "There are not enough words in this vocabulary list to play this game! Please choose "
-            "another list or another game.";
         const struct {
             const char* game;
             int minimum;
             QString message;
-        } rows[] = {
-            {"Pachinko", 5,
-             "You need a list with at least 5 words to play this game. Please choose another "
-             "game or another list."},
-            {"Basketball", 10, fewer},
-            {"Quiz", 7, fewer},
-            {"Concentration", 7,
-             "There are not enough words in this vocabulary list to play this game at the level "
-             "you have chosen! Please choose another list or go back and lower the difficulty "
-             "level."}};
+        } rows[] = {{"Pachinko", 5, QString::fromStdString(N(5))},
+                    {"Basketball", 10, kE1},
+                    {"Quiz", 7, kE1},
+                    {"Concentration", 7, kE2}};
         for (const auto& r : rows) {
             for (int words : {r.minimum, r.minimum - 1}) {
                 ShellFixture fx;
@@ -159,10 +138,9 @@ private slots:
             // The box shows the plain name; the code goes to the foreign table.
             QVERIFY(SelectList(chooser, odd ? "Odd (2 words)" : "Spanish Animals (") >= 0);
             chooser->continueOn();
-            QCOMPARE(asked, odd ? QString("French - English words, French meanings | French - "
-                                          "French words, English meanings")
-                                : QString("Spanish - English words, Spanish meanings | Spanish - "
-                                          "Spanish words, English meanings"));
+            QCOMPARE(asked,
+                     QString("%1 - English words, %1 meanings | %1 - %1 words, English meanings")
+                         .arg(odd ? "French" : "Spanish"));
             const SharedState& s = Shared();
             QCOMPARE(QString::fromStdString(s.CurrentListName), odd ? "Odd" : "Spanish Animals");
             QCOMPARE(QString::fromStdString(s.ListLanguage), r.language);

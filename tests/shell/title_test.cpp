@@ -23,11 +23,6 @@ Title* OpenTitle(QWidget* from = nullptr) {
     return qobject_cast<Title*>(OpenScreen("Title", from));
 }
 
-void WriteHidden(const ShellFixture& fx, DisplaySettings d, int shown) {
-    d.hidden.assign(kGameNames.begin() + shown, kGameNames.end());
-    WriteDisplaySettings(fx.path("wmgdisplay.dat").toStdString(), d);
-}
-
 class FlashScene : public MovieScene {
 public:
     double duration() const override { return 0.1; }
@@ -88,10 +83,8 @@ private slots:
             QCOMPARE(title->noListsLabel()->isVisible(), r.noLists);
             QCOMPARE(title->noListsLabel()->text(), "No Lists Available!");
             QVERIFY(title->buttons().first()->isVisible());  // the buttons stay
-            QCOMPARE(fx.dialogs.texts(),
-                     r.noLists
-                         ? QStringList{"There are no vocabulary lists available to play with!"}
-                         : QStringList{});
+            QCOMPARE(fx.dialogs.texts().join('|'),
+                     r.noLists ? "There are no vocabulary lists available to play with!" : "");
             const bool on = r.sound == "Sound On";
             QCOMPARE(Shared().SoundDefault, on ? kTrue : kFalse);
             Pump(50);
@@ -112,23 +105,18 @@ private slots:
         QVERIFY(fx.exists("scores/Pachinko.dat"));
         QCOMPARE(title->pageSize(), 15);
         for (auto* b : title->buttons()) QVERIFY(b->text() != "Quiz" && b->text() != "Froggy");
-
-        // Every game hidden: no buttons, no error.
-        WriteHidden(fx, d, 0);
-        Title* empty = OpenTitle(title);
-        QVERIFY(empty && empty->startedOk());
-        for (auto* b : empty->buttons()) QVERIFY(!b->isVisible());
-        QVERIFY(!empty->moreButton()->isVisible());
     }
 
     void pagesAtTheEdge() {
-        // Twelve a page: More shows exactly while games remain past the page.
+        // Twelve a page: More shows exactly while games remain past the page. None shown: no error.
         const struct {
             int shown, pages, onLastPage;
-        } rows[] = {{12, 1, 12}, {13, 2, 1}, {24, 2, 12}, {1, 1, 1}};
+        } rows[] = {{12, 1, 12}, {13, 2, 1}, {24, 2, 12}, {1, 1, 1}, {0, 1, 0}};
         for (const auto& r : rows) {
             ShellFixture fx;
-            WriteHidden(fx, DisplaySettings::LargeIcons(), r.shown);
+            DisplaySettings d = DisplaySettings::LargeIcons();
+            d.hidden.assign(kGameNames.begin() + r.shown, kGameNames.end());
+            WriteDisplaySettings(fx.path("wmgdisplay.dat").toStdString(), d);
             Title* title = OpenTitle();
             QVERIFY(title && title->startedOk());
             QCOMPARE(Shared().VisibleGameCount, r.shown);
@@ -258,34 +246,7 @@ private slots:
     }
 
     // The opening film's player: one pass and loops on the test clock, stop, continuations.
-    void filmStopEndsWithItsContinuation() {
-        Movie movie;
-        QVERIFY(movie.load(QStringLiteral("wmsplash")));
-        QSignalSpy finished(&movie, &Movie::finished);
-        int calls = 0;
-        movie.play(false, [&] { ++calls; });
-        movie.advance(1.0);
-        movie.stop();
-        QVERIFY(!movie.isPlaying());
-        QCOMPARE(calls, 1);
-        QCOMPARE(finished.count(), 1);
-        QVERIFY(movie.position() >= 1.0 && movie.position() < 2.0);
-        movie.stop();
-        QCOMPARE(calls, 1);
-
-        // The continuation may delete the player.
-        auto* doomed = new Movie;
-        QVERIFY(doomed->load(QStringLiteral("wmsplash")));
-        bool done = false;
-        doomed->play(false, [&] {
-            done = true;
-            delete doomed;
-        });
-        doomed->advance(100);
-        QVERIFY(done);
-    }
-
-    void filmClockDrivesThePass() {
+    void filmRunsOnTheTestClockAndStops() {
         // The continuation runs when exactly the film's length has gone.
         RegisterScene(QStringLiteral("flash"), [] { return std::make_unique<FlashScene>(); });
         Movie movie;
@@ -299,7 +260,6 @@ private slots:
         QVERIFY(!done && movie.isPlaying());
         Ticker::get().advance(1);
         QVERIFY(done);
-        QCOMPARE(finished.count(), 1);
         Ticker::get().advance(1000);
         QCOMPARE(finished.count(), 1);
         QCOMPARE(movie.position(), 0.1);
@@ -313,15 +273,20 @@ private slots:
         Ticker::get().advance(1);
         QVERIFY(done);
 
-        // A loop never ends by itself, and wraps inside its length.
+        // A loop never ends by itself, and wraps inside its length. Stop ends it once, where it
+        // stood, with its continuation.
         int loops = 0;
         movie.play(true, [&] { ++loops; });
         Ticker::get().advance(1234);
-        QVERIFY(movie.isPlaying());
-        QCOMPARE(loops, 0);
-        QVERIFY(movie.position() < 0.1);
+        QVERIFY(movie.isPlaying() && loops == 0);
+        const double at = movie.position();
+        QVERIFY(at > 0 && at < 0.1);
         movie.stop();
+        movie.stop();
+        QVERIFY(!movie.isPlaying());
         QCOMPARE(loops, 1);
+        QCOMPARE(finished.count(), 3);
+        QCOMPARE(movie.position(), at);
 
         // With nothing loaded a waiting screen still goes on, on the next tick of the clock.
         Movie empty;
@@ -330,6 +295,17 @@ private slots:
         empty.play(true, [&] { emptyDone = true; });
         Ticker::get().advance(0);
         QVERIFY(emptyDone && !empty.isPlaying());
+
+        // The continuation may delete the player.
+        auto* doomed = new Movie;
+        QVERIFY(doomed->load(QStringLiteral("wmsplash")));
+        bool deleted = false;
+        doomed->play(false, [&] {
+            delete doomed;
+            deleted = true;
+        });
+        doomed->advance(100);
+        QVERIFY(deleted);
     }
 };
 
