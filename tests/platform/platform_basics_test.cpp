@@ -180,8 +180,7 @@ private slots:
                     {O, std::vector<bool>(kMaxVoices, true), false, 0, false}};  // cap: the oldest
         for (const auto& r : rows) {
             const VoicePlan plan = PlanVoice(r.mode, r.mine, r.other);
-            QCOMPARE(plan.voice, r.voice);
-            QCOMPARE(plan.stopOthers, r.stopOthers);
+            QCOMPARE(std::pair(plan.voice, plan.stopOthers), std::pair(r.voice, r.stopOthers));
         }
     }
 
@@ -203,9 +202,8 @@ private slots:
             QtSound sound(dir.path());
             Shared().SoundOn = kTrue;
             for (const char* name :
-                 {"missing", "short", "lying.wav", "text", "good", "GOOD.WAV", ""}) {
+                 {"missing", "short", "lying.wav", "text", "good", "GOOD.WAV", ""})
                 sound.effect(QString::fromLatin1(name));
-            }
             for (int i = 0; i < kMaxVoices + 2; ++i) sound.effect("good", SoundMode::Overlap);
             sound.effect("good", SoundMode::NoInterrupt);
             sound.effect("short", SoundMode::Overlap);
@@ -240,8 +238,7 @@ private slots:
             {{1920, 1080}, 1.2, 0, -60}, {{1280, 1024}, 1.024, -179.2, 0}, {{800, 500}, 0.5, 0, 0}};
         for (const Row& r : rows) {
             const QTransform t = scene::coverStage(r.screen, {1600, 1000});
-            QCOMPARE(t.m11(), r.scale);
-            QCOMPARE(t.m22(), r.scale);
+            QCOMPARE(QPointF(t.m11(), t.m22()), QPointF(r.scale, r.scale));
             QCOMPARE(QPointF(t.dx(), t.dy()), QPointF(r.dx, r.dy));
         }
         QCOMPARE(scene::coverStage({800, 600}, {}), QTransform());

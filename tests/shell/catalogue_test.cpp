@@ -207,9 +207,7 @@ TEST(Catalogue, HowToTextsBeginAsGivenAndStayReadable) {
         EXPECT_TRUE(seen.insert(text).second) << "shares its text with another game";
         EXPECT_EQ(text.find("  "), std::string::npos);
         EXPECT_NE(text.back(), ' ');
-        for (char c : text) {
-            EXPECT_TRUE(c >= 0x20 && c < 0x7f) << "not plain ASCII: " << int(c);
-        }
+        for (char c : text) EXPECT_TRUE(c >= 0x20 && c < 0x7f) << "not plain ASCII: " << int(c);
     }
 }
 

@@ -66,8 +66,7 @@ private slots:
         QCOMPARE(fx->dialogs.last(), "Play nicely.");
         QCOMPARE(fx->dialogs.shown.back().title, "How To Play");
         QVERIFY(TriggerMenu(game, "RS"));
-        QCOMPARE(game->starts, 1);
-        QCOMPARE(game->frame.round(), 1);
+        QVERIFY(game->starts == 1 && game->frame.round() == 1);
     }
 
     void paletteMovesCurrentGameToTheKey() {
@@ -91,8 +90,7 @@ private slots:
         game->frame.timer("Timer1", 100, [&] { ++ticks; }).start();
         QTest::keyClick(game, Qt::Key_Escape);
         QVERIFY(game->frame.leaving() && !game->frame.findTimer("Timer1")->isActive());
-        QVERIFY(Showing<Title>() != nullptr);
-        QVERIFY(fx->music.closes >= 1);
+        QVERIFY(Showing<Title>() != nullptr && fx->music.closes >= 1);
         // A second Quit (a box answered late, a key still queued) does nothing.
         const int closes = fx->music.closes;
         game->frame.quit();

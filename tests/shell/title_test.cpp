@@ -44,9 +44,8 @@ private slots:
             QVERIFY(fx.exists(name + QString(".dat")) && !fx.exists(name + QString(".new")));
         QVERIFY(fx.exists("folders.dat"));
         for (auto name : kGameNames) {
-            const QString file =
-                "scores/" + QString::fromLatin1(name.data(), int(name.size())) + ".dat";
-            QCOMPARE(fx.read(file).size(), 510);
+            const QLatin1String game(name.data(), int(name.size()));
+            QCOMPARE(fx.read(QString("scores/%1.dat").arg(game)).size(), 510);
         }
         QCOMPARE(Shared().VisibleGameCount, 42);
         QCOMPARE(Shared().SoundDefault, kTrue);
