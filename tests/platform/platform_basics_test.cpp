@@ -1,35 +1,34 @@
-// Text conversion, scripted and real boxes, the service fallbacks, assets and sound effects.
+// Text conversion, assets, sound effects and their voices, screen scaling and type that fits,
+// MIDI rendered offline, held keys and the pointer's counter, and sprite sheets.
 #include <QApplication>
-#include <QDialogButtonBox>
+#include <QCursor>
 #include <QElapsedTimer>
-#include <QInputDialog>
-#include <QLabel>
+#include <QKeyEvent>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
+#include <cmath>
 
 #include "core/shared_state.h"
-#include "platform/dialogs.h"
+#include "platform/key_state.h"
 #include "platform/music.h"
+#include "platform/pointer.h"
 #include "platform/scene_kit.h"
 #include "platform/screen_metrics.h"
 #include "platform/services.h"
 #include "platform/sound.h"
+#include "platform/sprite_sheet.h"
 #include "platform/text.h"
 #include "platform/text_fit.h"
 
 using namespace wm;
 
-Q_DECLARE_METATYPE(std::vector<bool>)
-
 namespace {
 
-void writeFile(const QString& path, const QByteArray& bytes) {
+QString writeFile(const QString& path, const QByteArray& bytes) {
     QFile f(path);
-    QVERIFY(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
+    if (f.open(QIODevice::WriteOnly)) f.write(bytes);
+    return path;
 }
 
 QByteArray le32(quint32 v) {
@@ -40,15 +39,50 @@ QByteArray le32(quint32 v) {
 
 // A short, correct 8-bit mono WAV.
 QByteArray wavBytes(int samples) {
-    QByteArray fmt = QByteArray("fmt ") + le32(16);
-    fmt += QByteArray::fromHex(
-        "01000100"
-        "401f0000"
-        "401f0000"
-        "01000800");
+    QByteArray fmt =
+        QByteArray("fmt ") + le32(16) + QByteArray::fromHex("01000100401f0000401f000001000800");
     QByteArray data = QByteArray("data") + le32(quint32(samples)) + QByteArray(samples, '\x80');
     if (samples & 1) data += '\0';
     return QByteArray("RIFF") + le32(quint32(4 + fmt.size() + data.size())) + "WAVE" + fmt + data;
+}
+
+// A format-0 MIDI file: piano, C E G C, a crotchet each at 120 bpm (two seconds in all).
+QByteArray arpeggio() {
+    QByteArray track;
+    auto add = [&track](std::initializer_list<int> bytes) {
+        for (int b : bytes) track += char(b);
+    };
+    add({0x00, 0xC0, 0x00});  // program 0
+    for (int note : {60, 64, 67, 72}) add({0x00, 0x90, note, 100, 0x83, 0x60, 0x80, note, 0});
+    add({0x00, 0xFF, 0x2F, 0x00});
+    QByteArray file = "MThd" + QByteArray::fromHex("000000060000000101e0") + "MTrk";
+    for (int shift : {24, 16, 8, 0}) file += char(quint32(track.size()) >> shift);
+    return file + track;
+}
+
+constexpr int kRate = 44100;
+
+// The root mean square of the stereo samples between two times, and the loudest one.
+std::pair<double, int> levelOf(const QByteArray& pcm, double from, double to) {
+    const auto* s = reinterpret_cast<const qint16*>(pcm.constData());
+    const qsizetype first = qsizetype(from * kRate) * 2, last = qsizetype(to * kRate) * 2;
+    double sum = 0;
+    int peak = 0;
+    for (qsizetype i = first; i < last && i < pcm.size() / 2; ++i) {
+        sum += double(s[i]) * s[i];
+        peak = std::max(peak, std::abs(int(s[i])));
+    }
+    return {std::sqrt(sum / double(std::max<qsizetype>(1, last - first))), peak};
+}
+
+void key(QWidget* to, QEvent::Type type, int k, bool repeat = false) {
+    QKeyEvent event(type, k, Qt::NoModifier, QString(), repeat);
+    QApplication::sendEvent(to, &event);
+}
+
+bool cursorBlank() {
+    const QCursor* c = QGuiApplication::overrideCursor();
+    return c && c->shape() == Qt::BlankCursor;
 }
 
 }  // namespace
@@ -65,7 +99,7 @@ private slots:
     void windowsRangeAndUnmappable() {
         // The upper half past 0xA0 is Latin-1: accented letters keep their code points.
         for (int b = 160; b <= 255; ++b) QCOMPARE(toQ(std::string(1, char(b))), QString(QChar(b)));
-        QCOMPARE(toQ("\xBF" "Qu\xE9?"), QString::fromUtf8("¿Qué?"));
+        QCOMPARE(toQ("\xBFQu\xE9?"), QString::fromUtf8("¿Qué?"));
         QCOMPARE(toQ("\x80"), QString(QChar(0x20AC)));  // euro sign, not a C1 control
         QCOMPARE(toQ("\x9F"), QString(QChar(0x0178)));
         QCOMPARE(fromQ(QString::fromUtf8("€ “quoted” – Ÿ")),
@@ -85,10 +119,8 @@ private slots:
         QCOMPARE(appFile(QStringLiteral("\\sounds\\a.wav")), dir.path() + "/sounds/a.wav");
 
         QDir(dir.path()).mkpath(QStringLiteral("images"));
-        writeFile(dir.filePath("images/wm-title.png"), "png");
-        writeFile(dir.filePath("images/board.jpg"), "jpg");
-        writeFile(dir.filePath("images/Flying Cow.jpg"), "jpg");
-        writeFile(dir.filePath("images/notes.txt"), "txt");
+        for (const char* name : {"wm-title.png", "board.jpg", "Flying Cow.jpg", "notes.txt"})
+            writeFile(dir.filePath("images/") + name, "x");
 
         QCOMPARE(findAsset("images/board.jpg"), dir.filePath("images/board.jpg"));
         QCOMPARE(findAsset("images/wm-title.gif"), dir.filePath("images/wm-title.png"));
@@ -130,48 +162,37 @@ private slots:
                                             SoundMode::Overlap, SoundMode::NoInterrupt}));
     }
 
-    void voicePlans_data() {
-        QTest::addColumn<SoundMode>("mode");
-        QTest::addColumn<std::vector<bool>>("mine");
-        QTest::addColumn<bool>("other");
-        QTest::addColumn<int>("voice");
-        QTest::addColumn<bool>("stopOthers");
-        using V = std::vector<bool>;
-        const auto R = SoundMode::Replace, N = SoundMode::NoInterrupt, O = SoundMode::Overlap;
-        QTest::newRow("replace cuts whatever sounds") << R << V{true, true} << true << 0 << true;
-        QTest::newRow("bleep into silence") << N << V{false} << false << 0 << false;
-        QTest::newRow("bleep over itself") << N << V{true} << false << -1 << false;
-        QTest::newRow("bleep over another") << N << V{false} << true << -1 << false;
-        QTest::newRow("bleep over a second voice") << N << V{false, true} << false << -1 << false;
-        QTest::newRow("overlap reuses a free voice") << O << V{true, false} << true << 1 << false;
-        QTest::newRow("overlap adds a voice") << O << V{true, true} << false << 2 << false;
-        QTest::newRow("overlap cuts the oldest at the cap")
-            << O << V(kMaxVoices, true) << false << 0 << false;
-    }
-
     void voicePlans() {
-        QFETCH(SoundMode, mode);
-        QFETCH(std::vector<bool>, mine);
-        QFETCH(bool, other);
-        const VoicePlan plan = PlanVoice(mode, mine, other);
-        QTEST(plan.voice, "voice");
-        QTEST(plan.stopOthers, "stopOthers");
+        const auto R = SoundMode::Replace, N = SoundMode::NoInterrupt, O = SoundMode::Overlap;
+        const struct {
+            SoundMode mode;
+            std::vector<bool> mine;
+            bool other;
+            int voice;
+            bool stopOthers;
+        } rows[] = {{R, {true, true}, true, 0, true},      // replace cuts whatever sounds
+                    {N, {false}, false, 0, false},         // a bleep into silence
+                    {N, {true}, false, -1, false},         // a bleep over itself
+                    {N, {false}, true, -1, false},         // over another
+                    {N, {false, true}, false, -1, false},  // over a second voice of its own
+                    {O, {true, false}, true, 1, false},    // overlap reuses a free voice
+                    {O, {true, true}, false, 2, false},    // or adds one
+                    {O, std::vector<bool>(kMaxVoices, true), false, 0, false}};  // cap: the oldest
+        for (const auto& r : rows) {
+            const VoicePlan plan = PlanVoice(r.mode, r.mine, r.other);
+            QCOMPARE(std::pair(plan.voice, plan.stopOthers), std::pair(r.voice, r.stopOthers));
+        }
     }
 
     void wavCheckAndHarmlessQtSound() {
         QTemporaryDir dir;
         const QByteArray good = wavBytes(801);
-        writeFile(dir.filePath("good.wav"), good);
-        writeFile(dir.filePath("short.wav"), good.left(good.size() - 100));
         QByteArray lying = good;
         lying.replace(4, 4, le32(quint32(good.size() + 50)));  // RIFF size past the end
-        writeFile(dir.filePath("lying.wav"), lying);
-        writeFile(dir.filePath("text.wav"), "not a wave at all");
-
-        QVERIFY(IsCompleteWav(dir.filePath("good.wav")));
-        QVERIFY(!IsCompleteWav(dir.filePath("short.wav")));
-        QVERIFY(!IsCompleteWav(dir.filePath("lying.wav")));
-        QVERIFY(!IsCompleteWav(dir.filePath("text.wav")));
+        QVERIFY(IsCompleteWav(writeFile(dir.filePath("good.wav"), good)));
+        QVERIFY(!IsCompleteWav(writeFile(dir.filePath("short.wav"), good.left(good.size() - 100))));
+        QVERIFY(!IsCompleteWav(writeFile(dir.filePath("lying.wav"), lying)));
+        QVERIFY(!IsCompleteWav(writeFile(dir.filePath("text.wav"), "not a wave at all")));
         QVERIFY(!IsCompleteWav(dir.filePath("none.wav")));
 
         // Whatever the machine has for audio, none of this may hang or crash.
@@ -181,9 +202,8 @@ private slots:
             QtSound sound(dir.path());
             Shared().SoundOn = kTrue;
             for (const char* name :
-                 {"missing", "short", "lying.wav", "text", "good", "GOOD.WAV", ""}) {
+                 {"missing", "short", "lying.wav", "text", "good", "GOOD.WAV", ""})
                 sound.effect(QString::fromLatin1(name));
-            }
             for (int i = 0; i < kMaxVoices + 2; ++i) sound.effect("good", SoundMode::Overlap);
             sound.effect("good", SoundMode::NoInterrupt);
             sound.effect("short", SoundMode::Overlap);
@@ -214,11 +234,11 @@ private slots:
         struct Row {
             QSizeF screen;
             double scale, dx, dy;
-        } rows[] = {{{1920, 1080}, 1.2, 0, -60}, {{1280, 1024}, 1.024, -179.2, 0}, {{800, 500}, 0.5, 0, 0}};
+        } rows[] = {
+            {{1920, 1080}, 1.2, 0, -60}, {{1280, 1024}, 1.024, -179.2, 0}, {{800, 500}, 0.5, 0, 0}};
         for (const Row& r : rows) {
             const QTransform t = scene::coverStage(r.screen, {1600, 1000});
-            QCOMPARE(t.m11(), r.scale);
-            QCOMPARE(t.m22(), r.scale);
+            QCOMPARE(QPointF(t.m11(), t.m22()), QPointF(r.scale, r.scale));
             QCOMPARE(QPointF(t.dx(), t.dy()), QPointF(r.dx, r.dy));
         }
         QCOMPARE(scene::coverStage({800, 600}, {}), QTransform());
@@ -258,6 +278,150 @@ private slots:
         QCOMPARE(scene::shrinkToWidth(start, 2000, plate).pixelSize(), 40);
         QCOMPARE(scene::shrinkToWidth(start, 5, plate).pixelSize(), 8);
         QCOMPARE(scene::shrinkToWidth(start, 5, plate, 10).pixelSize(), 10);
+    }
+
+    void midiRendersAnAudibleLoopingTune() {
+        if (DefaultSoundFont().isEmpty()) QSKIP("no General MIDI sound font on this machine");
+        QTemporaryDir dir;
+        const QString midi = writeFile(dir.filePath("tune.mid"), arpeggio());
+        const QByteArray pcm = RenderMidi(midi, 5.0);
+        QCOMPARE(pcm.size(), qsizetype(5 * kRate * 4));
+        const auto [rms, peak] = levelOf(pcm, 0.05, 2.0);
+        QVERIFY(rms > 300 && peak < 32000);  // a modest gain: no clipping on a simple tune
+        // Background music goes round again: the file ends at two seconds.
+        QVERIFY(levelOf(pcm, 4.1, 4.9).first > 300);
+        // The same file renders the same samples: nothing depends on the wall clock.
+        QCOMPARE(RenderMidi(midi, 1.0), pcm.left(kRate * 4));
+    }
+
+    void heldKeysIgnoreAutoRepeat() {
+        QWidget screen;
+        auto* child = new QLineEdit(&screen);  // takes arrow keys for itself
+        KeyState keys(&screen);
+        key(child, QEvent::KeyPress, Qt::Key_Left);
+        QVERIFY(keys.isDown(Qt::Key_Left) && !keys.isDown(Qt::Key_Right));
+        // The keyboard repeating: release and press pairs marked auto-repeat change nothing.
+        for (int i = 0; i < 3; ++i) {
+            key(child, QEvent::KeyRelease, Qt::Key_Left, true);
+            QVERIFY(keys.isDown(Qt::Key_Left));
+            key(child, QEvent::KeyPress, Qt::Key_Left, true);
+        }
+        key(child, QEvent::KeyRelease, Qt::Key_Left);
+        QVERIFY(!keys.isDown(Qt::Key_Left));
+
+        // Keys to a window that is not the screen are not ours.
+        QWidget other;
+        key(&other, QEvent::KeyPress, Qt::Key_Up);
+        QVERIFY(!keys.isDown(Qt::Key_Up) && !keys.takePressed(Qt::Key_Up));
+    }
+
+    void pressedSinceLastReadIsOneShot() {
+        QWidget screen;
+        KeyState keys(&screen);
+        // A tap between two ticks: not held at the tick, but pressed once.
+        key(&screen, QEvent::KeyPress, Qt::Key_Space);
+        key(&screen, QEvent::KeyRelease, Qt::Key_Space);
+        QVERIFY(!keys.isDown(Qt::Key_Space));
+        QVERIFY(keys.takePressed(Qt::Key_Space));
+        QVERIFY(!keys.takePressed(Qt::Key_Space));
+        // Holding it down does not fire again through auto-repeat.
+        key(&screen, QEvent::KeyPress, Qt::Key_Space);
+        QVERIFY(keys.takePressed(Qt::Key_Space));
+        key(&screen, QEvent::KeyPress, Qt::Key_Space, true);
+        QVERIFY(!keys.takePressed(Qt::Key_Space));
+        QVERIFY(keys.isDown(Qt::Key_Space));
+
+        // Losing the window: nothing stays held. clear() forgets taps too.
+        QEvent deactivate(QEvent::WindowDeactivate);
+        QApplication::sendEvent(&screen, &deactivate);
+        QVERIFY(!keys.isDown(Qt::Key_Space));
+        key(&screen, QEvent::KeyPress, Qt::Key_Z);
+        keys.clear();
+        QVERIFY(!keys.takePressed(Qt::Key_Z));
+    }
+
+    void pointerCountsLikeThePlatform() {
+        QCOMPARE(Pointer::count(), 0);
+        QVERIFY(!cursorBlank());
+        QCOMPARE(Pointer::show(false), -1);
+        QVERIFY(cursorBlank());
+        QCOMPARE(Pointer::show(false), -2);
+        QCOMPARE(Pointer::show(true), -1);
+        QVERIFY(Pointer::isHidden() && cursorBlank());
+        QCOMPARE(Pointer::show(true), 0);
+        QVERIFY(!cursorBlank());
+        QCOMPARE(Pointer::show(true), 1);  // shown twice needs two hides
+        QCOMPARE(Pointer::show(false), 0);
+        QVERIFY(!cursorBlank());
+        QCOMPARE(QGuiApplication::overrideCursor(), nullptr);  // nothing left on the stack
+
+        // A screen that hides the pointer and closes without showing it again.
+        {
+            PointerScope scope;
+            Pointer::show(false);
+            Pointer::show(false);
+            QVERIFY(cursorBlank());
+        }
+        QCOMPARE(Pointer::count(), 0);
+        QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
+    }
+
+    void spriteGridCutsLeftToRightThenDown() {
+        QTemporaryDir dir;
+        QImage strip(40, 16, QImage::Format_ARGB32);
+        for (int y = 0; y < 16; ++y)
+            for (int x = 0; x < 40; ++x)
+                strip.setPixel(x, y, qRgb((y / 8 * 4 + x / 10) * 30, 0, 0));
+        const QString path = dir.filePath("walk.png");
+        QVERIFY(strip.save(path));
+
+        const SpriteSheet sheet = SpriteSheet::fromGrid(path, "walk", {10, 8});
+        QCOMPARE(sheet.frameCount("walk"), 8);
+        QCOMPARE(sheet.frame("walk", 5).size(), QSize(10, 8));
+        QCOMPARE(qRed(sheet.frame("walk", 5).pixel(3, 3)), 150);
+        QCOMPARE(qRed(sheet.frame("walk_6").pixel(0, 0)), 180);
+        QVERIFY(sheet.frame("walk", 8).isNull() && sheet.frame("walk", -1).isNull());
+        QVERIFY(sheet.frame("run", 0).isNull() && sheet.error().isEmpty());
+        QCOMPARE(SpriteSheet::fromGrid(path, "walk", {10, 8}, 3).frameCount("walk"), 3);
+        // Cells that do not fill the picture exactly: the ragged edge is left out.
+        QCOMPARE(SpriteSheet::fromGrid(path, "walk", {15, 8}).frameCount("walk"), 4);
+
+        // Bad input: a clear message naming the file, never a crash.
+        for (const QSize size : {QSize(0, 8), QSize(50, 8)}) {
+            const SpriteSheet bad = SpriteSheet::fromGrid(path, "walk", size);
+            QVERIFY(bad.isEmpty() && bad.error().contains(path));
+        }
+        const QString missing = dir.filePath("nothing.png");
+        const SpriteSheet none = SpriteSheet::fromGrid(missing, "walk", {10, 8});
+        QVERIFY(none.isEmpty() && none.error().contains(missing) && none.frame("walk_0").isNull());
+    }
+
+    void spriteSvgFramesByElementId() {
+        // Two frames of a ball (the second inside a moved group), a lone picture, a gap after 2.
+        QTemporaryDir dir;
+        const QString path =
+            writeFile(dir.filePath("sprites.svg"),
+                      "<svg xmlns='http://www.w3.org/2000/svg' width='200' height='100' viewBox='0 "
+                      "0 200 100'>"
+                      "<rect id='ball_0' x='10' y='10' width='20' height='10' fill='#ff0000'/>"
+                      "<g transform='translate(100,50)'>"
+                      "<rect id='ball_1' x='0' y='0' width='20' height='10' fill='#0000ff'/></g>"
+                      "<rect id='star_0' x='50' y='50' width='8' height='8' fill='#00ff00'/>"
+                      "<rect id='star_2' x='70' y='50' width='8' height='8' fill='#00ff00'/>"
+                      "<rect id='title' x='0' y='0' width='5' height='5' fill='#000000'/></svg>");
+        const SpriteSheet sheet = SpriteSheet::fromSvg(path, 2.0);
+        QVERIFY(sheet.error().isEmpty());
+        QCOMPARE(sheet.names(), (QStringList{"ball", "star"}));
+        QCOMPARE(sheet.frameCount("ball"), 2);
+        QCOMPARE(sheet.frameCount("star"), 1);  // star_2 without star_1 is not a frame
+        QCOMPARE(sheet.frame("ball", 0).size(), QSize(40, 20));
+        QCOMPARE(sheet.frame("ball", 0).pixel(20, 10), qRgb(255, 0, 0));
+        // The group's move does not matter: the frame is the element alone.
+        QCOMPARE(sheet.frame("ball_1").size(), QSize(40, 20));
+        QCOMPARE(sheet.frame("ball_1").pixel(20, 10), qRgb(0, 0, 255));
+        const SpriteSheet only = SpriteSheet::fromSvg(path, 1.0, {"star"});
+        QCOMPARE(only.names(), QStringList{"star"});
+        QCOMPARE(only.frame("star", 0).size(), QSize(8, 8));
     }
 };
 

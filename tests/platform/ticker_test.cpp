@@ -1,4 +1,5 @@
-// The game clock under manual time: pace, firing order, timers changed from inside a timeout.
+// The game clock under manual time: pace, firing order, timers changed from inside a timeout;
+// and the language a list is said in, with the voice that says it.
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
@@ -7,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include "core/language_codes.h"
+#include "platform/speech.h"
 #include "platform/ticker.h"
 
 using namespace wm;
@@ -17,10 +20,11 @@ namespace {
 struct Log {
     qint64 start = Ticker::get().now();
     std::vector<std::string> lines;
-    void hook(GameTimer& timer, const std::string& name) {
-        QObject::connect(&timer, &GameTimer::timeout, [this, name] {
-            lines.push_back(name + "@" + std::to_string(Ticker::get().now() - start));
-        });
+    void hook(std::initializer_list<std::pair<GameTimer*, std::string>> timers) {
+        for (const auto& [timer, name] : timers)
+            QObject::connect(timer, &GameTimer::timeout, [this, name] {
+                lines.push_back(name + "@" + std::to_string(Ticker::get().now() - start));
+            });
     }
 };
 
@@ -40,10 +44,7 @@ TEST(TickerPace, EffectiveInterval) {
 TEST_F(TickerTest, DueTimersFireInTimeOrderAndAsOftenAsDue) {
     Log log;
     GameTimer slow, fast, once, tiny;
-    log.hook(slow, "slow");
-    log.hook(fast, "fast");
-    log.hook(once, "once");
-    log.hook(tiny, "tiny");
+    log.hook({{&slow, "slow"}, {&fast, "fast"}, {&once, "once"}, {&tiny, "tiny"}});
     slow.start(50);
     fast.start(30);
     once.setSingleShot(true);
@@ -66,13 +67,10 @@ TEST_F(TickerTest, DueTimersFireInTimeOrderAndAsOftenAsDue) {
 
 TEST_F(TickerTest, StoppedOrDeletedInsideATimeoutNeverFiresAgain) {
     Log log;
-    GameTimer first;
-    GameTimer stopped;
+    GameTimer first, stopped;
     auto deleted = std::make_unique<GameTimer>();
     auto selfDeleting = new GameTimer;
-    log.hook(first, "first");
-    log.hook(stopped, "stopped");
-    log.hook(*deleted, "deleted");
+    log.hook({{&first, "first"}, {&stopped, "stopped"}, {deleted.get(), "deleted"}});
     QObject::connect(&first, &GameTimer::timeout, [&] {
         stopped.stop();
         deleted.reset();
@@ -96,8 +94,7 @@ TEST_F(TickerTest, StoppedOrDeletedInsideATimeoutNeverFiresAgain) {
 TEST_F(TickerTest, StartedInsideATimeoutCountsFromThatMoment) {
     Log log;
     GameTimer trigger, later;
-    log.hook(trigger, "trigger");
-    log.hook(later, "later");
+    log.hook({{&trigger, "trigger"}, {&later, "later"}});
     trigger.setSingleShot(true);
     QObject::connect(&trigger, &GameTimer::timeout, [&] { later.start(50); });
     trigger.start(20);
@@ -108,9 +105,7 @@ TEST_F(TickerTest, StartedInsideATimeoutCountsFromThatMoment) {
 TEST_F(TickerTest, ZeroIntervalFiresOnTheNextAdvanceEvenOfNothing) {
     Log log;
     GameTimer once, repeating, restarting;
-    log.hook(once, "once");
-    log.hook(repeating, "rep");
-    log.hook(restarting, "restart");
+    log.hook({{&once, "once"}, {&repeating, "rep"}, {&restarting, "restart"}});
     once.setSingleShot(true);
     once.start(0);
     repeating.start(0);
@@ -124,6 +119,29 @@ TEST_F(TickerTest, ZeroIntervalFiresOnTheNextAdvanceEvenOfNothing) {
     Ticker::get().advance(50);
     EXPECT_EQ(log.lines, (std::vector<std::string>{"rep@0", "restart@0"}));
     EXPECT_FALSE(once.isActive());
+}
+
+TEST(Speech, ListCodesMapToTheLanguageNamedOnTheirLine) {
+    const std::vector<LanguageCode> codes = {
+        {"S", "Spanish - English words, Spanish meanings", "x"},
+        {"K", "Klingon - English words, Klingon meanings", "x"}};
+    const std::pair<std::string, QLocale::Language> cases[] = {
+        {"", QLocale::English}, {" S ", QLocale::Spanish}, {"K", QLocale::C}, {"Q", QLocale::C}};
+    for (const auto& [code, language] : cases)
+        EXPECT_EQ(LocaleForLanguage(code, codes).language(), language) << code;
+}
+
+TEST(Speech, TheBestLocaleAndVoiceForALanguage) {
+    const QLocale esES("es_ES"), es419("es_419"), enGB("en_GB"), enUS("en_US");
+    // A country with no voice of its own takes the language's main country, then any.
+    EXPECT_EQ(ChooseLocale({es419, esES}, QLocale("es_MX")), esES);
+    EXPECT_EQ(ChooseLocale({enGB}, QLocale("de_DE")).language(), QLocale::C);
+    const QList<VoiceInfo> voices = {{"Spanish (Spain)+Adam", esES},
+                                     {"Spanish (Latin America)", es419},
+                                     {"Spanish (Spain)", esES},
+                                     {"English (America)", enUS}};
+    EXPECT_EQ(ChooseVoice(voices, esES), 2);  // plain, not a variant
+    EXPECT_EQ(ChooseVoice(voices, QLocale("fr_FR")), -1);
 }
 
 }  // namespace

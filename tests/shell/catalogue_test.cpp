@@ -1,17 +1,25 @@
-// The catalogue's cards checked against the chooser and options tables.
+// The catalogue's cards checked against the chooser and options tables, as data: order and
+// lookup, first screens, every options row with its captions, the how-to texts, and every game's
+// row of the chooser's eligibility table (the words-only rule and its message, whether a warning
+// keeps the option, the count rule with its minimum and message, and the screen that opens).
 #include "shell/catalogue.h"
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <map>
 #include <set>
 #include <stdexcept>
 #include <string>
+#include <tuple>
 
+#include "../support/chooser_texts.h"
 #include "core/game_names.h"
 
 namespace wm {
 namespace {
+
+using namespace wm::test;
 
 // Throws on an unknown name, so a failed lookup fails the test instead of crashing it.
 const GameCard& Get(std::string_view name) {
@@ -37,11 +45,9 @@ TEST(Catalogue, FindCardIgnoresCaseOnly) {
     EXPECT_EQ(Get("BOMB SQUAD 2").name, "Bomb Squad 2");
     EXPECT_EQ(Get("bomb squad").name, "Bomb Squad");  // not its longer twin
     EXPECT_EQ(Get("breakthru").index, 7);
-    EXPECT_EQ(FindCard(""), nullptr);
-    EXPECT_EQ(FindCard("Hang Man"), nullptr);
-    EXPECT_EQ(FindCard("Quiz "), nullptr);
-    EXPECT_EQ(FindCard("vocabulary quiz"), nullptr);  // the options screen's dead Back test
-    EXPECT_EQ(FindCard("Title"), nullptr);            // the high-score screen's pseudo game
+    // Nor the options screen's dead Back test, nor the high-score screen's pseudo game.
+    for (const char* name : {"", "Hang Man", "Quiz ", "vocabulary quiz", "Title"})
+        EXPECT_EQ(FindCard(name), nullptr) << name;
 }
 
 TEST(Catalogue, FirstScreenAndClampingFollowTheListFirstGames) {
@@ -51,21 +57,13 @@ TEST(Catalogue, FirstScreenAndClampingFollowTheListFirstGames) {
         SCOPED_TRACE(card.name);
         const bool first = listFirst.count(card.name) > 0;
         EXPECT_EQ(card.options.clamped, first);
-        if (first) {
-            EXPECT_EQ(card.firstScreen, "ChooseList");
-            EXPECT_EQ(card.eligibility.opens, "GameOptions");
-        } else if (card.name == "Quiz") {
-            EXPECT_EQ(card.firstScreen, "QuizOptions");
-        } else if (card.name == "Flash Cards") {
-            EXPECT_EQ(card.firstScreen, "FlashCardOptions");
-        } else {
-            EXPECT_EQ(card.firstScreen, "GameOptions");
-            EXPECT_NE(card.eligibility.opens, "GameOptions");
-        }
+        EXPECT_EQ(card.eligibility.opens == "GameOptions", first);
+        EXPECT_EQ(card.firstScreen, first                        ? "ChooseList"
+                                    : card.name == "Quiz"        ? "QuizOptions"
+                                    : card.name == "Flash Cards" ? "FlashCardOptions"
+                                                                 : "GameOptions");
     }
 }
-
-// Every row of the chooser table is checked as data in eligibility_rows_test.cpp.
 
 TEST(Catalogue, OptionsRowsMatchTheOptionsTable) {
     struct Row {
@@ -89,6 +87,8 @@ TEST(Catalogue, OptionsRowsMatchTheOptionsTable) {
         {"HangMan", 1, 3, 2, OptionFrame::Hidden},
         {"Crunch Man", 2, 14, 7, OptionFrame::Hidden},
         {"Wheel of Money", 2, 10, 6, OptionFrame::Hidden},
+        {"Word Search", 5, 20, 12, OptionFrame::Shown},
+        {"Scramble", 1, 3, 1, OptionFrame::Shown},
         // Three wires at the start: a six-word list can always deal them.
         {"Bomb Squad", 2, 10, 2, OptionFrame::Hidden},
         {"Bomb Squad 2", 2, 10, 2, OptionFrame::Hidden},
@@ -96,13 +96,15 @@ TEST(Catalogue, OptionsRowsMatchTheOptionsTable) {
     for (const Row& r : rows) {
         SCOPED_TRACE(r.name);
         const OptionsRow& o = Get(r.name).options;
-        EXPECT_TRUE(o.hasDifficulty);
-        EXPECT_EQ(o.min, r.min);
-        EXPECT_EQ(o.max, r.max);
-        EXPECT_EQ(o.start, r.start);
-        EXPECT_EQ(o.frame, r.frame);
+        EXPECT_EQ(std::tuple(o.hasDifficulty, o.min, o.max, o.start, o.frame),
+                  std::tuple(true, r.min, r.max, r.start, r.frame));
     }
 
+    // Only two games relabel the frame or the easy end of the slider.
+    const std::map<std::string, std::array<std::string, 4>> relabelled = {
+        {"Word Search",
+         {"How do you want the clue?", "Clue is Word (Easy)", "Clue is Definition", "Easy"}},
+        {"Scramble", {"Scatter Letters?", "Scatter (Harder)", "Don't Scatter (Easier)", "Normal"}}};
     std::set<std::string> noDifficulty;
     for (const GameCard& card : Catalogue()) {
         SCOPED_TRACE(card.name);
@@ -110,15 +112,12 @@ TEST(Catalogue, OptionsRowsMatchTheOptionsTable) {
         if (!o.hasDifficulty) noDifficulty.insert(card.name);
         EXPECT_LE(o.min, o.start);
         EXPECT_LE(o.start, o.max);
-        // Only two games relabel the frame or the easy end of the slider.
-        if (card.name != "Word Search" && card.name != "Scramble") {
-            EXPECT_EQ(o.frameCaption, "Show Word Meaning?");
-            EXPECT_EQ(o.option1, "Don't Show");
-            EXPECT_EQ(o.option2, "Show");
-        }
-        if (card.name != "Scramble") {
-            EXPECT_EQ(o.easyLabel, "Easy");
-        }
+        const auto labels =
+            relabelled.count(card.name)
+                ? relabelled.at(card.name)
+                : std::array<std::string, 4>{"Show Word Meaning?", "Don't Show", "Show", "Easy"};
+        EXPECT_EQ((std::array<std::string, 4>{o.frameCaption, o.option1, o.option2, o.easyLabel}),
+                  labels);
     }
     EXPECT_EQ(noDifficulty,
               (std::set<std::string>{"Pachinko", "Speed Type", "Flash Cards", "Safe Cracker",
@@ -126,37 +125,36 @@ TEST(Catalogue, OptionsRowsMatchTheOptionsTable) {
     EXPECT_EQ(Get("Safe Cracker").options.frame, OptionFrame::Shown);
 }
 
-TEST(Catalogue, WordSearchAndScrambleRelabelTheirOptions) {
-    const OptionsRow& search = Get("Word Search").options;
-    EXPECT_EQ(search.min, 5);
-    EXPECT_EQ(search.max, 20);
-    EXPECT_EQ(search.start, 12);
-    EXPECT_EQ(search.frame, OptionFrame::Shown);
-    EXPECT_EQ(search.frameCaption, "How do you want the clue?");
-    EXPECT_EQ(search.option1, "Clue is Word (Easy)");
-    EXPECT_EQ(search.option2, "Clue is Definition");
-    EXPECT_EQ(search.easyLabel, "Easy");
-
-    const OptionsRow& scramble = Get("Scramble").options;
-    EXPECT_EQ(scramble.min, 1);
-    EXPECT_EQ(scramble.max, 3);
-    EXPECT_EQ(scramble.start, 1);
-    EXPECT_EQ(scramble.frameCaption, "Scatter Letters?");
-    EXPECT_EQ(scramble.option1, "Scatter (Harder)");
-    EXPECT_EQ(scramble.option2, "Don't Scatter (Easier)");
-    EXPECT_EQ(scramble.easyLabel, "Normal");
-}
-
 TEST(Catalogue, HowToTextsBeginAsGivenAndStayReadable) {
+    // Some are given whole, typos included: these are the games' own texts.
+    const std::set<std::string> whole = {"Short Circuit", "Bomb Squad",     "Bomb Squad 2",
+                                         "Spell Crush",   "Wheel of Money", "Tic-Tac-Toe",
+                                         "Pachinko"};
     const std::map<std::string, std::string> begins = {
-        {"Pachinko", "Answer questions to earn up to five disks"},
+        {"Pachinko",
+         "Answer questions to earn up to five disks, then drop the disks into the top of the "
+         "pachinko game board and watch them zig-zag to the bottom to see how many points "
+         "you can win!"},
         {"Froggy", "Use the arrow keys on your keyboard to safely guide froggy"},
         {"Slingshot", "Use the mouse to click on the slingshot"},
         {"Hang Glider", "Use the up and down arrow keys"},
-        {"Bomb Squad 2", "You are part of a special unit"},
-        {"Bomb Squad", "You are part of a special unit"},
-        {"Tic-Tac-Toe", "Play a game of Tic-Tac-Toe against the computer."},
-        {"Short Circuit", "Connect the light bulb to the battery"},
+        {"Bomb Squad 2",
+         "You are part of a special unit that has been called in to diffuse a bomb! Use the "
+         "mouse to wire the words to their matching definitions. Click on a word to connect a "
+         "wire, then click on the matching definition to secure the wire. Connect all the "
+         "wires before the timer runs out to diffuse the bomb..."},
+        {"Bomb Squad",
+         "You are part of a special unit that has been called in to diffuse a bomb! Use the "
+         "mouse to cut the wires that connect the words and definitions that DON'T MATCH. Cut "
+         "them all before the timer runs out to diffuse the bomb..."},
+        {"Tic-Tac-Toe",
+         "Play a game of Tic-Tac-Toe against the computer. To choose a square, pick the "
+         "definition that matches the word in the square that you want. Get three in a row "
+         "in any direction to win!"},
+        {"Short Circuit",
+         "Connect the light bulb to the battery by completing the circuit. Click on the "
+         "letters to spell out your vocabulry word to wire them together. If you wired them "
+         "correctly, the bulb will light!"},
         {"Flying Cow", "A twist on the classic HANGMAN game."},
         {"Mini Golf", "Use the mouse to hit the ball"},
         {"Princess", "Help the princess cross the drawbridge"},
@@ -186,10 +184,14 @@ TEST(Catalogue, HowToTextsBeginAsGivenAndStayReadable) {
         {"Word Bricks", "Pick up the pieces of broken words"},
         {"Basketball", "Use the mouse to pick up the ball"},
         {"Crunch Man", "You will see a definition at the top of the screen."},
-        {"Spell Crush", "You will see four words."},
+        {"Spell Crush",
+         "You will see four words. ONE of the words is spelled wrong. Use your mouse to "
+         "click on the misspelled word and the safe will drop to crush it."},
         {"Letter Toss", "You will see 2 to 4 definitions"},
         {"Bridge Out", "The bridge is out!"},
-        {"Wheel of Money", "Welcome to the Wheel of Money game show!"},
+        {"Wheel of Money",
+         "Welcome to the Wheel of Money game show! Compete for fabulous prizes and loads of "
+         "money in the game show that tests your vocabulary knowledge!"},
         {"Bug Spray", "A twist on the classic HANGMAN game."},
     };
     ASSERT_EQ(begins.size(), static_cast<std::size_t>(kGameCount));
@@ -199,46 +201,94 @@ TEST(Catalogue, HowToTextsBeginAsGivenAndStayReadable) {
         const std::string& text = card.howTo;
         ASSERT_TRUE(begins.count(card.name));
         EXPECT_EQ(text.rfind(begins.at(card.name), 0), 0u);
+        if (whole.count(card.name)) EXPECT_EQ(text, begins.at(card.name));
         EXPECT_GE(text.size(), 140u);
         EXPECT_LE(text.size(), 600u);
         EXPECT_TRUE(seen.insert(text).second) << "shares its text with another game";
         EXPECT_EQ(text.find("  "), std::string::npos);
         EXPECT_NE(text.back(), ' ');
-        for (char c : text) {
-            EXPECT_TRUE(c >= 0x20 && c < 0x7f) << "not plain ASCII: " << int(c);
-        }
+        for (char c : text) EXPECT_TRUE(c >= 0x20 && c < 0x7f) << "not plain ASCII: " << int(c);
     }
 }
 
-TEST(Catalogue, GivenHowToTextsAreWordForWord) {
-    // Typos included: these are the games' own texts.
-    EXPECT_EQ(Get("Short Circuit").howTo,
-              "Connect the light bulb to the battery by completing the circuit. Click on the "
-              "letters to spell out your vocabulry word to wire them together. If you wired them "
-              "correctly, the bulb will light!");
-    EXPECT_EQ(Get("Bomb Squad").howTo,
-              "You are part of a special unit that has been called in to diffuse a bomb! Use the "
-              "mouse to cut the wires that connect the words and definitions that DON'T MATCH. Cut "
-              "them all before the timer runs out to diffuse the bomb...");
-    EXPECT_EQ(Get("Bomb Squad 2").howTo,
-              "You are part of a special unit that has been called in to diffuse a bomb! Use the "
-              "mouse to wire the words to their matching definitions. Click on a word to connect a "
-              "wire, then click on the matching definition to secure the wire. Connect all the "
-              "wires before the timer runs out to diffuse the bomb...");
-    EXPECT_EQ(Get("Spell Crush").howTo,
-              "You will see four words. ONE of the words is spelled wrong. Use your mouse to "
-              "click on the misspelled word and the safe will drop to crush it.");
-    EXPECT_EQ(Get("Wheel of Money").howTo,
-              "Welcome to the Wheel of Money game show! Compete for fabulous prizes and loads of "
-              "money in the game show that tests your vocabulary knowledge!");
-    EXPECT_EQ(Get("Tic-Tac-Toe").howTo,
-              "Play a game of Tic-Tac-Toe against the computer. To choose a square, pick the "
-              "definition that matches the word in the square that you want. Get three in a row "
-              "in any direction to win!");
-    EXPECT_EQ(Get("Pachinko").howTo,
-              "Answer questions to earn up to five disks, then drop the disks into the top of the "
-              "pachinko game board and watch them zig-zag to the bottom to see how many points "
-              "you can win!");
+using W = WordsOnlyRule;
+using C = CountRule;
+
+struct Row {
+    const char* game;
+    W wordsOnly;
+    std::string wordsOnlyText;  // empty where the list plays as it is
+    bool keep;
+    C count;
+    int minimum;
+    std::string countText;
+    const char* opens;
+};
+
+const Row kRows[] = {
+    {"Pachinko", W::Refuse, kM1, false, C::Below, 5, N(5), "Plachinko"},
+    {"Froggy", W::Refuse, kM1, false, C::Below, 4, N(4), "FroggyForm"},
+    {"Slingshot", W::Refuse, kM1, false, C::Below, 4, N(4), "SlingShot"},
+    {"Hang Glider", W::Allowed, "", false, C::None, 0, "", "HangGlider"},
+    {"Bomb Squad 2", W::Refuse, kM1, false, C::Below, 6, N(6), "BombSquad2"},
+    {"Bomb Squad", W::Refuse, kM1, false, C::Below, 6, N(6), "BombSquad"},
+    {"Tic-Tac-Toe", W::Refuse, kM1, false, C::Below, 6, N(6), "TicTacToe"},
+    {"Short Circuit", W::WarnIfOption, kW1, false, C::None, 0, "", "ShortCircuit"},
+    {"Flying Cow", W::Allowed, "", false, C::None, 0, "", "CowForm"},
+    {"Mini Golf", W::Refuse, kM1, false, C::Below, 5, N(5), "MiniGolf"},
+    {"Princess", W::WarnIfOption, kW1, false, C::None, 0, "", "frmPrincess"},
+    {"Toad Race", W::Allowed, "", false, C::None, 0, "", "ToadRace"},
+    {"Blind Tiles", W::Allowed, "", false, C::None, 0, "", "GameOptions"},
+    {"Crossword", W::Refuse, kM1, false, C::None, 0, "", "GameOptions"},
+    {"Code Breaker", W::Allowed, "", false, C::None, 0, "", "CodeBreaker"},
+    {"Speed Type", W::Allowed, "", false, C::None, 0, "", "SpeedType"},
+    {"Slot Machine", W::Refuse, kM1, false, C::None, 0, "", "SlotMachine"},
+    {"Freeze-It", W::Allowed, "", false, C::None, 0, "", "FreezeIt"},
+    {"Jailbreak", W::Refuse, kM1, false, C::None, 0, "", "GameOptions"},
+    {"Cannon Shot", W::Warn, kCannon, false, C::None, 0, "", "CannonShotForm"},
+    {"Word Maze", W::Allowed, "", false, C::None, 0, "", "GameOptions"},
+    {"BreakThru", W::Allowed, "", false, C::None, 0, "", "GameOptions"},
+    {"Asteroid Zap", W::WarnIfOption, kW1, false, C::None, 0, "", "AsteroidBlast"},
+    {"Flash Cards", W::Refuse, kFlash, false, C::None, 0, "", "FlashCardForm"},
+    {"Quiz", W::Refuse, kQuiz, false, C::BelowDifficulty, 0, kE1, "Quiz"},
+    {"Safe Cracker", W::WarnIfOption, kW1, false, C::None, 0, "", "SafeCracker"},
+    {"Word Search", W::WarnIfOption, kSearch, false, C::None, 0, "", "WordSearchForm"},
+    {"HangMan", W::Warn, kW2, true, C::None, 0, "", "HangMan"},
+    {"Scramble", W::Warn, kW2, true, C::None, 0, "", "Scramble"},
+    {"Concentration", W::Refuse, kM1, false, C::BelowDifficulty, 0, kE2, "Concentration"},
+    {"Word Zap", W::RefuseIfOption, kM1, false, C::BelowDifficulty, 0, kE2, "Zap"},
+    {"Letter Drop", W::WarnIfOption, kW1, false, C::None, 0, "", "LetterFall"},
+    {"Tower Assault", W::Refuse, kM2, false, C::Below, 5, kE1, "TowerGame"},
+    {"Spiderwebs", W::Refuse, kM2, false, C::BelowDifficulty, 0, kE1, "SpiderGame"},
+    {"Word Bricks", W::Allowed, "", false, C::BelowDifficulty, 0, kE1, "WordBricks"},
+    {"Basketball", W::Refuse, kM2, false, C::Below, 10, kE1, "BasketBallForm"},
+    {"Crunch Man", W::Allowed, "", false, C::None, 0, "", "CrunchManGame"},
+    {"Spell Crush", W::Allowed, "", false, C::Below, 4, kE1, "SpellCrushGame"},
+    {"Letter Toss", W::Refuse, kM2, false, C::BelowDifficulty, 0, kE1, "LetterTossGame"},
+    {"Bridge Out", W::Allowed, "", false, C::None, 0, "", "BridgeOutGame"},
+    {"Wheel of Money", W::Refuse, kM2, false, C::Below, 4, kE1, "GameShowForm"},
+    {"Bug Spray", W::Allowed, "", false, C::None, 0, "", "BugSprayForm"},
+};
+
+TEST(EligibilityRows, EveryGameHasItsRow) {
+    std::set<std::string> seen;
+    for (const Row& row : kRows) {
+        SCOPED_TRACE(row.game);
+        const GameCard* card = FindCard(row.game);
+        ASSERT_NE(card, nullptr);
+        seen.insert(card->name);
+        const EligibilityRow& e = card->eligibility;
+        EXPECT_EQ(e.wordsOnly, row.wordsOnly);
+        if (row.wordsOnly != W::Allowed) EXPECT_EQ(e.wordsOnlyText, row.wordsOnlyText);
+        if (row.wordsOnly == W::Warn || row.wordsOnly == W::WarnIfOption)
+            EXPECT_EQ(e.keepOption, row.keep);
+        EXPECT_EQ(e.count, row.count);
+        if (row.count == C::Below) EXPECT_EQ(e.minWords, row.minimum);
+        if (row.count != C::None) EXPECT_EQ(e.countText, row.countText);
+        EXPECT_EQ(e.opens, row.opens);
+    }
+    EXPECT_EQ(seen.size(), 42u);
+    EXPECT_EQ(Catalogue().size(), 42u);
 }
 
 }  // namespace

@@ -1,12 +1,13 @@
-// The chooser's box and its hand-over: the order of the lines, foreign lists played either way,
-// and the boundaries of the eligibility table as a pupil meets them.
+// The chooser and the options screen as a pupil meets them: the counting and the caption, one
+// road for each kind of refusal and warning, the count boundaries with their messages, foreign
+// lists played either way, what the chooser remembers, and the options rows with clamping.
 #include <QLabel>
 #include <QtTest>
 
+#include "chooser_texts.h"
 #include "core/line_file.h"
-#include "shell/choose_list.h"
-#include "shell/lang_choose.h"
 #include "game_road.h"
+#include "shell/lang_choose.h"
 
 using namespace wm;
 using namespace wm::test;
@@ -15,23 +16,13 @@ namespace {
 
 // Opens the chooser for `game` over the factory lists plus `extra` lines.
 ChooseList* OpenChooser(ShellFixture& fx, const std::string& game,
-                        const std::vector<std::string>& extra) {
-    OpenScreen("Title");
+                        const std::vector<std::string>& extra = {}) {
+    OpenScreen("Title", CurrentScreen());
     if (!extra.empty()) AppendLinesAtomic(fx.path("thelists.dat").toStdString(), extra);
     Shared().CurrentGame = game;
     auto* chooser = qobject_cast<ChooseList*>(OpenScreen("ChooseList", CurrentScreen()));
     Pump();
     return chooser;
-}
-
-bool Select(ChooseList* chooser, const QString& startsWith) {
-    for (int i = 0; i < chooser->lists()->count(); ++i) {
-        if (chooser->lists()->item(i)->text().startsWith(startsWith)) {
-            chooser->lists()->setCurrentRow(i);
-            return true;
-        }
-    }
-    return false;
 }
 
 // A list of n words named `name`, as lines to append.
@@ -49,152 +40,217 @@ std::vector<std::string> ListOf(const std::string& name, int n) {
 class ChooserTest : public QObject {
     Q_OBJECT
 private slots:
-    void foreignListPlayedThroughTheChooser_data();
-    void foreignListPlayedThroughTheChooser();
-    void countBoundaries_data();
-    void countBoundaries();
-    void warnIfOptionWithTheOptionOffSaysNothing();
-    void lastChoiceMatchingNothingSelectsNothing();
-    void languageNotInTheFileOffersPlainSides();
-};
+    void summaryCountsHalfWordsAndLabels() {
+        const std::vector<std::string> lines = {
+            "Animals", "cat",  "a pet",      "dog",      "",       "<New List>", "[S]Colours",
+            "red",     "rojo", "<New List>", "Spelling", "rhythm", "-----"};
+        ListSummary all = SummariseLists(lines, true, {});
+        // A blank definition leaves its word as half a word.
+        QCOMPARE(all.lines, (QStringList{"Animals (1.5 words)", "Colours (1 words)",
+                                         "Spelling (1 words- no definitions)"}));
+        QCOMPARE(all.caption(), "Choose a list:  3.5 words available in  3 word lists.");
+        QCOMPARE(all.foreign.size(), size_t(1));
+        QCOMPARE(QString::fromStdString(all.foreign[0].plain), "Colours");
 
-void ChooserTest::foreignListPlayedThroughTheChooser_data() {
-    QTest::addColumn<bool>("secondOption");
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("word1");
-    QTest::addColumn<QString>("meaning1");
-    QTest::addColumn<bool>("wordsOnly");
-    // "[F]Odd" has the marker on its word lines: after a swap it stands on the meaning side.
-    QTest::newRow("english side") << false << "E"
-                                  << "dog"
-                                  << "perro" << false;
-    QTest::newRow("foreign side") << true << "S"
-                                  << "perro"
-                                  << "dog" << false;
-    QTest::newRow("marker on the word line, kept") << false << "E"
-                                                   << "-----"
-                                                   << "chat" << false;
-    QTest::newRow("marker on the word line, swapped") << true << "F"
-                                                      << "chat"
-                                                      << "-----" << true;
-}
+        ListSummary some = SummariseLists(lines, false, {"Spelling", "Spelling"});
+        QCOMPARE(some.lines, QStringList{"Spelling (1 words- no definitions)"});
+        QCOMPARE(some.total, 3.5);  // the caption still counts every list's words
+        QVERIFY(SummariseLists(lines, false, {}).lines.isEmpty());
 
-void ChooserTest::foreignListPlayedThroughTheChooser() {
-    QFETCH(bool, secondOption);
-    QFETCH(QString, language);
-    QFETCH(QString, word1);
-    QFETCH(QString, meaning1);
-    QFETCH(bool, wordsOnly);
-    ShellFixture fx;
-    const bool odd = word1 == "-----" || meaning1 == "-----";
-    ChooseList* chooser =
-        OpenChooser(fx, "Hang Glider", {"<New List>", "[F]Odd", "-----", "chat", "-----", "chien"});
-    QVERIFY(chooser);
-    QString asked;
-    SetModalHook([&](QDialog& d) {
-        auto* box = dynamic_cast<LangChoose*>(&d);
-        QVERIFY(box);
-        asked = box->Option1->text() + " | " + box->Option2->text();
-        (secondOption ? box->Option2 : box->Option1)->setChecked(true);
-    });
-    // The box shows the plain name; the code goes to the foreign table.
-    QVERIFY(Select(chooser, odd ? "Odd (2 words)" : "Spanish Animals ("));
-    chooser->continueOn();
-    QCOMPARE(asked, odd ? QString("French - English words, French meanings | French - French "
-                                  "words, English meanings")
-                        : QString("Spanish - English words, Spanish meanings | Spanish - Spanish "
-                                  "words, English meanings"));
-    const SharedState& s = Shared();
-    QCOMPARE(QString::fromStdString(s.CurrentListName), odd ? "Odd" : "Spanish Animals");
-    QCOMPARE(QString::fromStdString(s.ListLanguage), language);
-    QCOMPARE(QString::fromLatin1(s.Words[1].c_str()), word1);
-    QCOMPARE(QString::fromLatin1(s.Meanings[1].c_str()), meaning1);
-    QCOMPARE(s.WordsOnly == kTrue, wordsOnly);
-}
-
-void ChooserTest::countBoundaries_data() {
-    QTest::addColumn<QString>("game");
-    QTest::addColumn<int>("words");
-    QTest::addColumn<int>("difficulty");
-    QTest::addColumn<bool>("refused");
-    // One row each side of every kind of count rule: a fixed minimum, and the difficulty.
-    struct Row {
-        const char* game;
-        int minimum;  // 0: the difficulty is the minimum
-    };
-    const Row rows[] = {{"Pachinko", 5}, {"Basketball", 10}, {"Quiz", 0}, {"Concentration", 0}};
-    for (const Row& r : rows) {
-        const int n = r.minimum ? r.minimum : 7;
-        const QByteArray name(r.game);
-        QTest::newRow(name + " exactly") << QString(r.game) << n << 7 << false;
-        QTest::newRow(name + " one short") << QString(r.game) << n - 1 << 7 << true;
+        // After the first list was deleted the file starts with a separator.
+        ListSummary healed = SummariseLists({"<New List>", "Birds", "owl", "hooter"}, true, {});
+        QCOMPARE(healed.lines, (QStringList{"<New List> (-.5 words)", "Birds (1 words)"}));
     }
-}
 
-void ChooserTest::countBoundaries() {
-    QFETCH(QString, game);
-    QFETCH(int, words);
-    QFETCH(int, difficulty);
-    QFETCH(bool, refused);
-    ShellFixture fx;
-    ChooseList* chooser = OpenChooser(fx, game.toStdString(), ListOf("Sized", words));
-    QVERIFY(chooser);
-    Shared().Difficulty = difficulty;
-    QVERIFY(Select(chooser, "Sized ("));
-    chooser->continueOn();
-    QCOMPARE(Shared().WordCount, words);
-    const QString first = fx.dialogs.shown.empty() ? QString() : fx.dialogs.shown.front().text;
-    const bool countRefusal = first.startsWith("You need a list with at least") ||
-                              first.startsWith("There are not enough words");
-    QCOMPARE(countRefusal, refused);
-    if (!refused && first.isEmpty()) QVERIFY(CurrentScreen() != chooser);
-}
+    void wordsOnlyListsAreRefusedOrWarned() {
+        // One game for each way of meeting a words-only list, the option on.
+        const struct {
+            const char* game;
+            QString message;
+            bool optionAfter;
+            QString opens;
+        } rows[] = {{"Pachinko", kM1, true, "ChooseList"},
+                    {"Word Zap", kM1, true, "ChooseList"},  // the option on
+                    {"Word Search", kSearch, false, "WordSearchForm"},
+                    // Kept by the chooser, then inverted by the game as it loads.
+                    {"Scramble", kW2, false, "Scramble"},
+                    {"Hang Glider", "", true, "HangGlider"}};
+        for (const auto& r : rows) {
+            ShellFixture fx;
+            ChooseList* chooser = OpenChooser(fx, r.game);
+            Shared().GameOptionOn = kTrue;
+            QVERIFY(chooser->lists()->isVisible());
+            QVERIFY(SelectList(chooser, "Tricky Spelling Words (") >= 0);
+            chooser->continueOn();
+            QCOMPARE(fx.dialogs.texts().value(0), r.message);
+            QCOMPARE(Shared().GameOptionOn == kTrue, r.optionAfter);
+            QCOMPARE(CurrentScreen()->objectName(), r.opens);
+        }
+    }
 
-void ChooserTest::warnIfOptionWithTheOptionOffSaysNothing() {
-    // Words-only lists warn these games only while the option is on; off, they open quietly.
-    ShellFixture fx;
-    ChooseList* chooser = OpenChooser(fx, "Hang Glider", {});
-    QVERIFY(chooser);
-    for (const char* game : {"Short Circuit", "Princess", "Asteroid Zap", "Safe Cracker",
-                             "Word Search", "Letter Drop"}) {
-        Shared().CurrentGame = game;
-        chooser = qobject_cast<ChooseList*>(OpenScreen("ChooseList", CurrentScreen()));
-        Pump();
+    void countBoundaries() {
+        // Each side of a fixed minimum and of the difficulty (7) as the minimum.
+        const struct {
+            const char* game;
+            int minimum;
+            QString message;
+        } rows[] = {{"Pachinko", 5, QString::fromStdString(N(5))},
+                    {"Basketball", 10, kE1},
+                    {"Quiz", 7, kE1},
+                    {"Concentration", 7, kE2}};
+        for (const auto& r : rows) {
+            for (int words : {r.minimum, r.minimum - 1}) {
+                ShellFixture fx;
+                ChooseList* chooser = OpenChooser(fx, r.game, ListOf("Sized", words));
+                Shared().Difficulty = 7;
+                QVERIFY(SelectList(chooser, "Sized (") >= 0);
+                chooser->continueOn();
+                QCOMPARE(Shared().WordCount, words);
+                const bool refused = words < r.minimum;
+                QCOMPARE(fx.dialogs.texts().contains(r.message), refused);
+                QCOMPARE(CurrentScreen() == chooser, refused);
+            }
+        }
+    }
+
+    void foreignListPlayedThroughTheChooser() {
+        // "[F]Odd" has the marker on its word lines: after a swap it stands on the meaning side.
+        const struct {
+            bool secondOption;
+            QString language, word1, meaning1;
+            bool wordsOnly;
+        } rows[] = {{false, "E", "dog", "perro", false},
+                    {true, "S", "perro", "dog", false},
+                    {false, "E", "-----", "chat", false},
+                    {true, "F", "chat", "-----", true}};
+        for (const auto& r : rows) {
+            ShellFixture fx;
+            const bool odd = r.word1 == "-----" || r.meaning1 == "-----";
+            ChooseList* chooser = OpenChooser(
+                fx, "Hang Glider", {"<New List>", "[F]Odd", "-----", "chat", "-----", "chien"});
+            QString asked;
+            SetModalHook([&](QDialog& d) {
+                auto* box = dynamic_cast<LangChoose*>(&d);
+                QVERIFY(box);
+                asked = box->Option1->text() + " | " + box->Option2->text();
+                (r.secondOption ? box->Option2 : box->Option1)->setChecked(true);
+            });
+            // The box shows the plain name; the code goes to the foreign table.
+            QVERIFY(SelectList(chooser, odd ? "Odd (2 words)" : "Spanish Animals (") >= 0);
+            chooser->continueOn();
+            QCOMPARE(asked,
+                     QString("%1 - English words, %1 meanings | %1 - %1 words, English meanings")
+                         .arg(odd ? "French" : "Spanish"));
+            const SharedState& s = Shared();
+            QCOMPARE(QString::fromStdString(s.CurrentListName), odd ? "Odd" : "Spanish Animals");
+            QCOMPARE(QString::fromStdString(s.ListLanguage), r.language);
+            QCOMPARE(QString::fromLatin1(s.Words[1].c_str()), r.word1);
+            QCOMPARE(QString::fromLatin1(s.Meanings[1].c_str()), r.meaning1);
+            QCOMPARE(s.WordsOnly == kTrue, r.wordsOnly);
+        }
+    }
+
+    void warnIfOptionWithTheOptionOffSaysNothing() {
+        // Words-only lists warn these games only while the option is on; off, they open quietly.
+        ShellFixture fx;
+        for (const char* game : {"Short Circuit", "Princess", "Asteroid Zap", "Safe Cracker",
+                                 "Word Search", "Letter Drop"}) {
+            ChooseList* chooser = OpenChooser(fx, game);
+            QVERIFY(chooser->lists()->isVisible());
+            fx.dialogs.shown.clear();
+            Shared().GameOptionOn = kFalse;
+            QVERIFY(SelectList(chooser, "Tricky Spelling Words (") >= 0);
+            chooser->continueOn();
+            QVERIFY2(Shared().WordsOnly == kTrue, game);
+            for (const auto& shown : fx.dialogs.shown)
+                QVERIFY2(!shown.text.startsWith("The list you have selected"), game);
+            QCOMPARE(Shared().GameOptionOn, kFalse);
+        }
+    }
+
+    void chooserRemembersAndCutsNames() {
+        ShellFixture fx;
+        ChooseList* chooser =
+            OpenChooser(fx, "Hang Glider", {"<New List>", "Unit (2)", "ant", "a small insect"});
         QVERIFY(chooser->lists()->isVisible());
-        fx.dialogs.shown.clear();
-        Shared().GameOptionOn = kFalse;
-        QVERIFY(Select(chooser, "Tricky Spelling Words ("));
-        chooser->continueOn();
-        QVERIFY2(Shared().WordsOnly == kTrue, game);
-        for (const auto& shown : fx.dialogs.shown)
-            QVERIFY2(!shown.text.startsWith("The list you have selected"), game);
-        QCOMPARE(Shared().GameOptionOn, kFalse);
+        QCOMPARE(chooser->lists()->currentRow(), 0);  // the first line when nothing was chosen
+        QVERIFY(SelectList(chooser, "Unit (2) (") >= 0);
+        chooser->continueOn();  // the game is not built yet, but the list is loaded
+        QCOMPARE(QString::fromStdString(Shared().CurrentListName), "Unit (2)");
+        QCOMPARE(Shared().WordCount, 1);
+        QCOMPARE(QString::fromStdString(Shared().LastListChoice), "Unit (2) (1 words)");
+
+        // The next visit picks the first line that begins with the last choice.
+        Shared().LastListChoice = "UNIT";
+        auto* again = qobject_cast<ChooseList*>(OpenScreen("ChooseList", chooser));
+        Pump();
+        QVERIFY(again->lists()->isVisible());
+        QCOMPARE(again->lists()->currentItem()->text(), "Unit (2) (1 words)");
+        QTest::keyClick(again, Qt::Key_Escape);
+        QVERIFY(Showing<Title>() != nullptr);
     }
-}
 
-void ChooserTest::lastChoiceMatchingNothingSelectsNothing() {
-    ShellFixture fx;
-    Shared().LastListChoice = "A list deleted since";
-    ChooseList* chooser = OpenChooser(fx, "Hang Glider", {});
-    QVERIFY(chooser);
-    QVERIFY(chooser->lists()->count() > 0);
-    QCOMPARE(chooser->lists()->currentRow(), -1);
-    const QString caption = chooser->findChild<QLabel*>("Caption")->text();
-    QVERIFY2(caption.startsWith("Choose a list: ") && caption.endsWith(" word lists."),
-             qPrintable(caption));
-    QVERIFY(!chooser->findChild<QPushButton*>("Command1")->isEnabled());
-    chooser->continueOn();
-    QCOMPARE(fx.dialogs.texts(), QStringList{"You need to choose a list!"});
-    QCOMPARE(CurrentScreen(), chooser);
-}
+    void lastChoiceMatchingNothingSelectsNothing() {
+        ShellFixture fx;
+        Shared().LastListChoice = "A list deleted since";
+        ChooseList* chooser = OpenChooser(fx, "Hang Glider");
+        QVERIFY(chooser->lists()->count() > 0);
+        QCOMPARE(chooser->lists()->currentRow(), -1);
+        const QString caption = chooser->findChild<QLabel*>("Caption")->text();
+        QVERIFY2(caption.startsWith("Choose a list: ") && caption.endsWith(" word lists."),
+                 qPrintable(caption));
+        QVERIFY(!chooser->findChild<QPushButton*>("Command1")->isEnabled());
+        chooser->continueOn();
+        QCOMPARE(fx.dialogs.texts(), QStringList{"You need to choose a list!"});
+        QCOMPARE(CurrentScreen(), chooser);
+    }
 
-void ChooserTest::languageNotInTheFileOffersPlainSides() {
-    ShellFixture fx;
-    LangChoose box("X");
-    QCOMPARE(box.Option1->text(), "English words, foreign meanings");
-    QCOMPARE(box.Option2->text(), "Foreign words, English meanings");
-    QCOMPARE(box.findChild<QLabel*>("Label1")->text(), "How do you want to play this word list?");
-}
+    void languageNotInTheFileOffersPlainSides() {
+        ShellFixture fx;
+        LangChoose box("X");
+        QCOMPARE(box.Option1->text(), "English words, foreign meanings");
+        QCOMPARE(box.Option2->text(), "Foreign words, English meanings");
+        QCOMPARE(box.findChild<QLabel*>("Label1")->text(),
+                 "How do you want to play this word list?");
+    }
+
+    void optionsRowsAndClamping() {
+        ShellFixture fx;
+        OpenScreen("Title");
+        SharedState& s = Shared();
+        s.CurrentGame = "Crossword";
+        s.WordCount = 7;
+        auto* opts = qobject_cast<GameOptions*>(OpenScreen("GameOptions", CurrentScreen()));
+        QCOMPARE(opts->SpeedBar->minimum(), 2);
+        QCOMPARE(opts->SpeedBar->maximum(), 7);  // clamped to the words loaded
+        QCOMPARE(opts->SpeedBar->value(), 7);
+        QCOMPARE(int(s.MaxDifficulty), 7);
+        QVERIFY(!opts->Frame2->isVisible());
+        opts->goBack();  // list-first games go back to the chooser
+        QCOMPARE(CurrentScreen()->objectName(), "ChooseList");
+
+        s.CurrentGame = "Word Search";
+        opts = qobject_cast<GameOptions*>(OpenScreen("GameOptions", CurrentScreen()));
+        QCOMPARE(opts->Frame2->title(), "How do you want the clue?");
+        QCOMPARE(opts->Option2->text(), "Clue is Definition");
+        QVERIFY(opts->Frame2->isVisible());
+        opts->SoundOFFOp->setChecked(true);
+        opts->Option1->setChecked(true);
+        opts->SpeedBar->setValue(9);
+        opts->continueOn();
+        QCOMPARE(s.SoundOn, kFalse);
+        QCOMPARE(s.GameOptionOn, kFalse);
+        QCOMPARE(s.Difficulty, 9);
+        QVERIFY(!s.HowToText.empty());
+        QCOMPARE(CurrentScreen()->objectName(), "ChooseList");
+
+        s.CurrentGame = "Speed Type";
+        opts = qobject_cast<GameOptions*>(OpenScreen("GameOptions", CurrentScreen()));
+        QVERIFY(!opts->Frame3->isVisible());
+        QTest::keyClick(opts, Qt::Key_Escape);
+        QVERIFY(Showing<Title>() != nullptr);
+    }
+};
 
 QTEST_MAIN(ChooserTest)
 #include "chooser_test.moc"

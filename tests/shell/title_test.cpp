@@ -1,12 +1,15 @@
-// The title screen: first start, pages, hidden games, the empty store and failures.
+// The title and the score screens as a pupil meets them: first start, the list file and the sound
+// line, pages and hidden games, failures named, the splash and its film on the test clock, rank
+// lines, initials typed with "-", and the high-score browser.
+#include <QLabel>
+#include <QPainter>
+#include <QSignalSpy>
 #include <QtTest>
 
 #include "core/display_file.h"
 #include "core/game_names.h"
-#include "core/line_file.h"
-#include "platform/movie.h"
-#include "shell/about_form.h"
 #include "shell/black_back.h"
+#include "shell/enter_initials_form.h"
 #include "shell/high_score_form.h"
 #include "shell/title.h"
 #include "shell_fixture.h"
@@ -14,155 +17,296 @@
 using namespace wm;
 using namespace wm::test;
 
+namespace {
+
+Title* OpenTitle(QWidget* from = nullptr) {
+    return qobject_cast<Title*>(OpenScreen("Title", from));
+}
+
+class FlashScene : public MovieScene {
+public:
+    double duration() const override { return 0.1; }
+    void paint(QPainter& p, const QRectF& r, double) override { p.fillRect(r, Qt::red); }
+};
+
+}  // namespace
+
 class TitleTest : public QObject {
     Q_OBJECT
 private slots:
-    void firstStartRenamesAndMakesFiles();
-    void hiddenGamesAreNotShownAndGetNoScoreFile();
-    void emptyStoreSaysNoLists();
-    void missingSettingsIsAClearFailure();
-    void splashSkipsToTitle();
-    void pickRoutesByGame();
-    void highScoresBrowseTheShownGames();
-};
+    void initTestCase() { ShellFixture registersTheScenesAndStopsTheClock; }
 
-void TitleTest::firstStartRenamesAndMakesFiles() {
-    ShellFixture fx;
-    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
-    QVERIFY(title && title->startedOk());
-    QVERIFY(fx.exists("wmdata.dat") && !fx.exists("wmdata.new"));
-    QVERIFY(fx.exists("thelists.dat") && !fx.exists("thelists.new"));
-    QVERIFY(fx.exists("folders.dat"));
-    for (auto name : kGameNames) {
-        const QString file =
-            "scores/" + QString::fromLatin1(name.data(), int(name.size())) + ".dat";
-        QVERIFY2(fx.exists(file), qPrintable(file));
-        QCOMPARE(fx.read(file).size(), 510);
+    void firstStartRenamesAndMakesFiles() {
+        ShellFixture fx;
+        Title* title = OpenTitle();
+        QVERIFY(title && title->startedOk());
+        for (const char* name : {"wmdata", "thelists"})
+            QVERIFY(fx.exists(name + QString(".dat")) && !fx.exists(name + QString(".new")));
+        QVERIFY(fx.exists("folders.dat"));
+        for (auto name : kGameNames) {
+            const QLatin1String game(name.data(), int(name.size()));
+            QCOMPARE(fx.read(QString("scores/%1.dat").arg(game)).size(), 510);
+        }
+        QCOMPARE(Shared().VisibleGameCount, 42);
+        QCOMPARE(Shared().SoundDefault, kTrue);
+        QVERIFY(fx.dialogs.shown.empty());
+        Pump();  // the sound waits for a short timer, on the test clock
+        QCOMPARE(fx.sound.played, QStringList{"ufofly.wav"});
+
+        // A list file that has gone missing is named.
+        QFile::remove(fx.path("thelists.dat"));
+        Title* again = OpenTitle(title);
+        QVERIFY(again && again->startedOk());
+        QVERIFY(fx.dialogs.last().contains(fx.path("thelists.dat")));
+        QVERIFY(again->noListsLabel()->isVisible());
     }
-    QCOMPARE(Shared().VisibleGameCount, 42);
-    QCOMPARE(Shared().SoundDefault, kTrue);
-    QVERIFY(fx.dialogs.shown.empty());
-    Pump();  // the sound waits for a short timer, on the test clock
-    QCOMPARE(fx.sound.played, QStringList{"ufofly.wav"});
-}
 
-void TitleTest::hiddenGamesAreNotShownAndGetNoScoreFile() {
-    ShellFixture fx;
-    DisplaySettings d = DisplaySettings::MediumIcons();
-    d.hidden = {"Quiz", "Froggy"};
-    WriteDisplaySettings(fx.path("wmgdisplay.dat").toStdString(), d);
-    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
-    QVERIFY(title);
-    QCOMPARE(Shared().VisibleGameCount, 40);
-    QCOMPARE(QString::fromStdString(Shared().VisibleGames[2]), "Word Zap");
-    QVERIFY(!fx.exists("scores/Quiz.dat"));
-    QVERIFY(!fx.exists("scores/Froggy.dat"));
-    QVERIFY(fx.exists("scores/Pachinko.dat"));
-    QCOMPARE(title->pageSize(), 15);
-    for (auto* b : title->buttons()) QVERIFY(b->text() != "Quiz" && b->text() != "Froggy");
+    void listsAndSoundLineAtStart() {
+        // No lists: an empty first line or the store's own "No Lists". Only "Sound On" is on.
+        const QStringList animals{"Animals", "cat", "a pet"};
+        const struct {
+            QStringList lists;
+            QString sound;
+            bool noLists;
+        } rows[] = {{animals, "Sound On", false},
+                    {QStringList{""} + animals, "Sound On", true},
+                    {{"No Lists"}, "Sound On", true},
+                    {animals, "Sound Off", false},
+                    {animals, "sound on", false}};
+        for (const auto& r : rows) {
+            ShellFixture fx;
+            fx.writeLines("thelists.new", r.lists);
+            fx.writeLines("wmdata.new", {"r0", "r1", r.sound, "mapleton", "listpath", "folder"});
+            Title* title = OpenTitle();
+            QVERIFY(title && title->startedOk());
+            QCOMPARE(title->noListsLabel()->isVisible(), r.noLists);
+            QCOMPARE(title->noListsLabel()->text(), "No Lists Available!");
+            QVERIFY(title->buttons().first()->isVisible());  // the buttons stay
+            QCOMPARE(fx.dialogs.texts().join('|'),
+                     r.noLists ? "There are no vocabulary lists available to play with!" : "");
+            const bool on = r.sound == "Sound On";
+            QCOMPARE(Shared().SoundDefault, on ? kTrue : kFalse);
+            Pump(50);
+            QCOMPARE(fx.sound.played, on ? QStringList{"ufofly.wav"} : QStringList{});
+        }
+    }
 
-    // Every game hidden: no buttons, no error.
-    d.hidden.assign(kGameNames.begin(), kGameNames.end());
-    WriteDisplaySettings(fx.path("wmgdisplay.dat").toStdString(), d);
-    auto* empty = qobject_cast<Title*>(OpenScreen("Title", title));
-    QVERIFY(empty && empty->startedOk());
-    for (auto* b : empty->buttons()) QVERIFY(!b->isVisible());
-    QVERIFY(!empty->moreButton()->isVisible());
-}
+    void hiddenGamesAreNotShownAndGetNoScoreFile() {
+        ShellFixture fx;
+        DisplaySettings d = DisplaySettings::MediumIcons();
+        d.hidden = {"Quiz", "Froggy"};
+        WriteDisplaySettings(fx.path("wmgdisplay.dat").toStdString(), d);
+        Title* title = OpenTitle();
+        QVERIFY(title);
+        QCOMPARE(Shared().VisibleGameCount, 40);
+        QCOMPARE(QString::fromStdString(Shared().VisibleGames[2]), "Word Zap");
+        QVERIFY(!fx.exists("scores/Quiz.dat") && !fx.exists("scores/Froggy.dat"));
+        QVERIFY(fx.exists("scores/Pachinko.dat"));
+        QCOMPARE(title->pageSize(), 15);
+        for (auto* b : title->buttons()) QVERIFY(b->text() != "Quiz" && b->text() != "Froggy");
+    }
 
-void TitleTest::emptyStoreSaysNoLists() {
-    ShellFixture fx;
-    fx.writeLines("thelists.new", {"No Lists"});
-    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
-    QVERIFY(title && title->startedOk());
-    QCOMPARE(fx.dialogs.texts(),
-             QStringList{"There are no vocabulary lists available to play with!"});
-    QVERIFY(title->noListsLabel()->isVisible());
-    QCOMPARE(title->noListsLabel()->text(), "No Lists Available!");
-    // The buttons stay.
-    QVERIFY(title->buttons().first()->isVisible());
+    void pagesAtTheEdge() {
+        // Twelve a page: More shows exactly while games remain past the page. None shown: no error.
+        const struct {
+            int shown, pages, onLastPage;
+        } rows[] = {{12, 1, 12}, {13, 2, 1}, {24, 2, 12}, {1, 1, 1}, {0, 1, 0}};
+        for (const auto& r : rows) {
+            ShellFixture fx;
+            DisplaySettings d = DisplaySettings::LargeIcons();
+            d.hidden.assign(kGameNames.begin() + r.shown, kGameNames.end());
+            WriteDisplaySettings(fx.path("wmgdisplay.dat").toStdString(), d);
+            Title* title = OpenTitle();
+            QVERIFY(title && title->startedOk());
+            QCOMPARE(Shared().VisibleGameCount, r.shown);
+            int seen = 1;
+            for (; title->moreButton()->isVisible() && seen <= r.pages; ++seen)
+                QTest::mouseClick(title->moreButton(), Qt::LeftButton);
+            QCOMPARE(seen, r.pages);
+            int visible = 0;
+            for (auto* b : title->buttons()) visible += b->isVisible() ? 1 : 0;
+            QCOMPARE(visible, r.onLastPage);
+            QCOMPARE(title->backButton()->isVisible(), r.pages > 1);
+        }
+    }
 
-    // A list file that has gone missing is named.
-    QFile::remove(fx.path("thelists.dat"));
-    fx.dialogs.shown.clear();
-    auto* again = qobject_cast<Title*>(OpenScreen("Title", title));
-    QVERIFY(again && again->startedOk());
-    QVERIFY(fx.dialogs.last().contains(fx.path("thelists.dat")));
-    QVERIFY(again->noListsLabel()->isVisible());
-}
+    void missingSettingsIsAClearFailure() {
+        ShellFixture fx(false);
+        auto title = std::make_unique<Title>();
+        QVERIFY(!title->startedOk());
+        QCOMPARE(fx.dialogs.shown.size(), size_t(1));
+        const QString text = fx.dialogs.last();
+        QVERIFY2(text.contains("wmdata.dat") && text.contains(fx.dir.path()), qPrintable(text));
+        // A settings file too short to read is named as well.
+        fx.writeLines("wmdata.dat", {"a", "b"});
+        QVERIFY(!std::make_unique<Title>()->startedOk());
+        QVERIFY(fx.dialogs.last().contains("wmdata.dat"));
+    }
 
-void TitleTest::missingSettingsIsAClearFailure() {
-    ShellFixture fx(false);
-    auto* title = new Title;
-    QVERIFY(!title->startedOk());
-    QCOMPARE(fx.dialogs.shown.size(), size_t(1));
-    const QString text = fx.dialogs.last();
-    QVERIFY2(text.contains("wmdata.dat") && text.contains(fx.dir.path()), qPrintable(text));
-    delete title;
+    void splashSkipsToTitle() {
+        ShellFixture fx;
+        auto* splash = OpenScreen("BlackBack");
+        QVERIFY(splash);
+        Pump(50);
+        QCOMPARE(fx.sound.played.value(0), "tolvane.wav");
+        static_cast<BlackBack*>(splash)->movie()->advance(2.5);
+        Pump(60);
+        QTest::keyClick(splash, Qt::Key_Space);
+        Pump();
+        QVERIFY(Showing<Title>() != nullptr && fx.sound.stops >= 1);
+    }
 
-    // A settings file too short to read is named as well.
-    fx.writeLines("wmdata.dat", {"a", "b"});
-    auto* shortOne = new Title;
-    QVERIFY(!shortOne->startedOk());
-    QVERIFY(fx.dialogs.last().contains("wmdata.dat"));
-    delete shortOne;
-}
+    void pickRoutesByGame() {
+        ShellFixture fx;
+        Title* title = OpenTitle();
+        title->pick(0);  // Flying Cow goes on to its options
+        QCOMPARE(CurrentScreen()->objectName(), "GameOptions");
+        // The quiz has options of its own first.
+        OpenTitle(CurrentScreen())->pick(1);
+        QVERIFY(fx.dialogs.shown.empty());
+        QCOMPARE(CurrentScreen()->objectName(), "QuizOptions");
+    }
 
-void TitleTest::splashSkipsToTitle() {
-    ShellFixture fx;
-    auto* splash = OpenScreen("BlackBack");
-    QVERIFY(splash);
-    Pump(50);
-    QCOMPARE(fx.sound.played.value(0), "tolvane.wav");
-    static_cast<BlackBack*>(splash)->movie()->advance(2.5);
-    Pump(60);
-    QTest::keyClick(splash, Qt::Key_Space);
-    Pump();
-    QVERIFY(Showing<Title>() != nullptr);
-    QVERIFY(fx.sound.stops >= 1);
-}
+    void highScoresBrowseTheShownGames() {
+        ShellFixture fx;
+        Title* title = OpenTitle();
+        QStringList seen;
+        SetModalHook([&](QDialog& d) {
+            auto* form = qobject_cast<HighScoreForm*>(&d);
+            QVERIFY(form);
+            seen << form->game();
+            form->previousGame();  // clamped at the first
+            seen << form->game();
+            form->nextGame();
+            form->nextGame();
+            seen << form->game();
+            for (int i = 0; i < 60; ++i) form->nextGame();  // clamped at the last
+            seen << form->game();
+            QVERIFY(form->tableText().contains("#50"));
+            // The close box is refused; OK closes.
+            form->close();
+            QVERIFY(form->isVisible());
+            form->findChild<QPushButton*>("Command1")->click();
+            QVERIFY(!form->isVisible());
+        });
+        for (QAction* a : title->toolbar()->actions())
+            if (a->text() == "High Scores") a->trigger();
+        QCOMPARE(seen, (QStringList{"Flying Cow", "Flying Cow", "Word Zap", "Pachinko"}));
+        QCOMPARE(QString::fromStdString(Shared().CurrentGame), "Title");
+    }
 
-void TitleTest::pickRoutesByGame() {
-    ShellFixture fx;
-    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
-    title->pick(0);  // Flying Cow goes on to its options
-    QVERIFY(CurrentScreen() != title);
-    QCOMPARE(CurrentScreen()->objectName(), "GameOptions");
-    // The quiz has options of its own first.
-    title = qobject_cast<Title*>(OpenScreen("Title", CurrentScreen()));
-    title->pick(1);
-    QVERIFY(fx.dialogs.shown.empty());
-    QCOMPARE(CurrentScreen()->objectName(), "QuizOptions");
-}
+    void rankLinesAndTheTablesOfGamesWithout() {
+        // Initials start at column 13 and the score at column 27, whatever the rank's width.
+        const struct {
+            int rank;
+            QString initials, score, line;
+        } rows[] = {{1, "ABC", "12345", "#1          ABC           12345"},
+                    {50, "Z", "7", "#50         Z             7"},
+                    {9, "   ", " ", "#9          ---           -------"},
+                    {10, " AB", "  0   ", "#10         AB            0"}};
+        for (const auto& r : rows)
+            QCOMPARE(HighScoreForm::RankLine(r.rank, r.initials, r.score), r.line);
 
-void TitleTest::highScoresBrowseTheShownGames() {
-    ShellFixture fx;
-    auto* title = qobject_cast<Title*>(OpenScreen("Title"));
-    QVERIFY(title);
-    QStringList seen;
-    SetModalHook([&](QDialog& d) {
-        auto* form = qobject_cast<HighScoreForm*>(&d);
-        QVERIFY(form);
-        seen << form->game();
-        form->previousGame();  // clamped at the first
-        seen << form->game();
-        form->nextGame();
-        form->nextGame();
-        seen << form->game();
-        for (int i = 0; i < 60; ++i) form->nextGame();  // clamped at the last
-        seen << form->game();
-        QVERIFY(form->tableText().contains("#50"));
-        // The close box is refused; OK closes.
-        form->close();
-        QVERIFY(form->isVisible());
-        form->findChild<QPushButton*>("Command1")->click();
-        QVERIFY(!form->isVisible());
-    });
-    for (QAction* a : title->toolbar()->actions())
-        if (a->text() == "High Scores") a->trigger();
-    QCOMPARE(seen, (QStringList{"Flying Cow", "Flying Cow", "Word Zap", "Pachinko"}));
-    QCOMPARE(QString::fromStdString(Shared().CurrentGame), "Title");
-}
+        QString fresh;
+        for (int r = 1; r <= 50; ++r)
+            fresh += (r > 1 ? "\n" : "") + HighScoreForm::RankLine(r, "---", "0");
+        const QString none = "No Scores Collected for this Activity";
+        const std::pair<QString, QString> tables[] = {
+            {"Quiz", none}, {"Flash Cards", none}, {"Froggy", fresh}};
+        for (const auto& [game, table] : tables) {
+            ShellFixture fx;
+            OpenTitle();
+            Shared().CurrentGame = game.toStdString();
+            HighScoreForm form;
+            QCOMPARE(form.objectName(), "HighScoreForm");
+            QCOMPARE(form.tableText(), table);
+            bool headed = false;
+            for (auto* l : form.findChildren<QLabel*>())
+                headed |= l->text() == "High Scores for " + game;
+            QVERIFY(headed);
+        }
+    }
+
+    void initialsSkipTheDashes() {
+        const std::pair<QStringList, QString> rows[] = {{{"A", "-", "C"}, "AC"},
+                                                        {{"-", "-", "-"}, ""},
+                                                        {{"J", "O", "E"}, "JOE"},
+                                                        {{"-", "Q", "-"}, "Q"}};
+        for (const auto& [typed, kept] : rows) {
+            ShellFixture fx;
+            Shared().PlacedRank = 3;
+            Shared().Score = 1200;
+            Shared().LastInitials = "XYZ";
+            EnterInitialsForm form;
+            for (int i = 0; i < 3; ++i) form.letters()[i]->setText(typed[i]);
+            form.confirm();
+            QCOMPARE(QString::fromStdString(Shared().LastInitials), kept);
+        }
+    }
+
+    // The opening film's player: one pass and loops on the test clock, stop, continuations.
+    void filmRunsOnTheTestClockAndStops() {
+        // The continuation runs when exactly the film's length has gone.
+        RegisterScene(QStringLiteral("flash"), [] { return std::make_unique<FlashScene>(); });
+        Movie movie;
+        QVERIFY(movie.load(QStringLiteral("flash")));
+        QSignalSpy finished(&movie, &Movie::finished);
+        bool done = false;
+        movie.play(false, [&] { done = true; });
+        Ticker::get().advance(50);
+        QCOMPARE(movie.position(), 0.05);
+        Ticker::get().advance(49);
+        QVERIFY(!done && movie.isPlaying());
+        Ticker::get().advance(1);
+        QVERIFY(done);
+        Ticker::get().advance(1000);
+        QCOMPARE(finished.count(), 1);
+        QCOMPARE(movie.position(), 0.1);
+
+        // Jumping by hand and then letting the clock run mix: 30 ms by hand, 70 by the clock.
+        done = false;
+        movie.play(false, [&] { done = true; });
+        movie.advance(0.03);
+        Ticker::get().advance(69);
+        QVERIFY(!done);
+        Ticker::get().advance(1);
+        QVERIFY(done);
+
+        // A loop never ends by itself, and wraps inside its length. Stop ends it once, where it
+        // stood, with its continuation.
+        int loops = 0;
+        movie.play(true, [&] { ++loops; });
+        Ticker::get().advance(1234);
+        QVERIFY(movie.isPlaying() && loops == 0);
+        const double at = movie.position();
+        QVERIFY(at > 0 && at < 0.1);
+        movie.stop();
+        movie.stop();
+        QVERIFY(!movie.isPlaying());
+        QCOMPARE(loops, 1);
+        QCOMPARE(finished.count(), 3);
+        QCOMPARE(movie.position(), at);
+
+        // With nothing loaded a waiting screen still goes on, on the next tick of the clock.
+        Movie empty;
+        QVERIFY(!empty.load(QStringLiteral("missing")));
+        bool emptyDone = false;
+        empty.play(true, [&] { emptyDone = true; });
+        Ticker::get().advance(0);
+        QVERIFY(emptyDone && !empty.isPlaying());
+
+        // The continuation may delete the player.
+        auto* doomed = new Movie;
+        QVERIFY(doomed->load(QStringLiteral("wmsplash")));
+        bool deleted = false;
+        doomed->play(false, [&] {
+            delete doomed;
+            deleted = true;
+        });
+        doomed->advance(100);
+        QVERIFY(deleted);
+    }
+};
 
 QTEST_MAIN(TitleTest)
 #include "title_test.moc"
