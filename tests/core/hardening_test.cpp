@@ -1,8 +1,10 @@
 // Faults found in review: each case here failed before its fix.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <filesystem>
+#include <vector>
 
 #include "core/display_file.h"
 #include "core/line_file.h"
@@ -92,9 +94,23 @@ TEST(RandomWord, DrawsOnlyLoadedEntries) {
     few.WordCount = 5;
     ScriptedRng top(0.99);
     EXPECT_EQ(PickRandomWord(few, top), 2);
-    // Two games started apart draw apart: the system generator is seeded from the clock.
+    // Two games started apart draw apart: the system generator is seeded from the clock, and
+    // its draws spread over [0, 1).
     SystemRng first, second;
     EXPECT_NE(first.Rnd(), second.Rnd());
+    double low = 1, high = 0;
+    for (int i = 0; i < 1000; ++i) {
+        const double v = first.Rnd();
+        low = std::min(low, v);
+        high = std::max(high, v);
+    }
+    EXPECT_TRUE(low >= 0 && low < 0.01 && high > 0.99 && high < 1) << low << " " << high;
+    // A scripted generator hands out its queue in order, then its fallback, counting each draw.
+    ScriptedRng script(0.5);
+    script.then(0.1).pick(3, 4);
+    EXPECT_EQ(std::vector<double>({script.Rnd(), script.Rnd(), script.Rnd()}),
+              std::vector<double>({0.1, 0.625, 0.5}));
+    EXPECT_EQ(script.draws, 3);
     // The generator a test installs is the one every draw uses, until it is taken away.
     SetRng(&top);
     EXPECT_EQ(&TheRng(), &top);
