@@ -66,4 +66,11 @@ TEST(LanguageCodes, ThreeLinesALanguageAndAnUnfinishedOneDropped) {
     ASSERT_NE(FindLanguage(codes, "S"), nullptr);
     EXPECT_EQ(FindLanguage(codes, "G"), nullptr);
     EXPECT_TRUE(ReadLanguageCodes(dir.file("none.dat")).empty());
+    // At most a hundred languages are read.
+    std::vector<std::string> many;
+    for (int i = 0; i < 101; ++i) many.insert(many.end(), {"L" + std::to_string(i), "one", "two"});
+    dir.writeLines("flcodelist.dat", many);
+    codes = ReadLanguageCodes(dir.file("flcodelist.dat"));
+    ASSERT_EQ(codes.size(), 100u);
+    EXPECT_EQ(codes.back().code, "L99");
 }

@@ -153,6 +153,8 @@ TEST(FreezeIt, ShortListStartsOverButNotWithTheWordJustPlayed) {
         {{"owl", "- -"}, 0.5, "owl owl owl owl owl"},             // the only word with letters
         // The fourth draw says the word just played: the next free one comes instead.
         {{"owl", "bat", "cat"}, 0.0, "owl bat cat owl bat", {1, 2, 3, 3}},
+        // Draws stuck on a used word: the walk takes the next free one along, not one further.
+        {{"ant", "bee", "cat", "dog"}, 0.0, "ant bee cat dog ant"},
     };
     for (const Row& r : rows) {
         SharedState s = ListOf(r.words, 3);
