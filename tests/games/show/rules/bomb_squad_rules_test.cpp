@@ -40,8 +40,14 @@ TEST(BombSquadDeal, LevelsAndTheUnboundedDeal) {
         EXPECT_EQ(bombsquad::level(lv).wires, want.wires) << lv;
         EXPECT_EQ(bombsquad::level(lv).seconds, want.seconds) << lv;
     }
-    EXPECT_EQ(bombsquad2::level(2).seconds, 40);
-    EXPECT_EQ(bombsquad2::level(10).seconds, 15);
+    // The second bomb's own table: wires and seconds for each level, held to 1..10.
+    const int second[][3] = {{0, 2, 30}, {1, 2, 30}, {2, 3, 40}, {3, 4, 40}, {4, 5, 45},
+                             {5, 6, 40}, {6, 7, 40},  {7, 8, 35}, {8, 8, 25}, {9, 8, 20},
+                             {10, 8, 15}, {11, 8, 15}};
+    for (auto [lv, wires, seconds] : second) {
+        EXPECT_EQ(bombsquad2::level(lv).wires, wires) << lv;
+        EXPECT_EQ(bombsquad2::level(lv).seconds, seconds) << lv;
+    }
     // Eight wires from six words cannot be dealt: the deal ends instead of spinning for ever.
     SharedState s = sixWords();
     SystemRng rng;
@@ -75,6 +81,10 @@ TEST(BombSquadClock, RunsOutAndPicksTheLoserText) {
     ScriptedRng rng;
     rng.pick(3, 4);
     EXPECT_EQ(bombsquad::winScore(100, 17, 4, rng), 100 + (500 + 17 + 3) * 4);
+    bombsquad2::Board board;
+    board.secondsLeft = 2;
+    EXPECT_FALSE(bombsquad2::tick(board));  // one second left: not yet
+    EXPECT_TRUE(bombsquad2::tick(board));
     EXPECT_STREQ(bombsquad2::tickSound(10), "spacebeep.wav");
     EXPECT_STREQ(bombsquad2::tickSound(9), "highbeep.wav");
     EXPECT_STREQ(bombsquad2::lostText(3),

@@ -52,6 +52,9 @@ TEST(TicTacToeOpponent, RandomSquareOnlyWhenNoLineHelps) {
     draws.pick(2, 3).pick(3, 3);
     EXPECT_EQ(computerChoice(b, 3, draws), (Square{2, 3}));
     EXPECT_EQ(draws.draws, 4);
+    // Draws stuck on a taken square: bounded, then the first free square from the top left.
+    ScriptedRng stuck(0.0);
+    EXPECT_EQ(randomFree(boardOf("X.XOXOXOX"), stuck), (Square{1, 2}));
 
     // Level 1, never offered, keeps its rule: random even with the centre free.
     ScriptedRng one;

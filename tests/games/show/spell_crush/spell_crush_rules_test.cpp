@@ -69,6 +69,7 @@ TEST(Judge, RightPaysByLengthAndSpeedWrongCostsNothing) {
     SpellCrushState g;
     ScriptedRng rng;
     rng.pick(2, 4).pick(1, 4).pick(2, 4).pick(3, 4).pick(4, 4);
+    s.Score = 750;  // the last game's
     newGame(s, g, rng);
     EXPECT_EQ(g.SecondsLeft, 60);
     EXPECT_EQ(s.Score, 0);
