@@ -120,6 +120,7 @@ TEST(BlindTilesRules, RoadToAWinWithTheSameWordTwice) {
     SystemRng rng;
     blind_tiles::BlindTilesState bt;
     ASSERT_TRUE(blind_tiles::newRound(s, bt, rng).ok);
+    EXPECT_EQ(bt.scoreText, "Score: 0");
     ASSERT_EQ(s.PuzzleWordCount, 3);
     ASSERT_EQ(bt.entries.size(), 3u);
     ASSERT_EQ(bt.PlaceWord.size(), 4u);

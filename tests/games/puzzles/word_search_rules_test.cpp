@@ -69,6 +69,13 @@ TEST(WordSearchBuild, PlacesEachWordThenFillsInCapitals) {
     EXPECT_EQ(rng.randomizeCount, 2 + 5);  // the attempt, the word, each row of the fill
     EXPECT_EQ(caption(ws, 2 * 20 + 1), "C");
     EXPECT_EQ(caption(ws, 399), "");
+    // Down: column 4, from row 2.
+    ScriptedRng down(0.0);
+    down.pick(1, 1).pick(2, 2).pick(4, 5).pick(2, 2);
+    ASSERT_TRUE(startRound(state, ws, down).ok);
+    std::string column;
+    for (int y = 1; y <= 5; ++y) column += ws.LetterGrid[4][y];
+    EXPECT_EQ(column, "ACATA");
 }
 
 TEST(WordSearchBuild, WordNeedsAGridOneLongerThanItselfAndTheGridGrowsByTwo) {
