@@ -149,6 +149,8 @@ TEST(FlashCardRules, TheWordSideIsAlwaysCoveredFromTheOptions) {
     EXPECT_TRUE(coversWord(s));
     s.ListChanged = 1;  // never set by the options screen
     EXPECT_FALSE(coversWord(s));
-    s.FlashCardMode = 0;
-    EXPECT_EQ(cardMode(s), 1);
+    for (auto [mode, used] : {std::pair{0, 1}, {1, 1}, {2, 2}, {3, 3}, {4, 1}}) {
+        s.FlashCardMode = mode;
+        EXPECT_EQ(cardMode(s), used) << mode;
+    }
 }

@@ -121,6 +121,14 @@ TEST(QuizRules, KindsByQuizType) {
     s.QuizLength = 0;
     EXPECT_EQ(quizType(s), 1);
     EXPECT_EQ(quizLength(s), 10);
+    s.QuizLength = 1;  // the shortest quiz the options allow
+    EXPECT_EQ(quizLength(s), 1);
+    // The directions: a word to choose for kind 2, a meaning for the others.
+    EXPECT_STREQ(directions(2),
+                 "Directions:  Click the word that BEST matches the meaning shown below.");
+    for (int kind : {1, 3})
+        EXPECT_STREQ(directions(kind),
+                     "Directions:  Click the meaning that BEST matches the word shown below.");
 }
 
 TEST(QuizRules, VerdictLinesAtTheirBoundaries) {
@@ -144,4 +152,6 @@ TEST(QuizRules, VerdictLinesAtTheirBoundaries) {
         EXPECT_EQ(v.percentText, std::to_string(r.percent) + "%");
     }
     EXPECT_EQ(verdict(2, 1).outOf, "You got 2 out of 3 correct.");
+    EXPECT_EQ(verdict(0, 0).percent, 0);  // no questions answered
+    EXPECT_EQ(verdict(1, 0).percent, 100);
 }
