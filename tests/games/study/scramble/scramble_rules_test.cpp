@@ -35,6 +35,18 @@ double topRoll(int top, int height, int label3Top) {
 
 }  // namespace
 
+TEST(Layout, TheScatterOptionFlipsEachRoundBitByBit) {
+    // The option is turned over with a bitwise not, as it always was: -1 and 0 swap, and a 1 left
+    // by an old options file becomes -2, which still counts as on.
+    SharedState s;
+    const int steps[][3] = {{0, -1, true}, {-1, 0, false}, {1, -2, true}, {-2, 1, true}};
+    for (auto [before, after, on] : steps) {
+        s.GameOptionOn = before;
+        EXPECT_EQ(invertGameOption(s), bool(on)) << before;
+        EXPECT_EQ(s.GameOptionOn, after) << before;
+    }
+}
+
 TEST(Layout, RowIsCentredAndLevelWithoutScatter) {
     auto size = [](int length) {
         LetterSize s = letterSize(length);
