@@ -110,6 +110,9 @@ TEST(QuizRules, KindsByQuizType) {
     s.QuizType = 2;
     EXPECT_EQ(chooseKind(s, rng), 2);
     EXPECT_EQ(rng.draws, 0);  // fixed kinds draw nothing
+    QuizRun run;
+    startRun(run, s, rng);
+    EXPECT_EQ(run.QuestionKind, 2);  // a meanings quiz asks a meaning from its first question
     s.QuizType = 3;
     rng.then(0.2).then(0.7).then(0.49).then(0.5);
     EXPECT_EQ(chooseKind(s, rng), 1);
