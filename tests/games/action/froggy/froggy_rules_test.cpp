@@ -161,6 +161,15 @@ TEST(FroggyCars, SquashAtTheEdgesOfTheCar) {
     EXPECT_EQ(b.leftX[1], -114);
     carTick(b);
     EXPECT_EQ(b.leftX[1], 1280);
+    // Level 1 runs cars 1 and 4 only: car 2 stands still off the road and squashes no one.
+    b = Lay(1);
+    b.frogRow = 3;
+    b.frogX = 576;
+    b.rightX[2] = 600;
+    b.rightX[1] = b.rightX[4] = -500;
+    b.leftX[1] = b.leftX[4] = 5000;
+    EXPECT_EQ(carTick(b), Outcome::None);
+    EXPECT_EQ(b.rightX[2], 600);
 }
 
 TEST(FroggyLogs, RideDrownAndTheEdge) {
