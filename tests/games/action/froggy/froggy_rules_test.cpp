@@ -252,6 +252,7 @@ TEST(FroggySetup, FourDifferentWordsOrARefusal) {
     ASSERT_TRUE(setup(s, b, 1280, 800, rng).ready);
     EXPECT_EQ(s.TheWord, "cat");
     EXPECT_EQ(b.correctSlot, 2);
+    EXPECT_EQ(b.slotWords[2], "cat");
     EXPECT_EQ(b.slotWords[1], "ant");
     EXPECT_EQ(b.slotWords[3], "bee");
     EXPECT_EQ(b.slotWords[4], "dog");
