@@ -19,6 +19,10 @@ TEST(ShortCircuitDeal, NeverAWordOverTenLetters) {
     EXPECT_EQ(c.word, "CAT");
     EXPECT_EQ(c.rightRow[0], 1);
     EXPECT_EQ(c.letters[0][1], 'C');
+    EXPECT_TRUE(c.robber);  // the last draw, under a half: the robber comes
+    ScriptedRng high(0.9);
+    high.pick(2, 3);
+    EXPECT_FALSE(newCircuit(s, 3, high).robber);
 
     // Only long words: refused after more than twice the list's length of draws.
     SharedState longs = listOf({"extraordinary", "abracadabra"});
