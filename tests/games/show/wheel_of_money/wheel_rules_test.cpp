@@ -259,3 +259,33 @@ TEST(Clock, TimeOutNamesTheWordOnlyForTheLetterGamesAndRestartLeavesItRunning) {
               "Oops! Your time ran out! Try to be a little faster next time! The word you were "
               "looking for was \"otter\".");
 }
+
+TEST(WheelChoice, TheRightChoiceWinsItsPrizeAndAWrongOneNamesIt) {
+    auto board = [] {
+        WheelState w;
+        w.frame = Frame::Choice;
+        w.choices = {"cat", "dog", "owl", "bat"};
+        w.choiceShown = {true, true, true, true};
+        w.RightChoice = 0;
+        w.PrizeAmount = 300;
+        w.SpinsLeft = 2;
+        return w;
+    };
+    SharedState s;
+    s.Score = 100;
+    WheelState w = board();
+    const Verdict won = ClickChoice(s, w, 0);  // the first choice counts as any other
+    EXPECT_TRUE(won.right && won.decided);
+    EXPECT_EQ(s.Score, 400);
+    EXPECT_EQ(w.Label1, "Great job! $300.00 has been added to your winnings!");
+    EXPECT_TRUE(w.commandShown);
+    EXPECT_EQ(w.Command1, "Click here give the wheel another spin...");
+    w = board();
+    w.SpinsLeft = 0;
+    const Verdict lost = ClickChoice(s, w, 2);
+    EXPECT_TRUE(!lost.right && lost.decided);
+    EXPECT_EQ(w.Label1, "Ooooh! So sorry. The correct choice was \"cat\".");
+    EXPECT_TRUE(w.commandShown);
+    EXPECT_EQ(w.NextAction, Action::EndGame);
+    EXPECT_FALSE(ClickChoice(s, w, 0).decided);  // once decided, the choices are done
+}
