@@ -63,8 +63,7 @@ void WordBricksScreenTest::fromTheTitleThroughAWinToTheTable() {
     QCOMPARE(fx.sound.played.last(), "bricks-tip.wav");
     Pump(200);
     QVERIFY(g->brickRect(2).bottom() < g->lineRect(1).top());
-    const QString tip = LookFault("Word_Bricks_tip", g->grab().toImage());  // mid-fall
-    QVERIFY2(tip.isEmpty(), qPrintable(tip));
+    WM_CHECK_LOOK("Word_Bricks_tip", g);  // mid-fall
     drag(g, "er", back(g, 0));
     QCOMPARE(g->game().bricks[1].line, -1);
     Pump(500);
@@ -108,8 +107,7 @@ void WordBricksScreenTest::fromTheTitleThroughAWinToTheTable() {
     const QPointF ox = g->brickRect(2).center();
     mouse(g, QEvent::MouseButtonPress, ox);
     mouse(g, QEvent::MouseMove, (ox + front(g, 1)) / 2);
-    const QString look = LookFault("Word_Bricks_play", g->grab().toImage());
-    QVERIFY2(look.isEmpty(), qPrintable(look));
+    WM_CHECK_LOOK("Word_Bricks_play", g);
     mouse(g, QEvent::MouseButtonRelease, (ox + front(g, 1)) / 2);
     drag(g, "ox", front(g, 1));
     const int score = 40 + 20 + (80 - seconds) * 2;
@@ -117,8 +115,7 @@ void WordBricksScreenTest::fromTheTitleThroughAWinToTheTable() {
     QCOMPARE(LabelText(g, "WordsLabel"), "Words built: 2 of 2");
     QCOMPARE(g->Caption->text(), "Well built!");
     QCOMPARE(fx.sound.played.last(), "bricks-win.wav");
-    const QString won = LookFault("Word_Bricks_won", g->grab().toImage());
-    QVERIFY2(won.isEmpty(), qPrintable(won));
+    WM_CHECK_LOOK("Word_Bricks_won", g);
     QVERIFY(driver.tables.isEmpty());  // the finished site shows first
     Pump(1000);
     QCOMPARE(driver.tables.size(), 1);

@@ -116,8 +116,7 @@ void ConcentrationScreenTest::fromTheTitleThroughAWinToTheTable() {
     Pump(1300);  // the 1.2 s of the turned pair no longer matter
     QVERIFY(g->game().cards[4].up);
     // The board mid-game: the found pair, a card face up, the rest face down.
-    const QString look = LookFault("Concentration_play", g->grab().toImage());
-    QVERIFY2(look.isEmpty(), qPrintable(look));
+    WM_CHECK_LOOK("Concentration_play", g);
 
     // The last pair: +300 and (300 - seconds) x 3, then the table.
     WinDriver driver({"CAT"});
