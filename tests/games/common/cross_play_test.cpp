@@ -152,6 +152,14 @@ TEST(CrossPlay, EdgeTestsAreKeptAsDesigned) {
     EXPECT_EQ(b.SelWord, 2);
     clickCell(b, 474);  // another word selected, so cell 25 is not pink
     EXPECT_FALSE(clickCell(b, 25));
+    // Cell 1 has cell 0 on its left: a word across the top from the first cell is found from it.
+    CrossBoard top;
+    top.CrossLetters[1][1] = 'O';
+    top.CrossLetters[2][1] = 'X';
+    top.CrossWordAt[1][1][kAcross] = 1;
+    PlayBoard t = makePlayBoard(top, 25, 19);
+    EXPECT_TRUE(clickCell(t, 1));
+    EXPECT_EQ(t.SelStart, 0);
 }
 
 TEST(CrossPlay, EndOfTheGame) {
