@@ -186,6 +186,8 @@ TEST(CrossLayout, NeighbourCapAndAgreementRules) {
         // Down through "AB" and on: the caps and the agreement hold down as well.
         {"down through agreeing letters", "ABE", 5, 9, 1, false, true},
         {"cap above taken", "BE", 5, 10, 1, false, false},
+        // Down onto the C of "BC" from above: the free cell (6, 9) has the A of "AB" beside it.
+        {"free cell above beside a letter", "XC", 6, 10, 2, false, false},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
