@@ -187,6 +187,8 @@ TEST(ListFileEdits, DeletingTheOnlyListLeavesNoLists) {
     Lines none = kTwoLists;
     EXPECT_FALSE(DeleteListLines(none, "Missing"));
     EXPECT_EQ(none, kTwoLists);
+    RemoveRecordAt(none, none.size());  // a place past the last line removes nothing
+    EXPECT_EQ(none, kTwoLists);
 }
 
 TEST(ListFileEdits, CleanHeadDropsBlanksSeparatorsAndNoLists) {

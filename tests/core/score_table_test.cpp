@@ -66,6 +66,9 @@ TEST(ScoreTable, RankSearchSmallestFirst) {
 
 TEST(ScoreTable, InsertDisplacesOneAndLosesTheNext) {
     ScoreTable t = tableOf({{"A", "900"}, {"B", "800"}, {"C", "700"}, {"D", "600"}});
+    const std::string before = t.toBytes();
+    for (int outside : {0, 51}) InsertScore(t, outside, "OUT", "999");  // no such rank
+    EXPECT_EQ(t.toBytes(), before);
     InsertScore(t, 2, "NEWX", "850");
     EXPECT_EQ(t.initials(1), "A");
     EXPECT_EQ(t.initials(2), "NEW");  // cut to three
