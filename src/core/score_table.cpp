@@ -22,8 +22,6 @@ std::string pad(std::string s, int width) {
 
 ScoreTable ScoreTable::Fresh() {
     ScoreTable t;
-    t.Initials[0] = pad("", kInitialsWidth);
-    t.Scores[0] = pad("", kScoreWidth);
     for (int r = 1; r <= kRanks; ++r) {
         t.Initials[r] = pad("---", kInitialsWidth);
         t.Scores[r] = pad("0", kScoreWidth);

@@ -57,7 +57,7 @@ std::string Mid(std::string_view s, int start, int length) {
     if (start < 1) start = 1;
     auto from = static_cast<std::size_t>(start - 1);
     if (from >= s.size()) return {};
-    if (length < 0) return std::string(s.substr(from));
+    // A negative length (the default) becomes npos: the rest of the text.
     return std::string(s.substr(from, static_cast<std::size_t>(length)));
 }
 

@@ -137,7 +137,7 @@ TEST(LineFile, RewriteKeepsPermissionsAndGroup) {
     // A file made afresh gets what any new file gets: 0666 less the umask.
     const mode_t mask = ::umask(027);
     WriteLinesAtomic(dir.file("fresh.dat"), {"x"});
-    ::umask(mask);
+    EXPECT_EQ(::umask(mask), 027u);  // and the program's own umask is left as it was
     ASSERT_EQ(::stat(dir.file("fresh.dat").c_str(), &st), 0);
     EXPECT_EQ(st.st_mode & 07777, 0640u);
 }

@@ -84,7 +84,11 @@ TEST(ScoreTable, InsertAtTheEndsAndScoreCuts) {
     t.Scores[50] = "12     ";
     InsertScore(t, 50, "ABC", "123456789");
     EXPECT_EQ(t.scoreText(50), "1234567");
-    EXPECT_EQ(t.initials(0), "ZZZ");  // the old last entry goes to index 0
+    // The old last entry goes to index 0, its score through a whole number like any moved one.
+    t.Scores[50] = "12.7   ";
+    InsertScore(t, 50, "ABC", "9");
+    EXPECT_EQ(t.initials(0), "ABC");
+    EXPECT_EQ(t.scoreText(0), "13");
     ScoreTable u = tableOf({{"A", "0.1234"}, {"B", "2.5"}});
     InsertScore(u, 1, "N", "0.05");
     EXPECT_EQ(u.scoreText(1), "0.05");

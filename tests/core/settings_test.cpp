@@ -68,6 +68,10 @@ TEST(Settings, ReadsSoundAndResolvesPathLiterals) {
     ApplySettings(ReadSettings(dir.path()), dir.path(), s);
     EXPECT_EQ(s.SoundDefault, kFalse);
     EXPECT_EQ(s.FolderFilePath, dir.file("folders.dat"));
+    // Settings held in memory with no sound line at all read as sound off, without reading
+    // past their end.
+    EXPECT_FALSE((Settings{{"r0", "r1"}}.soundOn()));
+    EXPECT_TRUE((Settings{{"r0", "r1", "Sound On"}}.soundOn()));
 }
 
 TEST(Settings, RewriteKeepsLinesPastFive) {

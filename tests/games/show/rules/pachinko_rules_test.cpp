@@ -103,3 +103,46 @@ TEST(PachinkoQuestions, FiveWordsAreEachAskedOnceWithFiveDistinctAnswers) {
     EXPECT_EQ(tryingText(3), "Trying for disk 3 out of 5.");
     EXPECT_EQ(earnedText(2), "Let's play pachinko! You have earned 2 disks!");
 }
+
+TEST(PachinkoFall, EdgesOfTheDiskAndItsSidesMeetThePins) {
+    // A disk is 600 / (10 + 2) - 2 x 5 = 40 pixels across.
+    const Pin& p = pins()[4];
+    // A pin under either edge of the disk is struck from above; it rolls away from the pin.
+    for (const auto& [x, sign] : {std::pair{p.x, 1}, std::pair{p.x - 40, -1}}) {
+        ScriptedRng rng(0.99);  // the largest middle size: Int(0.99 x 10 + 1) + 10
+        Disk d = dropDisk(x);
+        ASSERT_GT(fallToFirstTouch(d, rng), 0);
+        EXPECT_EQ(d.y, p.y - 5 - 40) << x;
+        EXPECT_EQ(d.dx, sign * 20) << x;
+    }
+    // A pin touched on the side turns the disk back a little faster, by 2 at a row's last pin.
+    const Pin* last = nullptr;
+    for (const Pin& q : pins())
+        if (q.row == p.row && q.last) last = &q;
+    ASSERT_NE(last, nullptr);
+    struct Side {
+        const Pin* pin;
+        int dx, want;
+    };
+    for (const Side& c : {Side{&p, 3, -4}, Side{&p, -3, 4}, Side{last, 3, -5}}) {
+        ScriptedRng rng;
+        Disk d;
+        d.dx = c.dx;
+        d.dy = 1;
+        // After this tick's move the disk's centre is level with the pin, 22 pixels off it.
+        const int cx = c.dx > 0 ? c.pin->x - 22 : c.pin->x + 22;
+        d.x = cx - 20 - c.dx;
+        d.y = c.pin->y - 20 - 1;
+        step(d, rng);
+        EXPECT_TRUE(d.touched);
+        EXPECT_EQ(d.dx, c.want) << c.pin->x << " " << c.dx;
+    }
+}
+
+TEST(PachinkoSlots, TheDiskScoresInTheSlotUnderItsCentre) {
+    Disk d;
+    for (const auto& [x, slot] : {std::pair{60 - 20, 1}, {60 - 21, 0}, {-30, 0}, {599, 9}, {540 - 20, 9}, {540 - 21, 8}}) {
+        d.x = x;
+        EXPECT_EQ(slotOf(d), slot) << x;
+    }
+}

@@ -58,6 +58,19 @@ TEST(Wheel, OneLapWalksTheOvalNotTheIndices) {
         lap.push_back(w.WheelPos);
     }
     EXPECT_EQ(lap, (std::vector<int>{0, 1, 3, 4, 2, 5, 11, 10, 9, 8, 7, 6, 0}));
+    // Each slot's caption, label place and marker place, in twips.
+    const std::tuple<std::string, int, int, int, int> ring[kSlots] = {
+        {"Scramble!", 960, 1110, 3600, 1200},         {"Type-It!", 600, 1725, 3240, 1800},
+        {"Spell-It!", 960, 3585, 3600, 3645},         {"?????", 120, 2400, 2760, 2460},
+        {"Definition Match!", 600, 3000, 3240, 3060}, {"Too Many!", 3113, 4200, 4253, 3840},
+        {"Letter Change!", 3113, 480, 4253, 960},     {"True or False?", 5280, 1095, 4920, 1155},
+        {"Back-Words!", 5640, 1725, 5280, 1785},      {"?????", 6120, 2340, 5760, 2400},
+        {"Word Match!", 5640, 2955, 5280, 3000},      {"Fill-In!", 5280, 3585, 4920, 3645}};
+    for (int i = 0; i < kSlots; ++i) {
+        const Slot& k = kWheel[i];
+        EXPECT_EQ(std::tuple(std::string(k.caption), k.left, k.top, k.markerLeft, k.markerTop),
+                  ring[i]) << i;
+    }
 }
 
 TEST(Wheel, OnlyASpinningWheelStopsAndTwentyFlashesEndOnTheStartColour) {
