@@ -16,8 +16,7 @@ int PickRandomWord(SharedState& state, Rng& rng) {
     // draw is the plain Int(Rnd x WordCount + 1).
     const int loaded = std::min<int>(state.WordCount, kMaxWords);
     int k = static_cast<int>(Int(rng.Rnd() * loaded + 1));
-    if (k < 1) k = 1;
-    if (k >= static_cast<int>(state.Words.size())) k = static_cast<int>(state.Words.size()) - 1;
+    k = std::clamp(k, 1, static_cast<int>(state.Words.size()) - 1);
     state.TheWord = state.Words[k];
     state.TheMeaning = state.Meanings[k];
     return k;

@@ -61,6 +61,12 @@ TEST(Settings, AFolderAtTheListFilesNameDoesNotStopTheStart) {
 }
 
 TEST(RandomWord, DrawsOnlyLoadedEntries) {
+    // The tables are 1-based: room for 200 games, and for 1000 words and the one past the limit.
+    const SharedState fresh;
+    EXPECT_EQ(fresh.GameNames.size(), 201u);
+    EXPECT_EQ(fresh.VisibleGames.size(), 201u);
+    EXPECT_EQ(fresh.Words.size(), 1002u);
+    EXPECT_EQ(fresh.Meanings.size(), 1002u);
     struct Case {
         int wordCount;
         double rnd;
