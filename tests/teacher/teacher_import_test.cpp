@@ -131,6 +131,8 @@ private slots:
             {"Unit 3, animals\n\ncat\tchat\ndog\tchien\n", '\t'},
             {"#separator:tab\n#columns:a,b,c\n# one, two, three\nx;y\nz;w\n", ';'},
             {"cat\ndog\n", ','},
+            // Words starting with # that hold the separator are words, not comments.
+            {"#1;one\n#2;two\ncat,a pet, furry\n", ';'},
             // Only the first 20 lines count: ten and ten, a tie, which goes to the tab.
             {QString("a;b\n").repeated(10) + QString("a\tb\n").repeated(10) +
                  QString("a;b\n").repeated(5),
