@@ -16,7 +16,6 @@ int DrawFreshWord(const SharedState& s, Rng& rng, const std::vector<int>& drawn,
                   const std::function<bool(const std::string&)>& playable) {
     const int loaded =
         std::min({static_cast<int>(s.WordCount), most, static_cast<int>(s.Words.size()) - 1});
-    if (loaded <= 0) return 0;
     // A word drawn already, by its text: the same word twice in a list is still a repeat.
     auto fresh = [&](int k) {
         const std::string w = UCase(s.Words[k]);
@@ -33,11 +32,12 @@ int DrawFreshWord(const SharedState& s, Rng& rng, const std::vector<int>& drawn,
     if (!anyPlayable) return 0;
     // Once every word has been played, repeats are the only way on.
     auto fits = [&](int k) { return playable(s.Words[k]) && (!anyFresh || fresh(k)); };
-    int k = 1;
-    for (int tries = 0; tries < kUnluckyDraws; ++tries) {
+    int k;
+    int tries = 0;
+    do {
         k = std::clamp(static_cast<int>(Int(rng.Rnd() * loaded + 1)), 1, loaded);
         if (fits(k)) return k;
-    }
+    } while (++tries < kUnluckyDraws);
     for (int i = 1; i <= loaded; ++i) {
         const int j = (k - 1 + i) % loaded + 1;
         if (fits(j)) return j;

@@ -110,6 +110,12 @@ TEST(MisspellWord, CapitalsFallThroughToTheDoubledLetter) {
     ScriptedRng none;
     EXPECT_EQ(MisspellWord("", fromEnd, none), "");
     EXPECT_EQ(fromEnd, 1);
+    // A rule number out of the table starts again from the first rule.
+    for (int out : {0, 31}) {
+        int next = out;
+        EXPECT_EQ(MisspellWord("feather", next, none), "pheather") << out;
+        EXPECT_EQ(next, 2);
+    }
 }
 
 TEST(SpellCrushMisspell, AlwaysFromTheFirstRuleAndDoublesWhenNoneApplies) {

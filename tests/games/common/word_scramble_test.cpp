@@ -39,4 +39,7 @@ TEST(ScrambleWord, StuckGeneratorIsBoundedAndKeepsEveryLetter) {
     ScriptedRng onStar(0.0);  // always the "*"
     EXPECT_EQ(ScrambleWord("*ab", onStar), "*ab");
     EXPECT_EQ(onStar.draws, 3 * kScrambleDrawsPerLetter);
+
+    ScriptedRng pastTheEnd(1.0);  // a generator outside [0, 1) draws no place at all
+    EXPECT_EQ(ScrambleWord("cat", pastTheEnd), "cat");
 }
