@@ -82,6 +82,8 @@ private slots:
               {{"cat", "a pe\x01t"}, {"dog", "a pet"}});
         bytes("10% control characters", "cat,a pe\x01t\ndog,a p\x02t", notText);
         bytes("a NUL", QByteArray("cat,a pet\0", 10), notText);
+        bytes("one NUL in a long file",
+              QByteArray("cat,a pet\ndog,a loyal pet\nowl,a night bird\0\n", 44), notText);
         bytes("a definition without its word", "cat,a pet\n,a loyal pet\n",
               "The definition \"a loyal pet\" in f.txt has no word. Nothing was imported.");
         bytes("the separator line as a word", "cat,a pet\n<New List>,x\n",

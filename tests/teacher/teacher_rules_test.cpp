@@ -71,4 +71,6 @@ TEST(ReadRecord, FindsByPlainNameAndDropsACutPair) {
     EXPECT_TRUE(ReadRecord(data, "Last", nullptr).empty());
     EXPECT_TRUE(ReadRecord(data, "Nothing", nullptr).empty());
     EXPECT_EQ(RecordLines(data, "Odd"), (Lines{"a", "b", "c"}));
+    EXPECT_EQ(RecordLines(data, "Last"), (Lines{"x"}));
+    EXPECT_TRUE(RecordLines(data, "Nothing").empty());
 }
