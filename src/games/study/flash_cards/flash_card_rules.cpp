@@ -9,7 +9,7 @@
 namespace wm::flash {
 
 int cardMode(const SharedState& s) {
-    return s.FlashCardMode >= 1 && s.FlashCardMode <= 3 ? s.FlashCardMode : 1;
+    return s.FlashCardMode == 2 || s.FlashCardMode == 3 ? s.FlashCardMode : 1;
 }
 
 bool coversWord(const SharedState& s) {

@@ -9,7 +9,7 @@
 namespace wm::quiz {
 
 int quizType(const SharedState& s) {
-    return s.QuizType >= 1 && s.QuizType <= 3 ? s.QuizType : 1;
+    return s.QuizType == 2 || s.QuizType == 3 ? s.QuizType : 1;
 }
 
 int quizLength(const SharedState& s) {

@@ -124,6 +124,8 @@ TEST(QuizRules, KindsByQuizType) {
     s.QuizLength = 0;
     EXPECT_EQ(quizType(s), 1);
     EXPECT_EQ(quizLength(s), 10);
+    s.QuizType = 4;
+    EXPECT_EQ(quizType(s), 1);
     s.QuizLength = 1;  // the shortest quiz the options allow
     EXPECT_EQ(quizLength(s), 1);
     // The directions: a word to choose for kind 2, a meaning for the others.
