@@ -53,6 +53,7 @@ private slots:
         c.pickCategory(0);
         QCOMPARE(c.countText(), "Word Lists (1 Selected)");
         c.setTicked("Birds", true);
+        QCOMPARE(c.countText(), "Word Lists (2 Selected)");
         c.setTicked("Animals", false);
         QCOMPARE(c.countText(), "Word Lists (1 Selected)");
         f.dialogs.answerInput("Art");

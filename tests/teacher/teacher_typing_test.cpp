@@ -2,6 +2,7 @@
 // never Cancel; text the list file cannot hold is refused where it is typed, and letters typed
 // with a separate accent are stored as the one accented letter. Also the category file the
 // editor may not take.
+#include "shell/fl_form.h"
 #include "teacher_fixture.h"
 
 using namespace wm;
@@ -124,7 +125,7 @@ private slots:
             QCOMPARE(box.result(), int(QDialog::Accepted));
         });
         edit->addWord();
-        QCOMPARE(edit->totalText(), "Total Words In This List: 3");
+        QCOMPARE(edit->findChild<QLabel*>("TotalLabel")->text(), "Total Words In This List: 3");
         f.dialogs.answerYes();
         edit->saveAndQuit();
         QCOMPARE(f.lists(), f.crlf(file.mid(0, 3) + QStringList{"<New List>", "Animals"} + lines));
@@ -291,6 +292,33 @@ private slots:
         m->saveAndQuit();
         QCOMPARE(f.lists(), f.crlf(kLists) + QByteArray("<New List>\r\ncaf\xE9\r\ncr\xE8me\r\n"
                                                         "caf\xE9 au lait\r\n"));
+    }
+
+    // The palette's character goes into the box its button names; a palette closed without a
+    // character puts nothing in, even with one left from before.
+    void paletteCharacterGoesToTheBoxItsButtonNames() {
+        TeacherFixture f(kLists);
+        WordBox box(WordBox::Add);
+        box.word()->setText("caf");
+        f.then<FLForm>([](FLForm& fl) {
+            fl.pickCell(0);
+            fl.insert(0);
+        });
+        box.foreign();
+        const QString first = box.word()->text().mid(3);
+        QCOMPARE(first.size(), 1);
+        QCOMPARE(Shared().CurrentGame, "addword");
+        f.then<FLForm>([](FLForm& fl) {
+            fl.pickCell(1);
+            fl.insert(1);
+        });
+        box.foreign();
+        QCOMPARE(box.meaning()->text().size(), 1);
+        QVERIFY(box.meaning()->text() != first);
+        f.then<FLForm>([](FLForm& fl) { fl.reject(); });
+        box.foreign();
+        QCOMPARE(box.word()->text(), "caf" + first);
+        QCOMPARE(box.meaning()->text().size(), 1);
     }
 
     // The settings may name a category file of another name. Readers then read its .lok name (kept
