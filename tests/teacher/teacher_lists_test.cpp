@@ -129,6 +129,11 @@ private slots:
             m->renameList();
             QCOMPARE(f.box(), QString(": ") + message);
         }
+        const std::size_t boxes = f.dialogs.shown.size();
+        f.dialogs.answerInput(std::nullopt);  // Cancel: nothing changes and nothing is said
+        m->renameList();
+        QCOMPARE(m->caption(), "Birds");
+        QCOMPARE(f.dialogs.shown.size(), boxes + 1);  // the question alone
         f.dialogs.answerInput("  Garden Birds ");
         m->renameList();
         QCOMPARE(m->caption(), "Garden Birds");
@@ -179,13 +184,21 @@ private slots:
         TeacherFixture f(kTwoLists);
         DeleteList d;
         QCOMPARE(d.lists()->count(), 2);
+        // The question and its Yes and No show only while a deletion is being asked.
+        const auto answers = [&] {
+            return QList<bool>{d.findChild<QWidget*>("Yes")->isHidden(),
+                               d.findChild<QWidget*>("No")->isHidden()};
+        };
+        QCOMPARE(answers(), (QList<bool>{true, true}));
         d.deleteClicked();
         QCOMPARE(f.dialogs.last(), "You need to choose a list!");
         d.lists()->setCurrentRow(RowOf(d.lists(), "Animals"));
         d.deleteClicked();
         QVERIFY(d.asking());
+        QCOMPARE(answers(), (QList<bool>{false, false}));
         d.answer(false);
         QVERIFY(!d.asking());
+        QCOMPARE(answers(), (QList<bool>{true, true}));
         QCOMPARE(f.lists(), f.crlf(kTwoLists));
         d.deleteClicked();
         d.answer(true);

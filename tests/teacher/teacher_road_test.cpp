@@ -187,6 +187,14 @@ private slots:
     void backupRestoreClearScoresAndLink() {
         TeacherFixture f;
         Manager m;
+        // The three tabs by their names; each shows its own frame.
+        for (int tab : {2, 1, 0}) {
+            auto* button = m.findChild<QPushButton*>(QString("TLabel%1").arg(tab));
+            QCOMPARE(button->text(), QStringList({"List Management", "List Options",
+                                                  "Program Options"})[tab]);
+            button->click();
+            QCOMPARE(m.frame(), tab);
+        }
         const QByteArray before = f.lists();
         m.command("Backup Lists");  // No: nothing written
         QVERIFY(!f.exists("thelists.bak"));

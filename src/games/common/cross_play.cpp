@@ -13,7 +13,7 @@ bool hasLeft(const PlayBoard& b, int i) {
     return i > 0 && i % b.cols != 0;
 }
 bool hasRight(const PlayBoard& b, int i) {
-    return i < b.cells() - 1 && (i + 1) % b.cols != 0;
+    return (i + 1) % b.cols != 0;  // the board's last cell ends a row too
 }
 bool hasAbove(const PlayBoard& b, int i) {
     return i - b.cols > 0;

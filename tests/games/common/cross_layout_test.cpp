@@ -261,5 +261,8 @@ TEST(CrossLayout, MoreWordsWantedThanTheListHoldsEndsWithoutHanging) {
     ScriptedRng none;
     EXPECT_FALSE(layOut(list({}), 0, 2, kCrosswordParams, none).ok);
     EXPECT_FALSE(layOut(list({"CAT"}), 1, 0, kCrosswordParams, none).ok);
+    // A count past the entries held: those entries are no words, and nothing is read past them.
+    ScriptedRng past(0.99);
+    EXPECT_FALSE(layOut(list({"CAT", "HAT"}), 4, 2, kCrosswordParams, past).ok);
 }
 

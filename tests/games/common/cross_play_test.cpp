@@ -141,6 +141,7 @@ TEST(CrossPlay, EdgeTestsAreKeptAsDesigned) {
     edge.CrossLetters[1][2] = 'B';
     edge.CrossWordAt[1][1][kDown] = 2;
     PlayBoard b = makePlayBoard(edge, 25, 19);
+    EXPECT_TRUE(b.visible[449] && b.visible[474] && b.visible[0] && !b.visible[473]);
 
     // The cell below 449 is the last one, which the tighter down test never looks at.
     EXPECT_FALSE(clickCell(b, 449));
