@@ -252,6 +252,10 @@ private slots:
         QCOMPARE(f.dialogs.last(), "You must select two or more lists to merge.");
         m.lists()->item(1)->setSelected(true);
         QCOMPARE(m.label(), "Merge lists: Spelling, Animals");
+        m.lists()->clearSelection();
+        QCOMPARE(m.label(), "Select two or more lists to merge.");
+        m.lists()->item(0)->setSelected(true);
+        m.lists()->item(1)->setSelected(true);
         f.dialogs.answerInput("animals");
         m.confirm();
         QCOMPARE(f.dialogs.last(), kTaken);

@@ -57,7 +57,7 @@ private slots:
         c.setTicked("Animals", false);
         QCOMPARE(c.countText(), "Word Lists (1 Selected)");
         f.dialogs.answerInput("Art");
-        c.addCategory();
+        c.findChild<QPushButton*>("Command2")->click();  // Add New Category
         QCOMPARE(c.countText(), "Word Lists (None Selected)");
         QVERIFY(f.dialogs.last().startsWith("Your new category has been created."));
         c.setTicked("Colours", true);

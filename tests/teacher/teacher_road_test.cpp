@@ -180,6 +180,7 @@ private slots:
         QCOMPARE(f.dialogs.last(), refusal);
         QCOMPARE(box.success()->isHidden(), !refusal.isEmpty());
         QCOMPARE(box.field(0)->isHidden(), refusal.isEmpty());
+        QCOMPARE(box.findChild<QWidget*>("Command1")->isHidden(), refusal.isEmpty());
         QCOMPARE(f.read("wmdata.dat"), f.crlf({"Wordmere settings", "Version 1.01", "Sound On",
                                                after, "listpath", "folderpath"}));
     }

@@ -69,6 +69,7 @@ private slots:
              {"Label2=Categories", "Label3=Word Lists (None Selected)", "Command2=Add New Category",
               "Command3=Delete Category", "Command1=Save", "Command4=Cancel"}},
             {[] { return new SoundOptions; }, "Save", {}},
+            {[] { return new SpeechOptions; }, "Save", {"RateLabel=Speaking rate:"}},
             {[] { return new EnableDisable; }, "Apply", {}},
         };
         for (const auto& [make, okText, captions] : boxes) {
@@ -125,7 +126,7 @@ private slots:
             }
             QCOMPARE(box.result(), int(QDialog::Accepted));
         });
-        edit->addWord();
+        edit->findChild<QAction*>("AddWord")->trigger();  // the toolbar's button
         QCOMPARE(edit->findChild<QLabel*>("TotalLabel")->text(), "Total Words In This List: 3");
         f.dialogs.answerYes();
         edit->saveAndQuit();

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include "games/study/scramble/scramble_rules.h"
 
 #include <cstdlib>
@@ -108,11 +109,8 @@ FlickerStep flicker(ScrambleState& round, int difficulty, Rng& rng) {
         step.yellow = round.lastBlack;
         round.black[round.lastBlack] = false;
     }
-    round.lastBlack = -1;
     auto blackOne = [&] {
-        int k = static_cast<int>(Int(rng.Rnd() * length + 1)) - 1;
-        if (k < 0) k = 0;
-        if (k >= length) k = length - 1;
+        const int k = std::clamp(static_cast<int>(Int(rng.Rnd() * length + 1)) - 1, 0, length - 1);
         round.black[k] = true;
         round.lastBlack = k;
         return k;

@@ -131,10 +131,12 @@ TEST(FlashCardRules, RandomCardsRepeatAndNeverShowPrevious) {
     rng.pick(4, 5).pick(4, 5).pick(2, 5).pick(5, 5);
     Deck deck;
     setup(deck, s);
-    const char* rowsWords[] = {"dog", "dog", "Cat", "bee"};
-    for (const char* w : rowsWords) {
+    const std::pair<const char*, const char*> rows[] = {
+        {"dog", "barks"}, {"dog", "barks"}, {"Cat", "purrs"}, {"bee", "buzzes"}};
+    for (const auto& [w, m] : rows) {
         nextCard(deck, s, rng);
         EXPECT_EQ(s.TheWord, w);  // the list's own row, not the sorted entry
+        EXPECT_EQ(s.TheMeaning, m);
         EXPECT_FALSE(deck.view.previousShown);
         EXPECT_TRUE(deck.view.position.empty());
     }

@@ -136,6 +136,25 @@ TEST(QuizRules, KindsByQuizType) {
                      "Directions:  Click the meaning that BEST matches the word shown below.");
 }
 
+TEST(QuizRules, AnswersCountAndChoicesPastTheLevelStayEmpty) {
+    SharedState s = List(8, 5, 3);
+    ScriptedRng rng(0.3);
+    QuizRun run;
+    startRun(run, s, rng);
+    const int right = run.CorrectChoice;
+    EXPECT_FALSE(answer(run, right == 1 ? 2 : 1));
+    EXPECT_TRUE(answer(run, right));
+    EXPECT_EQ(run.PickedChoice, right);
+    EXPECT_EQ(std::pair(int(run.QuizRight), int(run.QuizWrong)), std::pair(1, 1));
+    // Fewer choices on the next question: the ones past them are emptied.
+    s.Difficulty = 2;
+    ASSERT_TRUE(next(run, s, rng));
+    EXPECT_EQ(std::count(run.choices.begin(), run.choices.end(), std::string()), 6);
+    // Answers to a meaning are set larger than answers to a word.
+    EXPECT_EQ(std::tuple(answerPointSize(1), answerPointSize(2), answerPointSize(3)),
+              std::tuple(12, 18, 12));
+}
+
 TEST(QuizRules, VerdictLinesAtTheirBoundaries) {
     struct Row {
         int right, wrong, percent;

@@ -222,6 +222,10 @@ TEST(Score, FactorsAtEachDifficulty) {
 
     ScriptedRng top(0.999999);
     EXPECT_DOUBLE_EQ(rightAnswerScore(1, true, 1, 0.0, top), 599 * 19 / 10.0);
+    // Only a score below nothing is drawn afresh, Int(Rnd x 1000 + 500); nothing itself stands.
+    ScriptedRng none(0.9995);
+    EXPECT_DOUBLE_EQ(rightAnswerScore(0, false, 1, 0.0, none), 0);
+    EXPECT_DOUBLE_EQ(rightAnswerScore(0, false, 1, 0.5, none), 1499);
 }
 
 TEST(Guess, ComparedLowerCasedAndEmptyIsNoGuess) {
