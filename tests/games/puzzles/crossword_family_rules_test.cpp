@@ -57,7 +57,9 @@ TEST(CrosswordRules, RoundClampsDifficultyForGoodAndKeepsTheFirstScore) {
     EXPECT_GE(s.PuzzleWordCount, 2);
     EXPECT_LE(s.PuzzleWordCount, 8);
 
+    cw.MusicOpen = true;  // the tune playing goes on playing into the next round
     ASSERT_TRUE(crossword::newRound(s, cw, false, rng).ok);
+    EXPECT_TRUE(cw.MusicOpen);
     EXPECT_EQ(s.Score, 0);
     EXPECT_EQ(cw.scoreText, "Score: 0");
     EXPECT_EQ(s.Difficulty, 8);
@@ -139,6 +141,9 @@ TEST(BlindTilesRules, RoadToAWinWithTheSameWordTwice) {
             for (char c : s.Words[index]) o = blind_tiles::pressKey(s, bt, c);
             EXPECT_NE(o, blind_tiles::Outcome::Typed);
             ++solved;
+            // Only the last word ends the game, and its flash stops at once.
+            EXPECT_EQ(o == blind_tiles::Outcome::GameEnds, solved == 3);
+            if (solved == 3) EXPECT_FALSE(bt.board.flashing);
             for (int t = 0; t < 11; ++t) cross::flashTick(bt.board);
         }
     }
