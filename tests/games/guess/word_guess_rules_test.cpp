@@ -261,6 +261,8 @@ TEST(SpeedType, FiguresAndTheTimePerLetterAreCutFromTheirTexts) {
              {0.578125, "00", "00", "578"},
              {1.15625, "00", "1", "562"},  // kept: the first decimal is skipped
              {12.34567, "00", "12", "345"},
+             {59.5, "00", "59", "5"},
+             {60.25, "01", "00", "25"},  // a minute or more: minutes, and the decimals in place
              {75.5, "01", "15", "5"},
              {75.123456, "01", "15", "123"},
          }) {

@@ -73,6 +73,18 @@ TEST(Wheel, OneLapWalksTheOvalNotTheIndices) {
     }
 }
 
+TEST(Wheel, ClockAndSpellItTexts) {
+    EXPECT_EQ(TimeText(7), "Time: 7");
+    SharedState s = Animals();
+    ScriptedRng setup;
+    WheelState w = On(2, s, setup);  // Spell-It!
+    ScriptedRng rng(0.3);
+    StartSlot(s, w, rng);
+    EXPECT_EQ(w.Label1,
+              "Choose the CORRECTLY SPELLED word that matches the definition shown before the "
+              "time runs out! Good luck!");
+}
+
 TEST(Wheel, OnlyASpinningWheelStopsAndTwentyFlashesEndOnTheStartColour) {
     SharedState s = Animals();
     ScriptedRng rng;
