@@ -7,7 +7,7 @@
 #include "look.h"
 
 #include "cannon_aim.h"
-#include "game_start.h"
+#include "game_end.h"
 #include "games/action/cannon_shot/cannon_shot_screen.h"
 
 using namespace wm;
@@ -51,14 +51,14 @@ bool ShootLetter(CannonShotForm* game, char letter, bool decoy = false) {
 }  // namespace
 
 void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
-    ShellFixture fx;
-    WriteOneList(fx, "Farm",
-                 {{"ox", "a strong farm animal"}, {"hen", "a bird that lays eggs"},
-                  {"pig", "it rolls in the mud"}, {"cow", "it gives milk"},
-                  {"ewe", "a mother sheep"}, {"kid", "a young goat"}});
-    WinDriver driver({"CAN"});
-    SetModalHook(std::ref(driver));
-    auto* game = qobject_cast<CannonShotForm*>(PlayFromTitle("Cannon Shot", "Farm", 2));
+    Road fx(0, {"CAN"});
+    auto* game = FromTitle<CannonShotForm>(fx, "Cannon Shot",
+                                           {{"ox", "a strong farm animal"},
+                                            {"hen", "a bird that lays eggs"},
+                                            {"pig", "it rolls in the mud"},
+                                            {"cow", "it gives milk"}, {"ewe", "a mother sheep"},
+                                            {"kid", "a young goat"}},
+                                           2);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump();
     QCOMPARE(game->sky()->call(), "Get ready!");
@@ -85,7 +85,8 @@ void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
                 // A decoy: -5 x level, its sound only with sound on; the blank stays empty.
                 Shared().SoundOn = kFalse;
                 const auto& bs = game->game().balloons();
-                const auto decoy = std::find_if(bs.begin(), bs.end(), [](auto& b) { return b.decoy; });
+                const auto decoy =
+                    std::find_if(bs.begin(), bs.end(), [](auto& b) { return b.decoy; });
                 QVERIFY(ShootLetter(game, decoy->letter, true));
                 QVERIFY(!fx.sound.played.contains("cannonwrong.wav"));
                 score -= 10;
@@ -108,26 +109,16 @@ void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
     }
     QCOMPARE(game->sky()->call(), "You win!");
     QVERIFY(fx.sound.played.contains("cannonwin.wav"));
-    Shot(game, "cannon-win");
-    fx.dialogs.answerYes(false);
     Pump(CannonShotForm::kEndMs);
-    QVERIFY2(fx.dialogs.saw(
-                 QString("You got a high score of %1! Would you like to try again?").arg(score)),
-             qPrintable(fx.dialogs.texts().join(" | ")));
-    QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
-    QCOMPARE(TableRow(fx, "Cannon Shot"), QString("CAN %1").arg(score));
-    Pump();
-    QVERIFY(Showing<Title>());
+    WM_CHECK_WON(fx, "Cannon Shot", QString("CAN %1").arg(score));
 }
 
 void CannonShotScreenTest::outOfCannonballsLoses() {
-    ShellFixture fx;
+    Road fx(0);
     ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
-    WinDriver driver;
-    SetModalHook(std::ref(driver));
     fx.rng.pick(1, 2).then(0.9);  // the word, the wind: from the left, strong
-    auto* game = OpenGame<CannonShotForm>(fx, "Cannon Shot", {{"ox", ""}, {"ox", ""}}, 8, false,
-                                          true, true);
+    auto* game =
+        OpenGame<CannonShotForm>(fx, "Cannon Shot", {{"ox", ""}, {"ox", ""}}, 8, false, true, true);
     QVERIFY(game);
     Pump(CannonShotForm::kReadyMs + 100);
     // A words-only list has no clue; from level 8 the wind blows.
@@ -153,21 +144,17 @@ void CannonShotScreenTest::outOfCannonballsLoses() {
     WM_CHECK_LOOK("Cannon_Shot_lost", game);
     fx.dialogs.answerYes(true);
     Pump(CannonShotForm::kEndMs);
-    QCOMPARE(fx.dialogs.last(),
-             "Out of cannonballs! The word was ox. Would you like to try again?");
-    QCOMPARE(fx.dialogs.shown.back().title, "Try Again?");
+    QCOMPARE(LastBox(fx),
+             "Try Again? | Out of cannonballs! The word was ox. Would you like to try again?");
     // Try again: a fresh game with a full rack.
     QCOMPARE(game->sky()->call(), "Get ready!");
     QCOMPARE(LabelText(game, "BallsLabel"), "Cannonballs: 7");
     WM_CHECK_LOOK("Cannon_Shot_again", game);  // the barrel up again, the sky cleared
     // Words too long for the blanks: said clearly, then back to the title.
     Shared().Words = {"", "hippopotomonstrous", "photosynthesise"};
-    QVERIFY(TriggerMenu(game, "RS"));
-    Pump();
-    QCOMPARE(fx.dialogs.last(),
+    QCOMPARE(RestartRefusal(fx, game),
              "This list has no words that fit Cannon Shot: a word may have at most 14 letters. "
              "Please choose another list.");
-    QVERIFY(Showing<Title>());
 }
 
 QTEST_MAIN(CannonShotScreenTest)

@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-#include "game_start.h"
+#include "game_end.h"
 #include "games/action/mini_golf/mini_golf_screen.h"
 
 using namespace wm;
@@ -20,9 +20,9 @@ private slots:
 };
 
 namespace {
-const Pairs kFruit = {{"apple", "a red fruit"},     {"pear", "a green fruit"},
-                      {"plum", "a purple fruit"},  {"lemon", "a yellow fruit"},
-                      {"lime", "a sour fruit"}};
+const Pairs kFruit = {{"apple", "a red fruit"},
+                      {"pear", "a green fruit"}, {"plum", "a purple fruit"},
+                      {"lemon", "a yellow fruit"}, {"lime", "a sour fruit"}};
 const char* kTimeIsUp = "Time is up!";
 
 QPoint OnField(MiniGolf* g, double x, double y) {
@@ -46,18 +46,11 @@ void Putt(MiniGolf* g, int hole) {
 void RollToRest(MiniGolf* g) {
     for (int t = 0; t < 400 && g->course().moving(); ++t) Pump(16);
 }
-
-MiniGolf* Start(ShellFixture& fx, SeededRng& rng) {
-    WriteOneList(fx, "Fruit", kFruit);
-    SetRng(&rng);
-    return qobject_cast<MiniGolf*>(PlayFromTitle("Mini Golf", "Fruit", 1));
-}
 }  // namespace
 
 void MiniGolfScreenTest::rightHoleThenTheClockToTheTable() {
-    ShellFixture fx;
-    SeededRng rng(11);
-    auto* g = Start(fx, rng);
+    Road fx(11, {"GLF"});
+    auto* g = FromTitle<MiniGolf>(fx, "Mini Golf", kFruit, 1);
     QVERIFY2(g, qPrintable(fx.dialogs.texts().join(" | ")));
     SharedState& s = Shared();
     QCOMPARE(g->windowTitle(), QString("Wordmere Mini-Golf Course"));
@@ -95,22 +88,15 @@ void MiniGolfScreenTest::rightHoleThenTheClockToTheTable() {
     QCOMPARE(g->course().strokes(), 0);  // the next word
     QCOMPARE(g->timeLabel()->text(), QString("Time: %1").arg(g->course().seconds()));
 
-    WinDriver driver({"GLF"});
-    SetModalHook(std::ref(driver));
-    fx.dialogs.answerYes(false);
     const double score = s.Score;
     for (int t = 0; t < 100 && Showing<MiniGolf>(); ++t) Pump(1000);
     QVERIFY(fx.dialogs.saw(kTimeIsUp));
-    QCOMPARE(fx.dialogs.last(),
-             QString("You got a high score of %1! Would you like to try again?").arg(score));
-    QCOMPARE(TableRow(fx, "Mini Golf"), QString("GLF %1").arg(score));
-    QVERIFY(Showing<Title>());
+    WM_CHECK_WON(fx, "Mini Golf", QString("GLF %1").arg(score));
 }
 
 void MiniGolfScreenTest::wrongHoleEndsBelowZeroWithoutTheTable() {
-    ShellFixture fx;
-    SeededRng rng(5);
-    auto* g = Start(fx, rng);
+    Road fx(5);
+    auto* g = FromTitle<MiniGolf>(fx, "Mini Golf", kFruit, 1);
     QVERIFY(g);
     SharedState& s = Shared();
     const int wrong = g->course().rightHole() == 1 ? 2 : 1;
@@ -136,16 +122,12 @@ void MiniGolfScreenTest::wrongHoleEndsBelowZeroWithoutTheTable() {
     RollToRest(g);
     QCOMPARE(g->scoreLabel()->text(), QString("Score: -400"));
 
-    WinDriver driver;
-    SetModalHook(std::ref(driver));
-    fx.dialogs.answerYes(false);
     for (int t = 0; t < 100 && Showing<MiniGolf>(); ++t) Pump(1000);
     QVERIFY(fx.dialogs.saw(kTimeIsUp));
-    QCOMPARE(fx.dialogs.last(),
-             QString("Oops! You scored -400! Try to be more careful next time! Would you like to "
-                     "try again?"));
-    QCOMPARE(fx.dialogs.shown.back().title, "Not so great...");
-    QVERIFY(driver.tables.isEmpty());
+    QCOMPARE(LastBox(fx),
+             "Not so great... | Oops! You scored -400! Try to be more careful next "
+             "time! Would you like to try again?");
+    QVERIFY(fx.win.tables.isEmpty());
     QVERIFY(!fx.read("scores/Mini Golf.dat").contains("400"));
     QVERIFY(Showing<Title>());
 }
