@@ -68,6 +68,14 @@ inline QString RestartRefusal(const ShellFixture& fx, QWidget* game) {
     return Showing<Title>() ? fx.dialogs.last() : QString("<not back on the title>");
 }
 
+// The pictures, sounds and tunes the game's card declares that the build did not make.
+inline QString MissingAssets(const ShellFixture& fx, const char* game) {
+    QStringList missing;
+    for (const std::string& a : FindCard(game)->assets)
+        if (!fx.exists(QString::fromStdString(a))) missing << QString::fromStdString(a);
+    return missing.join(", ");
+}
+
 // A won game's ending: the last box offers another go for the score of `row` ("initials score")
 // and was answered No, the row tops the game's table, and the title is back.
 inline QString WonFault(const ShellFixture& fx, const char* game, const QString& row) {

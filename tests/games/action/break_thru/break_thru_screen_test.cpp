@@ -46,10 +46,8 @@ void BreakThruScreenTest::twoWordsWonWithTheKeys() {
         fx, "BreakThru", {{"ox", "a strong farm animal"}, {"hen", "a bird that lays eggs"}}, 9);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump();
-    QCOMPARE(
-        game->field()->call() + " " + game->field()->hint() + " " + LabelText(game, "BallsLabel"),
-        "Get ready! Word 1 of 2 Balls: 3");
-    QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
+    QCOMPARE(game->field()->call() + " " + game->field()->hint() + " " + Labels(game, "BallsLabel Label1"),
+             "Get ready! Word 1 of 2 Balls: 3 | " + Meaning());
     QVERIFY(game->findChild<QLabel*>("Label1")->isVisible() &&
             fx.music.opened.endsWith("sounds/breakthru.mid"));
     Pump(BreakThruForm::kReadyMs);
@@ -136,8 +134,7 @@ void BreakThruScreenTest::outOfBallsLoses() {
              "This list has no words that fit BreakThru: a word may have at most 16 letters. "
              "Please choose another list.");
     // Every picture, sound and tune the game declares was made by the build.
-    for (const std::string& asset : FindCard("BreakThru")->assets)
-        QVERIFY2(fx.exists(QString::fromStdString(asset)), asset.c_str());
+    QCOMPARE(MissingAssets(fx, "BreakThru"), "");
 }
 
 QTEST_MAIN(BreakThruScreenTest)

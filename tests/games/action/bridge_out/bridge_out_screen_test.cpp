@@ -54,8 +54,7 @@ void BridgeOutScreenTest::eightBridgesFromTheTitleToTheTable() {
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Shared().SoundOn = kTrue;
     Pump(16);
-    QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
-    QCOMPARE(LabelText(game, "TrucksLabel"), "Trucks: 3");
+    QCOMPARE(Labels(game, "Label1 TrucksLabel"), Meaning() + " | Trucks: 3");
     QVERIFY(fx.music.opened.endsWith("sounds/bridgeout.mid"));
 
     for (int word = 1; word <= 8; ++word) {
@@ -100,7 +99,7 @@ void BridgeOutScreenTest::threeTrucksStoppedNameTheWords() {
     QCOMPARE(LabelText(game, "Label1"), "Drag the letters from the river into the gaps!");
     QStringList words;
     for (int truck = 1; truck <= 3; ++truck) {
-        words << QString("\"%1\"").arg(QString::fromLatin1(Shared().TheWord.c_str()));
+        words << "\"" + Word() + "\"";
         QCOMPARE(LabelText(game, "RoadLabel"), "Road: 44 m");
         if (truck == 1) {
             while (game->game().phase() == bridge_out::Phase::Ready) Pump(16);
@@ -124,14 +123,11 @@ void BridgeOutScreenTest::threeTrucksStoppedNameTheWords() {
     QVERIFY(fx.sound.played.contains("bridgelose.wav"));
     fx.dialogs.answerYes(true);
     Pump(BridgeOutGame::kEndMs);
-    QCOMPARE(LastBox(fx),
-             "Bridge Out | Honk! All three trucks had to stop at the broken bridge. "
-             "The words were " +
-                 words[0] + ", " + words[1] + " and " + words[2] +
-                 ". Would you like to try again?");
+    QCOMPARE(LastBox(fx), "Bridge Out | Honk! All three trucks had to stop at the broken bridge. The "
+                          "words were " + words[0] + ", " + words[1] + " and " + words[2] +
+                              ". Would you like to try again?");
     // Try again: a fresh game.
-    QCOMPARE(game->scene()->call(), "Bridge 1 of 8");
-    QCOMPARE(LabelText(game, "TrucksLabel"), "Trucks: 3");
+    QCOMPARE(game->scene()->call() + " | " + LabelText(game, "TrucksLabel"), "Bridge 1 of 8 | Trucks: 3");
     // A list with nothing the bridge can carry: said clearly, then back to the title.
     Shared().Words = {"", "abcdefghijklmnopq"};
     Shared().WordCount = 1;

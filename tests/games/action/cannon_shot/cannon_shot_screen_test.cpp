@@ -9,6 +9,7 @@
 #include "cannon_aim.h"
 #include "game_end.h"
 #include "games/action/cannon_shot/cannon_shot_screen.h"
+#include "platform/speech.h"
 
 using namespace wm;
 using namespace wm::test;
@@ -65,6 +66,7 @@ void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
     QVERIFY(fx.sound.played.contains("cannonready.wav"));
     QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
     QCOMPARE(LabelText(game, "LevelLabel"), "Level 2");
+    QVERIFY(fx.music.opened.endsWith("cannonshot.mid"));
     Pump(CannonShotForm::kReadyMs);
     QCOMPARE(game->sky()->call(), "");
     // A click on the sky gives the keys back to the cannon after the pupil was elsewhere.
@@ -78,21 +80,23 @@ void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
         QCOMPARE(LabelText(game, "BallsLabel"),
                  QString("Cannonballs: %1").arg(2 * word.size() + 3));
         for (std::size_t k = 0; k < word.size(); ++k) {
+            const bool first = w == 1 && k == 0;
+            Shared().SoundOn = first ? kFalse : kTrue;  // the pop only with sound on
             QVERIFY2(ShootLetter(game, char(toupper(word[k]))), word.c_str());
+            QCOMPARE(fx.sound.played.contains("cannonpop.wav"), !first);
+            Shared().SoundOn = kTrue;
             score += 20;
             QCOMPARE(LabelText(game, "ScoreLabel"), QString("Score: %1").arg(score));
-            if (w == 1 && k == 0) {
-                // A decoy: -5 x level, its sound only with sound on; the blank stays empty.
-                Shared().SoundOn = kFalse;
+            if (first) {
+                // A decoy: -5 x level and its own sound; the blank stays empty.
                 const auto& bs = game->game().balloons();
                 const auto decoy =
                     std::find_if(bs.begin(), bs.end(), [](auto& b) { return b.decoy; });
                 QVERIFY(ShootLetter(game, decoy->letter, true));
-                QVERIFY(!fx.sound.played.contains("cannonwrong.wav"));
+                QCOMPARE(fx.sound.played.count("cannonwrong.wav"), 1);
                 score -= 10;
                 QCOMPARE(LabelText(game, "ScoreLabel"), QString("Score: %1").arg(score));
                 QCOMPARE(game->game().nextPos(), 1);
-                Shared().SoundOn = kTrue;
                 WM_CHECK_LOOK("Cannon_Shot_play", game);
             }
         }
@@ -114,7 +118,9 @@ void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
 }
 
 void CannonShotScreenTest::outOfCannonballsLoses() {
+    RecordingSpeech voice;  // outlives the screens the fixture closes
     Road fx(0);
+    services().speech = &voice;
     ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
     fx.rng.pick(1, 2).then(0.9);  // the word, the wind: from the left, strong
     auto* game =
@@ -124,10 +130,9 @@ void CannonShotScreenTest::outOfCannonballsLoses() {
     // A words-only list has no clue; from level 8 the wind blows.
     QVERIFY(!game->findChild<QLabel*>("Label1")->isVisible());
     QCOMPARE(game->game().wind(), 0.8 * 0.01);
+    QVERIFY(!game->frame().sayIt());  // the word is the riddle while it is being shot at
     // Down lowers the barrel as Right does; then seven taps of Space into the grass.
-    SendKey(game, Qt::Key_Down);
-    Pump(16 * 40);
-    SendKey(game, Qt::Key_Down, QEvent::KeyRelease);
+    HoldKey(game, Qt::Key_Down, 16 * 40);
     QCOMPARE(game->game().angle(), 10.0);
     for (int b = 7; b >= 1; --b) {
         QCOMPARE(LabelText(game, "BallsLabel"), QString("Cannonballs: %1").arg(b));
@@ -141,6 +146,7 @@ void CannonShotScreenTest::outOfCannonballsLoses() {
     QVERIFY(fx.sound.played.contains("cannonthud.wav"));
     QCOMPARE(game->sky()->call(), "Out of cannonballs!");
     QVERIFY(fx.sound.played.contains("cannonlose.wav"));
+    QVERIFY(game->frame().sayIt() && voice.said.back().text == "ox");  // heard once it is lost
     WM_CHECK_LOOK("Cannon_Shot_lost", game);
     fx.dialogs.answerYes(true);
     Pump(CannonShotForm::kEndMs);

@@ -58,7 +58,7 @@ void LetterTossScreenTest::roadFromTitleThroughSixtySecondsToTheTable() {
     // The generator's middle value: cloud, its basket the middle one of three, no draught.
     QCOMPARE(game->room().baskets.size(), std::size_t(3));
     QCOMPARE(game->scene()->signText(1), "it floats in the sky");
-    QCOMPARE(LabelText(game, "WordLabel"), "cloud");
+    QCOMPARE(Labels(game, "Label2 WordLabel"), "Toss this word: | cloud");
     QCOMPARE(game->scene()->banner(), "Get ready...");
     Flick(game, 0, -150);  // the ball cannot be picked up yet
     QVERIFY(!game->room().ball.flying);
@@ -98,6 +98,7 @@ void LetterTossScreenTest::roadFromTitleThroughSixtySecondsToTheTable() {
     Pump(1800);
     QVERIFY(fanTurning);
     WM_CHECK_WON(fx, "Letter Toss", "LTS 100");
+    QCOMPARE(MissingAssets(fx, "Letter Toss"), "");  // every sound it declares was made
 }
 
 void LetterTossScreenTest::missesNoPointsTryAgainTheLastBallInTheAirAndTooFewDefinitions() {

@@ -28,16 +28,12 @@ void enter(ToadRace* game, const QString& typed) {
 void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
     Road fx(0, {"TOD"});
     SetModalHook(PaletteThen(0xE9, fx.win));
-    auto* game = FromTitle<ToadRace>(fx, "Toad Race",
-                                     {{"frog", "a jumping animal"},
-                                      {"caf\xE9", "a small restaurant"},
-                                      {"photosynthesis", "how green plants make food"},
-                                      {"newt", "a small animal"}, {"reed", "a tall grass"},
-                                      {"lily", "a flower"}, {"swan", "a white bird"},
-                                      {"duck", "it quacks"}, {"moss", "soft green plants"},
-                                      {"fish", "it swims"}, {"rain", "water from clouds"},
-                                      {"mud", "wet earth"}, {"bank", "a river's edge"}},
-                                     2);
+    const Pairs pond{{"frog", "a jumping animal"}, {"caf\xE9", "a small restaurant"},
+                     {"photosynthesis", "how green plants make food"}, {"newt", "a small animal"},
+                     {"reed", "a tall grass"}, {"lily", "a flower"}, {"swan", "a white bird"},
+                     {"duck", "it quacks"}, {"moss", "soft green plants"}, {"fish", "it swims"},
+                     {"rain", "water from clouds"}, {"mud", "wet earth"}, {"bank", "a river's edge"}};
+    auto* game = FromTitle<ToadRace>(fx, "Toad Race", pond, 2);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Shared().SoundOn = kTrue;
     Pump();
@@ -49,10 +45,8 @@ void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
     QCOMPARE(box->text(), "");
     Pump(ToadRace::kReadyMs);
     QCOMPARE(game->pond()->call(), "Go!");
-    QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheWord.c_str()));
-    QCOMPARE(LabelText(game, "Label2"), QString::fromLatin1(Shared().TheMeaning.c_str()));
-    QCOMPARE(LabelText(game, "PadsLabel"), "Pads to go: 12");
-    QCOMPARE(LabelText(game, "LevelLabel"), "Level 2");
+    QCOMPARE(Labels(game, "Label1 Label2 PadsLabel LevelLabel"),
+             Word() + " | " + Meaning() + " | Pads to go: 12 | Level 2");
 
     // A wrong word: the toad sits, the word stands, the box keeps what was typed, selected to
     // be typed over. The croak only with sound on.
@@ -110,9 +104,8 @@ void ToadRaceScreenTest::aRaceLostNamesTheWinnerAndTheWord() {
     ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
     // The first word, then the waits: Ruby (toad 3) leaves first, at 1200 ms, then every 1500.
     fx.rng.pick(1, 2).then(0.5).then(0.5).then(0.0);
-    auto* game = OpenGame<ToadRace>(fx, "Toad Race",
-                                    {{"cat", "a pet that purrs"}, {"dog", "a pet that barks"}}, 10,
-                                    false, true, true);
+    auto* game = OpenGame<ToadRace>(
+        fx, "Toad Race", {{"cat", "a pet that purrs"}, {"dog", "a pet that barks"}}, 10, false, true, true);
     QVERIFY(game);
     Pump();
     // A words-only list has no clue under the word.

@@ -61,8 +61,7 @@ void TowerScreenTest::tenRungsFromTheTitleToTheTable() {
 
     for (int rung = 1; rung <= 10; ++rung) {
         QVERIFY(Drive(game, true, [&] { return game->game().rungs() == rung; }));
-        QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
-        QCOMPARE(LabelText(game, "RungsLabel"), QString("Ladder: %1 of 10").arg(rung));
+        QCOMPARE(Labels(game, "Label1 RungsLabel"), Meaning() + QString(" | Ladder: %1 of 10").arg(rung));
         QCOMPARE(game->scene()->call(),
                  rung < 10 ? QString("Rung %1 of 10!").arg(rung) : QString("The castle is yours!"));
         if (rung < 10) Pump(1600);  // the next definition, its font fitted to the banner
@@ -90,17 +89,17 @@ void TowerScreenTest::threeWrongScrollsDriveTheKnightBack() {
     QVERIFY(fx.sound.played.contains("towerthud.wav"));
     for (int shield = 2; shield >= 0; --shield) {
         QVERIFY(Drive(game, false, [&] { return game->game().shields() == shield; }));
-        QCOMPARE(LabelText(game, "ShieldsLabel"), QString("Shields: %1").arg(shield));
+        QCOMPARE(Labels(game, "ShieldsLabel ScoreLabel"),
+                 QString("Shields: %1 | Score: %2").arg(shield).arg(-25 * (3 - shield)));
         WM_CHECK_PLATES(game);
-        QCOMPARE(LabelText(game, "ScoreLabel"), QString("Score: %1").arg(-25 * (3 - shield)));
         const QString caught = QString::fromLatin1(game->game().last().word.c_str());
-        QVERIFY(caught != QString::fromLatin1(Shared().TheWord.c_str()));
+        QVERIFY(caught != Word());
         if (shield > 0) QCOMPARE(game->scene()->call(), QString("Not \"%1\"!").arg(caught));
     }
     QVERIFY(fx.sound.played.contains("towerclang.wav"));
     QCOMPARE(game->scene()->call(), "The guards drove you back!");
     QVERIFY(fx.sound.played.contains("towerlose.wav"));
-    const QString word = QString::fromLatin1(Shared().TheWord.c_str());
+    const QString word = Word();
     fx.dialogs.answerYes(true);
     bool behind = false;  // the scene plays on behind the box
     fx.dialogs.whileOpen = [&](const auto&) {
@@ -111,8 +110,7 @@ void TowerScreenTest::threeWrongScrollsDriveTheKnightBack() {
                               "\". Would you like to try again?");
     QVERIFY(behind);
     // Try again: a fresh game.
-    QCOMPARE(LabelText(game, "ShieldsLabel"), "Shields: 3");
-    QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 0");
+    QCOMPARE(Labels(game, "ShieldsLabel ScoreLabel"), "Shields: 3 | Score: 0");
     // A list of one word twice: nothing to throw as decoys, said clearly, back to the title.
     Shared().Words = {"", "moat", "MOAT"};
     Shared().Meanings = {"", "water", "water"};

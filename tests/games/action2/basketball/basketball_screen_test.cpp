@@ -46,19 +46,16 @@ void BasketballScreenTest::tenGoodShotsToTheTable() {
     QVERIFY2(g, qPrintable(fx.dialogs.texts().join(" | ")));
     SharedState& s = Shared();
     QVERIFY(fx.dialogs.saw("The crowd is ready! Click OK to start your game!"));
-    QCOMPARE(g->shootLabel()->text(), QString(kBegin));
-    QCOMPARE(g->shotsLeftLabel()->text(), QString("Shots Left: 10"));
-    QCOMPARE(g->definition()->text(), QString::fromStdString("\"" + s.TheMeaning + "\""));
+    QCOMPARE(g->shootLabel()->text() + " | " + g->shotsLeftLabel()->text() + " | " + g->definition()->text(),
+             QString(kBegin) + " | Shots Left: 10 | \"" + Meaning() + "\"");
     QCOMPARE(g->frame().findTimer("Timer1")->interval(), 500);  // the pace at level 10
 
     QPointer<BasketBallForm> alive(g);
     QStringList animations;
     double score = 0;
     for (int shot = 1; shot <= 10; ++shot) {
-        for (int t = 0; t < 2000 && g->shootLabel()->text() != QString::fromStdString(s.TheWord);
-             ++t)
-            Pump(16);
-        QCOMPARE(g->shootLabel()->text(), QString::fromStdString(s.TheWord));
+        for (int t = 0; t < 2000 && g->shootLabel()->text() != Word(); ++t) Pump(16);
+        QCOMPARE(g->shootLabel()->text(), Word());
         const int shown = g->game().wordsShown();
         Drop(g, g->netPoint());
         animations << g->playing();
@@ -71,9 +68,8 @@ void BasketballScreenTest::tenGoodShotsToTheTable() {
         QCOMPARE(g->scoreLabel()->text(), QString("Score: %1").arg(s.Score));
         if (shot < 10) {
             WaitForTheAnimation(g);
-            QCOMPARE(g->shotsLeftLabel()->text(), QString("Shots Left: %1").arg(10 - shot));
-            QCOMPARE(g->shootLabel()->text(), QString(kBegin));
-            QCOMPARE(g->playing(), QString("bball-still"));
+            QCOMPARE(g->shotsLeftLabel()->text() + " | " + g->shootLabel()->text() + " | " + g->playing(),
+                     QString("Shots Left: %1 | %2 | bball-still").arg(10 - shot).arg(kBegin));
         } else {
             for (int t = 0; t < 400 && alive; ++t) Pump(50);
         }

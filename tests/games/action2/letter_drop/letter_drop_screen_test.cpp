@@ -55,8 +55,8 @@ void LetterDropScreenTest::steerEveryLetterHomeToTheTable() {
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump();
     QCOMPARE(fx.dialogs.last(), "Click <OK> when you are ready to begin");
-    QCOMPARE(game->definition()->text(), QString("Definition:  a bird that hunts at night"));
-    QCOMPARE(game->scoreLabel()->text(), QString("Score: 0"));
+    QCOMPARE(game->definition()->text() + " | " + game->scoreLabel()->text(),
+             "Definition:  a bird that hunts at night | Score: 0");
     QCOMPARE(game->game().word(), std::string("OWL"));
     for (int i = 0; i < kTiles; ++i) QCOMPARE(game->tile(i)->isVisible(), i < 3);
     QCOMPARE(game->tile(0)->text(), QString());
@@ -64,7 +64,7 @@ void LetterDropScreenTest::steerEveryLetterHomeToTheTable() {
     // A wrong landing: straight down onto the W's tile with the O falling.
     Steer(game, 1);
     QCOMPARE(fx.sound.played.count("crumble.wav"), 1);
-    QCOMPARE(game->scoreLabel()->text(), QString("Score: -50"));
+    QCOMPARE(game->scoreLabel()->text(), "Score: -50");
     QVERIFY(game->dissolving());
     const int y = game->game().y();
     Pump(50);
