@@ -60,12 +60,12 @@ inline QString LastBox(const ShellFixture& fx) {
                : fx.dialogs.shown.back().title + " | " + fx.dialogs.shown.back().text;
 }
 
-// The game's menu restart on the shared list as the test left it: what the box said, once the
-// title is back.
+// The game's menu restart on the shared list as the test left it: the box that refused it (as
+// LastBox), once the title is back.
 inline QString RestartRefusal(const ShellFixture& fx, QWidget* game) {
     if (!TriggerMenu(game, "RS")) return "<no restart in the menu>";
     Pump();
-    return Showing<Title>() ? fx.dialogs.last() : QString("<not back on the title>");
+    return Showing<Title>() ? LastBox(fx) : QString("<not back on the title>");
 }
 
 // The pictures, sounds and tunes the game's card declares that the build did not make.

@@ -46,7 +46,8 @@ void BreakThruScreenTest::twoWordsWonWithTheKeys() {
         fx, "BreakThru", {{"ox", "a strong farm animal"}, {"hen", "a bird that lays eggs"}}, 9);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump();
-    QCOMPARE(game->field()->call() + " " + game->field()->hint() + " " + Labels(game, "BallsLabel Label1"),
+    QCOMPARE(game->field()->call() + " " + game->field()->hint() + " " +
+                 Labels(game, "BallsLabel Label1"),
              "Get ready! Word 1 of 2 Balls: 3 | " + Meaning());
     QVERIFY(game->findChild<QLabel*>("Label1")->isVisible() &&
             fx.music.opened.endsWith("sounds/breakthru.mid"));
@@ -131,6 +132,7 @@ void BreakThruScreenTest::outOfBallsLoses() {
     // Words too long for the top row: said clearly, then back to the title.
     Shared().Words = {"", "seventeen-letters", "abcdefghijklmnopq"};
     QCOMPARE(RestartRefusal(fx, game),
+             "BreakThru | "
              "This list has no words that fit BreakThru: a word may have at most 16 letters. "
              "Please choose another list.");
     // Every picture, sound and tune the game declares was made by the build.

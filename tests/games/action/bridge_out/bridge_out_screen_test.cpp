@@ -123,15 +123,17 @@ void BridgeOutScreenTest::threeTrucksStoppedNameTheWords() {
     QVERIFY(fx.sound.played.contains("bridgelose.wav"));
     fx.dialogs.answerYes(true);
     Pump(BridgeOutGame::kEndMs);
-    QCOMPARE(LastBox(fx), "Bridge Out | Honk! All three trucks had to stop at the broken bridge. The "
-                          "words were " + words[0] + ", " + words[1] + " and " + words[2] +
+    QCOMPARE(LastBox(fx), "Bridge Out | Honk! All three trucks had to stop at the broken bridge. "
+                          "The words were " + words[0] + ", " + words[1] + " and " + words[2] +
                               ". Would you like to try again?");
     // Try again: a fresh game.
-    QCOMPARE(game->scene()->call() + " | " + LabelText(game, "TrucksLabel"), "Bridge 1 of 8 | Trucks: 3");
+    QCOMPARE(game->scene()->call() + " | " + LabelText(game, "TrucksLabel"),
+             "Bridge 1 of 8 | Trucks: 3");
     // A list with nothing the bridge can carry: said clearly, then back to the title.
     Shared().Words = {"", "abcdefghijklmnopq"};
     Shared().WordCount = 1;
     QCOMPARE(RestartRefusal(fx, game),
+             "Bridge Out | "
              "No word on this list fits on the bridge: a word needs at least one letter and at "
              "most 16 letters and blanks. Please choose another list.");
 }

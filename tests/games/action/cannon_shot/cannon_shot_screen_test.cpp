@@ -66,7 +66,7 @@ void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
     QVERIFY(fx.sound.played.contains("cannonready.wav"));
     QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
     QCOMPARE(LabelText(game, "LevelLabel"), "Level 2");
-    QVERIFY(fx.music.opened.endsWith("cannonshot.mid"));
+    QVERIFY(fx.music.opened.endsWith("cannonshot.mid") && game->windowTitle() == "Cannon Shot");
     Pump(CannonShotForm::kReadyMs);
     QCOMPARE(game->sky()->call(), "");
     // A click on the sky gives the keys back to the cannon after the pupil was elsewhere.
@@ -149,7 +149,12 @@ void CannonShotScreenTest::outOfCannonballsLoses() {
     QVERIFY(game->frame().sayIt() && voice.said.back().text == "ox");  // heard once it is lost
     WM_CHECK_LOOK("Cannon_Shot_lost", game);
     fx.dialogs.answerYes(true);
+    bool behind = false;  // the sky plays on behind the box
+    fx.dialogs.whileOpen = [&](const auto&) {
+        behind = game->frame().findTimer("Timer1")->isActive();
+    };
     Pump(CannonShotForm::kEndMs);
+    QVERIFY(behind);
     QCOMPARE(LastBox(fx),
              "Try Again? | Out of cannonballs! The word was ox. Would you like to try again?");
     // Try again: a fresh game with a full rack.
@@ -159,6 +164,7 @@ void CannonShotScreenTest::outOfCannonballsLoses() {
     // Words too long for the blanks: said clearly, then back to the title.
     Shared().Words = {"", "hippopotomonstrous", "photosynthesise"};
     QCOMPARE(RestartRefusal(fx, game),
+             "Cannon Shot | "
              "This list has no words that fit Cannon Shot: a word may have at most 14 letters. "
              "Please choose another list.");
 }

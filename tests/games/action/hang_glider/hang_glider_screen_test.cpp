@@ -69,7 +69,7 @@ void HangGliderScreenTest::fiveWordsWonWithTheKeys() {
     QVERIFY(fx.sound.played.contains("gliderready.wav"));
     QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
     QCOMPARE(LabelText(game, "LevelLabel"), "Level 2");
-    QVERIFY(fx.music.opened.endsWith("hangglider.mid"));
+    QVERIFY(fx.music.opened.endsWith("hangglider.mid") && game->windowTitle() == "Hang Glider");
     CheckLayout(game);
     Pump(HangGlider::kReadyMs);
     QCOMPARE(game->sky()->call(), "");
@@ -149,6 +149,7 @@ void HangGliderScreenTest::landingTooEarlyLosesAndALongClueShrinks() {
     // Words too long for the plate: said clearly, then back to the title.
     Shared().Words = {"", "pneumonoultramicroscopic", "supercalifragilistic1"};
     QCOMPARE(RestartRefusal(fx, game),
+             "Hang Glider | "
              "This list has no words that fit Hang Glider: a word may have at most 20 letters. "
              "Please choose another list.");
 

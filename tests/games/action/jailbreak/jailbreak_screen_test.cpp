@@ -40,7 +40,8 @@ void JailbreakScreenTest::roadFromTitleThroughThreeCellsToTheTable() {
     auto* game = FromTitle<JailBreakForm>(fx, "Jailbreak", kEight, 2);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     const SharedState& s = Shared();
-    QCOMPARE(game->scene()->banner(), "Cell 1 of 3");
+    QCOMPARE(game->scene()->banner() + " | " + LabelText(game, "CellLabel"),
+             "Cell 1 of 3 | Cell 1 of 3");
     // Nothing counts before the pause is over.
     Type(game, "apple");
     Button(game, "Command1")->click();

@@ -177,6 +177,7 @@ void SpiderScreenTest::theSpiderWinsEveryDefinition() {
     // Twelve flies need twelve different words.
     Shared().WordCount = 11;
     QCOMPARE(RestartRefusal(fx, game),
+             "Spiderwebs | "
              "At level 12 the web holds 12 flies, each with a different word, but this list has "
              "only 11 different words. Please choose another list or a lower level.");
 }

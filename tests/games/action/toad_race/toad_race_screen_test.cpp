@@ -32,7 +32,8 @@ void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
                      {"photosynthesis", "how green plants make food"}, {"newt", "a small animal"},
                      {"reed", "a tall grass"}, {"lily", "a flower"}, {"swan", "a white bird"},
                      {"duck", "it quacks"}, {"moss", "soft green plants"}, {"fish", "it swims"},
-                     {"rain", "water from clouds"}, {"mud", "wet earth"}, {"bank", "a river's edge"}};
+                     {"rain", "water from clouds"}, {"mud", "wet earth"},
+                     {"bank", "a river's edge"}};
     auto* game = FromTitle<ToadRace>(fx, "Toad Race", pond, 2);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Shared().SoundOn = kTrue;
@@ -104,8 +105,9 @@ void ToadRaceScreenTest::aRaceLostNamesTheWinnerAndTheWord() {
     ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
     // The first word, then the waits: Ruby (toad 3) leaves first, at 1200 ms, then every 1500.
     fx.rng.pick(1, 2).then(0.5).then(0.5).then(0.0);
-    auto* game = OpenGame<ToadRace>(
-        fx, "Toad Race", {{"cat", "a pet that purrs"}, {"dog", "a pet that barks"}}, 10, false, true, true);
+    auto* game = OpenGame<ToadRace>(fx, "Toad Race",
+                                    {{"cat", "a pet that purrs"}, {"dog", "a pet that barks"}}, 10,
+                                    false, true, true);
     QVERIFY(game);
     Pump();
     // A words-only list has no clue under the word.
@@ -135,7 +137,7 @@ void ToadRaceScreenTest::aRaceLostNamesTheWinnerAndTheWord() {
     // A list with no words left to race with: said clearly, then back to the title.
     Shared().WordCount = 0;
     QCOMPARE(RestartRefusal(fx, game),
-             "This list has no words to race with. Please choose another list.");
+             "Toad Race | This list has no words to race with. Please choose another list.");
 }
 
 QTEST_MAIN(ToadRaceScreenTest)

@@ -61,7 +61,8 @@ void TowerScreenTest::tenRungsFromTheTitleToTheTable() {
 
     for (int rung = 1; rung <= 10; ++rung) {
         QVERIFY(Drive(game, true, [&] { return game->game().rungs() == rung; }));
-        QCOMPARE(Labels(game, "Label1 RungsLabel"), Meaning() + QString(" | Ladder: %1 of 10").arg(rung));
+        QCOMPARE(Labels(game, "Label1 RungsLabel"),
+                 Meaning() + QString(" | Ladder: %1 of 10").arg(rung));
         QCOMPARE(game->scene()->call(),
                  rung < 10 ? QString("Rung %1 of 10!").arg(rung) : QString("The castle is yours!"));
         if (rung < 10) Pump(1600);  // the next definition, its font fitted to the banner
@@ -116,6 +117,7 @@ void TowerScreenTest::threeWrongScrollsDriveTheKnightBack() {
     Shared().Meanings = {"", "water", "water"};
     Shared().WordCount = 2;
     QCOMPARE(RestartRefusal(fx, game),
+             "Tower Assault | "
              "The guards need at least two different words to throw. Please choose another list.");
 }
 

@@ -46,7 +46,8 @@ void BasketballScreenTest::tenGoodShotsToTheTable() {
     QVERIFY2(g, qPrintable(fx.dialogs.texts().join(" | ")));
     SharedState& s = Shared();
     QVERIFY(fx.dialogs.saw("The crowd is ready! Click OK to start your game!"));
-    QCOMPARE(g->shootLabel()->text() + " | " + g->shotsLeftLabel()->text() + " | " + g->definition()->text(),
+    QCOMPARE(g->shootLabel()->text() + " | " + g->shotsLeftLabel()->text() + " | " +
+                 g->definition()->text(),
              QString(kBegin) + " | Shots Left: 10 | \"" + Meaning() + "\"");
     QCOMPARE(g->frame().findTimer("Timer1")->interval(), 500);  // the pace at level 10
 
@@ -68,7 +69,8 @@ void BasketballScreenTest::tenGoodShotsToTheTable() {
         QCOMPARE(g->scoreLabel()->text(), QString("Score: %1").arg(s.Score));
         if (shot < 10) {
             WaitForTheAnimation(g);
-            QCOMPARE(g->shotsLeftLabel()->text() + " | " + g->shootLabel()->text() + " | " + g->playing(),
+            QCOMPARE(g->shotsLeftLabel()->text() + " | " + g->shootLabel()->text() + " | " +
+                         g->playing(),
                      QString("Shots Left: %1 | %2 | bball-still").arg(10 - shot).arg(kBegin));
         } else {
             for (int t = 0; t < 400 && alive; ++t) Pump(50);

@@ -58,7 +58,8 @@ void MiniGolfScreenTest::rightHoleThenTheClockToTheTable() {
     // The clock shows 30 until the first second.
     QCOMPARE(QStringList({g->defLabel()->text(), g->scoreLabel()->text(), g->timeLabel()->text(),
                           g->holeLabel(right - 1)->text()}),
-             QStringList({"Hit the word that means: " + Meaning(), "Score: 00000", "Time: 30", Word()}));
+             QStringList({"Hit the word that means: " + Meaning(), "Score: 00000", "Time: 30",
+                          Word()}));
     QVERIFY(g->holeLabel(1)->isVisible() && !g->holeLabel(2)->isVisible());  // two holes at 1
 
     // A drag away from the ball shows the line.
@@ -104,7 +105,8 @@ void MiniGolfScreenTest::wrongHoleEndsBelowZeroWithoutTheTable() {
     QCOMPARE(s.Score, -1000.0);
     // The caption changes only at the right hole: the cost shows with the next one.
     QCOMPARE(g->scoreLabel()->text() + " " + g->oopsLabel()->text(),
-             "Score: 00000 Oops! You should have put the ball in this hole! (Click here to continue)");
+             "Score: 00000 Oops! You should have put the ball in this hole! (Click here to "
+             "continue)");
     QVERIFY(!g->ballShown());
     QCOMPARE(fx.sound.played.count("ooh.wav"), 1);
     // Nothing to hit until the label is clicked; the clock goes on.
