@@ -3,7 +3,7 @@
 #include <QtTest>
 #include <algorithm>
 
-#include "game_start.h"
+#include "game_end.h"
 #include "games/action/asteroid_zap/asteroid_zap_screen.h"
 
 using namespace wm;
@@ -46,12 +46,11 @@ class AsteroidZapScreenTest : public QObject {
 private slots:
     void roadToAWinAndTheTable();
     void wrongLetterWaitsForAKey();
-    void shipDestroyedAndArrowKeys();
-    void longWordsAreRefused();
+    void shipDestroyedAndArrowKeysThenLongWords();
 };
 
 void AsteroidZapScreenTest::roadToAWinAndTheTable() {
-    ShellFixture fx;
+    Road fx(0, {"AST"});
     auto* game = Start(fx);
     QVERIFY(game);
     QCOMPARE(game->windowTitle(), "Asteroid Blast!");
@@ -60,18 +59,12 @@ void AsteroidZapScreenTest::roadToAWinAndTheTable() {
     QVERIFY(ShootColumn(game, 18));
     QVERIFY(fx.sound.played.contains("shot1.wav"));
     QVERIFY(fx.sound.played.contains("boom1.wav"));
-    WinDriver driver({"AST"});
-    SetModalHook(std::ref(driver));
     for (int k = 2; k < 18 && Showing<AsteroidBlast>(); ++k) QVERIFY(ShootColumn(game, k));
-    Pump();
-    QVERIFY(Showing<Title>() != nullptr);
-    QCOMPARE(driver.tables.size(), 1);
+    QCOMPARE(fx.win.tables.size(), 1);
     // 3 letters x 500 x level 1, less the twips the wall sank, one a tick.
     const double score = Shared().Score;
     QVERIFY2(score > 500 && score < 1500, qPrintable(QString::number(score)));
-    QCOMPARE(fx.dialogs.last(),
-             QString("You got a high score of %1! Would you like to try again?").arg(score));
-    QCOMPARE(TableRow(fx, "Asteroid Zap"), QString("AST %1").arg(score));
+    WM_CHECK_WON(fx, "Asteroid Zap", QString("AST %1").arg(score));
 }
 
 void AsteroidZapScreenTest::wrongLetterWaitsForAKey() {
@@ -92,14 +85,12 @@ void AsteroidZapScreenTest::wrongLetterWaitsForAKey() {
     QVERIFY(!game->waitingForKey());
 }
 
-void AsteroidZapScreenTest::shipDestroyedAndArrowKeys() {
+void AsteroidZapScreenTest::shipDestroyedAndArrowKeysThenLongWords() {
     ShellFixture fx;
     auto* game = Start(fx);
     QVERIFY(game);
     const int x = game->round().shipX;
-    SendKey(game, Qt::Key_Left);
-    Pump(16 * 4);
-    SendKey(game, Qt::Key_Left, QEvent::KeyRelease);
+    HoldKey(game, Qt::Key_Left, 16 * 4);
     QCOMPARE(game->round().shipX, x - 4 * 50);
     Pump(16 * 4);
     QCOMPARE(game->round().shipX, x - 4 * 50);
@@ -112,18 +103,13 @@ void AsteroidZapScreenTest::shipDestroyedAndArrowKeys() {
     QVERIFY(fx.dialogs.saw("Would you like to try again?"));
     Pump();
     QVERIFY(Showing<Title>() != nullptr);
-}
-
-void AsteroidZapScreenTest::longWordsAreRefused() {
-    ShellFixture fx;
     fx.rng.setFallback(0.1);  // always the first, of 15 letters
-    OpenGame<QWidget>(fx, "Asteroid Zap", {{"extraordinarily", "very"}, {"encyclopaedias", "x"}},
-                      2, true);
+    OpenGame<QWidget>(fx, "Asteroid Zap", {{"extraordinarily", "very"}, {"encyclopaedias", "x"}}, 2,
+                      true);
     Pump(200);
-    QVERIFY(
-        fx.dialogs.saw("The words on this list are too long to play this game! Choose another "
-                       "list or another game."));
-    QCOMPARE(fx.dialogs.shown.back().title, "Oops!");
+    QCOMPARE(LastBox(fx),
+             "Oops! | The words on this list are too long to play this game! Choose "
+             "another list or another game.");
     Pump();
     QVERIFY(Showing<Title>() != nullptr);
 }

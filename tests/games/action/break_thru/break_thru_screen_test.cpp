@@ -3,7 +3,7 @@
 // lost at 1920x1080 with every ball missed, a try again, and a list whose words are too long.
 #include <QtTest>
 
-#include "game_start.h"
+#include "game_end.h"
 #include "games/action/break_thru/break_thru_screen.h"
 
 using namespace wm;
@@ -40,34 +40,27 @@ void Serve(BreakThruForm* game) {
 }  // namespace
 
 void BreakThruScreenTest::twoWordsWonWithTheKeys() {
-    ShellFixture fx;
-    WriteOneList(fx, "Farm", {{"ox", "a strong farm animal"}, {"hen", "a bird that lays eggs"}});
-    WinDriver driver({"BRK"});
-    SetModalHook(std::ref(driver));
+    Road fx(0, {"BRK"});
     // The list comes first; the slider, clamped to its two words, asks for both.
-    auto* game = qobject_cast<BreakThruForm*>(PlayFromTitle("BreakThru", "Farm", 2));
+    auto* game = FromTitle<BreakThruForm>(
+        fx, "BreakThru", {{"ox", "a strong farm animal"}, {"hen", "a bird that lays eggs"}}, 9);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump();
-    QCOMPARE(
-        game->field()->call() + " " + game->field()->hint() + " " + LabelText(game, "BallsLabel"),
-        "Get ready! Word 1 of 2 Balls: 3");
-    QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
+    QCOMPARE(game->field()->call() + " " + game->field()->hint() + " " +
+                 Labels(game, "BallsLabel Label1"),
+             "Get ready! Word 1 of 2 Balls: 3 | " + Meaning());
     QVERIFY(game->findChild<QLabel*>("Label1")->isVisible() &&
             fx.music.opened.endsWith("sounds/breakthru.mid"));
     Pump(BreakThruForm::kReadyMs);
     QCOMPARE(game->field()->hint(), "Press Space to serve!");
     // Up held for twenty frames: the paddle and the ball on it rise 13 units a frame.
-    SendKey(game, Qt::Key_Up);
-    Pump(16 * 20);
-    SendKey(game, Qt::Key_Up, QEvent::KeyRelease);
+    HoldKey(game, Qt::Key_Up, 16 * 20);
     QCOMPARE(game->game().paddleY(), 550.0 - 20 * 13);
     Serve(game);
     QCOMPARE(game->field()->hint(), "");
     // A ball coming back low: Down held brings the paddle under it, and it goes back out.
     game->rules().place(game->game().paddleY(), {500, 560, -8, 0});
-    SendKey(game, Qt::Key_Down);
-    Pump(16 * 20);
-    SendKey(game, Qt::Key_Down, QEvent::KeyRelease);
+    HoldKey(game, Qt::Key_Down, 16 * 20);
     for (int t = 0; t < 40 && game->game().ball().vx < 0; ++t) Pump(16);
     QVERIFY(game->game().ball().vx > 0);
 
@@ -101,30 +94,20 @@ void BreakThruScreenTest::twoWordsWonWithTheKeys() {
     for (const char* effect : {"breakthruready.wav", "breakthruserve.wav", "breakthrupaddle.wav",
                                "breakthrubreak.wav", "breakthruword.wav", "breakthruwin.wav"})
         QVERIFY2(fx.sound.played.contains(effect), effect);
-    Shot(game, "breakthru-win");
-    fx.dialogs.answerYes(false);
     Pump(BreakThruForm::kEndMs);
-    QCOMPARE(fx.dialogs.last(),
-             QString("You got a high score of %1! Would you like to try again?").arg(score));
-    QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
-    QCOMPARE(TableRow(fx, "BreakThru"), QString("BRK %1").arg(score));
-    Pump();
-    QVERIFY(Showing<Title>());
+    WM_CHECK_WON(fx, "BreakThru", QString("BRK %1").arg(score));
 }
 
 void BreakThruScreenTest::outOfBallsLoses() {
-    ShellFixture fx;
+    Road fx(0);
     ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
-    WinDriver driver;
-    SetModalHook(std::ref(driver));
     auto* game =
         OpenGame<BreakThruForm>(fx, "BreakThru", {{"ox", ""}, {"ox", ""}}, 2, false, true, true);
     QVERIFY(game);
     Pump(BreakThruForm::kReadyMs + 100);
     // A words-only list has no clue; the plates stand inside the screen.
     QVERIFY(!game->findChild<QLabel*>("Label1")->isVisible());
-    for (QLabel* plate : game->findChildren<QLabel*>())
-        QVERIFY2(game->rect().contains(plate->geometry()), qPrintable(plate->text()));
+    WM_CHECK_PLATES(game);
     const char* calls[] = {"Missed!", "Last ball!", "Out of balls!"};
     for (int b = 3; b >= 1; --b) {
         QCOMPARE(LabelText(game, "BallsLabel"), QString("Balls: %1").arg(b));
@@ -137,24 +120,23 @@ void BreakThruScreenTest::outOfBallsLoses() {
         QVERIFY2(fx.sound.played.contains(effect), effect);
     fx.dialogs.answerYes(true);
     bool behind = false;  // the court plays on behind the box
-    fx.dialogs.whileOpen = [&](const auto&) { behind = game->frame().findTimer("Timer1")->isActive(); };
+    fx.dialogs.whileOpen = [&](const auto&) {
+        behind = game->frame().findTimer("Timer1")->isActive();
+    };
     Pump(BreakThruForm::kEndMs);
-    QCOMPARE(fx.dialogs.last(), "Out of balls! The word was ox. Would you like to try again?");
-    QCOMPARE(fx.dialogs.shown.back().title, "Try Again?");
+    QCOMPARE(LastBox(fx),
+             "Try Again? | Out of balls! The word was ox. Would you like to try again?");
     QVERIFY(behind);
     // Try again: a fresh game with three balls.
     QCOMPARE(game->field()->call() + " " + LabelText(game, "BallsLabel"), "Get ready! Balls: 3");
     // Words too long for the top row: said clearly, then back to the title.
     Shared().Words = {"", "seventeen-letters", "abcdefghijklmnopq"};
-    QVERIFY(TriggerMenu(game, "RS"));
-    Pump();
-    QCOMPARE(fx.dialogs.last(),
+    QCOMPARE(RestartRefusal(fx, game),
+             "BreakThru | "
              "This list has no words that fit BreakThru: a word may have at most 16 letters. "
              "Please choose another list.");
-    QVERIFY(Showing<Title>());
     // Every picture, sound and tune the game declares was made by the build.
-    for (const std::string& asset : FindCard("BreakThru")->assets)
-        QVERIFY2(fx.exists(QString::fromStdString(asset)), asset.c_str());
+    QCOMPARE(MissingAssets(fx, "BreakThru"), "");
 }
 
 QTEST_MAIN(BreakThruScreenTest)

@@ -6,7 +6,7 @@
 #include "look.h"
 
 #include "core/strings.h"
-#include "game_start.h"
+#include "game_end.h"
 #include "games/action/bridge_out/bridge_out_screen.h"
 
 using namespace wm;
@@ -39,30 +39,22 @@ bool DragTo(BridgeOutGame* game, const std::string& letter, int gap) {
 }  // namespace
 
 void BridgeOutScreenTest::eightBridgesFromTheTitleToTheTable() {
-    ShellFixture fx;
-    WriteOneList(fx, "River Words",
-                 {{"cat", "a pet that purrs"},
-                  {"dog", "a pet that barks"},
-                  {"owl", "it hoots"},
-                  {"bee", "it buzzes"},
-                  {"ant", "a tiny insect"},
-                  {"elk", "a big deer"},
-                  {"yak", "a hairy ox"},
-                  {"emu", "a big bird"},
-                  {"fox", "a red animal"}});
-    WinDriver driver({"BOB"});
+    Road fx(0, {"BOB"});
+    const Pairs river{
+        {"cat", "a pet that purrs"}, {"dog", "a pet that barks"}, {"owl", "it hoots"},
+        {"bee", "it buzzes"},        {"ant", "a tiny insect"},    {"elk", "a big deer"},
+        {"yak", "a hairy ox"},       {"emu", "a big bird"},       {"fox", "a red animal"}};
     BridgeOutGame* game = nullptr;
     bool rolling = false;  // the river flows on behind the end boxes
     SetModalHook([&](QDialog& d) {
         rolling = game && game->frame().findTimer("Timer1")->isActive();
-        driver(d);
+        fx.win(d);
     });
-    game = qobject_cast<BridgeOutGame*>(PlayFromTitle("Bridge Out", "River Words", 2));
+    game = FromTitle<BridgeOutGame>(fx, "Bridge Out", river, 2);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Shared().SoundOn = kTrue;
     Pump(16);
-    QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
-    QCOMPARE(LabelText(game, "TrucksLabel"), "Trucks: 3");
+    QCOMPARE(Labels(game, "Label1 TrucksLabel"), Meaning() + " | Trucks: 3");
     QVERIFY(fx.music.opened.endsWith("sounds/bridgeout.mid"));
 
     for (int word = 1; word <= 8; ++word) {
@@ -87,18 +79,13 @@ void BridgeOutScreenTest::eightBridgesFromTheTitleToTheTable() {
         if (word == 8) break;
         Pump(bridge_out::kCrossMs + 16);
     }
-    fx.dialogs.answerYes(false);
     Pump(bridge_out::kCrossMs + 16);
     QCOMPARE(game->scene()->call(), "All across! You did it!");
     QVERIFY(fx.sound.played.contains("bridgewin.wav"));
     QVERIFY(fx.dialogs.shown.empty());
     Pump(BridgeOutGame::kEndMs);
-    QVERIFY2(fx.dialogs.saw("You got a high score of 854! Would you like to try again?"),
-             qPrintable(fx.dialogs.texts().join(" | ")));
-    QCOMPARE(TableRow(fx, "Bridge Out"), "BOB 854");
     QVERIFY(rolling);
-    Pump();
-    QVERIFY(Showing<Title>());
+    WM_CHECK_WON(fx, "Bridge Out", "BOB 854");
 }
 
 void BridgeOutScreenTest::threeTrucksStoppedNameTheWords() {
@@ -112,7 +99,7 @@ void BridgeOutScreenTest::threeTrucksStoppedNameTheWords() {
     QCOMPARE(LabelText(game, "Label1"), "Drag the letters from the river into the gaps!");
     QStringList words;
     for (int truck = 1; truck <= 3; ++truck) {
-        words << QString("\"%1\"").arg(QString::fromLatin1(Shared().TheWord.c_str()));
+        words << "\"" + Word() + "\"";
         QCOMPARE(LabelText(game, "RoadLabel"), "Road: 44 m");
         if (truck == 1) {
             while (game->game().phase() == bridge_out::Phase::Ready) Pump(16);
@@ -136,22 +123,19 @@ void BridgeOutScreenTest::threeTrucksStoppedNameTheWords() {
     QVERIFY(fx.sound.played.contains("bridgelose.wav"));
     fx.dialogs.answerYes(true);
     Pump(BridgeOutGame::kEndMs);
-    QCOMPARE(fx.dialogs.last(),
-             "Honk! All three trucks had to stop at the broken bridge. The words were " + words[0] +
-                 ", " + words[1] + " and " + words[2] + ". Would you like to try again?");
-    QCOMPARE(fx.dialogs.shown.back().title, "Bridge Out");
+    QCOMPARE(LastBox(fx), "Bridge Out | Honk! All three trucks had to stop at the broken bridge. "
+                          "The words were " + words[0] + ", " + words[1] + " and " + words[2] +
+                              ". Would you like to try again?");
     // Try again: a fresh game.
-    QCOMPARE(game->scene()->call(), "Bridge 1 of 8");
-    QCOMPARE(LabelText(game, "TrucksLabel"), "Trucks: 3");
+    QCOMPARE(game->scene()->call() + " | " + LabelText(game, "TrucksLabel"),
+             "Bridge 1 of 8 | Trucks: 3");
     // A list with nothing the bridge can carry: said clearly, then back to the title.
     Shared().Words = {"", "abcdefghijklmnopq"};
     Shared().WordCount = 1;
-    QVERIFY(TriggerMenu(game, "RS"));
-    Pump();
-    QCOMPARE(fx.dialogs.last(),
+    QCOMPARE(RestartRefusal(fx, game),
+             "Bridge Out | "
              "No word on this list fits on the bridge: a word needs at least one letter and at "
              "most 16 letters and blanks. Please choose another list.");
-    QVERIFY(Showing<Title>());
 }
 
 QTEST_MAIN(BridgeOutScreenTest)

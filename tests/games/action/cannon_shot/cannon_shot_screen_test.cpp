@@ -7,8 +7,9 @@
 #include "look.h"
 
 #include "cannon_aim.h"
-#include "game_start.h"
+#include "game_end.h"
 #include "games/action/cannon_shot/cannon_shot_screen.h"
+#include "platform/speech.h"
 
 using namespace wm;
 using namespace wm::test;
@@ -51,20 +52,21 @@ bool ShootLetter(CannonShotForm* game, char letter, bool decoy = false) {
 }  // namespace
 
 void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
-    ShellFixture fx;
-    WriteOneList(fx, "Farm",
-                 {{"ox", "a strong farm animal"}, {"hen", "a bird that lays eggs"},
-                  {"pig", "it rolls in the mud"}, {"cow", "it gives milk"},
-                  {"ewe", "a mother sheep"}, {"kid", "a young goat"}});
-    WinDriver driver({"CAN"});
-    SetModalHook(std::ref(driver));
-    auto* game = qobject_cast<CannonShotForm*>(PlayFromTitle("Cannon Shot", "Farm", 2));
+    Road fx(0, {"CAN"});
+    auto* game = FromTitle<CannonShotForm>(fx, "Cannon Shot",
+                                           {{"ox", "a strong farm animal"},
+                                            {"hen", "a bird that lays eggs"},
+                                            {"pig", "it rolls in the mud"},
+                                            {"cow", "it gives milk"}, {"ewe", "a mother sheep"},
+                                            {"kid", "a young goat"}},
+                                           2);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump();
     QCOMPARE(game->sky()->call(), "Get ready!");
     QVERIFY(fx.sound.played.contains("cannonready.wav"));
     QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
     QCOMPARE(LabelText(game, "LevelLabel"), "Level 2");
+    QVERIFY(fx.music.opened.endsWith("cannonshot.mid") && game->windowTitle() == "Cannon Shot");
     Pump(CannonShotForm::kReadyMs);
     QCOMPARE(game->sky()->call(), "");
     // A click on the sky gives the keys back to the cannon after the pupil was elsewhere.
@@ -78,20 +80,23 @@ void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
         QCOMPARE(LabelText(game, "BallsLabel"),
                  QString("Cannonballs: %1").arg(2 * word.size() + 3));
         for (std::size_t k = 0; k < word.size(); ++k) {
+            const bool first = w == 1 && k == 0;
+            Shared().SoundOn = first ? kFalse : kTrue;  // the pop only with sound on
             QVERIFY2(ShootLetter(game, char(toupper(word[k]))), word.c_str());
+            QCOMPARE(fx.sound.played.contains("cannonpop.wav"), !first);
+            Shared().SoundOn = kTrue;
             score += 20;
             QCOMPARE(LabelText(game, "ScoreLabel"), QString("Score: %1").arg(score));
-            if (w == 1 && k == 0) {
-                // A decoy: -5 x level, its sound only with sound on; the blank stays empty.
-                Shared().SoundOn = kFalse;
+            if (first) {
+                // A decoy: -5 x level and its own sound; the blank stays empty.
                 const auto& bs = game->game().balloons();
-                const auto decoy = std::find_if(bs.begin(), bs.end(), [](auto& b) { return b.decoy; });
+                const auto decoy =
+                    std::find_if(bs.begin(), bs.end(), [](auto& b) { return b.decoy; });
                 QVERIFY(ShootLetter(game, decoy->letter, true));
-                QVERIFY(!fx.sound.played.contains("cannonwrong.wav"));
+                QCOMPARE(fx.sound.played.count("cannonwrong.wav"), 1);
                 score -= 10;
                 QCOMPARE(LabelText(game, "ScoreLabel"), QString("Score: %1").arg(score));
                 QCOMPARE(game->game().nextPos(), 1);
-                Shared().SoundOn = kTrue;
                 WM_CHECK_LOOK("Cannon_Shot_play", game);
             }
         }
@@ -108,35 +113,26 @@ void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
     }
     QCOMPARE(game->sky()->call(), "You win!");
     QVERIFY(fx.sound.played.contains("cannonwin.wav"));
-    Shot(game, "cannon-win");
-    fx.dialogs.answerYes(false);
     Pump(CannonShotForm::kEndMs);
-    QVERIFY2(fx.dialogs.saw(
-                 QString("You got a high score of %1! Would you like to try again?").arg(score)),
-             qPrintable(fx.dialogs.texts().join(" | ")));
-    QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
-    QCOMPARE(TableRow(fx, "Cannon Shot"), QString("CAN %1").arg(score));
-    Pump();
-    QVERIFY(Showing<Title>());
+    WM_CHECK_WON(fx, "Cannon Shot", QString("CAN %1").arg(score));
 }
 
 void CannonShotScreenTest::outOfCannonballsLoses() {
-    ShellFixture fx;
+    RecordingSpeech voice;  // outlives the screens the fixture closes
+    Road fx(0);
+    services().speech = &voice;
     ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
-    WinDriver driver;
-    SetModalHook(std::ref(driver));
     fx.rng.pick(1, 2).then(0.9);  // the word, the wind: from the left, strong
-    auto* game = OpenGame<CannonShotForm>(fx, "Cannon Shot", {{"ox", ""}, {"ox", ""}}, 8, false,
-                                          true, true);
+    auto* game =
+        OpenGame<CannonShotForm>(fx, "Cannon Shot", {{"ox", ""}, {"ox", ""}}, 8, false, true, true);
     QVERIFY(game);
     Pump(CannonShotForm::kReadyMs + 100);
     // A words-only list has no clue; from level 8 the wind blows.
     QVERIFY(!game->findChild<QLabel*>("Label1")->isVisible());
     QCOMPARE(game->game().wind(), 0.8 * 0.01);
+    QVERIFY(!game->frame().sayIt());  // the word is the riddle while it is being shot at
     // Down lowers the barrel as Right does; then seven taps of Space into the grass.
-    SendKey(game, Qt::Key_Down);
-    Pump(16 * 40);
-    SendKey(game, Qt::Key_Down, QEvent::KeyRelease);
+    HoldKey(game, Qt::Key_Down, 16 * 40);
     QCOMPARE(game->game().angle(), 10.0);
     for (int b = 7; b >= 1; --b) {
         QCOMPARE(LabelText(game, "BallsLabel"), QString("Cannonballs: %1").arg(b));
@@ -150,24 +146,27 @@ void CannonShotScreenTest::outOfCannonballsLoses() {
     QVERIFY(fx.sound.played.contains("cannonthud.wav"));
     QCOMPARE(game->sky()->call(), "Out of cannonballs!");
     QVERIFY(fx.sound.played.contains("cannonlose.wav"));
+    QVERIFY(game->frame().sayIt() && voice.said.back().text == "ox");  // heard once it is lost
     WM_CHECK_LOOK("Cannon_Shot_lost", game);
     fx.dialogs.answerYes(true);
+    bool behind = false;  // the sky plays on behind the box
+    fx.dialogs.whileOpen = [&](const auto&) {
+        behind = game->frame().findTimer("Timer1")->isActive();
+    };
     Pump(CannonShotForm::kEndMs);
-    QCOMPARE(fx.dialogs.last(),
-             "Out of cannonballs! The word was ox. Would you like to try again?");
-    QCOMPARE(fx.dialogs.shown.back().title, "Try Again?");
+    QVERIFY(behind);
+    QCOMPARE(LastBox(fx),
+             "Try Again? | Out of cannonballs! The word was ox. Would you like to try again?");
     // Try again: a fresh game with a full rack.
     QCOMPARE(game->sky()->call(), "Get ready!");
     QCOMPARE(LabelText(game, "BallsLabel"), "Cannonballs: 7");
     WM_CHECK_LOOK("Cannon_Shot_again", game);  // the barrel up again, the sky cleared
     // Words too long for the blanks: said clearly, then back to the title.
     Shared().Words = {"", "hippopotomonstrous", "photosynthesise"};
-    QVERIFY(TriggerMenu(game, "RS"));
-    Pump();
-    QCOMPARE(fx.dialogs.last(),
+    QCOMPARE(RestartRefusal(fx, game),
+             "Cannon Shot | "
              "This list has no words that fit Cannon Shot: a word may have at most 14 letters. "
              "Please choose another list.");
-    QVERIFY(Showing<Title>());
 }
 
 QTEST_MAIN(CannonShotScreenTest)

@@ -2,7 +2,7 @@
 // car, a stone, a held key and the wrong slot.
 #include <QtTest>
 
-#include "game_start.h"
+#include "game_end.h"
 #include "games/action/froggy/froggy_screen.h"
 
 using namespace wm;
@@ -47,34 +47,26 @@ private slots:
 };
 
 void FroggyScreenTest::roadToTheRightSlotAndTheTable() {
-    ShellFixture fx;
+    Road fx(0, {"FRG"});
     auto* game = Start(fx, 3);
     QVERIFY(game);
     QCOMPARE(game->windowTitle(), "Froggy!");
     QCOMPARE(game->board().slotWords[2], std::string("cat"));
     Pump(16 * 40);
     ClearTheWay(game);
-    WinDriver driver({"FRG"});
-    SetModalHook(std::ref(driver));
     Pump(50 * 100);  // 100 ticks of the bonus
     for (int n = 0; n < 12; ++n) {
         Hop(game, Qt::Key_Up);
         Pump(16);
         if (Showing<Title>()) break;
     }
-    Pump();
-    QVERIFY(Showing<Title>() != nullptr);
     QVERIFY(fx.sound.played.contains("bleep.wav"));
     QCOMPARE(fx.sound.modes[fx.sound.played.indexOf("bleep.wav")], SoundMode::NoInterrupt);
-    QCOMPARE(driver.tables.size(), 1);
+    QCOMPARE(fx.win.tables.size(), 1);
     // The bonus after some 5.8 s of 50 ms ticks, times 10, plus the level x 1000 and one draw:
     // Int(0.5 x 3 + 1) x 10.
-    const double score = Shared().Score;
-    QCOMPARE(score, (10000 - 116) * 10.0 + 3000 + 20);
-    QCOMPARE(fx.dialogs.last(),
-             "You got a high score of 101860! Would you like to try again?");
-    QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
-    QCOMPARE(TableRow(fx, "Froggy"), "FRG 101860");
+    QCOMPARE(Shared().Score, (10000 - 116) * 10.0 + 3000 + 20);
+    WM_CHECK_WON(fx, "Froggy", "FRG 101860");
 }
 
 void FroggyScreenTest::heldKeyHopsOnceAndStonesCrumble() {

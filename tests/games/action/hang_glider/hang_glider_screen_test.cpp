@@ -3,7 +3,7 @@
 // 1920x1080 by diving into the field, a try again, and a list whose words are all too long.
 #include <QtTest>
 
-#include "game_start.h"
+#include "game_end.h"
 #include "games/action/hang_glider/hang_glider_screen.h"
 
 using namespace wm;
@@ -14,8 +14,7 @@ class HangGliderScreenTest : public QObject {
     Q_OBJECT
 private slots:
     void fiveWordsWonWithTheKeys();
-    void landingTooEarlyLoses();
-    void aLongClueShrinksToFit();
+    void landingTooEarlyLosesAndALongClueShrinks();
 };
 
 namespace {
@@ -44,40 +43,33 @@ bool FlyThrough(HangGlider* game, char letter, double y) {
 
 // The plates and the clue stand inside the screen, clear of each other.
 void CheckLayout(HangGlider* game) {
-    QList<QRect> placed;
-    for (const char* name : {"LevelLabel", "WordLabel", "ScoreLabel", "Label1"}) {
-        const QLabel* l = game->findChild<QLabel*>(name);
-        if (!l->isVisible()) continue;
-        QVERIFY2(game->rect().contains(l->geometry()), name);
-        for (const QRect& r : placed) QVERIFY2(!r.intersects(l->geometry()), name);
-        placed << l->geometry();
-    }
+    WM_CHECK_PLATES(game, {"LevelLabel", "WordLabel", "ScoreLabel", "Label1"});
     // The clue centred under the word; the plates in the corners, mirrored.
     const auto at = [&](const char* name) { return game->findChild<QLabel*>(name)->geometry(); };
     QVERIFY(std::abs(at("Label1").center().x() - game->width() / 2) <= 2);
-    QVERIFY(std::abs(at("LevelLabel").left() - (game->width() - 1 - at("ScoreLabel").right())) <= 2);
+    QVERIFY(std::abs(at("LevelLabel").left() - (game->width() - 1 - at("ScoreLabel").right())) <=
+            2);
     QCOMPARE(at("LevelLabel").top(), at("ScoreLabel").top());
 }
 
 }  // namespace
 
 void HangGliderScreenTest::fiveWordsWonWithTheKeys() {
-    ShellFixture fx;
-    WriteOneList(fx, "Farm",
-                 {{"ox", "a strong farm animal"}, {"hen", "a bird that lays eggs"},
-                  {"pig", "it rolls in the mud"}, {"cow", "it gives milk"},
-                  {"ewe", "a mother sheep"}, {"kid", "a young goat"}});
-    WinDriver driver({"HGL"});
-    SetModalHook(std::ref(driver));
+    Road fx(0, {"HGL"});
     fx.rng.setFallback(0.99);  // the decoys come low, the letters the pupil flies to high
-    auto* game = qobject_cast<HangGlider*>(PlayFromTitle("Hang Glider", "Farm", 2));
+    auto* game = FromTitle<HangGlider>(fx, "Hang Glider",
+                                       {{"ox", "a strong farm animal"},
+                                        {"hen", "a bird that lays eggs"},
+                                        {"pig", "it rolls in the mud"}, {"cow", "it gives milk"},
+                                        {"ewe", "a mother sheep"}, {"kid", "a young goat"}},
+                                       2);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump();
     QCOMPARE(game->sky()->call(), "Get ready!");
     QVERIFY(fx.sound.played.contains("gliderready.wav"));
     QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
     QCOMPARE(LabelText(game, "LevelLabel"), "Level 2");
-    QVERIFY(fx.music.opened.endsWith("hangglider.mid"));
+    QVERIFY(fx.music.opened.endsWith("hangglider.mid") && game->windowTitle() == "Hang Glider");
     CheckLayout(game);
     Pump(HangGlider::kReadyMs);
     QCOMPARE(game->sky()->call(), "");
@@ -88,7 +80,8 @@ void HangGliderScreenTest::fiveWordsWonWithTheKeys() {
         QCOMPARE(LabelText(game, "WordLabel"), QString("Word %1 of 5").arg(w));
         for (std::size_t k = 0; k < word.size(); ++k) {
             const double below = game->game().ceiling() + 40;  // as high as it may climb
-            QVERIFY2(FlyThrough(game, char(toupper(word[k])), std::max(300.0, below)), word.c_str());
+            QVERIFY2(FlyThrough(game, char(toupper(word[k])), std::max(300.0, below)),
+                     word.c_str());
             score += 20;
             QCOMPARE(LabelText(game, "ScoreLabel"), QString("Score: %1").arg(score));
             for (const bool soundOn : {true, false}) {
@@ -101,7 +94,6 @@ void HangGliderScreenTest::fiveWordsWonWithTheKeys() {
                 score -= 10;
                 QCOMPARE(LabelText(game, "ScoreLabel"), QString("Score: %1").arg(score));
                 Shared().SoundOn = kTrue;
-                Shot(game, "glider-play");
             }
         }
         QVERIFY(fx.sound.played.contains("gliderlift.wav"));
@@ -117,25 +109,15 @@ void HangGliderScreenTest::fiveWordsWonWithTheKeys() {
     }
     QCOMPARE(game->sky()->call(), "You win!");
     QVERIFY(fx.sound.played.contains("gliderwin.wav"));
-    Shot(game, "glider-win");
-    fx.dialogs.answerYes(false);
     Pump(HangGlider::kEndMs);
-    QVERIFY2(fx.dialogs.saw(
-                 QString("You got a high score of %1! Would you like to try again?").arg(score)),
-             qPrintable(fx.dialogs.texts().join(" | ")));
-    QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
-    QCOMPARE(TableRow(fx, "Hang Glider"), QString("HGL %1").arg(score));
-    Pump();
-    QVERIFY(Showing<Title>());
+    WM_CHECK_WON(fx, "Hang Glider", QString("HGL %1").arg(score));
 }
 
-void HangGliderScreenTest::landingTooEarlyLoses() {
-    ShellFixture fx;
+void HangGliderScreenTest::landingTooEarlyLosesAndALongClueShrinks() {
+    Road fx(0);
     ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
-    WinDriver driver;
-    SetModalHook(std::ref(driver));
-    auto* game = OpenGame<HangGlider>(fx, "Hang Glider", {{"ox", ""}, {"ox", ""}}, 5, false,
-                                      true, true);
+    auto* game =
+        OpenGame<HangGlider>(fx, "Hang Glider", {{"ox", ""}, {"ox", ""}}, 5, false, true, true);
     QVERIFY(game);
     Pump(HangGlider::kReadyMs + 100);
     // A words-only list has no clue.
@@ -145,45 +127,42 @@ void HangGliderScreenTest::landingTooEarlyLoses() {
     SendKey(game, Qt::Key_Down);
     Pump(16 * 30);
     QVERIFY2(game->sky()->pitch() > 10, "the nose goes down in a dive");
-    Pump(16 * 70);
-    SendKey(game, Qt::Key_Down, QEvent::KeyRelease);
+    Pump(16 * 70);  // Down still held as the flight ends
     QCOMPARE(game->game().phase(), Phase::Lost);
     QCOMPARE(game->sky()->call(), "You landed too early!");
     QVERIFY(fx.sound.played.contains("gliderland.wav"));
-    Shot(game, "glider-lost");
     fx.dialogs.answerYes(true);
+    bool behind = false;  // the sky flies on behind the box
+    fx.dialogs.whileOpen = [&](const auto&) {
+        behind = game->frame().findTimer("Timer1")->isActive();
+    };
     Pump(HangGlider::kEndMs);
-    QCOMPARE(fx.dialogs.last(),
-             "You landed too early! The word was ox. Would you like to try again?");
-    QCOMPARE(fx.dialogs.shown.back().title, "Try Again?");
+    QVERIFY(behind);
+    QCOMPARE(LastBox(fx),
+             "Try Again? | You landed too early! The word was ox. Would you like to try again?");
     // Try again: a fresh flight from the top.
     QCOMPARE(game->sky()->call(), "Get ready!");
     QVERIFY(!game->sky()->showsEnd());
     QCOMPARE(game->game().y(), 330.0);
+    Pump(HangGlider::kReadyMs + 16 * 30);
+    QVERIFY2(game->sky()->pitch() < 10, "the key held at the crash is forgotten");
     // Words too long for the plate: said clearly, then back to the title.
     Shared().Words = {"", "pneumonoultramicroscopic", "supercalifragilistic1"};
-    QVERIFY(TriggerMenu(game, "RS"));
-    Pump();
-    QCOMPARE(fx.dialogs.last(),
+    QCOMPARE(RestartRefusal(fx, game),
+             "Hang Glider | "
              "This list has no words that fit Hang Glider: a word may have at most 20 letters. "
              "Please choose another list.");
-    QVERIFY(Showing<Title>());
-}
 
-void HangGliderScreenTest::aLongClueShrinksToFit() {
-    ShellFixture fx;
-    ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
+    // A long clue shrinks to fit its plate.
     const std::string longer =
         "a large bird of prey with a hooked beak and broad wings that soars for hours on warm "
         "rising air over hills, cliffs and open country, looking down for small animals to catch";
-    auto* game = OpenGame<HangGlider>(fx, "Hang Glider", {{"eagle", longer}, {"eagle", longer}}, 1);
+    game = OpenGame<HangGlider>(fx, "Hang Glider", {{"eagle", longer}, {"eagle", longer}}, 1);
     QVERIFY(game);
     Pump();
     const QLabel* clue = game->findChild<QLabel*>("Label1");
     QVERIFY(clue->font().pixelSize() < 30);  // 30 at this size for a short clue
-    const QRect need = QFontMetrics(clue->font()).boundingRect(
-        clue->contentsRect(), Qt::AlignCenter | Qt::TextWordWrap, clue->text());
-    QVERIFY(need.height() <= clue->contentsRect().height());
+    CheckLayout(game);
 }
 
 QTEST_MAIN(HangGliderScreenTest)

@@ -3,7 +3,9 @@
 // try again; an escape with no points left; a list without enough different words.
 #include <QtTest>
 
-#include "game_start.h"
+#include "look.h"
+
+#include "game_end.h"
 #include "games/action/jailbreak/jailbreak_screen.h"
 #include "platform/text.h"
 
@@ -13,44 +15,12 @@ using namespace wm::test;
 namespace {
 
 const Pairs kEight = {{"apple", "a red or green fruit"}, {"river", "water that flows to the sea"},
-                      {"cloud", "it floats in the sky"},  {"tiger", "a big striped cat"},
-                      {"piano", "keys that sing"},        {"owl", "a bird that hoots at night"},
-                      {"bridge", "it crosses water"},     {"candle", "a light made of wax"}};
-
-// From the title's button: the chooser comes first, then the options with `level`, whose
-// slider is clamped to the list: never more locks than words.
-JailBreakForm* OpenJail(ShellFixture& fx, const Pairs& list, int level) {
-    WriteOneList(fx, "Jail Words", list);
-    auto* title = qobject_cast<Title*>(OpenScreen("Title", CurrentScreen()));
-    Pump();
-    QAbstractButton* button = nullptr;
-    for (int page = 0; page < 4 && !button; ++page) {
-        for (auto* b : title->buttons())
-            if (b->isVisible() && b->text() == "Jailbreak") button = b;
-        if (!button) title->showMore();
-    }
-    if (!button) return nullptr;
-    QTest::mouseClick(button, Qt::LeftButton);
-    Pump();
-    auto* chooser = Showing<ChooseList>();
-    if (!chooser || SelectList(chooser, "Jail Words (") < 0) return nullptr;
-    chooser->continueOn();
-    Pump();
-    auto* options = Showing<GameOptions>();
-    if (!options || options->SpeedBar->maximum() != std::min<int>(6, int(list.size())))
-        return nullptr;
-    options->SpeedBar->setValue(level);
-    options->continueOn();
-    Pump();
-    return Showing<JailBreakForm>();
-}
+                      {"cloud", "it floats in the sky"}, {"tiger", "a big striped cat"},
+                      {"piano", "keys that sing"},       {"owl", "a bird that hoots at night"},
+                      {"bridge", "it crosses water"},    {"candle", "a light made of wax"}};
 
 void Type(JailBreakForm* game, const QString& word) {
     Enter(game->typingBox(), word);
-}
-
-QPushButton* HintButton(QWidget* game) {
-    return game->findChild<QPushButton*>("Command1");
 }
 
 }  // namespace
@@ -61,20 +31,20 @@ private slots:
     void roadFromTitleThroughThreeCellsToTheTable();
     void locksHintsAndThePalette();
     void theGuardCatchesYouAndYouTryAgain();
-    void anEscapeWithNoPointsLeftIsNoHighScore();
-    void tooFewDifferentWordsIsRefused();
+    void anEscapeWithNoPointsLeftThenTooFewDifferentWords();
 };
 
 void JailbreakScreenTest::roadFromTitleThroughThreeCellsToTheTable() {
-    ShellFixture fx;
+    Road fx(0, {"JBK"});
     for (int k = 1; k <= 6; ++k) fx.rng.pick(k, 8);
-    auto* game = OpenJail(fx, kEight, 2);
+    auto* game = FromTitle<JailBreakForm>(fx, "Jailbreak", kEight, 2);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     const SharedState& s = Shared();
-    QCOMPARE(game->scene()->banner(), "Cell 1 of 3");
+    QCOMPARE(game->scene()->banner() + " | " + LabelText(game, "CellLabel"),
+             "Cell 1 of 3 | Cell 1 of 3");
     // Nothing counts before the pause is over.
     Type(game, "apple");
-    HintButton(game)->click();
+    Button(game, "Command1")->click();
     QCOMPARE(LabelText(game, "Label3"), "Stuck? Hint shows the first letter (-10).");
     Pump(1960);
     QCOMPARE(s.Score, 0.0);
@@ -86,11 +56,12 @@ void JailbreakScreenTest::roadFromTitleThroughThreeCellsToTheTable() {
     QCOMPARE(s.Score, -20.0);
     QCOMPARE(game->jail().guardSteps, 5);
     QCOMPARE(fx.sound.played.last(), "alarm.wav");
+    WM_CHECK_LOOK("Jailbreak_alarm", game);  // the cell flashes red
     Type(game, "APPLE");  // 5 letters x 20
     QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 80");
     QCOMPARE(fx.sound.played.last(), "unlock.wav");
     QCOMPARE(LabelText(game, "Label2"), "water that flows to the sea");
-    HintButton(game)->click();
+    Button(game, "Command1")->click();
     QCOMPARE(s.Score, 70.0);
     QCOMPARE(LabelText(game, "Label3"), "It begins with \"R\"");
     Type(game, "river");  // 100, then the guard's 35 steps to go x 10
@@ -98,13 +69,11 @@ void JailbreakScreenTest::roadFromTitleThroughThreeCellsToTheTable() {
     QCOMPARE(game->scene()->banner(), "Escaped!");
     QCOMPARE(LabelText(game, "Label1"), "All the locks are open!");
     QCOMPARE(LabelText(game, "Label2"), "");  // no definition left standing
-    Pump(1500);  // the guard stands still while you escape
+    Pump(1500);                               // the guard stands still while you escape
     QCOMPARE(game->jail().guardSteps, 5);
     Pump(2200);
     QCOMPARE(LabelText(game, "CellLabel"), "Cell 2 of 3");
 
-    WinDriver driver({"JBK"});
-    SetModalHook(std::ref(driver));
     Pump(2000);
     Type(game, "tiger");
     Type(game, "cloud");  // 100 + 100 + 40 x 10
@@ -113,19 +82,15 @@ void JailbreakScreenTest::roadFromTitleThroughThreeCellsToTheTable() {
     Type(game, "owl");  // 100 + 60 + 400
     QCOMPARE(s.Score, 520.0 + 600 + 560);
     Pump(4000);
-    QCOMPARE(fx.dialogs.last(), "You got a high score of 1680! Would you like to try again?");
-    QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
-    Pump();
-    QVERIFY(Showing<Title>());
-    QCOMPARE(TableRow(fx, "Jailbreak"), "JBK 1680");
+    WM_CHECK_WON(fx, "Jailbreak", "JBK 1680");
 }
 
 void JailbreakScreenTest::locksHintsAndThePalette() {
-    ShellFixture fx;
+    Road fx(0);
     Pairs list = kEight;
     list[3] = {"caf\xE9", "a small restaurant"};
     for (int k : {1, 2, 3, 4}) fx.rng.pick(k, 8);
-    auto* game = OpenJail(fx, list, 4);
+    auto* game = FromTitle<JailBreakForm>(fx, "Jailbreak", list, 4);
     QVERIFY(game);
     Pump(2000);
     JailScene* scene = game->scene();
@@ -133,33 +98,38 @@ void JailbreakScreenTest::locksHintsAndThePalette() {
     // A click on a tag shows its definition below, and makes its word the one said aloud.
     QTest::mouseClick(scene, Qt::LeftButton, {}, scene->tagRect(0).center().toPoint());
     QCOMPARE(LabelText(game, "Label1"), "Lock 1 of 4 says:");
-    QCOMPARE(QString::fromStdString(Shared().TheMeaning), LabelText(game, "Label2"));
-    QTest::mouseClick(scene, Qt::LeftButton, {}, scene->tagRect(2).center().toPoint());
-    QCOMPARE(LabelText(game, "Label1"), "Lock 3 of 4 says:");
-    QCOMPARE(LabelText(game, "Label2"), "it floats in the sky");
-    HintButton(game)->click();
-    HintButton(game)->click();  // a second look is free
-    QCOMPARE(Shared().Score, -10.0);
-    QCOMPARE(fx.sound.played.count("ding.wav"), 1);
+    QCOMPARE(Meaning(), LabelText(game, "Label2"));
+    Button(game, "Command1")->click();  // the first lock's hint rings as any other's
+    QCOMPARE(LabelText(game, "Label3"), "It begins with \"A\"");
+    // The scene shows the pick at once, without waiting for the next frame.
+    QVERIFY(PaintsDuring(scene, [&] {
+        QTest::mouseClick(scene, Qt::LeftButton, {}, scene->tagRect(2).center().toPoint());
+        QApplication::processEvents();
+    }) > 0);
+    QCOMPARE(Labels(game, "Label1 Label2"), "Lock 3 of 4 says: | it floats in the sky");
+    Button(game, "Command1")->click();
+    Button(game, "Command1")->click();  // a second look is free
+    QCOMPARE(Shared().Score, -20.0);
+    QCOMPARE(fx.sound.played.count("ding.wav"), 2);
     QCOMPARE(LabelText(game, "Label3"), "It begins with \"C\"");
+    WM_CHECK_LOOK("Jailbreak_hint", game);
     Type(game, "Cloud");
-    QCOMPARE(Shared().Score, 90.0);
+    QCOMPARE(Shared().Score, 80.0);
     QVERIFY(scene->springing(2));
     // Accents count, case does not; the palette types into the box.
-    WinDriver driver;
-    SetModalHook(PaletteThen(0xC9, driver));
+    SetModalHook(PaletteThen(0xC9, fx.win));
     QTest::keyClicks(game->typingBox(), "caf");
     scene->setFocus();  // wherever the keyboard was, the palette hands it back to the box
     QVERIFY(TriggerMenu(game, "FLang"));
     QCOMPARE(game->typingBox()->text(), "caf\u00C9");
     QCOMPARE(game->focusWidget(), game->typingBox());
     QTest::keyClick(game->typingBox(), Qt::Key_Return);
-    QCOMPARE(Shared().Score, 90.0 + 80);
+    QCOMPARE(Shared().Score, 80.0 + 80);
     // With the sound off a mistake is silent, but still costs.
     Shared().SoundOn = kFalse;
     const auto sounds = fx.sound.played.size();
     Type(game, "rive");
-    QCOMPARE(Shared().Score, 150.0);
+    QCOMPARE(Shared().Score, 140.0);
     QCOMPARE(fx.sound.played.size(), sounds);
     QTest::keyClick(game->typingBox(), Qt::Key_Escape);
     Pump();
@@ -169,7 +139,7 @@ void JailbreakScreenTest::locksHintsAndThePalette() {
 void JailbreakScreenTest::theGuardCatchesYouAndYouTryAgain() {
     ShellFixture fx;
     for (int k : {8, 7, 6}) fx.rng.pick(k, 8);
-    auto* game = OpenJail(fx, kEight, 3);
+    auto* game = FromTitle<JailBreakForm>(fx, "Jailbreak", kEight, 3);
     QVERIFY(game);
     Pump(2000);
     Type(game, "bridge");
@@ -182,10 +152,9 @@ void JailbreakScreenTest::theGuardCatchesYouAndYouTryAgain() {
     QVERIFY(!game->jail().locks[0].open);
     fx.dialogs.answerYes(true);
     Pump(1600);
-    QCOMPARE(fx.dialogs.shown.back().title, "Caught!");
-    QCOMPARE(fx.dialogs.last(),
-             "The guard caught you! The locks still shut were \"candle\", \"owl\". Would you like "
-             "to try again?");
+    QCOMPARE(LastBox(fx),
+             "Caught! | The guard caught you! The locks still shut were \"candle\", "
+             "\"owl\". Would you like to try again?");
     // Try again: a new game from the first cell, score and guard back at the start.
     QCOMPARE(game->jail().cell, 1);
     QCOMPARE(Shared().Score, 0.0);
@@ -196,9 +165,11 @@ void JailbreakScreenTest::theGuardCatchesYouAndYouTryAgain() {
     QCOMPARE(ReadScoreTable(fx.path("scores/Jailbreak.dat").toStdString()).score(1), 0.0);
 }
 
-void JailbreakScreenTest::anEscapeWithNoPointsLeftIsNoHighScore() {
+void JailbreakScreenTest::anEscapeWithNoPointsLeftThenTooFewDifferentWords() {
     ShellFixture fx;
-    auto* game = OpenJail(fx, {{"owl", "a bird that hoots at night"}}, 1);
+    // Six locks asked of a list of one word: the slider stops at one.
+    auto* game =
+        FromTitle<JailBreakForm>(fx, "Jailbreak", {{"owl", "a bird that hoots at night"}}, 6);
     QVERIFY(game);
     QString bannerAtTheBox;
     fx.dialogs.otherwiseYes = [&](const QString&) {
@@ -213,23 +184,19 @@ void JailbreakScreenTest::anEscapeWithNoPointsLeftIsNoHighScore() {
         Pump(700 + 3000);
     }
     QCOMPARE(bannerAtTheBox, "You broke out!");
-    QCOMPARE(fx.dialogs.shown.back().title, "Escaped!");
-    QCOMPARE(fx.dialogs.last(),
-             "You escaped from all three cells, but your score is -660, so it cannot go on the "
-             "high score table. Would you like to try again?");
+    QCOMPARE(LastBox(fx),
+             "Escaped! | You escaped from all three cells, but your score is -660, "
+             "so it cannot go on the high score table. Would you like to try again?");
     Pump();
     QVERIFY(Showing<Title>());
-}
-
-void JailbreakScreenTest::tooFewDifferentWordsIsRefused() {
-    ShellFixture fx;
-    OpenJail(fx, {{"cat", "a pet that purrs"}, {"Cat", "a pet"}, {"CAT", "meows"}}, 2);
+    // Three spellings of one word are one word: too few for two locks.
+    FromTitle<QWidget>(fx, "Jailbreak",
+                       {{"cat", "a pet that purrs"}, {"Cat", "a pet"}, {"CAT", "meows"}}, 2);
     Pump();
-    QCOMPARE(fx.dialogs.last(),
-             "There are not enough different words with definitions in this vocabulary list for "
-             "this many locks! Please choose another list or go back and lower the difficulty "
-             "level.");
-    QCOMPARE(fx.dialogs.shown.back().title, "Jailbreak");
+    QCOMPARE(LastBox(fx),
+             "Jailbreak | There are not enough different words with definitions in this vocabulary "
+             "list for this many locks! Please choose another list or go back and lower the "
+             "difficulty level.");
     QVERIFY(Showing<Title>());
 }
 

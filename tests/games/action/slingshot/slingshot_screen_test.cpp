@@ -8,7 +8,7 @@
 
 #include <cmath>
 
-#include "game_start.h"
+#include "game_end.h"
 #include "games/action/slingshot/slingshot_screen.h"
 
 using namespace wm;
@@ -49,25 +49,22 @@ const Point kIntoTheGrass{pouchRest().x + 120, pouchRest().y};
 }  // namespace
 
 void SlingShotScreenTest::aGameWonFromTheTitleToTheTable() {
-    ShellFixture fx;
-    WriteOneList(fx, "Fair Day",
-                 {{"photosynthesis", "how green plants use sunlight, water and air to make the "
-                                     "food they need to grow, giving off oxygen as they do it"},
-                  {"caf\xE9", "a small restaurant"}, {"apple", "a fruit"}, {"balloon", "it floats"},
-                  {"candy", "a sweet"}, {"drum", "you beat it"}, {"fiddle", "a violin"},
-                  {"kite", "it flies"}, {"lemon", "sour"}, {"mango", "a tropical fruit"}});
-    WinDriver driver({"SLG"});
-    SetModalHook(std::ref(driver));
-    auto* game = qobject_cast<SlingShot*>(PlayFromTitle("Slingshot", "Fair Day", 1));
+    Road fx(0, {"SLG"});
+    const Pairs fair{{"photosynthesis",
+                      "how green plants use sunlight, water and air to make the "
+                      "food they need to grow, giving off oxygen as they do it"},
+                     {"caf\xE9", "a small restaurant"}, {"apple", "a fruit"},
+                     {"balloon", "it floats"}, {"candy", "a sweet"}, {"drum", "you beat it"},
+                     {"fiddle", "a violin"}, {"kite", "it flies"}, {"lemon", "sour"},
+                     {"mango", "a tropical fruit"}};
+    auto* game = FromTitle<SlingShot>(fx, "Slingshot", fair, 1);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump(0);
     const Game& g = game->game();
     QCOMPARE(game->field()->call(), "Ready...");
     QVERIFY(fx.sound.played.contains("slingready.wav"));
-    QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
-    QCOMPARE(LabelText(game, "RoundLabel"), "Definition 1 of 10");
-    QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 0");
-    QCOMPARE(LabelText(game, "StonesLabel"), "3 stones left");
+    QCOMPARE(Labels(game, "Label1 RoundLabel ScoreLabel StonesLabel"),
+             Meaning() + " | Definition 1 of 10 | Score: 0 | 3 stones left");
     // No stone before the game is ready.
     pull(game, aimAt(g, g.rightSlot()));
     QCOMPARE(g.phase(), Phase::Aiming);
@@ -83,11 +80,10 @@ void SlingShotScreenTest::aGameWonFromTheTitleToTheTable() {
     Pump(400);
     QCOMPARE(g.lastHit(), wrong);
     QVERIFY(game->field()->wobbling(wrong));
-    QVERIFY(!fx.sound.played.contains("slingwrong.wav"));
-    QVERIFY(!fx.sound.played.contains("slingtwang.wav"));
+    QVERIFY(!fx.sound.played.contains("slingwrong.wav") &&
+            !fx.sound.played.contains("slingtwang.wav"));
     Shared().SoundOn = kTrue;
-    QCOMPARE(LabelText(game, "ScoreLabel"), "Score: -50");
-    QCOMPARE(LabelText(game, "StonesLabel"), "2 stones left");
+    QCOMPARE(Labels(game, "ScoreLabel StonesLabel"), "Score: -50 | 2 stones left");
 
     for (int d = 1; d <= kDefinitions; ++d) {
         QCOMPARE(LabelText(game, "RoundLabel"), QString("Definition %1 of 10").arg(d));
@@ -107,32 +103,24 @@ void SlingShotScreenTest::aGameWonFromTheTitleToTheTable() {
     QVERIFY(g.gone(g.rightSlot()));  // the last right target stays knocked off
     QVERIFY(fx.sound.played.contains("slingwin.wav"));
     QVERIFY(fx.dialogs.shown.empty());
-    fx.dialogs.answerYes(false);
     Pump(SlingShot::kEndMs);
-    QCOMPARE(fx.dialogs.last(), "You got a high score of 950! Would you like to try again?");
-    QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
-    QCOMPARE(TableRow(fx, "Slingshot"), "SLG 950");
-    Pump();
-    QVERIFY(Showing<Title>());
+    WM_CHECK_WON(fx, "Slingshot", "SLG 950");
 }
 
 void SlingShotScreenTest::aGameOfMissesShowsTheWordsAndTriesAgain() {
-    ShellFixture fx;
+    Road fx(0);
     ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
-    WinDriver driver;
-    SetModalHook(std::ref(driver));
     fx.rng.setFallback(0.0);
-    auto* game = OpenGame<SlingShot>(fx, "Slingshot",
-                                     {{"ant", "a small insect"}, {"bee", "it buzzes"},
-                                      {"cat", "it purrs"}, {"dog", "it barks"}, {"eel", "a fish"}},
-                                     9);
+    const Pairs five{{"ant", "a small insect"}, {"bee", "it buzzes"}, {"cat", "it purrs"},
+                     {"dog", "it barks"}, {"eel", "a fish"}};
+    auto* game = OpenGame<SlingShot>(fx, "Slingshot", five, 9);
     QVERIFY(game);
     const Game& g = game->game();
     Pump(SlingShot::kReadyMs);
     QCOMPARE(LabelText(game, "LevelLabel"), "Level 9");
     QStringList words;
     for (int d = 1; d <= kDefinitions; ++d) {
-        words << QString::fromLatin1(Shared().TheWord.c_str());
+        words << Word();
         for (int stone = 3; stone >= 1; --stone) {
             QCOMPARE(g.stonesLeft(), stone);
             pull(game, kIntoTheGrass);
@@ -143,8 +131,8 @@ void SlingShotScreenTest::aGameOfMissesShowsTheWordsAndTriesAgain() {
         if (d == 1) {
             // Out of stones: the right target lights up, and no stone is left to throw.
             QVERIFY(game->field()->flashing(g.rightSlot()));
-            QVERIFY(fx.sound.played.contains("slingreveal.wav"));
-            QVERIFY(fx.sound.played.contains("slingmiss.wav"));
+            QVERIFY(fx.sound.played.contains("slingreveal.wav") &&
+                    fx.sound.played.contains("slingmiss.wav"));
             pull(game, aimAt(g, g.rightSlot()));
             QCOMPARE(g.phase(), Phase::Revealed);
             WM_CHECK_LOOK("Slingshot_reveal", game);
@@ -155,14 +143,12 @@ void SlingShotScreenTest::aGameOfMissesShowsTheWordsAndTriesAgain() {
     QVERIFY(fx.sound.played.contains("slinglose.wav"));
     fx.dialogs.answerYes(true);
     Pump(SlingShot::kEndMs);
-    QCOMPARE(fx.dialogs.last(), "No points this time! The words to practise: " +
-                                    words.join(", ") + ". Would you like to try again?");
-    QCOMPARE(fx.dialogs.shown.back().title, "Slingshot");
-    QCOMPARE(driver.congratulations.size(), 0);
+    QCOMPARE(LastBox(fx), "Slingshot | No points this time! The words to practise: " +
+                              words.join(", ") + ". Would you like to try again?");
+    QCOMPARE(fx.win.congratulations.size(), 0);
     // Try again: a fresh game.
     QCOMPARE(game->field()->call(), "Ready...");
-    QCOMPARE(LabelText(game, "RoundLabel"), "Definition 1 of 10");
-    QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 0");
+    QCOMPARE(Labels(game, "RoundLabel ScoreLabel"), "Definition 1 of 10 | Score: 0");
 }
 
 QTEST_MAIN(SlingShotScreenTest)

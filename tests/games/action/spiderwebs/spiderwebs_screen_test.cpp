@@ -5,7 +5,7 @@
 #include <QtTest>
 
 #include "core/strings.h"
-#include "game_start.h"
+#include "game_end.h"
 #include "games/action/spiderwebs/spiderwebs_screen.h"
 
 using namespace wm;
@@ -34,28 +34,22 @@ int WrongFly(SpiderGame* game) {
 // over another or off the screen.
 void CheckLayout(SpiderGame* game, bool crowded) {
     QVERIFY(game->rect().contains(game->scene()->geometry()));
+    const QStringList plates{"ScoreLabel", "TimeLabel", "RoundLabel", "FliesLabel"};
+    WM_CHECK_PLATES(game, plates + QStringList{"Label1"});
     const QRect sign = game->scene()->clueRect().translated(game->scene()->pos());
-    QList<QRect> plates;
-    for (const char* name : {"Label1", "ScoreLabel", "TimeLabel", "RoundLabel", "FliesLabel"}) {
-        auto* l = game->findChild<QLabel*>(name);
-        const QRect box = l->contentsRect();
-        const int flags = int(l->alignment()) | (l->wordWrap() ? int(Qt::TextWordWrap) : 0);
-        const QRect need = QFontMetrics(l->font()).boundingRect(box, flags, l->text());
-        QVERIFY2(box.contains(need), name);
-        QVERIFY2(game->rect().contains(l->geometry()), name);
-        if (l->objectName() == "Label1") {
-            QVERIFY(sign.contains(l->geometry()));
-            // A long definition is as big as the sign lets it be.
-            QFont bigger = l->font();
-            bigger.setPixelSize(bigger.pixelSize() + 1);
-            if (crowded)
-                QVERIFY(!box.contains(QFontMetrics(bigger).boundingRect(box, flags, l->text())));
-            continue;
-        }
-        QVERIFY2(!l->geometry().intersects(sign) && l->y() >= game->scene()->y(), name);
-        for (const QRect& other : plates) QVERIFY2(!l->geometry().intersects(other), name);
-        plates << l->geometry();
+    for (const QString& name : plates) {
+        const QRect r = game->findChild<QLabel*>(name)->geometry();
+        QVERIFY2(!r.intersects(sign) && r.y() >= game->scene()->y(), qPrintable(name));
     }
+    const QLabel* l = game->findChild<QLabel*>("Label1");
+    QVERIFY(sign.contains(l->geometry()));
+    // A long definition is as big as the sign lets it be.
+    QFont bigger = l->font();
+    bigger.setPixelSize(bigger.pixelSize() + 1);
+    const QRect box = l->contentsRect();
+    const QRect need = QFontMetrics(bigger).boundingRect(
+        box, int(l->alignment()) | (l->wordWrap() ? int(Qt::TextWordWrap) : 0), l->text());
+    QCOMPARE(box.contains(need), !crowded);
 }
 
 // What the game drew and played is what its card declares, and all it declares is there.
@@ -67,34 +61,27 @@ void CheckDeclared(const ShellFixture& fx) {
     const auto& declared = FindCard("Spiderwebs")->assets;
     for (const QString& u : used)
         QVERIFY2(std::count(declared.begin(), declared.end(), u.toStdString()), qPrintable(u));
-    for (const std::string& a : declared) QVERIFY2(fx.exists(QString::fromStdString(a)), a.c_str());
+    QCOMPARE(MissingAssets(fx, "Spiderwebs"), "");
 }
 
 }  // namespace
 
 void SpiderScreenTest::tenDefinitionsFromTheTitleToTheTable() {
-    ShellFixture fx;
+    Road fx(0, {"BOB"});
     ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
-    WriteOneList(fx, "Garden Bugs",
-                 {{"ant", "a tiny insect that lives in a hill"},
-                  {"bee", "it makes honey"},
-                  {"moth", "it flies to the light at night"},
-                  {"slug", "a slimy garden crawler"},
-                  {"wasp", "a striped insect that stings"},
-                  {"snail", "it carries its house"},
-                  {"beetle", "an insect with a hard shell"},
-                  {"cricket", "it chirps"},
-                  {"ladybird", "a red beetle with black spots"},
-                  {"worm", "it wriggles"},
-                  {"gnat", "a very small fly"}});
-    WinDriver driver({"BOB"});
+    const Pairs bugs{{"ant", "a tiny insect that lives in a hill"},
+                     {"bee", "it makes honey"}, {"moth", "it flies to the light at night"},
+                     {"slug", "a slimy garden crawler"}, {"wasp", "a striped insect that stings"},
+                     {"snail", "it carries its house"}, {"beetle", "an insect with a hard shell"},
+                     {"cricket", "it chirps"}, {"ladybird", "a red beetle with black spots"},
+                     {"worm", "it wriggles"}, {"gnat", "a very small fly"}};
     SpiderGame* game = nullptr;
     bool dancing = false;  // the fireflies behind the end boxes
     SetModalHook([&](QDialog& d) {
         dancing = game && game->frame().findTimer("Timer1")->isActive();
-        driver(d);
+        fx.win(d);
     });
-    game = qobject_cast<SpiderGame*>(PlayFromTitle("Spiderwebs", "Garden Bugs", 3));
+    game = FromTitle<SpiderGame>(fx, "Spiderwebs", bugs, 3);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Shared().SoundOn = kTrue;
     Pump(16);
@@ -104,7 +91,6 @@ void SpiderScreenTest::tenDefinitionsFromTheTitleToTheTable() {
         QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
         QCOMPARE(game->scene()->call(), QString("Definition %1 of 10").arg(round));
         if (round == 1) {
-            Shot(game, "spiderwebs-1920");
             CheckLayout(game, false);
             // A wrong fly first: eaten, -25, and the spider half as fast again.
             const int wrong = WrongFly(game);
@@ -128,7 +114,6 @@ void SpiderScreenTest::tenDefinitionsFromTheTitleToTheTable() {
             // ... and crawls 11.5 s to its fly in the second round.
             Pump(1984);
             QCOMPARE(LabelText(game, "TimeLabel"), "Spider: 9.5 s");
-            Shot(game, "spiderwebs-crawl-1920");
             ClickFly(game, game->game().answer());
             QCOMPARE(game->scene()->call(), "Free! +190 points");
         } else {
@@ -140,18 +125,13 @@ void SpiderScreenTest::tenDefinitionsFromTheTitleToTheTable() {
     }
     // Rounds 3 to 10 at their whole crawls: 220 down to 150 points.
     QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 1805");
-    fx.dialogs.answerYes(false);
     Pump(spiderwebs::kFreedMs + 16);
     QCOMPARE(game->scene()->call(), "All ten done! You freed 10 of 10 flies.");
     QVERIFY(fx.sound.played.contains("spiderwin.wav"));
     Pump(SpiderGame::kEndMs);
-    QVERIFY2(fx.dialogs.saw("You got a high score of 1805! Would you like to try again?"),
-             qPrintable(fx.dialogs.texts().join(" | ")));
-    QCOMPARE(TableRow(fx, "Spiderwebs"), "BOB 1805");
     QVERIFY(dancing);
     CheckDeclared(fx);
-    Pump();
-    QVERIFY(Showing<Title>());
+    WM_CHECK_WON(fx, "Spiderwebs", "BOB 1805");
 }
 
 void SpiderScreenTest::theSpiderWinsEveryDefinition() {
@@ -171,17 +151,13 @@ void SpiderScreenTest::theSpiderWinsEveryDefinition() {
         const QString word = QString::fromLatin1(Shared().TheWord.c_str());
         QVERIFY2(!words.contains(word), qPrintable(word));
         words << word;
-        if (round == 1) Shot(game, "spiderwebs-1280");
         // At the hub a while, then the crawl: 12 s less half a second a round.
         for (int i = 0; i < 100 && game->game().phase() == spiderwebs::Phase::Ready; ++i) Pump(16);
         Pump(12000 - 500 * (round - 1) - 32);
         QCOMPARE(game->game().phase(), spiderwebs::Phase::Crawling);
         for (int i = 0; i < 4 && game->game().phase() == spiderwebs::Phase::Crawling; ++i) Pump(16);
         QCOMPARE(game->scene()->call(), "Too late! The word was \"" + word + "\".");
-        if (round == 1) {
-            Shot(game, "spiderwebs-caught-1280");
-            CheckLayout(game, true);
-        }
+        if (round == 1) CheckLayout(game, true);
         QVERIFY(fx.sound.played.contains("spidercatch.wav"));
         QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 0");
         Pump(spiderwebs::kCaughtMs);
@@ -190,10 +166,9 @@ void SpiderScreenTest::theSpiderWinsEveryDefinition() {
     QVERIFY(fx.sound.played.contains("spiderlose.wav"));
     fx.dialogs.answerYes(true);
     Pump(SpiderGame::kEndMs);
-    QCOMPARE(fx.dialogs.last(),
-             "All ten definitions are done, but your score is 0, so it cannot go on the high "
-             "score table. Would you like to try again?");
-    QCOMPARE(fx.dialogs.shown.back().title, "Spiderwebs");
+    QCOMPARE(LastBox(fx),
+             "Spiderwebs | All ten definitions are done, but your score is 0, so it "
+             "cannot go on the high score table. Would you like to try again?");
     QCOMPARE(TableRow(fx, "Spiderwebs"), "--- 0");  // nobody on the table
     CheckDeclared(fx);
     // Try again: a fresh game.
@@ -201,12 +176,10 @@ void SpiderScreenTest::theSpiderWinsEveryDefinition() {
     QCOMPARE(game->game().round(), 1);
     // Twelve flies need twelve different words.
     Shared().WordCount = 11;
-    QVERIFY(TriggerMenu(game, "RS"));
-    Pump();
-    QCOMPARE(fx.dialogs.last(),
+    QCOMPARE(RestartRefusal(fx, game),
+             "Spiderwebs | "
              "At level 12 the web holds 12 flies, each with a different word, but this list has "
              "only 11 different words. Please choose another list or a lower level.");
-    QVERIFY(Showing<Title>());
 }
 
 QTEST_MAIN(SpiderScreenTest)

@@ -3,7 +3,7 @@
 // the winner and the word, a try again; a list with no words.
 #include <QtTest>
 
-#include "game_start.h"
+#include "game_end.h"
 #include "games/action/toad_race/toad_race_screen.h"
 
 using namespace wm;
@@ -26,32 +26,28 @@ void enter(ToadRace* game, const QString& typed) {
 }  // namespace
 
 void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
-    ShellFixture fx;
-    WriteOneList(fx, "Pond Life",
-                 {{"frog", "a jumping animal"}, {"caf\xE9", "a small restaurant"},
-                  {"photosynthesis", "how green plants make food"}, {"newt", "a small animal"},
-                  {"reed", "a tall grass"}, {"lily", "a flower"}, {"swan", "a white bird"},
-                  {"duck", "it quacks"}, {"moss", "soft green plants"}, {"fish", "it swims"},
-                  {"rain", "water from clouds"}, {"mud", "wet earth"}, {"bank", "a river's edge"}});
-    WinDriver driver({"TOD"});
-    SetModalHook(PaletteThen(0xE9, driver));
-    auto* game = qobject_cast<ToadRace*>(PlayFromTitle("Toad Race", "Pond Life", 2));
+    Road fx(0, {"TOD"});
+    SetModalHook(PaletteThen(0xE9, fx.win));
+    const Pairs pond{{"frog", "a jumping animal"}, {"caf\xE9", "a small restaurant"},
+                     {"photosynthesis", "how green plants make food"}, {"newt", "a small animal"},
+                     {"reed", "a tall grass"}, {"lily", "a flower"}, {"swan", "a white bird"},
+                     {"duck", "it quacks"}, {"moss", "soft green plants"}, {"fish", "it swims"},
+                     {"rain", "water from clouds"}, {"mud", "wet earth"},
+                     {"bank", "a river's edge"}};
+    auto* game = FromTitle<ToadRace>(fx, "Toad Race", pond, 2);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Shared().SoundOn = kTrue;
     Pump();
     QCOMPARE(game->pond()->call(), "Ready...");
     QVERIFY(fx.sound.played.contains("toadready.wav"));
     QLineEdit* box = game->typingBox();
-    QCOMPARE(game->findChild<QLineEdit*>("Text1"), box);
     // No false starts: nothing can be typed before "Go!".
     Enter(box, "frog");
     QCOMPARE(box->text(), "");
     Pump(ToadRace::kReadyMs);
     QCOMPARE(game->pond()->call(), "Go!");
-    QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheWord.c_str()));
-    QCOMPARE(LabelText(game, "Label2"), QString::fromLatin1(Shared().TheMeaning.c_str()));
-    QCOMPARE(LabelText(game, "PadsLabel"), "Pads to go: 12");
-    QCOMPARE(LabelText(game, "LevelLabel"), "Level 2");
+    QCOMPARE(Labels(game, "Label1 Label2 PadsLabel LevelLabel"),
+             Word() + " | " + Meaning() + " | Pads to go: 12 | Level 2");
 
     // A wrong word: the toad sits, the word stands, the box keeps what was typed, selected to
     // be typed over. The croak only with sound on.
@@ -97,30 +93,21 @@ void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
     QCOMPARE(game->pond()->call(), "You win!");
     QVERIFY(fx.sound.played.contains("toadwin.wav"));
     Pump(400);
-    QCOMPARE(driver.congratulations.size(), 0);
-    fx.dialogs.answerYes(false);
+    QCOMPARE(fx.win.congratulations.size(), 0);
     Pump(ToadRace::kCheerMs - 400);
     // (11 pads the best computer toad is behind x 100 + letters x 5) x level 2
     const int score = (11 * 100 + letters * 5) * 2;
-    QVERIFY2(fx.dialogs.saw(
-                 QString("You got a high score of %1! Would you like to try again?").arg(score)),
-             qPrintable(fx.dialogs.texts().join(" | ")));
-    QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
-    QCOMPARE(TableRow(fx, "Toad Race"), QString("TOD %1").arg(score));
-    Pump();
-    QVERIFY(Showing<Title>());
+    WM_CHECK_WON(fx, "Toad Race", QString("TOD %1").arg(score));
 }
 
 void ToadRaceScreenTest::aRaceLostNamesTheWinnerAndTheWord() {
-    ShellFixture fx;
+    Road fx(0);
     ScreenMetrics::overrideScreenSize(QSize(1920, 1080));
-    WinDriver driver;
-    SetModalHook(std::ref(driver));
     // The first word, then the waits: Ruby (toad 3) leaves first, at 1200 ms, then every 1500.
     fx.rng.pick(1, 2).then(0.5).then(0.5).then(0.0);
-    auto* game = OpenGame<ToadRace>(
-        fx, "Toad Race", {{"cat", "a pet that purrs"}, {"dog", "a pet that barks"}}, 10, false,
-        true, true);
+    auto* game = OpenGame<ToadRace>(fx, "Toad Race",
+                                    {{"cat", "a pet that purrs"}, {"dog", "a pet that barks"}}, 10,
+                                    false, true, true);
     QVERIFY(game);
     Pump();
     // A words-only list has no clue under the word.
@@ -140,20 +127,17 @@ void ToadRaceScreenTest::aRaceLostNamesTheWinnerAndTheWord() {
     QVERIFY(fx.dialogs.shown.empty());
     fx.dialogs.answerYes(true);
     Pump(ToadRace::kCheerMs - 400);
-    QCOMPARE(fx.dialogs.last(),
-             "Beaten by a nose! Ruby got home first. Your word was \"dog\". Would you like to try "
-             "again?");
-    QCOMPARE(fx.dialogs.shown.back().title, "Toad Race");
-    QCOMPARE(driver.congratulations.size(), 0);
+    QCOMPARE(LastBox(fx),
+             "Toad Race | Beaten by a nose! Ruby got home first. Your word was "
+             "\"dog\". Would you like to try again?");
+    QCOMPARE(fx.win.congratulations.size(), 0);
     // Try again: a fresh race from the start stones.
     QCOMPARE(game->pond()->call(), "Ready...");
     for (int t = 0; t < 4; ++t) QCOMPARE(game->pond()->shownPad(t), 0);
     // A list with no words left to race with: said clearly, then back to the title.
     Shared().WordCount = 0;
-    QVERIFY(TriggerMenu(game, "RS"));
-    Pump();
-    QCOMPARE(fx.dialogs.last(), "This list has no words to race with. Please choose another list.");
-    QVERIFY(Showing<Title>());
+    QCOMPARE(RestartRefusal(fx, game),
+             "Toad Race | This list has no words to race with. Please choose another list.");
 }
 
 QTEST_MAIN(ToadRaceScreenTest)

@@ -3,7 +3,7 @@
 // 1920x1080, the box naming the word, a try again; a list with one word only refused.
 #include <QtTest>
 
-#include "game_start.h"
+#include "game_end.h"
 #include "games/action/tower_assault/tower_assault_screen.h"
 #include "tower_steer.h"
 
@@ -38,27 +38,9 @@ bool Drive(TowerGame* game, bool catchRight, Done done, int frames = 4000) {
     return done();
 }
 
-// The plates and the definition lie inside the screen and apart, and every text fits its box.
-bool Fits(TowerGame* game) {
-    const auto labels = game->findChildren<QLabel*>();
-    for (const QLabel* l : labels) {
-        const QRect box = l->contentsRect();
-        const QRect need = QFontMetrics(l->font()).boundingRect(
-            box, Qt::AlignCenter | Qt::TextWordWrap, l->text());
-        if (!game->rect().contains(l->geometry()) || need.width() > box.width() ||
-            need.height() > box.height())
-            return false;
-        for (const QLabel* other : labels)
-            if (other != l && l->geometry().intersects(other->geometry())) return false;
-    }
-    return labels.size() == 4;
-}
-
 const Pairs kCastleWords = {
-    {"moat", "the water around a castle"},
-    {"tower", "a tall narrow building"},
-    {"knight", "a soldier on horseback"},
-    {"shield", "it keeps the arrows off"},
+    {"moat", "the water around a castle"}, {"tower", "a tall narrow building"},
+    {"knight", "a soldier on horseback"}, {"shield", "it keeps the arrows off"},
     {"drawbridge", "a bridge that lifts up"},
     {"catapult",
      "a great wooden machine that flings heavy stones, burning straw or even "
@@ -67,11 +49,8 @@ const Pairs kCastleWords = {
 }  // namespace
 
 void TowerScreenTest::tenRungsFromTheTitleToTheTable() {
-    ShellFixture fx;
-    WriteOneList(fx, "Castle Words", kCastleWords);
-    WinDriver driver({"ANN"});
-    SetModalHook(std::ref(driver));
-    auto* game = qobject_cast<TowerGame*>(PlayFromTitle("Tower Assault", "Castle Words", 1));
+    Road fx(0, {"ANN"});
+    auto* game = FromTitle<TowerGame>(fx, "Tower Assault", kCastleWords, 1);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump(16);
     QCOMPARE(game->scene()->call(), "Get ready...");
@@ -82,27 +61,20 @@ void TowerScreenTest::tenRungsFromTheTitleToTheTable() {
 
     for (int rung = 1; rung <= 10; ++rung) {
         QVERIFY(Drive(game, true, [&] { return game->game().rungs() == rung; }));
-        QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
-        QCOMPARE(LabelText(game, "RungsLabel"), QString("Ladder: %1 of 10").arg(rung));
+        QCOMPARE(Labels(game, "Label1 RungsLabel"),
+                 Meaning() + QString(" | Ladder: %1 of 10").arg(rung));
         QCOMPARE(game->scene()->call(),
                  rung < 10 ? QString("Rung %1 of 10!").arg(rung) : QString("The castle is yours!"));
         if (rung < 10) Pump(1600);  // the next definition, its font fitted to the banner
-        QVERIFY(Fits(game));
-        if (rung == 5) Shot(game, "tower-assault-play");
+        WM_CHECK_PLATES(game);
     }
     QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 2750");
     for (const char* sound : {"towerthrow.wav", "towerrung.wav", "towerwin.wav"})
         QVERIFY(fx.sound.played.contains(sound));
-    fx.dialogs.answerYes(false);
     Pump(TowerGame::kEndMs - 100);
-    Shot(game, "tower-assault-won");
     QVERIFY(fx.dialogs.shown.empty());
     Pump(100);
-    QVERIFY2(fx.dialogs.saw("You got a high score of 2750! Would you like to try again?"),
-             qPrintable(fx.dialogs.texts().join(" | ")));
-    QCOMPARE(TableRow(fx, "Tower Assault"), "ANN 2750");
-    Pump();
-    QVERIFY(Showing<Title>());
+    WM_CHECK_WON(fx, "Tower Assault", "ANN 2750");
 }
 
 void TowerScreenTest::threeWrongScrollsDriveTheKnightBack() {
@@ -112,47 +84,41 @@ void TowerScreenTest::threeWrongScrollsDriveTheKnightBack() {
     QVERIFY(game);
     // Between two guards, out of every scroll's way: the right one falls to the ground and is
     // thrown again later.
-    SendKey(game, Qt::Key_Left);
-    Pump(33 * 16);
-    SendKey(game, Qt::Key_Left, QEvent::KeyRelease);
+    HoldKey(game, Qt::Key_Left, 33 * 16);
     for (int i = 0; i < 2000 && !game->scene()->call().startsWith("Missed"); ++i) Pump(16);
     QCOMPARE(game->scene()->call(), "Missed! It will come again.");
     QVERIFY(fx.sound.played.contains("towerthud.wav"));
     for (int shield = 2; shield >= 0; --shield) {
         QVERIFY(Drive(game, false, [&] { return game->game().shields() == shield; }));
-        QCOMPARE(LabelText(game, "ShieldsLabel"), QString("Shields: %1").arg(shield));
-        QVERIFY(Fits(game));
-        QCOMPARE(LabelText(game, "ScoreLabel"), QString("Score: %1").arg(-25 * (3 - shield)));
+        QCOMPARE(Labels(game, "ShieldsLabel ScoreLabel"),
+                 QString("Shields: %1 | Score: %2").arg(shield).arg(-25 * (3 - shield)));
+        WM_CHECK_PLATES(game);
         const QString caught = QString::fromLatin1(game->game().last().word.c_str());
-        QVERIFY(caught != QString::fromLatin1(Shared().TheWord.c_str()));
+        QVERIFY(caught != Word());
         if (shield > 0) QCOMPARE(game->scene()->call(), QString("Not \"%1\"!").arg(caught));
     }
     QVERIFY(fx.sound.played.contains("towerclang.wav"));
     QCOMPARE(game->scene()->call(), "The guards drove you back!");
     QVERIFY(fx.sound.played.contains("towerlose.wav"));
-    const QString word = QString::fromLatin1(Shared().TheWord.c_str());
+    const QString word = Word();
     fx.dialogs.answerYes(true);
     bool behind = false;  // the scene plays on behind the box
-    fx.dialogs.whileOpen = [&](const auto&) { behind = game->frame().findTimer("Timer1")->isActive(); };
-    Pump(TowerGame::kEndMs / 2);
-    Shot(game, "tower-assault-lost");
-    Pump(TowerGame::kEndMs / 2);
-    QCOMPARE(fx.dialogs.last(), "The guards drove you back! The word was \"" + word +
-                                    "\". Would you like to try again?");
-    QCOMPARE(fx.dialogs.shown.back().title, "Tower Assault");
+    fx.dialogs.whileOpen = [&](const auto&) {
+        behind = game->frame().findTimer("Timer1")->isActive();
+    };
+    Pump(TowerGame::kEndMs);
+    QCOMPARE(LastBox(fx), "Tower Assault | The guards drove you back! The word was \"" + word +
+                              "\". Would you like to try again?");
     QVERIFY(behind);
     // Try again: a fresh game.
-    QCOMPARE(LabelText(game, "ShieldsLabel"), "Shields: 3");
-    QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 0");
+    QCOMPARE(Labels(game, "ShieldsLabel ScoreLabel"), "Shields: 3 | Score: 0");
     // A list of one word twice: nothing to throw as decoys, said clearly, back to the title.
     Shared().Words = {"", "moat", "MOAT"};
     Shared().Meanings = {"", "water", "water"};
     Shared().WordCount = 2;
-    QVERIFY(TriggerMenu(game, "RS"));
-    Pump();
-    QCOMPARE(fx.dialogs.last(),
+    QCOMPARE(RestartRefusal(fx, game),
+             "Tower Assault | "
              "The guards need at least two different words to throw. Please choose another list.");
-    QVERIFY(Showing<Title>());
 }
 
 QTEST_MAIN(TowerScreenTest)

@@ -3,7 +3,7 @@
 // changes only on a hit.
 #include <QtTest>
 
-#include "game_start.h"
+#include "game_end.h"
 #include "games/action/word_zap/word_zap_screen.h"
 
 using namespace wm;
@@ -40,7 +40,7 @@ private slots:
 };
 
 void WordZapScreenTest::roadToTheInitialsAndTheTable() {
-    ShellFixture fx;
+    Road fx(0, {"ZAP"});
     auto* game = Start(fx);
     QVERIFY(game);
     QCOMPARE(game->windowTitle(), "Word Zap");
@@ -70,18 +70,12 @@ void WordZapScreenTest::roadToTheInitialsAndTheTable() {
     QCOMPARE(fx.sound.played.last(), "shotmiss.wav");
     QCOMPARE(game->scoreText(), "Score: 2385");  // a miss shows with the next hit
 
-    WinDriver driver({"ZAP"});
-    SetModalHook(std::ref(driver));
     for (int n = 0; n < 62 && Showing<Zap>(); ++n) Pump(1000);
-    Pump();
-    QVERIFY(Showing<Title>() != nullptr);
     QVERIFY(fx.sound.played.contains("airhorn.wav"));
-    QCOMPARE(driver.congratulations.size(), 1);
-    QCOMPARE(driver.congratulations[0],
-             "Congratulations! You have placed number 1 in the high score records with a score of "
-             "2285! Type your initials to save your record...");
-    QCOMPARE(fx.dialogs.last(), "You got a high score of 2285! Would you like to try again?");
-    QCOMPARE(TableRow(fx, "Word Zap"), "ZAP 2285");
+    QCOMPARE(fx.win.congratulations,
+             QStringList{"Congratulations! You have placed number 1 in the high score records "
+                         "with a score of 2285! Type your initials to save your record..."});
+    WM_CHECK_WON(fx, "Word Zap", "ZAP 2285");
 }
 
 void WordZapScreenTest::carelessRoundEndsBelowZero() {
@@ -109,10 +103,9 @@ void WordZapScreenTest::carelessRoundEndsBelowZero() {
     fx.dialogs.answerYes();
     const int round = game->frame().round();
     for (int n = 0; n < 62 && game->frame().round() == round; ++n) Pump(1000);
-    QVERIFY2(fx.dialogs.saw("Oops! You scored -120! Try to be more careful what you shoot next "
-                            "time! Would you like to try again?"),
-             qPrintable(fx.dialogs.texts().join(" | ")));
-    QCOMPARE(fx.dialogs.shown.back().title, "Not so great...");
+    QCOMPARE(LastBox(fx),
+             "Not so great... | Oops! You scored -120! Try to be more careful what "
+             "you shoot next time! Would you like to try again?");
     QVERIFY(game->readyShown());  // Yes: a new game waits for the start again
 }
 

@@ -2,7 +2,7 @@
 // at a scrambled word and eight more wild ones to the no-score ending, with the sound off.
 #include <QtTest>
 
-#include "game_start.h"
+#include "game_end.h"
 #include "games/action/basketball/basketball_screen.h"
 
 using namespace wm;
@@ -21,11 +21,11 @@ private slots:
 };
 
 namespace {
-const Pairs kSport = {{"dribble", "bounce the ball"}, {"hoop", "the ring"},
-                      {"court", "where you play"},    {"pass", "throw to a friend"},
-                      {"guard", "a player"},          {"foul", "against the rules"},
-                      {"score", "points"},            {"net", "under the ring"},
-                      {"jump", "leave the ground"},   {"team", "players together"}};
+const Pairs kSport = {{"dribble", "bounce the ball"},
+                      {"hoop", "the ring"}, {"court", "where you play"},
+                      {"pass", "throw to a friend"}, {"guard", "a player"},
+                      {"foul", "against the rules"}, {"score", "points"}, {"net", "under the ring"},
+                      {"jump", "leave the ground"}, {"team", "players together"}};
 
 void Drop(BasketBallForm* g, QPoint at) {
     const QPoint from = g->ball()->geometry().center();
@@ -41,30 +41,22 @@ void WaitForTheAnimation(BasketBallForm* g) {
 }  // namespace
 
 void BasketballScreenTest::tenGoodShotsToTheTable() {
-    ShellFixture fx;
-    WriteOneList(fx, "Sport", kSport);
-    SeededRng rng(21);
-    SetRng(&rng);
-    auto* g = qobject_cast<BasketBallForm*>(PlayFromTitle("Basketball", "Sport", 10));
+    Road fx(21, {"DNK"});
+    auto* g = FromTitle<BasketBallForm>(fx, "Basketball", kSport, 10);
     QVERIFY2(g, qPrintable(fx.dialogs.texts().join(" | ")));
     SharedState& s = Shared();
     QVERIFY(fx.dialogs.saw("The crowd is ready! Click OK to start your game!"));
-    QCOMPARE(g->shootLabel()->text(), QString(kBegin));
-    QCOMPARE(g->shotsLeftLabel()->text(), QString("Shots Left: 10"));
-    QCOMPARE(g->definition()->text(), QString::fromStdString("\"" + s.TheMeaning + "\""));
+    QCOMPARE(g->shootLabel()->text() + " | " + g->shotsLeftLabel()->text() + " | " +
+                 g->definition()->text(),
+             QString(kBegin) + " | Shots Left: 10 | \"" + Meaning() + "\"");
     QCOMPARE(g->frame().findTimer("Timer1")->interval(), 500);  // the pace at level 10
 
-    WinDriver driver({"DNK"});
-    SetModalHook(std::ref(driver));
-    fx.dialogs.answerYes(false);
     QPointer<BasketBallForm> alive(g);
     QStringList animations;
     double score = 0;
     for (int shot = 1; shot <= 10; ++shot) {
-        for (int t = 0; t < 2000 && g->shootLabel()->text() != QString::fromStdString(s.TheWord);
-             ++t)
-            Pump(16);
-        QCOMPARE(g->shootLabel()->text(), QString::fromStdString(s.TheWord));
+        for (int t = 0; t < 2000 && g->shootLabel()->text() != Word(); ++t) Pump(16);
+        QCOMPARE(g->shootLabel()->text(), Word());
         const int shown = g->game().wordsShown();
         Drop(g, g->netPoint());
         animations << g->playing();
@@ -77,9 +69,9 @@ void BasketballScreenTest::tenGoodShotsToTheTable() {
         QCOMPARE(g->scoreLabel()->text(), QString("Score: %1").arg(s.Score));
         if (shot < 10) {
             WaitForTheAnimation(g);
-            QCOMPARE(g->shotsLeftLabel()->text(), QString("Shots Left: %1").arg(10 - shot));
-            QCOMPARE(g->shootLabel()->text(), QString(kBegin));
-            QCOMPARE(g->playing(), QString("bball-still"));
+            QCOMPARE(g->shotsLeftLabel()->text() + " | " + g->shootLabel()->text() + " | " +
+                         g->playing(),
+                     QString("Shots Left: %1 | %2 | bball-still").arg(10 - shot).arg(kBegin));
         } else {
             for (int t = 0; t < 400 && alive; ++t) Pump(50);
         }
@@ -87,16 +79,11 @@ void BasketballScreenTest::tenGoodShotsToTheTable() {
     for (const QString& a : animations) QVERIFY2(a.startsWith("bball-good"), qPrintable(a));
     QCOMPARE(fx.sound.played.count("cheer.wav"), 10);
     QVERIFY(!alive);
-    QVERIFY(driver.tables.first().contains("DNK"));
-    QCOMPARE(fx.dialogs.last(),
-             QString("You got a high score of %1! Would you like to try again?").arg(score));
-    QVERIFY(Showing<Title>());
+    WM_CHECK_WON(fx, "Basketball", QString("DNK %1").arg(score));
 }
 
 void BasketballScreenTest::wildAndScrambledShotsEndWithoutAScore() {
-    ShellFixture fx;
-    SeededRng rng(8);
-    SetRng(&rng);
+    Road fx(8);
     auto* g = OpenGame<BasketBallForm>(fx, "Basketball", kSport, 2, true, false);
     QVERIFY(g);
     QCOMPARE(g->frame().findTimer("Timer1")->interval(), 1300);

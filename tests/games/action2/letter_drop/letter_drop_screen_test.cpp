@@ -3,7 +3,7 @@
 // nothing to drop refused; the close box that ends the program.
 #include <QtTest>
 
-#include "game_start.h"
+#include "game_end.h"
 #include "games/action/letter_drop/letter_drop_screen.h"
 
 using namespace wm;
@@ -14,8 +14,7 @@ class LetterDropScreenTest : public QObject {
     Q_OBJECT
 private slots:
     void steerEveryLetterHomeToTheTable();
-    void longWordsAreRefused();
-    void aListWithNothingToDropIsRefused();
+    void longWordsAndNothingToDropAreRefused();
     void closingTheScreenEndsTheProgram();
 };
 
@@ -48,16 +47,16 @@ void Steer(QPointer<LetterFall> game, int tile) {
 }  // namespace
 
 void LetterDropScreenTest::steerEveryLetterHomeToTheTable() {
-    ShellFixture fx;
-    WriteOneList(fx, "Night",
-                 {{"owl", "a bird that hunts at night"}, {"bat", "it flies at night"}});
+    Road fx(0, {"OWL"});
     fx.rng.setFallback(0.0);  // the owl; its letters fall first to last; no shooting star
-    auto* game = qobject_cast<LetterFall*>(PlayFromTitle("Letter Drop", "Night", 90));
+    auto* game = FromTitle<LetterFall>(
+        fx, "Letter Drop", {{"owl", "a bird that hunts at night"}, {"bat", "it flies at night"}},
+        90);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump();
     QCOMPARE(fx.dialogs.last(), "Click <OK> when you are ready to begin");
-    QCOMPARE(game->definition()->text(), QString("Definition:  a bird that hunts at night"));
-    QCOMPARE(game->scoreLabel()->text(), QString("Score: 0"));
+    QCOMPARE(game->definition()->text() + " | " + game->scoreLabel()->text(),
+             "Definition:  a bird that hunts at night | Score: 0");
     QCOMPARE(game->game().word(), std::string("OWL"));
     for (int i = 0; i < kTiles; ++i) QCOMPARE(game->tile(i)->isVisible(), i < 3);
     QCOMPARE(game->tile(0)->text(), QString());
@@ -65,7 +64,7 @@ void LetterDropScreenTest::steerEveryLetterHomeToTheTable() {
     // A wrong landing: straight down onto the W's tile with the O falling.
     Steer(game, 1);
     QCOMPARE(fx.sound.played.count("crumble.wav"), 1);
-    QCOMPARE(game->scoreLabel()->text(), QString("Score: -50"));
+    QCOMPARE(game->scoreLabel()->text(), "Score: -50");
     QVERIFY(game->dissolving());
     const int y = game->game().y();
     Pump(50);
@@ -89,41 +88,34 @@ void LetterDropScreenTest::steerEveryLetterHomeToTheTable() {
     QVERIFY(colours.contains("#ff8080"));
     QCOMPARE(game->tile(1)->property("back").toString(), QString("#c0c0ff"));
 
-    WinDriver driver({"OWL"});
-    SetModalHook(std::ref(driver));
-    fx.dialogs.answerYes(false);
     QPointer<LetterFall> alive(game);
     for (int n = 0; n < 10 && alive && game->game().lettersLeft() > 0; ++n)
         Steer(alive, Target(game->game()));
     QCOMPARE(fx.sound.played.count("zap.wav"), 2);  // not for the last letter
     QCOMPARE(fx.sound.played.count("crumble.wav"), 4);
-    QCOMPARE(driver.tables.size(), 1);
+    QCOMPARE(fx.win.tables.size(), 1);
     // 90 x 5, then 105 x 5 and 120 x 5 as the speed climbs at once for a short word, less four
     // misses, plus a point for each release of Down while the letters fall.
     const double score = Shared().Score;
     QVERIFY2(score >= 1375 && score <= 1381, qPrintable(QString::number(score)));
-    QVERIFY(driver.tables.first().contains("OWL"));
     QVERIFY(!alive);
-    QCOMPARE(fx.dialogs.last(),
-             QString("You got a high score of %1! Would you like to try again?").arg(score));
-    QVERIFY(Showing<Title>());
+    WM_CHECK_WON(fx, "Letter Drop", QString("OWL %1").arg(score));
 }
 
-void LetterDropScreenTest::longWordsAreRefused() {
+void LetterDropScreenTest::longWordsAndNothingToDropAreRefused() {
     ShellFixture fx;
-    WriteOneList(
-        fx, "Long",
-        {{"antidisestablishment", "a long word"}, {"supercalifragilistic", "another long word"}});
-    PlayFromTitle("Letter Drop", "Long", 90);
+    FromTitle<QWidget>(
+        fx, "Letter Drop",
+        {{"antidisestablishment", "a long word"}, {"supercalifragilistic", "another long word"}},
+        90);
     Pump();
-    QVERIFY(fx.dialogs.saw("The words on this vocabulary list are too long for this game. Please "
-                           "choose another list or another game."));
+    QCOMPARE(LastBox(fx),
+             "Letter Drop! | The words on this vocabulary list are too long for this "
+             "game. Please choose another list or another game.");
     Pump();
     QVERIFY(Showing<Title>());
-}
-
-void LetterDropScreenTest::aListWithNothingToDropIsRefused() {
-    ShellFixture fx;
+    // Marks and blanks only: nothing to drop, and one box that says so.
+    fx.dialogs.shown.clear();
     OpenGame<QWidget>(fx, "Letter Drop", {{"- -", "only dashes"}, {"'-'", "marks"}}, 90, true);
     Pump();
     QCOMPARE(fx.dialogs.texts(),

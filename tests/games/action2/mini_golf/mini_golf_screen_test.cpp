@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-#include "game_start.h"
+#include "game_end.h"
 #include "games/action/mini_golf/mini_golf_screen.h"
 
 using namespace wm;
@@ -20,9 +20,9 @@ private slots:
 };
 
 namespace {
-const Pairs kFruit = {{"apple", "a red fruit"},     {"pear", "a green fruit"},
-                      {"plum", "a purple fruit"},  {"lemon", "a yellow fruit"},
-                      {"lime", "a sour fruit"}};
+const Pairs kFruit = {{"apple", "a red fruit"},
+                      {"pear", "a green fruit"}, {"plum", "a purple fruit"},
+                      {"lemon", "a yellow fruit"}, {"lime", "a sour fruit"}};
 const char* kTimeIsUp = "Time is up!";
 
 QPoint OnField(MiniGolf* g, double x, double y) {
@@ -46,27 +46,20 @@ void Putt(MiniGolf* g, int hole) {
 void RollToRest(MiniGolf* g) {
     for (int t = 0; t < 400 && g->course().moving(); ++t) Pump(16);
 }
-
-MiniGolf* Start(ShellFixture& fx, SeededRng& rng) {
-    WriteOneList(fx, "Fruit", kFruit);
-    SetRng(&rng);
-    return qobject_cast<MiniGolf*>(PlayFromTitle("Mini Golf", "Fruit", 1));
-}
 }  // namespace
 
 void MiniGolfScreenTest::rightHoleThenTheClockToTheTable() {
-    ShellFixture fx;
-    SeededRng rng(11);
-    auto* g = Start(fx, rng);
+    Road fx(11, {"GLF"});
+    auto* g = FromTitle<MiniGolf>(fx, "Mini Golf", kFruit, 1);
     QVERIFY2(g, qPrintable(fx.dialogs.texts().join(" | ")));
     SharedState& s = Shared();
     QCOMPARE(g->windowTitle(), QString("Wordmere Mini-Golf Course"));
-    QCOMPARE(g->defLabel()->text(),
-             QString::fromStdString("Hit the word that means: " + s.TheMeaning));
-    QCOMPARE(g->scoreLabel()->text(), QString("Score: 00000"));
-    QCOMPARE(g->timeLabel()->text(), QString("Time: 30"));  // until the first second
     const int right = g->course().rightHole();
-    QCOMPARE(g->holeLabel(right - 1)->text(), QString::fromStdString(s.TheWord));
+    // The clock shows 30 until the first second.
+    QCOMPARE(QStringList({g->defLabel()->text(), g->scoreLabel()->text(), g->timeLabel()->text(),
+                          g->holeLabel(right - 1)->text()}),
+             QStringList({"Hit the word that means: " + Meaning(), "Score: 00000", "Time: 30",
+                          Word()}));
     QVERIFY(g->holeLabel(1)->isVisible() && !g->holeLabel(2)->isVisible());  // two holes at 1
 
     // A drag away from the ball shows the line.
@@ -91,26 +84,19 @@ void MiniGolfScreenTest::rightHoleThenTheClockToTheTable() {
     QCOMPARE(fx.sound.played.count("golf.wav"), 1);
     QCOMPARE(fx.sound.played.count("applause.wav"), 1);
     // 200 for two strokes at level 1, and a bonus of 100.
-    QCOMPARE(g->scoreLabel()->text(), QString("Score: 300"));
     QCOMPARE(g->course().strokes(), 0);  // the next word
-    QCOMPARE(g->timeLabel()->text(), QString("Time: %1").arg(g->course().seconds()));
+    QCOMPARE(g->scoreLabel()->text() + " " + g->timeLabel()->text(),
+             QString("Score: 300 Time: %1").arg(g->course().seconds()));
 
-    WinDriver driver({"GLF"});
-    SetModalHook(std::ref(driver));
-    fx.dialogs.answerYes(false);
     const double score = s.Score;
     for (int t = 0; t < 100 && Showing<MiniGolf>(); ++t) Pump(1000);
     QVERIFY(fx.dialogs.saw(kTimeIsUp));
-    QCOMPARE(fx.dialogs.last(),
-             QString("You got a high score of %1! Would you like to try again?").arg(score));
-    QCOMPARE(TableRow(fx, "Mini Golf"), QString("GLF %1").arg(score));
-    QVERIFY(Showing<Title>());
+    WM_CHECK_WON(fx, "Mini Golf", QString("GLF %1").arg(score));
 }
 
 void MiniGolfScreenTest::wrongHoleEndsBelowZeroWithoutTheTable() {
-    ShellFixture fx;
-    SeededRng rng(5);
-    auto* g = Start(fx, rng);
+    Road fx(5);
+    auto* g = FromTitle<MiniGolf>(fx, "Mini Golf", kFruit, 1);
     QVERIFY(g);
     SharedState& s = Shared();
     const int wrong = g->course().rightHole() == 1 ? 2 : 1;
@@ -118,9 +104,9 @@ void MiniGolfScreenTest::wrongHoleEndsBelowZeroWithoutTheTable() {
     RollToRest(g);
     QCOMPARE(s.Score, -1000.0);
     // The caption changes only at the right hole: the cost shows with the next one.
-    QCOMPARE(g->scoreLabel()->text(), QString("Score: 00000"));
-    QCOMPARE(g->oopsLabel()->text(),
-             "Oops! You should have put the ball in this hole! (Click here to continue)");
+    QCOMPARE(g->scoreLabel()->text() + " " + g->oopsLabel()->text(),
+             "Score: 00000 Oops! You should have put the ball in this hole! (Click here to "
+             "continue)");
     QVERIFY(!g->ballShown());
     QCOMPARE(fx.sound.played.count("ooh.wav"), 1);
     // Nothing to hit until the label is clicked; the clock goes on.
@@ -136,16 +122,12 @@ void MiniGolfScreenTest::wrongHoleEndsBelowZeroWithoutTheTable() {
     RollToRest(g);
     QCOMPARE(g->scoreLabel()->text(), QString("Score: -400"));
 
-    WinDriver driver;
-    SetModalHook(std::ref(driver));
-    fx.dialogs.answerYes(false);
     for (int t = 0; t < 100 && Showing<MiniGolf>(); ++t) Pump(1000);
     QVERIFY(fx.dialogs.saw(kTimeIsUp));
-    QCOMPARE(fx.dialogs.last(),
-             QString("Oops! You scored -400! Try to be more careful next time! Would you like to "
-                     "try again?"));
-    QCOMPARE(fx.dialogs.shown.back().title, "Not so great...");
-    QVERIFY(driver.tables.isEmpty());
+    QCOMPARE(LastBox(fx),
+             "Not so great... | Oops! You scored -400! Try to be more careful next "
+             "time! Would you like to try again?");
+    QVERIFY(fx.win.tables.isEmpty());
     QVERIFY(!fx.read("scores/Mini Golf.dat").contains("400"));
     QVERIFY(Showing<Title>());
 }
