@@ -98,6 +98,9 @@ TEST(AsteroidHits, OnlyTheSubsequenceRuleDecides) {
             EXPECT_EQ(tick(r, 1, rng).ending, Ending::WrongLetter) << "the next tick ends it";
             EXPECT_EQ(int(r.blasts.size()), kLetters) << "every letter still alive blows up";
             for (const Blast& b : r.blasts) EXPECT_TRUE(b.frame >= 13 && b.frame <= 18);
+            // Scattered up to 1000 either way about the ship's centre: at the middle draw, on it.
+            const std::pair centre(r.shipX + r.g.shipW / 2, r.g.shipTop() + r.g.shipH / 2);
+            EXPECT_EQ(std::pair(r.blasts[0].x, r.blasts[0].y), centre);
         }
     }
 }

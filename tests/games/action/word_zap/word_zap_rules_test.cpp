@@ -37,7 +37,9 @@ TEST(WordZapDeal, UnusedWordsIntoUnusedSlots) {
     EXPECT_EQ(definitionText(s, g), "meaning 3");
 
     ScriptedRng one(0.4);
+    g.definition = 2;  // a fresh deal asks for its first word's definition again
     ASSERT_TRUE(deal(s, g, 1, one).ready);
+    EXPECT_EQ(g.definition, 1);
     shown = 0;
     for (const Target& t : g.targets) shown += t.visible;
     EXPECT_EQ(shown, 1) << "level 1 deals one target";
@@ -80,13 +82,15 @@ TEST(WordZapStars, BurstArcAndAge) {
     Gallery g;
     ScriptedRng rng;
     rng.then(0.0).then(0.999);  // first star: dy 6, dx -10
-    rng.setFallback(0.5);       // the others: dy 11, dx -1
+    rng.then(0.95);             // second: dy Int(0.95 x 10 + 1) + 5 = 15
+    rng.setFallback(0.5);       // the rest: dy 11, dx -1
     burst(g, 100, 200, rng);
     EXPECT_EQ(g.group, 2);
     EXPECT_EQ(g.stars[0].dy, 6);
     EXPECT_EQ(g.stars[0].dx, -10);
-    EXPECT_EQ(g.stars[1].dy, 11);
+    EXPECT_EQ(g.stars[1].dy, 15);
     EXPECT_EQ(g.stars[1].dx, -1);
+    EXPECT_EQ(g.stars[2].dy, 11);
     EXPECT_FALSE(g.stars[10].alive);
     EXPECT_FALSE(starTick(g));
     EXPECT_EQ(g.stars[0].x, 90);
