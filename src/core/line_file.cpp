@@ -74,10 +74,7 @@ std::vector<std::string> ReadLines(const std::string& path) {
 }
 
 std::string JoinLines(const std::vector<std::string>& lines) {
-    std::size_t size = 0;
-    for (const auto& l : lines) size += l.size() + 2;
     std::string out;
-    out.reserve(size);
     for (const auto& l : lines) {
         out += l;
         out += "\r\n";

@@ -41,7 +41,6 @@ std::string ScoreTable::scoreText(int rank) const {
 
 std::string ScoreTable::toBytes() const {
     std::string out;
-    out.reserve(kScoreRecordSize);
     for (const auto& i : Initials) out += pad(i, kInitialsWidth);
     for (const auto& s : Scores) out += pad(s, kScoreWidth);
     return out;

@@ -26,7 +26,6 @@ void FirstRunRenames(const std::string& appPath) {
     // The program starts without the list file: the title names the file when it cannot read
     // it. So a rename that cannot be done (a folder standing at the name, a read-only folder)
     // leaves both names as they are and is not fatal.
-    if (FileExists(lists) || !FileExists(listsFactory)) return;
     std::error_code ec;
     if (std::filesystem::exists(lists, ec) || ec) return;
     try {

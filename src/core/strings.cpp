@@ -1,3 +1,4 @@
+#include <algorithm>
 #include "core/strings.h"
 
 #include <cmath>
@@ -54,7 +55,7 @@ int Len(std::string_view s) {
 }
 
 std::string Mid(std::string_view s, int start, int length) {
-    if (start < 1) start = 1;
+    start = std::max(start, 1);
     auto from = static_cast<std::size_t>(start - 1);
     if (from >= s.size()) return {};
     // A negative length (the default) becomes npos: the rest of the text.

@@ -88,6 +88,10 @@ TEST(Settings, RewriteKeepsLinesPastFive) {
     // A line past the end: the file grows with blank lines up to it.
     RewriteSettingsLine(dir.path(), 8, "ninth");
     EXPECT_EQ(ReadLines(dir.file("wmdata.dat")).size(), 9u);
+    // No line before the first: the file is left as it is.
+    const std::string before = dir.read("wmdata.dat");
+    RewriteSettingsLine(dir.path(), -1, "nothing");
+    EXPECT_EQ(dir.read("wmdata.dat"), before);
     EXPECT_EQ(dir.read("wmdata.dat").substr(dir.read("wmdata.dat").size() - 11), "\r\n\r\nninth\r\n");
 }
 
