@@ -184,21 +184,25 @@ private slots:
         TeacherFixture f(kTwoLists);
         DeleteList d;
         QCOMPARE(d.lists()->count(), 2);
-        // The question and its Yes and No show only while a deletion is being asked.
+        // The question's Yes and No show only while a deletion is being asked, Delete and
+        // Finished only while it is not.
         const auto answers = [&] {
-            return QList<bool>{d.findChild<QWidget*>("Yes")->isHidden(),
-                               d.findChild<QWidget*>("No")->isHidden()};
+            QList<bool> hidden;
+            for (const char* name : {"Yes", "No", "Command1", "Command2"})
+                hidden << d.findChild<QWidget*>(name)->isHidden();
+            return hidden;
         };
-        QCOMPARE(answers(), (QList<bool>{true, true}));
+        const QList<bool> notAsking{true, true, false, false};
+        QCOMPARE(answers(), notAsking);
         d.deleteClicked();
         QCOMPARE(f.dialogs.last(), "You need to choose a list!");
         d.lists()->setCurrentRow(RowOf(d.lists(), "Animals"));
         d.deleteClicked();
         QVERIFY(d.asking());
-        QCOMPARE(answers(), (QList<bool>{false, false}));
+        QCOMPARE(answers(), (QList<bool>{false, false, true, true}));
         d.answer(false);
         QVERIFY(!d.asking());
-        QCOMPARE(answers(), (QList<bool>{true, true}));
+        QCOMPARE(answers(), notAsking);
         QCOMPARE(f.lists(), f.crlf(kTwoLists));
         d.deleteClicked();
         d.answer(true);
@@ -326,7 +330,8 @@ private slots:
         edit->deleteWord();
         QCOMPARE(edit->words()->count(), 0);
         QCOMPARE(edit->totalText(), "Total Words In This List: 0");
-        edit->editWord();  // nothing left to choose
+        // A click on the definition is Edit Word: nothing is left to choose.
+        QTest::mouseRelease(edit->findChild<QWidget*>("DefLabel"), Qt::LeftButton);
         QCOMPARE(f.dialogs.last(), "You need to choose a word to edit from the list below.");
     }
 };
