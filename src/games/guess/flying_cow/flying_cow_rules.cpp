@@ -76,7 +76,7 @@ bool Game::drawNext(SharedState& s, Rng& rng) {
 Key Game::press(SharedState& s, char key) {
     // A space, hyphen or apostrophe is never a guess: no letter of the word is one, and none is
     // a letter (below).
-    if (over_ || key == 0) return Key::Ignored;
+    if (over_) return Key::Ignored;
     const std::string up = upper1(key);
     bool inWord = false;
     for (char c : word_)

@@ -113,6 +113,8 @@ TEST(PrincessRules, WordsAsManyAsTheLevelAndPointsForCleanWords) {
     EXPECT_EQ(g.pick(s, 2), Pick::Right);
     EXPECT_EQ(g.risenTo(2), 0);
     EXPECT_EQ(g.pick(s, 2), Pick::Ignored);  // risen already
+    EXPECT_EQ(g.pick(s, -1), Pick::Ignored);  // no stone there, before the first or past the last
+    EXPECT_EQ(g.pick(s, 4), Pick::Ignored);
     EXPECT_EQ(g.pick(s, 3), Pick::Wrong);
     EXPECT_EQ(g.pick(s, 1), Pick::Right);
     EXPECT_EQ(g.risenTo(1), 1);
