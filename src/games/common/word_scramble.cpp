@@ -25,11 +25,8 @@ std::string ScrambleWord(std::string_view word, Rng& rng) {
         }
     }
     // Only a generator stuck on taken places gets here: the letters left follow in word order.
-    for (char& letter : letters) {
-        if (letter != kTakenMark) {
-            taken += letter;
-            letter = kTakenMark;
-        }
+    for (char letter : letters) {
+        if (letter != kTakenMark) taken += letter;
     }
 
     // Each "*" of the word stands where it stood; the taken letters fill the other places.

@@ -66,7 +66,8 @@ TEST(CrossLayout, FirstWordGoesDownCentredInOneOfTheFirstTenColumns) {
         expected.replace(c.firstRow - 1, c.word.size(), c.word);
         EXPECT_EQ(colText(r.board, c.col, c.params.rows), expected);
         ASSERT_EQ(r.order.size(), 1u);
-        EXPECT_EQ(r.order[0].direction, kDown);
+        EXPECT_EQ(std::tuple(r.order[0].direction, r.order[0].col, r.order[0].row),
+                  std::tuple(kDown, c.col, c.firstRow));
     }
 }
 

@@ -49,6 +49,7 @@ const RuleCase kRules[] = {
     {24, "nation", "nashon", nullptr},
     {24, "tion", "tion", nullptr},  // four letters: too short
     {25, "motion", "moshen", nullptr},
+    {25, "ation", "ashen", nullptr},  // five letters: long enough
     {26, "boxes", "boxs", nullptr},
     {26, "es", "es", nullptr},
     {27, "cats", "cates", nullptr},
