@@ -46,7 +46,8 @@ TEST(PachinkoFall, MiddlePinsSendTheDiskAwayAndDeadCentreTossesACoin) {
     };
     const int px = pins()[4].x;  // a middle pin of the top row
     const Case cases[] = {
-        {px - 20 - 5, 0.0, -1}, {px - 20 + 5, 0.0, 1}, {px - 20, 0.25, -1}, {px - 20, 0.75, 1}};
+        {px - 20 - 5, 0.0, -1}, {px - 20 + 5, 0.0, 1}, {px - 20, 0.25, -1}, {px - 20, 0.4, -1},
+        {px - 20, 0.75, 1}};  // the coin Int(Rnd x 2 + 1): 1 sends it left
     for (const auto& c : cases) {
         // Nothing is drawn before the strike: the size, then the coin (dead centre only).
         ScriptedRng rng(0.0);

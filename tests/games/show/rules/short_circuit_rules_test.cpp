@@ -40,6 +40,12 @@ TEST(ShortCircuitDeal, TwoRowsPutTheRightLetterOnTopAndNoOtherRowRepeatsIt) {
         EXPECT_EQ(c.letters[col][0], 'A');
         EXPECT_NE(c.letters[col][1], 'A');
     }
+    // A generator stuck on "A" still gives the other row a letter that differs.
+    ScriptedRng stuck(0.0);
+    EXPECT_EQ(newCircuit(s, 2, stuck).letters[0][1], 'B');
+    // The right row is Int(Rnd x (rows - 1)): at the middle draw of ten rows, the fifth.
+    ScriptedRng half(0.5);
+    EXPECT_EQ(newCircuit(s, 10, half).rightRow[0], 4);
     // At ten rows the right letter is anywhere but the bottom row.
     SharedState t = listOf({"zebra"});
     for (int i = 0; i < 100; ++i) {
