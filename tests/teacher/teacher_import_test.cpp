@@ -82,6 +82,8 @@ private slots:
               {{"cat", "a pe\x01t"}, {"dog", "a pet"}});
         bytes("10% control characters", "cat,a pe\x01t\ndog,a p\x02t", notText);
         bytes("a NUL", QByteArray("cat,a pet\0", 10), notText);
+        bytes("a NUL first in a long file",
+              QByteArray("\0cat,a pet\ndog,a loyal pet\nowl,a night bird\n", 44), notText);
         bytes("one NUL in a long file",
               QByteArray("cat,a pet\ndog,a loyal pet\nowl,a night bird\0\n", 44), notText);
         bytes("a definition without its word", "cat,a pet\n,a loyal pet\n",
