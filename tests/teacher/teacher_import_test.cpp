@@ -98,6 +98,8 @@ private slots:
               "The word \"Animals\" has no definition. Give every word a definition, or none at "
               "all for a words-only list. Nothing was imported.");
         bytes("a heading alone", "Word,Definition\n", "The file f.txt holds no words to import.");
+        bytes("xml that is not kvtml", "<?xml version=\"1.0\"?><words><w>cat</w></words>",
+              "The file f.txt is not a KVTML file that can be read (it has no kvtml element).");
         bytes("kvtml: a definition without its word",
               "<kvtml version=\"2.0\"><entries><entry id=\"0\"><translation id=\"1\">"
               "<text>chat</text></translation></entry></entries></kvtml>",
