@@ -30,8 +30,8 @@ inline bool BackAtTitle() {
     return Showing<Title>() != nullptr;
 }
 
-// Whether a box said exactly `text` under `title` (any title when none is given); what was
-// shown instead, when not.
+// Empty when a box said exactly `text` under `title` (any title when none is given); else
+// every box that was shown.
 inline QString Box(const ShellFixture& fx, const QString& text, const QString& title = {}) {
     for (const auto& b : fx.dialogs.shown)
         if (b.text == text && (title.isEmpty() || b.title == title)) return {};

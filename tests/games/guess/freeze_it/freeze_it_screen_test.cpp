@@ -85,6 +85,7 @@ private slots:
         Pump(900);
         QCOMPARE(game->game().hidden(), n - 2);
         WM_CHECK_LOOK("Freeze-It_play", game);  // two letters out of the ice, the miss told
+        QVERIFY(TriggerMenu(game, "mnuSayIt"));  // the clue may be heard, not the word
 
         // The palette puts its letter into the answer box.
         QTest::keyClick(game, Qt::Key_Space);
@@ -98,7 +99,8 @@ private slots:
         QCOMPARE(game->scoreLabel()->text(), QString("Score: %1").arg(firstPoints));
         QCOMPARE(fx.sound.played.last(), QString("freeze-right.wav"));
         QVERIFY(TriggerMenu(game, "mnuSayIt"));  // answered, the word itself may be heard
-        QCOMPARE(voice.said.value(0).text, QString::fromStdString(first));
+        QCOMPARE(voice.said.value(0).text + " | " + voice.said.value(1).text,
+                 QString::fromStdString(s.TheMeaning + " | " + first));
 
         // The second word melts away: no points, and the word is shown.
         QVERIFY(UntilThawing(game));

@@ -110,6 +110,7 @@ private slots:
         }
         QCOMPARE(road.sound.played.last(), QString("slot-win.wav"));
         QCOMPARE(game->scene()->bannerText(), QString("All ten! You have 405 coins!"));
+        WM_CHECK_LOOK("Slot_Machine_won", game);  // the coins fly to the purse
         Pump(2700);
         QVERIFY(road.win.tables.isEmpty());
         Pump(200);
