@@ -1,10 +1,8 @@
-// Helpers for the letter-guessing screens: play a clip to its end on demand, type a word.
+// Helpers for the letter-guessing screens: play a clip to its end on demand.
 #pragma once
 
-#include <QtTest>
-
-#include "game_road.h"
 #include "platform/movie.h"
+#include "screen_kit.h"
 
 namespace wm::test {
 
@@ -28,10 +26,6 @@ inline int FinishClips(QWidget* screen, QStringList players = {"MovieBoxFront", 
         if (!any) break;
     }
     return ended;
-}
-
-inline void Keys(QWidget* game, const QString& keys) {
-    for (QChar c : keys) QTest::keyClick(game, c.toLatin1());
 }
 
 }  // namespace wm::test

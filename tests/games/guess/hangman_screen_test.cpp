@@ -1,24 +1,11 @@
 // HangMan on its screen: the wait before the first key, misses played as chained clips with
 // keys held meanwhile, the hint's cost, a win into the table with the raise offer, a loss at
 // the sixth miss of the hardest level, Solve, the palette, and the music gated by sound.
-#include <QtTest>
 
-#include "core/score_table.h"
-#include "games/guess/hangman/hangman_rules.h"
 #include "games/guess/hangman/hangman_screen.h"
-#include "game_start.h"
+#include "games/guess/hangman/hangman_rules.h"
 #include "guess_road.h"
-
-using namespace wm;
-using namespace wm::test;
-
-class HangManScreenTest : public QObject {
-    Q_OBJECT
-private slots:
-    void winThenLoseAtTheHardestLevel();
-    void solveAndThePalette();
-    void silentWithoutSound();
-};
+#include "screen_kit.h"
 
 namespace {
 QString boxes(GuessScreen* game) {
@@ -29,111 +16,106 @@ QString boxes(GuessScreen* game) {
     }
     return out;
 }
-QString used(QWidget* game) {
-    return LabelText(game, "Label2");
-}
 }  // namespace
 
-void HangManScreenTest::winThenLoseAtTheHardestLevel() {
-    ShellFixture fx;
-    WriteOneList(fx, "Treats", {{"ice-cream", "a cold treat"}});
-    WinDriver driver({"ASS"});
-    SetModalHook(std::ref(driver));
-    auto* game = qobject_cast<HangMan*>(PlayFromTitle("HangMan", "Treats", 2));
-    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
-    Shared().SoundOn = kTrue;
-    // "Please Wait..." holds the keys until the first tick of a round.
-    QVERIFY(TriggerMenu(game, "RS"));
-    QVERIFY(game->waiting());
-    Keys(game, "i");
-    QCOMPARE(used(game), "");
-    Pump(20);
-    QVERIFY(!game->waiting());
-    QVERIFY(fx.music.opened.endsWith("sounds/hangman.mid"));
-    QCOMPARE(boxes(game), "...-.....");
-    // The stake: Int(0.5 * 1000 + 1) x difficulty 2 x 9 letters.
-    QCOMPARE(Shared().Score, 501.0 * 2 * 9);
+class HangManScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void winThenLoseAtTheHardestLevel() {
+        Road fx(0, {"ASS"});
+        WriteOneList(fx, "Treats", {{"ice-cream", "a cold treat"}});
+        auto* game = qobject_cast<HangMan*>(PlayFromTitle("HangMan", "Treats", 2));
+        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        Shared().SoundOn = kTrue;
+        // "Please Wait..." holds the keys until the first tick of a round.
+        QVERIFY(TriggerMenu(game, "RS"));
+        QVERIFY(game->waiting());
+        Keys(game, "i");
+        QCOMPARE(LabelText(game, "Label2"), "");
+        Pump(20);
+        QVERIFY(!game->waiting());
+        QVERIFY(fx.music.opened.endsWith("sounds/hangman.mid"));
+        QCOMPARE(boxes(game), "...-.....");
+        // The stake: Int(0.5 * 1000 + 1) x difficulty 2 x 9 letters.
+        QCOMPARE(Shared().Score, 501.0 * 2 * 9);
 
-    // A miss at level 2 plays hang1 then hang2; keys typed meanwhile are lost.
-    Keys(game, "x");
-    QVERIFY(game->movie()->isVisible() && game->movie()->isPlaying());
-    Keys(game, "i");
-    QCOMPARE(used(game), "x ");
-    QCOMPARE(FinishClips(game), 2);
-    Keys(game, "X-");  // a repeat costs nothing; the hyphen stands already, so it is a miss
-    QCOMPARE(game->round().Misses, 2);
-    FinishClips(game);
-
-    game->hintButton()->click();
-    QVERIFY(fx.dialogs.saw("Definition: \"a cold treat\""));
-    QCOMPARE(Shared().Score, 9018.0 - 4510);
-
-    fx.dialogs.answerYes(true).answerYes(true);  // try again, and raise the level
-    Keys(game, "IceRAm");
-    QCOMPARE(boxes(game), "ice-cream");
-    QVERIFY(game->movie()->isPlaying());  // the win clip, waited for
-    QCOMPARE(driver.congratulations.size(), 0);
-    FinishClips(game);
-    QVERIFY(fx.dialogs.saw("You got a high score of 4508! Would you like to try again?"));
-    QVERIFY(fx.dialogs.saw("Would you like to raise the difficulty level a bit?"));
-    QCOMPARE(TableRow(fx, "HangMan"), "WIN 4508");
-
-    // Level 3: the sixth miss ends the round.
-    QCOMPARE(Shared().Difficulty, 3);
-    Pump(20);
-    fx.dialogs.answerYes(false);
-    for (char c : QByteArray("zqwkjv")) {
-        Keys(game, QString(QChar(c)));
-        if (c == 'v') QVERIFY(fx.dialogs.last().startsWith("Would you like to raise"));
+        // A miss at level 2 plays hang1 then hang2; keys typed meanwhile are lost.
+        Keys(game, "x");
+        QVERIFY(game->movie()->isVisible() && game->movie()->isPlaying());
+        Keys(game, "i");
+        QCOMPARE(LabelText(game, "Label2"), "x ");
+        QCOMPARE(FinishClips(game), 2);
+        Keys(game, "X-");  // a repeat costs nothing; the hyphen stands already, so it is a miss
+        QCOMPARE(game->round().Misses, 2);
         FinishClips(game);
+
+        game->hintButton()->click();
+        QVERIFY(fx.dialogs.saw("Definition: \"a cold treat\""));
+        QCOMPARE(Shared().Score, 9018.0 - 4510);
+
+        fx.dialogs.answerYes(true).answerYes(true);  // try again, and raise the level
+        Keys(game, "IceRAm");
+        QCOMPARE(boxes(game), "ice-cream");
+        QVERIFY(game->movie()->isPlaying());  // the win clip, waited for
+        QCOMPARE(fx.win.congratulations.size(), 0);
+        FinishClips(game);
+        WM_VERIFY(WonBox(fx, 4508));
+        QVERIFY(fx.dialogs.saw("Would you like to raise the difficulty level a bit?"));
+        QCOMPARE(TableRow(fx, "HangMan"), "WIN 4508");
+
+        // Level 3: the sixth miss ends the round.
+        QCOMPARE(Shared().Difficulty, 3);
+        Pump(20);
+        fx.dialogs.answerYes(false);
+        for (char c : QByteArray("zqwkjv")) {
+            Keys(game, QString(QChar(c)));
+            if (c == 'v') QVERIFY(fx.dialogs.last().startsWith("Would you like to raise"));
+            FinishClips(game);
+        }
+        WM_VERIFY(Box(fx,
+                      "Oops! Your guy was hanged! The word you were looking for was \"ice-cream\". "
+                      "Would you like to give it another try?",
+                      "Try Again?"));
+        QVERIFY(BackAtTitle());
+        QVERIFY(fx.music.closes > 0);
     }
-    QVERIFY(fx.dialogs.saw(
-        "Oops! Your guy was hanged! The word you were looking for was \"ice-cream\". Would you "
-        "like to give it another try?"));
-    QCOMPARE(fx.dialogs.shown.back().title, "Try Again?");
-    Pump();
-    QVERIFY(Showing<Title>());
-    QVERIFY(fx.music.closes > 0);
-}
 
-void HangManScreenTest::solveAndThePalette() {
-    ShellFixture fx;
-    WinDriver driver;
-    SetModalHook(PaletteThen(0xC9, driver));  // the capital: case does not matter
-    auto* game = OpenGame<HangMan>(fx, "HangMan", {{"caf\xE9 noir", "black coffee"}}, 1);
-    QVERIFY(game);
-    Pump(20);
-    QCOMPARE(boxes(game), "...._....");
-    QVERIFY(TriggerMenu(game, "FLang"));
-    QCOMPARE(QString::fromStdString(Shared().CurrentGame).toLower(), "hangman");
-    QCOMPARE(boxes(game), "...\u00e9_....");
-    // A wrong whole word is a miss; cancelling is nothing; a blank inside must match.
-    fx.dialogs.answerInput(QString("cafe noir")).answerInput(std::nullopt);
-    game->solveButton()->click();
-    QCOMPARE(game->round().Misses, 1);
-    FinishClips(game);
-    game->solveButton()->click();
-    QCOMPARE(game->round().Misses, 1);
-    fx.dialogs.answerInput(QString("  CAF\u00c9 NOIR ")).answerYes(false);
-    game->solveButton()->click();
-    QCOMPARE(boxes(game), "caf\u00e9_noir");
-    FinishClips(game);
-    QVERIFY(fx.dialogs.last().startsWith("You got a high score of "));
-    Pump();
-    QVERIFY(Showing<Title>());
-}
+    void solveAndThePalette() {
+        Road fx(0);
+        SetModalHook(PaletteThen(0xC9, fx.win));  // the capital: case does not matter
+        auto* game = OpenGame<HangMan>(fx, "HangMan", {{"caf\xE9 noir", "black coffee"}}, 1);
+        QVERIFY(game);
+        Pump(20);
+        QCOMPARE(boxes(game), "...._....");
+        QVERIFY(TriggerMenu(game, "FLang"));
+        QCOMPARE(QString::fromStdString(Shared().CurrentGame).toLower(), "hangman");
+        QCOMPARE(boxes(game), "...\u00e9_....");
+        // A wrong whole word is a miss; cancelling is nothing; a blank inside must match.
+        fx.dialogs.answerInput(QString("cafe noir")).answerInput(std::nullopt);
+        game->solveButton()->click();
+        QCOMPARE(game->round().Misses, 1);
+        FinishClips(game);
+        game->solveButton()->click();
+        QCOMPARE(game->round().Misses, 1);
+        fx.dialogs.answerInput(QString("  CAF\u00c9 NOIR ")).answerYes(false);
+        game->solveButton()->click();
+        QCOMPARE(boxes(game), "caf\u00e9_noir");
+        FinishClips(game);
+        QVERIFY(fx.dialogs.last().startsWith("You got a high score of "));
+        QVERIFY(BackAtTitle());
+    }
 
-void HangManScreenTest::silentWithoutSound() {
-    ShellFixture fx;
-    auto* game = OpenGame<HangMan>(fx, "HangMan", {{"owl", "hoots"}}, 1, false, false);
-    QVERIFY(game);
-    Pump(20);
-    QVERIFY(fx.music.opened.isEmpty());
-    // Escape leaves for the title.
-    QTest::keyClick(game, Qt::Key_Escape);
-    Pump();
-    QVERIFY(Showing<Title>());
-}
+    void silentWithoutSound() {
+        ShellFixture fx;
+        auto* game = OpenGame<HangMan>(fx, "HangMan", {{"owl", "hoots"}}, 1, false, false);
+        QVERIFY(game);
+        Pump(20);
+        QVERIFY(fx.music.opened.isEmpty());
+        // Escape leaves for the title.
+        QTest::keyClick(game, Qt::Key_Escape);
+        QVERIFY(BackAtTitle());
+    }
+};
 
 QTEST_MAIN(HangManScreenTest)
 #include "hangman_screen_test.moc"

@@ -1,21 +1,8 @@
 // Princess on its screen, on the test clock: the road from the title through two words to the
 // table and back, clicking and typing; the dragon woken by the eighth splash with the word
 // shown and a new game; the clue, silence and a list it cannot play.
-#include <QtTest>
-
-#include "game_start.h"
 #include "games/guess/princess/princess_screen.h"
-
-using namespace wm;
-using namespace wm::test;
-
-class PrincessScreenTest : public QObject {
-    Q_OBJECT
-private slots:
-    void twoWordsFromTheTitleToTheTable();
-    void theEighthSplashWakesTheDragon();
-    void clueSilenceAndAListItCannotPlay();
-};
+#include "screen_kit.h"
 
 namespace {
 // Clicks the first stone still in the water that carries `letter`, where the pupil sees it.
@@ -37,140 +24,132 @@ QString Hud(QWidget* game) {
 }
 }  // namespace
 
-void PrincessScreenTest::twoWordsFromTheTitleToTheTable() {
-    ShellFixture fx;
-    WriteOneList(
-        fx, "Castle",
-        {{"owl", "it hoots"}, {"moat", "water round a castle"}, {"king", "he wears a crown"}});
-    fx.rng.pick(1, 3);
-    WinDriver driver;
-    SetModalHook(std::ref(driver));
-    auto* game = qobject_cast<frmPrincess*>(PlayFromTitle("Princess", "Castle", 2));
-    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
-    QVERIFY(fx.music.opened.endsWith("sounds/princess.mid"));
-    QCOMPARE(LabelText(game, "ReadyLabel"), "Get ready!");
-    Click(game, 'w');  // the stones wait for the pause
-    QCOMPARE(game->game().splashes(), 0);
-    Ready(game, 1650);
-    QCOMPARE(Hud(game), "Word 1 of 2 | Score: 0 | Splashes: 0 of 8");
-    QCOMPARE(LabelText(game, "MeaningLabel"), "Meaning: it hoots");  // the option is on
-
-    // A wrong stone splashes and stirs the dragon; right ones rise in the word's order.
-    Click(game, 'w');
-    QCOMPARE(fx.sound.played.last(), "pr-splash.wav");
-    QCOMPARE(Hud(game), "Word 1 of 2 | Score: 0 | Splashes: 1 of 8");
-    Pump();
-    QVERIFY(game->view().stir > 0.9);
-    Click(game, 'o');
-    QCOMPARE(fx.sound.played.last(), "pr-step.wav");
-    QTest::mouseClick(game, Qt::LeftButton, {}, QPoint(5, 780));  // beside the stones: nothing
-    QCOMPARE(game->game().splashes(), 1);
-    Click(game, 'w');
-    Pump(200);
-    Shot(game, "princess-1280");
-    Click(game, 'l');
-    QCOMPARE(fx.sound.played.last(), "pr-bridge.wav");
-    QCOMPARE(game->phase(), frmPrincess::Phase::Spelled);
-    QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 30");  // a splash: no bonus
-    // The bridge comes down half way once the last plank is laid.
-    Pump(450);
-    QCOMPARE(game->view().bridge, 0.0);
-    Pump(1300);
-    QCOMPARE(game->view().bridge, 0.5);
-    fx.rng.pick(2, 3);
-    Pump(100);
-    QCOMPARE(LabelText(game, "ReadyLabel"), "Word 2 of 2");
-    QTest::keyClicks(game, "m");
-    QCOMPARE(game->game().nextPosition(), 0);
-    Ready(game, 1000);
-
-    // Typed letters pick stones too, any case; a clean word earns the bonus.
-    QTest::keyClicks(game, "MOAT");
-    QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 120");  // + 4 x 10 + 50
-    QCOMPARE(game->phase(), frmPrincess::Phase::Spelled);
-    fx.dialogs.answerYes(false);
-    Pump(1820);
-    QCOMPARE(fx.sound.played.last(), "pr-win.wav");
-    QCOMPARE(game->phase(), frmPrincess::Phase::Crossing);
-    Pump(1900);
-    Shot(game, "princess-crossing");
-    Pump(2000);
-    QVERIFY(driver.congratulations.isEmpty());  // she is still on her way in
-    Pump(200);
-    QVERIFY(fx.dialogs.saw("You got a high score of 120! Would you like to try again?"));
-    QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
-    QCOMPARE(TableRow(fx, "Princess"), "ZZZ 120");
-    Pump();
-    QVERIFY(Showing<Title>());
-}
-
-void PrincessScreenTest::theEighthSplashWakesTheDragon() {
-    ShellFixture fx;
-    auto* game = OpenGame<frmPrincess>(fx, "Princess", {{"owl", "it hoots at night"}}, 15, true);
-    QVERIFY(game);
-    game->resize(1920, 1080);
-    Ready(game, 1650);
-    QCOMPARE(LabelText(game, "MeaningLabel"), "Meaning: it hoots at night");
-    Click(game, 'o');
-    for (int i = 0; i < 7; ++i) Click(game, 'l');
-    QCOMPARE(Hud(game), "Word 1 of 15 | Score: 0 | Splashes: 7 of 8");
-    QCOMPARE(game->phase(), frmPrincess::Phase::Play);
-    fx.dialogs.answerYes(true);
-    Click(game, 'l');
-    QCOMPARE(fx.sound.played.last(), "pr-roar.wav");
-    QCOMPARE(game->phase(), frmPrincess::Phase::Woken);
-    Pump();
-    QVERIFY(game->view().reveal);
-    Click(game, 'w');
-    QCOMPARE(game->game().nextPosition(), 1);
-    Pump(1500);
-    Shot(game, "princess-woken-1920");
-    Pump(1400);
-    QVERIFY(fx.dialogs.shown.empty());
-    Pump(100);
-    QVERIFY(fx.dialogs.saw("The dragon woke up! The word was owl. Would you like to try again?"));
-    QCOMPARE(fx.dialogs.shown.back().title, "Try Again?");
-    // Yes: a new game from nothing.
-    QCOMPARE(game->phase(), frmPrincess::Phase::Arrive);
-    QCOMPARE(Hud(game), "Word 1 of 15 | Score: 0 | Splashes: 0 of 8");
-    QCOMPARE(game->view().bridge, 0.0);
-    QTest::keyClick(game, Qt::Key_Escape);
-    Pump();
-    QVERIFY(Showing<Title>());
-}
-
-void PrincessScreenTest::clueSilenceAndAListItCannotPlay() {
-    struct Row {
-        bool option, sound, wordsOnly;
-        const char* meaning;
-        const char* woken;  // once the dragon wakes, a list's meaning is shown
-    } rows[] = {{true, false, true, "Click the stones in the right order to spell the word!",
-                 "Click the stones in the right order to spell the word!"},
-                {false, false, false, "Click the stones in the right order to spell the word!",
-                 "Meaning: a strong animal"}};
-    for (const Row& r : rows) {
-        ShellFixture fx;
-        auto* game = OpenGame<frmPrincess>(fx, "Princess", {{"ox", "a strong animal"}}, 5, r.option,
-                                           r.sound, r.wordsOnly);
-        QVERIFY(game);
+class PrincessScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void twoWordsFromTheTitleToTheTable() {
+        Road fx(0);
+        WriteOneList(
+            fx, "Castle",
+            {{"owl", "it hoots"}, {"moat", "water round a castle"}, {"king", "he wears a crown"}});
+        fx.rng.pick(1, 3);
+        auto* game = qobject_cast<frmPrincess*>(PlayFromTitle("Princess", "Castle", 2));
+        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        QVERIFY(fx.music.opened.endsWith("sounds/princess.mid"));
+        QCOMPARE(LabelText(game, "ReadyLabel"), "Get ready!");
+        Click(game, 'w');  // the stones wait for the pause
+        QCOMPARE(game->game().splashes(), 0);
         Ready(game, 1650);
-        QCOMPARE(LabelText(game, "MeaningLabel"), r.meaning);
-        Click(game, 'x');
+        QCOMPARE(Hud(game), "Word 1 of 2 | Score: 0 | Splashes: 0 of 8");
+        QCOMPARE(LabelText(game, "MeaningLabel"), "Meaning: it hoots");  // the option is on
+
+        // A wrong stone splashes and stirs the dragon; right ones rise in the word's order.
+        Click(game, 'w');
+        QCOMPARE(fx.sound.played.last(), "pr-splash.wav");
+        QCOMPARE(Hud(game), "Word 1 of 2 | Score: 0 | Splashes: 1 of 8");
+        Pump();
+        QVERIFY(game->view().stir > 0.9);
+        Click(game, 'o');
+        QCOMPARE(fx.sound.played.last(), "pr-step.wav");
+        QTest::mouseClick(game, Qt::LeftButton, {}, QPoint(5, 780));  // beside the stones: nothing
         QCOMPARE(game->game().splashes(), 1);
-        for (int i = 0; i < 7; ++i) Click(game, 'x');  // no splash nor roar is heard
-        QCOMPARE(game->phase(), frmPrincess::Phase::Woken);
-        QCOMPARE(LabelText(game, "MeaningLabel"), r.woken);
-        QVERIFY(fx.sound.played.isEmpty());
+        Click(game, 'w');
+        Pump(200);
+        Click(game, 'l');
+        QCOMPARE(fx.sound.played.last(), "pr-bridge.wav");
+        QCOMPARE(game->phase(), frmPrincess::Phase::Spelled);
+        QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 30");  // a splash: no bonus
+        // The bridge comes down half way once the last plank is laid.
+        Pump(450);
+        QCOMPARE(game->view().bridge, 0.0);
+        Pump(1300);
+        QCOMPARE(game->view().bridge, 0.5);
+        fx.rng.pick(2, 3);
+        Pump(100);
+        QCOMPARE(LabelText(game, "ReadyLabel"), "Word 2 of 2");
+        QTest::keyClicks(game, "m");
+        QCOMPARE(game->game().nextPosition(), 0);
+        Ready(game, 1000);
+
+        // Typed letters pick stones too, any case; a clean word earns the bonus.
+        QTest::keyClicks(game, "MOAT");
+        QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 120");  // + 4 x 10 + 50
+        QCOMPARE(game->phase(), frmPrincess::Phase::Spelled);
+        fx.dialogs.answerYes(false);
+        Pump(1820);
+        QCOMPARE(fx.sound.played.last(), "pr-win.wav");
+        QCOMPARE(game->phase(), frmPrincess::Phase::Crossing);
+        Pump(3900);
+        QVERIFY(fx.win.congratulations.isEmpty());  // she is still on her way in
+        Pump(200);
+        WM_VERIFY(WonBox(fx, 120));
+        QCOMPARE(TableRow(fx, "Princess"), "ZZZ 120");
+        QVERIFY(BackAtTitle());
     }
-    ShellFixture fx;
-    OpenGame<QWidget>(fx, "Princess",
-                      {{std::string(25, 'a'), "far too long"}, {"- -", "nothing to spell"}}, 4);
-    Pump();
-    QVERIFY(
-        fx.dialogs.saw("This list has no word that Princess can use (the words are empty "
-                       "or too long). Please choose another list."));
-    QVERIFY(Showing<Title>());
-}
+
+    void theEighthSplashWakesTheDragon() {
+        ShellFixture fx;
+        auto* game =
+            OpenGame<frmPrincess>(fx, "Princess", {{"owl", "it hoots at night"}}, 15, true);
+        QVERIFY(game);
+        game->resize(1920, 1080);
+        Ready(game, 1650);
+        QCOMPARE(LabelText(game, "MeaningLabel"), "Meaning: it hoots at night");
+        Click(game, 'o');
+        for (int i = 0; i < 7; ++i) Click(game, 'l');
+        QCOMPARE(Hud(game), "Word 1 of 15 | Score: 0 | Splashes: 7 of 8");
+        QCOMPARE(game->phase(), frmPrincess::Phase::Play);
+        fx.dialogs.answerYes(true);
+        Click(game, 'l');
+        QCOMPARE(fx.sound.played.last(), "pr-roar.wav");
+        QCOMPARE(game->phase(), frmPrincess::Phase::Woken);
+        Pump();
+        QVERIFY(game->view().reveal);
+        Click(game, 'w');
+        QCOMPARE(game->game().nextPosition(), 1);
+        Pump(2900);
+        QVERIFY(fx.dialogs.shown.empty());
+        Pump(100);
+        WM_VERIFY(Box(fx, "The dragon woke up! The word was owl. Would you like to try again?",
+                      "Try Again?"));
+        // Yes: a new game from nothing.
+        QCOMPARE(game->phase(), frmPrincess::Phase::Arrive);
+        QCOMPARE(Hud(game), "Word 1 of 15 | Score: 0 | Splashes: 0 of 8");
+        QCOMPARE(game->view().bridge, 0.0);
+        QTest::keyClick(game, Qt::Key_Escape);
+        QVERIFY(BackAtTitle());
+    }
+
+    void clueSilenceAndAListItCannotPlay() {
+        struct Row {
+            bool option, sound, wordsOnly;
+            const char* meaning;
+            const char* woken;  // once the dragon wakes, a list's meaning is shown
+        } rows[] = {{true, false, true, "Click the stones in the right order to spell the word!",
+                     "Click the stones in the right order to spell the word!"},
+                    {false, false, false, "Click the stones in the right order to spell the word!",
+                     "Meaning: a strong animal"}};
+        for (const Row& r : rows) {
+            ShellFixture fx;
+            auto* game = OpenGame<frmPrincess>(fx, "Princess", {{"ox", "a strong animal"}}, 5,
+                                               r.option, r.sound, r.wordsOnly);
+            QVERIFY(game);
+            Ready(game, 1650);
+            QCOMPARE(LabelText(game, "MeaningLabel"), r.meaning);
+            Click(game, 'x');
+            QCOMPARE(game->game().splashes(), 1);
+            for (int i = 0; i < 7; ++i) Click(game, 'x');  // no splash nor roar is heard
+            QCOMPARE(game->phase(), frmPrincess::Phase::Woken);
+            QCOMPARE(LabelText(game, "MeaningLabel"), r.woken);
+            QVERIFY(fx.sound.played.isEmpty());
+        }
+        ShellFixture fx;
+        WM_VERIFY(Refused(fx, "Princess",
+                          {{std::string(25, 'a'), "far too long"}, {"- -", "nothing to spell"}}, 4,
+                          "This list has no word that Princess can use (the words are empty or too "
+                          "long). Please choose another list."));
+    }
+};
 
 QTEST_MAIN(PrincessScreenTest)
 #include "princess_screen_test.moc"

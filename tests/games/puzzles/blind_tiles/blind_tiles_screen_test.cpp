@@ -1,16 +1,12 @@
 // Blind Tiles on its screen: the road from the title to a win, the table and another round; the
 // same word twice in the list, another list word typed into a slot, Give Answer down to a
 // negative score.
-#include <QtTest>
 
+#include "games/puzzles/blind_tiles/blind_tiles_screen.h"
 #include "core/strings.h"
 #include "cross_road.h"
-#include "road_kit.h"
-#include "games/puzzles/blind_tiles/blind_tiles_screen.h"
 #include "platform/text.h"
-
-using namespace wm;
-using namespace wm::test;
+#include "screen_kit.h"
 
 namespace {
 
@@ -38,7 +34,7 @@ bool EntryYellow(const QLabel* l) {
 
 BlindTilesForm* OpenBlindTiles(ShellFixture& fx, const std::vector<std::string>& words,
                                int difficulty, bool soundOn) {
-    std::vector<std::pair<std::string, std::string>> pairs;
+    Pairs pairs;
     for (const auto& w : words) pairs.push_back({w, ""});
     WriteOneList(fx, "Tiles", pairs, true);
     auto* chooser = ChooserFor("Blind Tiles", difficulty, false, soundOn);
@@ -52,106 +48,102 @@ BlindTilesForm* OpenBlindTiles(ShellFixture& fx, const std::vector<std::string>&
 class BlindTilesScreenTest : public QObject {
     Q_OBJECT
 private slots:
-    void roadToAWinTheTableAndAnotherRound();
-    void twinWordsWrongSlotAndGiveAnswerToANegativeScore();
-};
-
-void BlindTilesScreenTest::roadToAWinTheTableAndAnotherRound() {
-    Road fx(21);
-    fx.dialogs.answerYes(true).answerYes(true);  // try again, a bit harder
-    auto* game = OpenBlindTiles(
-        fx, {"silver", "river", "listen", "stream", "valley", "forest", "island", "meadow"}, 5,
-        true);
-    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
-    SharedState& s = Shared();
-    QCOMPARE(fx.music.opened, appFile("sounds/vivaldi.mid"));
-    QCOMPARE(game->findChild<QLabel*>("Label2")->text(), "Score: 0");
-    const auto words = PlacedWords(game->state().board);
-    QCOMPARE(int(words.size()), int(s.PuzzleWordCount));
-    // The panel lists the words in the order they were placed, all pink.
-    const QStringList entries = ShownEntries(game);
-    QCOMPARE(entries.size(), int(words.size()));
-    for (int i = 0; i < entries.size(); ++i) {
-        QCOMPARE(entries[i], toQ(s.Words[game->state().PlaceWord[i + 1]]));
-        QVERIFY(!EntryYellow(game->clueLabels()[i]));
-    }
-
-    auto* command1 = game->findChild<QPushButton*>("Command1");
-    int expected = 0;
-    for (std::size_t n = 0; n < words.size(); ++n) {
-        QVERIFY(SelectWord(game, words[n]));
-        QVERIFY(command1->isVisible());
-        const std::string& word = s.Words[words[n].index];
-        QTest::keyClicks(game, toQ(word));
-        expected += 100 * int(word.size());
-        if (n + 1 < words.size()) {
-            QCOMPARE(s.Score, double(expected));  // 100 a letter, no draw
-            QCOMPARE(game->findChild<QLabel*>("Label2")->text(),
-                     "Score: " + QString::number(expected));
-            QVERIFY(EntryYellow(game->clueLabels()[entries.indexOf(toQ(word))]));
-            Pump(16 * 12);
+    void roadToAWinTheTableAndAnotherRound() {
+        Road fx(21);
+        fx.dialogs.answerYes(true).answerYes(true);  // try again, a bit harder
+        auto* game = OpenBlindTiles(
+            fx, {"silver", "river", "listen", "stream", "valley", "forest", "island", "meadow"}, 5,
+            true);
+        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        SharedState& s = Shared();
+        QCOMPARE(fx.music.opened, appFile("sounds/vivaldi.mid"));
+        QCOMPARE(game->findChild<QLabel*>("Label2")->text(), "Score: 0");
+        const auto words = PlacedWords(game->state().board);
+        QCOMPARE(int(words.size()), int(s.PuzzleWordCount));
+        // The panel lists the words in the order they were placed, all pink.
+        const QStringList entries = ShownEntries(game);
+        QCOMPARE(entries.size(), int(words.size()));
+        for (int i = 0; i < entries.size(); ++i) {
+            QCOMPARE(entries[i], toQ(s.Words[game->state().PlaceWord[i + 1]]));
+            QVERIFY(!EntryYellow(game->clueLabels()[i]));
         }
+
+        auto* command1 = game->findChild<QPushButton*>("Command1");
+        int expected = 0;
+        for (std::size_t n = 0; n < words.size(); ++n) {
+            QVERIFY(SelectWord(game, words[n]));
+            QVERIFY(command1->isVisible());
+            const std::string& word = s.Words[words[n].index];
+            QTest::keyClicks(game, toQ(word));
+            expected += 100 * int(word.size());
+            if (n + 1 < words.size()) {
+                QCOMPARE(s.Score, double(expected));  // 100 a letter, no draw
+                QCOMPARE(game->findChild<QLabel*>("Label2")->text(),
+                         "Score: " + QString::number(expected));
+                QVERIFY(EntryYellow(game->clueLabels()[entries.indexOf(toQ(word))]));
+                Pump(16 * 12);
+            }
+        }
+        QCOMPARE(fx.sound.played.count("gong.wav"), int(words.size()));
+        QVERIFY(fx.sound.played.contains("cheer.wav"));
+        QCOMPARE(fx.win.tables.size(), 1);
+        QVERIFY(fx.win.tables[0].contains("ZZZ"));
+        WM_VERIFY(WonBox(fx, expected));
+        // Yes, and Yes to a harder game: the next round is laid out at once.
+        QCOMPARE(Showing<BlindTilesForm>(), game);
+        QCOMPARE(int(s.Difficulty), 6);
+        QCOMPARE(s.Score, 0.0);
+        QVERIFY(!PlacedWords(game->state().board).empty());
+        QVERIFY(!EntryYellow(game->clueLabels()[0]));
+        QCOMPARE(fx.music.plays, 1);
+        QVERIFY(TriggerMenu(game, "Return"));
+        QVERIFY(Showing<Title>());
+        QCOMPARE(fx.music.closes, 1);
     }
-    QCOMPARE(fx.sound.played.count("gong.wav"), int(words.size()));
-    QVERIFY(fx.sound.played.contains("cheer.wav"));
-    QCOMPARE(fx.win.tables.size(), 1);
-    QVERIFY(fx.win.tables[0].contains("ZZZ"));
-    QVERIFY(fx.dialogs.saw("You got a high score of " + QString::number(expected) +
-                           "! Would you like to try again?"));
-    // Yes, and Yes to a harder game: the next round is laid out at once.
-    QCOMPARE(Showing<BlindTilesForm>(), game);
-    QCOMPARE(int(s.Difficulty), 6);
-    QCOMPARE(s.Score, 0.0);
-    QVERIFY(!PlacedWords(game->state().board).empty());
-    QVERIFY(!EntryYellow(game->clueLabels()[0]));
-    QCOMPARE(fx.music.plays, 1);
-    QVERIFY(TriggerMenu(game, "Return"));
-    QVERIFY(Showing<Title>());
-    QCOMPARE(fx.music.closes, 1);
-}
 
-void BlindTilesScreenTest::twinWordsWrongSlotAndGiveAnswerToANegativeScore() {
-    Road fx(4);
-    // Anagrams cross anywhere, so all five entries are placed, the twin "garden" twice.
-    auto* game = OpenBlindTiles(fx, {"garden", "garden", "danger", "ranged", "gander"}, 5, true);
-    QVERIFY(game);
-    SharedState& s = Shared();
-    QCOMPARE(int(s.PuzzleWordCount), 5);
-    QCOMPARE(ShownEntries(game).count("garden"), 2);
-    auto words = PlacedWords(game->state().board);
-    QCOMPARE(int(words.size()), 5);
+    void twinWordsWrongSlotAndGiveAnswerToANegativeScore() {
+        Road fx(4);
+        // Anagrams cross anywhere, so all five entries are placed, the twin "garden" twice.
+        auto* game =
+            OpenBlindTiles(fx, {"garden", "garden", "danger", "ranged", "gander"}, 5, true);
+        QVERIFY(game);
+        SharedState& s = Shared();
+        QCOMPARE(int(s.PuzzleWordCount), 5);
+        QCOMPARE(ShownEntries(game).count("garden"), 2);
+        auto words = PlacedWords(game->state().board);
+        QCOMPARE(int(words.size()), 5);
 
-    // Another word of the list typed into a slot is wrong: the pink goes, nothing is solved.
-    const auto gardenAt = std::find_if(words.begin(), words.end(), [&](const WordPlace& w) {
-        return s.Words[w.index] == "garden";
-    });
-    QVERIFY(SelectWord(game, *gardenAt));
-    QTest::keyClicks(game, "danger");
-    QCOMPARE(int(s.PuzzleWordCount), 5);
-    QCOMPARE(game->state().board.colour[gardenAt->cell], cross::TileColour::White);
-    for (int k = 0; k < 6; ++k) QTest::keyClick(game, Qt::Key_Backspace);
-    QTest::keyClicks(game, "garden");
-    // Both twin entries turn yellow; the count still wants the other slot.
-    QCOMPARE(int(s.PuzzleWordCount), 4);
-    for (auto* l : game->clueLabels())
-        if (l->isVisible() && l->text() == "garden") QVERIFY(EntryYellow(l));
-    QCOMPARE(s.Score, 600.0);
-    words.erase(gardenAt);
+        // Another word of the list typed into a slot is wrong: the pink goes, nothing is solved.
+        const auto gardenAt = std::find_if(words.begin(), words.end(), [&](const WordPlace& w) {
+            return s.Words[w.index] == "garden";
+        });
+        QVERIFY(SelectWord(game, *gardenAt));
+        QTest::keyClicks(game, "danger");
+        QCOMPARE(int(s.PuzzleWordCount), 5);
+        QCOMPARE(game->state().board.colour[gardenAt->cell], cross::TileColour::White);
+        for (int k = 0; k < 6; ++k) QTest::keyClick(game, Qt::Key_Backspace);
+        QTest::keyClicks(game, "garden");
+        // Both twin entries turn yellow; the count still wants the other slot.
+        QCOMPARE(int(s.PuzzleWordCount), 4);
+        for (auto* l : game->clueLabels())
+            if (l->isVisible() && l->text() == "garden") QVERIFY(EntryYellow(l));
+        QCOMPARE(s.Score, 600.0);
+        words.erase(gardenAt);
 
-    fx.sound.played.clear();
-    auto* command1 = game->findChild<QPushButton*>("Command1");
-    for (const auto& w : words) {
-        QVERIFY(SelectWord(game, w));
-        QTest::mouseClick(command1, Qt::LeftButton);
+        fx.sound.played.clear();
+        auto* command1 = game->findChild<QPushButton*>("Command1");
+        for (const auto& w : words) {
+            QVERIFY(SelectWord(game, w));
+            QTest::mouseClick(command1, Qt::LeftButton);
+        }
+        // Exactly 1000 a word, and no sound for a given answer.
+        QCOMPARE(s.Score, 600.0 - 4000.0);
+        QCOMPARE(fx.sound.played, QStringList{"ooh.wav"});
+        WM_VERIFY(Box(fx, "Oops! You had a negative score! Maybe you will do better next time...",
+                      "You lose!"));
+        QVERIFY(Showing<Title>());
     }
-    // Exactly 1000 a word, and no sound for a given answer.
-    QCOMPARE(s.Score, 600.0 - 4000.0);
-    QCOMPARE(fx.sound.played, QStringList{"ooh.wav"});
-    QVERIFY(
-        fx.dialogs.saw("Oops! You had a negative score! Maybe you will do better next time..."));
-    QCOMPARE(fx.dialogs.shown.back().title, "You lose!");
-    QVERIFY(Showing<Title>());
-}
+};
 
 QTEST_MAIN(BlindTilesScreenTest)
 #include "blind_tiles_screen_test.moc"

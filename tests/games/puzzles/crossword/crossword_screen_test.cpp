@@ -1,27 +1,19 @@
 // Crossword on its screen: the road to a win and the table; the road to a negative score through
 // Give Answer, with the key guard on its button.
-#include <QtTest>
 
+#include "games/puzzles/crossword/crossword_screen.h"
 #include "core/strings.h"
 #include "cross_road.h"
-#include "road_kit.h"
-#include "games/puzzles/crossword/crossword_screen.h"
 #include "platform/text.h"
-
-using namespace wm;
-using namespace wm::test;
+#include "screen_kit.h"
 
 namespace {
 
-const std::vector<std::pair<std::string, std::string>> kSpace = {
-    {"planet", "A world that circles a star"},
-    {"earth", "The planet we live on"},
-    {"moon", "It circles the earth"},
-    {"comet", "An icy body with a bright tail"},
-    {"orbit", "The path around a planet or star"},
-    {"star", "A ball of burning gas"},
-    {"meteor", "A shooting star"},
-    {"rocket", "It carries people into space"}};
+const Pairs kSpace{
+    {"planet", "A world that circles a star"}, {"earth", "The planet we live on"},
+    {"moon", "It circles the earth"}, {"comet", "An icy body with a bright tail"},
+    {"orbit", "The path around a planet or star"}, {"star", "A ball of burning gas"},
+    {"meteor", "A shooting star"}, {"rocket", "It carries people into space"}};
 
 // Selects the word `index` in `direction` by clicking its first cell (a second click switches
 // to the crossing word). Returns false when the word cannot be selected.
@@ -49,94 +41,91 @@ CrosswordForm* OpenCrossword(ShellFixture& fx, bool soundOn) {
 class CrosswordScreenTest : public QObject {
     Q_OBJECT
 private slots:
-    void roadToAWinAndTheTable();
-    void giveAnswerEverywhereLosesWithoutASound();
+    void roadToAWinAndTheTable() {
+        Road fx(11, {"ASS"});
+        fx.dialogs.answerYes(false);  // no more tries
+        auto* game = OpenCrossword(fx, true);
+        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        SharedState& s = Shared();
+        // Ten words wanted from a list of eight: Difficulty itself comes down to eight.
+        QCOMPARE(int(s.Difficulty), 8);
+        QCOMPARE(fx.music.opened, appFile("sounds/entertainer.mid"));
+        QCOMPARE(fx.music.plays, 1);
+        QCOMPARE(game->findChild<QLabel*>("ClueLabel")->text(),
+                 "Click a word in the puzzle to see the clue.");
+
+        const auto words = PlacedWords(game->state().board);
+        QCOMPARE(int(words.size()), int(s.PuzzleWordCount));
+        auto* command1 = game->findChild<QPushButton*>("Command1");
+        QVERIFY(!command1->isVisible());
+        for (std::size_t n = 0; n < words.size(); ++n) {
+            const auto& w = words[n];
+            QVERIFY(SelectWord(game, w.index, w.direction, w.cell));
+            QCOMPARE(game->findChild<QLabel*>("ClueLabel")->text(), toQ(s.Meanings[w.index]));
+            QVERIFY(command1->isVisible());
+            const QString word = toQ(s.Words[w.index]);
+            if (n == 0) {
+                // A wrong last letter unpinks the word; Backspace lets it be corrected.
+                QTest::keyClicks(game, word.left(word.size() - 1) + "#");
+                QCOMPARE(s.PuzzleWordCount, short(words.size()));
+                QTest::keyClick(game, Qt::Key_Backspace);
+                QTest::keyClicks(game, word.right(1));
+            } else {
+                QTest::keyClicks(game, word);
+            }
+            if (n + 1 < words.size()) {
+                QCOMPARE(int(s.PuzzleWordCount), int(words.size() - n - 1));
+                QVERIFY(!command1->isVisible());
+                Pump(16 * 12);  // the flash runs out and leaves the word green
+                // A word corrected after a wrong try was unpinked, so the flash passes it by and
+                // it stays white, its letters written: kept as designed.
+                QCOMPARE(game->state().board.colour[w.cell],
+                         n == 0 ? cross::TileColour::White : cross::TileColour::Green);
+                QCOMPARE(game->state().board.caption[w.cell], UCase(s.Words[w.index])[0]);
+            }
+        }
+        // The last word ends the game at once: the table, then the question, then the title.
+        QCOMPARE(fx.sound.played.count("dkbell.wav"), int(words.size()));
+        QVERIFY(fx.sound.played.contains("cheer.wav"));
+        QCOMPARE(fx.win.tables.size(), 1);
+        QVERIFY(fx.win.tables[0].contains("WIN"));
+        const QString score = QString::number(qint64(s.Score));
+        QVERIFY(s.Score >= 251.0 * 2 * 4);
+        WM_VERIFY(WonBox(fx, score));
+        QVERIFY(Showing<Title>());
+        QCOMPARE(fx.music.closes, 1);
+    }
+
+    void giveAnswerEverywhereLosesWithoutASound() {
+        Road fx(5);
+        auto* game = OpenCrossword(fx, false);
+        QVERIFY(game);
+        QVERIFY(fx.music.opened.isEmpty());  // no music with the sound off
+        auto* command1 = game->findChild<QPushButton*>("Command1");
+        const auto words = PlacedWords(game->state().board);
+        for (const auto& w : words) {
+            QVERIFY(SelectWord(game, w.index, w.direction, w.cell));
+            if (&w == &words.front()) {
+                // A key typed onto the button never gives the answer; a mouse-down clears the
+                // guard.
+                QTest::keyClick(command1, Qt::Key_Space);
+                command1->click();
+                QCOMPARE(int(Shared().PuzzleWordCount), int(words.size()));
+            }
+            const double before = Shared().Score;
+            QTest::mouseClick(command1, Qt::LeftButton);
+            if (!Showing<CrosswordForm>()) break;
+            // 501 to 1000 a word, whatever the help text says.
+            QVERIFY(before - Shared().Score >= 501 && before - Shared().Score <= 1000);
+            QCOMPARE(game->state().board.caption[w.cell], UCase(Shared().Words[w.index])[0]);
+        }
+        QVERIFY(Shared().Score < 0);
+        WM_VERIFY(Box(fx, "Oops! You had a negative score! Maybe you will do better next time...",
+                      "You lose!"));
+        QVERIFY(fx.sound.played.isEmpty());  // gbell and ooh are gated by SoundOn
+        QVERIFY(Showing<Title>());
+    }
 };
-
-void CrosswordScreenTest::roadToAWinAndTheTable() {
-    Road fx(11, {"ASS"});
-    fx.dialogs.answerYes(false);  // no more tries
-    auto* game = OpenCrossword(fx, true);
-    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
-    SharedState& s = Shared();
-    // Ten words wanted from a list of eight: Difficulty itself comes down to eight.
-    QCOMPARE(int(s.Difficulty), 8);
-    QCOMPARE(fx.music.opened, appFile("sounds/entertainer.mid"));
-    QCOMPARE(fx.music.plays, 1);
-    QCOMPARE(game->findChild<QLabel*>("ClueLabel")->text(),
-             "Click a word in the puzzle to see the clue.");
-
-    const auto words = PlacedWords(game->state().board);
-    QCOMPARE(int(words.size()), int(s.PuzzleWordCount));
-    auto* command1 = game->findChild<QPushButton*>("Command1");
-    QVERIFY(!command1->isVisible());
-    for (std::size_t n = 0; n < words.size(); ++n) {
-        const auto& w = words[n];
-        QVERIFY(SelectWord(game, w.index, w.direction, w.cell));
-        QCOMPARE(game->findChild<QLabel*>("ClueLabel")->text(), toQ(s.Meanings[w.index]));
-        QVERIFY(command1->isVisible());
-        const QString word = toQ(s.Words[w.index]);
-        if (n == 0) {
-            // A wrong last letter unpinks the word; Backspace lets it be corrected.
-            QTest::keyClicks(game, word.left(word.size() - 1) + "#");
-            QCOMPARE(s.PuzzleWordCount, short(words.size()));
-            QTest::keyClick(game, Qt::Key_Backspace);
-            QTest::keyClicks(game, word.right(1));
-        } else {
-            QTest::keyClicks(game, word);
-        }
-        if (n + 1 < words.size()) {
-            QCOMPARE(int(s.PuzzleWordCount), int(words.size() - n - 1));
-            QVERIFY(!command1->isVisible());
-            Pump(16 * 12);  // the flash runs out and leaves the word green
-            // A word corrected after a wrong try was unpinked, so the flash passes it by and
-            // it stays white, its letters written: kept as designed.
-            QCOMPARE(game->state().board.colour[w.cell],
-                     n == 0 ? cross::TileColour::White : cross::TileColour::Green);
-            QCOMPARE(game->state().board.caption[w.cell], UCase(s.Words[w.index])[0]);
-        }
-    }
-    // The last word ends the game at once: the table, then the question, then the title.
-    QCOMPARE(fx.sound.played.count("dkbell.wav"), int(words.size()));
-    QVERIFY(fx.sound.played.contains("cheer.wav"));
-    QCOMPARE(fx.win.tables.size(), 1);
-    QVERIFY(fx.win.tables[0].contains("WIN"));
-    const QString score = QString::number(qint64(s.Score));
-    QVERIFY(s.Score >= 251.0 * 2 * 4);
-    QVERIFY(fx.dialogs.saw("You got a high score of " + score + "! Would you like to try again?"));
-    QVERIFY(Showing<Title>());
-    QCOMPARE(fx.music.closes, 1);
-}
-
-void CrosswordScreenTest::giveAnswerEverywhereLosesWithoutASound() {
-    Road fx(5);
-    auto* game = OpenCrossword(fx, false);
-    QVERIFY(game);
-    QVERIFY(fx.music.opened.isEmpty());  // no music with the sound off
-    auto* command1 = game->findChild<QPushButton*>("Command1");
-    const auto words = PlacedWords(game->state().board);
-    for (const auto& w : words) {
-        QVERIFY(SelectWord(game, w.index, w.direction, w.cell));
-        if (&w == &words.front()) {
-            // A key typed onto the button never gives the answer; a mouse-down clears the guard.
-            QTest::keyClick(command1, Qt::Key_Space);
-            command1->click();
-            QCOMPARE(int(Shared().PuzzleWordCount), int(words.size()));
-        }
-        const double before = Shared().Score;
-        QTest::mouseClick(command1, Qt::LeftButton);
-        if (!Showing<CrosswordForm>()) break;
-        // 501 to 1000 a word, whatever the help text says.
-        QVERIFY(before - Shared().Score >= 501 && before - Shared().Score <= 1000);
-        QCOMPARE(game->state().board.caption[w.cell], UCase(Shared().Words[w.index])[0]);
-    }
-    QVERIFY(Shared().Score < 0);
-    QVERIFY(
-        fx.dialogs.saw("Oops! You had a negative score! Maybe you will do better next time..."));
-    QCOMPARE(fx.dialogs.shown.back().title, "You lose!");
-    QVERIFY(fx.sound.played.isEmpty());  // gbell and ooh are gated by SoundOn
-    QVERIFY(Showing<Title>());
-}
 
 QTEST_MAIN(CrosswordScreenTest)
 #include "crossword_screen_test.moc"

@@ -1,27 +1,19 @@
 // Word Maze on its screen: the road to a win and the table; a mistake, its cost and its penalty
 // line, and a lost game.
-#include <QtTest>
 
-#include "core/score_table.h"
-#include "core/strings.h"
 #include "games/puzzles/word_maze/word_maze_screen.h"
+#include "core/strings.h"
 #include "platform/text.h"
-#include "road_kit.h"
+#include "screen_kit.h"
 
-using namespace wm;
-using namespace wm::test;
 namespace wmz = wm::word_maze;
 
 namespace {
 
-using Pairs = std::vector<std::pair<std::string, std::string>>;
-
 // First letters c d o h b; last letters t g l n e: the end stone never holds the first letter.
-const Pairs kAnimals = {{"cat", "a pet that purrs"},
-                        {"dog", "a pet that barks"},
-                        {"owl", "a bird of the night"},
-                        {"hen", "a bird that lays eggs"},
-                        {"bee", "an insect that makes honey"}};
+const Pairs kAnimals{
+    {"cat", "a pet that purrs"}, {"dog", "a pet that barks"}, {"owl", "a bird of the night"},
+    {"hen", "a bird that lays eggs"}, {"bee", "an insect that makes honey"}};
 
 // The cells of the walk, rebuilt from the letters the builder left on the board.
 QList<int> WalkCells(const wmz::WordMazeState& m) {
@@ -73,66 +65,57 @@ WordMazeForm* OpenMaze(ShellFixture& fx, const Pairs& list, int difficulty,
 class WordMazeScreenTest : public QObject {
     Q_OBJECT
 private slots:
-    void roadFromTitleToTheTable();
-    void mistakeThenANegativeScoreLoses();
+    void roadFromTitleToTheTable() {
+        Road fx(4, {"MAZ"});
+        auto* game = OpenMaze(fx, kAnimals, 3);
+        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        const SharedState& s = Shared();
+        QCOMPARE(fx.sound.played, QStringList{"dkbell.wav"});
+        QCOMPARE(LabelText(game, "Label2"), "The word you are trying to spell is:");
+        QCOMPARE(LabelText(game, "Label3"), "Words Left :3");
+        QCOMPARE(LabelText(game, "Label1"), toQ(s.TheMeaning));
+        QVERIFY(!Button(game, "Command1")->isEnabled());
+        const QList<int> path = WalkCells(game->maze());
+        QVERIFY(path.size() >= 9);
+        for (int i = 0; i + 1 < path.size(); ++i) ClickCell(game, path[i]);
+        QCOMPARE(LabelText(game, "Label3"), "Words Left :1");
+        QCOMPARE(fx.sound.played.count("dkbell.wav"), 3);  // the start and two words begun
+        QCOMPARE(fx.sound.played.count("boing.wav"), path.size() - 1 - 2);
+        Pump(2000);
+        QCOMPARE(LabelText(game, "Label4"), "Time: 2");
+        ClickCell(game, path.last());
+        QCOMPARE(fx.sound.played.last(), "cheer.wav");
+        QVERIFY(s.Score > 0 && s.Score == double(Int(s.Score)));
+        WM_VERIFY(WonBox(fx, s.Score));
+        QCOMPARE(TableRow(fx, "Word Maze"), "MAZ " + QString::number(s.Score));
+        QVERIFY(BackAtTitle());
+        QCOMPARE(fx.music.plays, 0);  // no background music in this game
+    }
+
+    void mistakeThenANegativeScoreLoses() {
+        Road fx(6);
+        Shared().Score = -1e9;
+        auto* game = OpenMaze(fx, kAnimals, 2);
+        QVERIFY(game);
+        // The end stone with the wrong letter costs points; the penalty shows for a second.
+        auto* label6 = game->findChild<QLabel*>("Label6");
+        ClickCell(game, game->maze().EndCell);
+        const double cost = -1e9 - Shared().Score;
+        QVERIFY(cost >= 1 && cost <= 1000);
+        QCOMPARE(label6->text(), QString("-%1 Points...").arg(cost));
+        QCOMPARE(fx.sound.played.last(), "bonk.wav");
+        Pump(900);
+        QVERIFY(label6->isVisible());
+        Pump(200);
+        QVERIFY(!label6->isVisible());
+        for (int c : WalkCells(game->maze())) ClickCell(game, c);
+        QCOMPARE(fx.sound.played.last(), "ooh.wav");
+        WM_VERIFY(Box(fx, "Oops! You had a negative score! Maybe you will do better next time...",
+                      "You lose!"));
+        QVERIFY(BackAtTitle());
+        QVERIFY(fx.win.tables.isEmpty());
+    }
 };
-
-void WordMazeScreenTest::roadFromTitleToTheTable() {
-    Road fx(4, {"MAZ"});
-    auto* game = OpenMaze(fx, kAnimals, 3);
-    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
-    const SharedState& s = Shared();
-    QCOMPARE(fx.sound.played, QStringList{"dkbell.wav"});
-    QCOMPARE(LabelText(game, "Label2"), "The word you are trying to spell is:");
-    QCOMPARE(LabelText(game, "Label3"), "Words Left :3");
-    QCOMPARE(LabelText(game, "Label1"), toQ(s.TheMeaning));
-    QVERIFY(!Button(game, "Command1")->isEnabled());
-    const QList<int> path = WalkCells(game->maze());
-    QVERIFY(path.size() >= 9);
-    for (int i = 0; i + 1 < path.size(); ++i) ClickCell(game, path[i]);
-    QCOMPARE(LabelText(game, "Label3"), "Words Left :1");
-    QCOMPARE(fx.sound.played.count("dkbell.wav"), 3);  // the start and two words begun
-    QCOMPARE(fx.sound.played.count("boing.wav"), path.size() - 1 - 2);
-    Pump(2000);
-    QCOMPARE(LabelText(game, "Label4"), "Time: 2");
-    ClickCell(game, path.last());
-    QCOMPARE(fx.sound.played.last(), "cheer.wav");
-    QCOMPARE(fx.win.tables.size(), 1);
-    QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
-    Pump();
-    QVERIFY(Showing<Title>());
-    const ScoreTable table = ReadScoreTable(fx.path("scores/Word Maze.dat").toStdString());
-    QCOMPARE(QString::fromStdString(table.initials(1)), "MAZ");
-    QVERIFY(s.Score > 0 && s.Score == double(Int(s.Score)));
-    QCOMPARE(table.score(1), s.Score);
-    QCOMPARE(fx.music.plays, 0);  // no background music in this game
-}
-
-void WordMazeScreenTest::mistakeThenANegativeScoreLoses() {
-    Road fx(6);
-    Shared().Score = -1e9;
-    auto* game = OpenMaze(fx, kAnimals, 2);
-    QVERIFY(game);
-    // The end stone with the wrong letter costs points; the penalty shows for a second.
-    auto* label6 = game->findChild<QLabel*>("Label6");
-    ClickCell(game, game->maze().EndCell);
-    const double cost = -1e9 - Shared().Score;
-    QVERIFY(cost >= 1 && cost <= 1000);
-    QCOMPARE(label6->text(), QString("-%1 Points...").arg(cost));
-    QCOMPARE(fx.sound.played.last(), "bonk.wav");
-    Pump(900);
-    QVERIFY(label6->isVisible());
-    Pump(200);
-    QVERIFY(!label6->isVisible());
-    for (int c : WalkCells(game->maze())) ClickCell(game, c);
-    QCOMPARE(fx.sound.played.last(), "ooh.wav");
-    QCOMPARE(fx.dialogs.shown.back().title, "You lose!");
-    QCOMPARE(fx.dialogs.last(),
-             "Oops! You had a negative score! Maybe you will do better next time...");
-    Pump();
-    QVERIFY(Showing<Title>());
-    QVERIFY(fx.win.tables.isEmpty());
-}
 
 QTEST_MAIN(WordMazeScreenTest)
 #include "word_maze_screen_test.moc"

@@ -1,26 +1,20 @@
 // Word Search on its screen: the road to a win and the table, and a lost game that asks again
 // with the menu idle after it.
 #include <QScrollBar>
-#include <QtTest>
 
-#include "core/score_table.h"
 #include "games/puzzles/word_search/word_search_screen.h"
 #include "platform/text.h"
 #include "platform/timeline_scene.h"
-#include "road_kit.h"
+#include "screen_kit.h"
 
-using namespace wm;
-using namespace wm::test;
 namespace ws = wm::word_search;
 
 namespace {
 
-using Pairs = std::vector<std::pair<std::string, std::string>>;
-
-const Pairs kAnimals = {{"cat", "a pet that purrs"},    {"dog", "a pet that barks"},
-                        {"owl", "a bird of the night"}, {"hen", "a bird that lays eggs"},
-                        {"ant", "a small insect"},      {"bee", "an insect that makes honey"},
-                        {"pig", "a farm animal"},       {"fox", "a wild dog"}};
+const Pairs kAnimals{
+    {"cat", "a pet that purrs"}, {"dog", "a pet that barks"}, {"owl", "a bird of the night"},
+    {"hen", "a bird that lays eggs"}, {"ant", "a small insect"},
+    {"bee", "an insect that makes honey"}, {"pig", "a farm animal"}, {"fox", "a wild dog"}};
 
 // The cells that spell `word` where the builder hid it: across, down or down-right.
 QList<int> FindWord(const ws::WordSearchState& p, const std::string& word) {
@@ -57,96 +51,83 @@ void PumpThroughEnd(WordSearchForm* game, ScriptedDialogs& dialogs) {
     for (int t = 0; t < 60000 && g && dialogs.shown.size() == before; t += 100) Pump(100);
 }
 
-WordSearchForm* OpenGame(ShellFixture& fx, const Pairs& list, int difficulty, bool definition) {
-    WriteOneList(fx, "Animals", list);
-    OpenScreen("Title");
-    ContinueWithList(ChooserFor("Word Search", difficulty, definition), "Animals (");
-    Pump();
-    return Showing<WordSearchForm>();
-}
-
 }  // namespace
 
 class WordSearchScreenTest : public QObject {
     Q_OBJECT
 private slots:
-    void roadFromTitleToTheTable();
-    void lossAsksAgainAndTheMenuIdlesAfterIt();
-};
-
-void WordSearchScreenTest::roadFromTitleToTheTable() {
-    Road fx(7, {"WSR"});
-    SetTimelineFolder(QString(WM_ASSET_DIR) + "/movies");
-    WriteOneList(fx, "Animals", kAnimals);
-    auto* game = qobject_cast<WordSearchForm*>(PlayFromTitle("Word Search", "Animals (", 5));
-    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
-    Pump();
-    const SharedState& s = Shared();
-    QCOMPARE(game->puzzle().GridSize, 5);
-    QCOMPARE(LabelText(game, "WLLabel"), "Words Left: 5");
-    QVERIFY(fx.music.opened.endsWith("sounds/music.mid"));
-    for (int word = 0; word < 5; ++word) {
-        QVERIFY2(FindAskedWord(game), s.TheWord.c_str());
-        if (word < 4) {
-            QCOMPARE(LabelText(game, "WLLabel"), QString("Words Left: %1").arg(4 - word));
-            Pump(700);
+    void roadFromTitleToTheTable() {
+        Road fx(7, {"WSR"});
+        SetTimelineFolder(QString(WM_ASSET_DIR) + "/movies");
+        WriteOneList(fx, "Animals", kAnimals);
+        auto* game = qobject_cast<WordSearchForm*>(PlayFromTitle("Word Search", "Animals (", 5));
+        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        Pump();
+        const SharedState& s = Shared();
+        QCOMPARE(game->puzzle().GridSize, 5);
+        QCOMPARE(LabelText(game, "WLLabel"), "Words Left: 5");
+        QVERIFY(fx.music.opened.endsWith("sounds/music.mid"));
+        for (int word = 0; word < 5; ++word) {
+            QVERIFY2(FindAskedWord(game), s.TheWord.c_str());
+            if (word < 4) {
+                QCOMPARE(LabelText(game, "WLLabel"), QString("Words Left: %1").arg(4 - word));
+                Pump(700);
+            }
         }
+        QCOMPARE(LabelText(game, "WLLabel"), "Words Left: 1");  // the last word leaves it be
+        Pump(600);
+        QVERIFY(!game->board()->isVisible());
+        QVERIFY(game->findChild<Movie*>("MovieBackBox")->isPlaying());
+        Pump(2500);
+        QCOMPARE(fx.sound.played.count("2.wav"), 0);  // fireworks only once it is over
+        PumpThroughEnd(game, fx.dialogs);
+        const int fireworks = int(fx.sound.played.count("2.wav"));
+        QVERIFY(fireworks >= 4 && fireworks <= 8);
+        WM_VERIFY(WonBox(fx, s.Score));
+        QCOMPARE(TableRow(fx, "Word Search"), "WSR " + QString::number(s.Score));
+        QVERIFY(BackAtTitle());
+        SetTimelineFolder({});
     }
-    QCOMPARE(LabelText(game, "WLLabel"), "Words Left: 1");  // the last word leaves it be
-    Pump(600);
-    QVERIFY(!game->board()->isVisible());
-    QVERIFY(game->findChild<Movie*>("MovieBackBox")->isPlaying());
-    Pump(2500);
-    QCOMPARE(fx.sound.played.count("2.wav"), 0);  // fireworks only once it is over
-    PumpThroughEnd(game, fx.dialogs);
-    const int fireworks = int(fx.sound.played.count("2.wav"));
-    QVERIFY(fireworks >= 4 && fireworks <= 8);
-    QCOMPARE(fx.win.tables.size(), 1);
-    QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
-    Pump();
-    QVERIFY(Showing<Title>());
-    const ScoreTable table = ReadScoreTable(fx.path("scores/Word Search.dat").toStdString());
-    QCOMPARE(QString::fromStdString(table.initials(1)), "WSR");
-    QCOMPARE(table.score(1), s.Score);
-    SetTimelineFolder({});
-}
 
-void WordSearchScreenTest::lossAsksAgainAndTheMenuIdlesAfterIt() {
-    Road fx(5);
-    Shared().Score = -900000;  // carried in: no finish can lift it above 0
-    auto* game = OpenGame(fx, {{"cat", "a pet"}, {"dog", "a pet too"}}, 5, false);
-    QVERIFY(game);
-    Shared().SoundOn = kFalse;
-    QVERIFY(FindAskedWord(game));
-    const double afterFirst = Shared().Score;
-    QVERIFY(afterFirst > -900000 && afterFirst <= -900000 + 30 * 2 * 3 * 10);
-    QCOMPARE(LabelText(game, "ScoreLabel"), "Score: " + QString::number(afterFirst, 'f', 0));
-    Pump(700);
-    QVERIFY(FindAskedWord(game));
-    QCOMPARE(Shared().Score, afterFirst);  // the last word gives nothing
-    fx.dialogs.answerYes();                // try again
-    PumpThroughEnd(game, fx.dialogs);
-    QVERIFY(!fx.sound.played.contains("2.wav"));  // silent fireworks with the sound off
-    QVERIFY(fx.dialogs.texts().first().startsWith("Oops! Unfortunately, you got a score of -"));
-    QVERIFY(
-        fx.dialogs.texts().first().endsWith(" on that game! You may want to practice a bit..."));
-    QCOMPARE(fx.dialogs.shown.back().text, "Would you like to try again?");
-    QCOMPARE(fx.dialogs.shown.back().title, "Another try?");
-    Pump();
-    // Kept: the new round runs without Timer1, so no time is counted and Restart, High
-    // Scores, Quit and Escape stay idle until that game is over.
-    QCOMPARE(Showing<WordSearchForm>(), game);
-    Pump(3000);
-    QCOMPARE(game->puzzle().Seconds, 0);
-    for (const char* name : {"RS", "HS", "Return"}) {
-        QVERIFY(TriggerMenu(game, name));
+    void lossAsksAgainAndTheMenuIdlesAfterIt() {
+        Road fx(5);
+        Shared().Score = -900000;  // carried in: no finish can lift it above 0
+        auto* game = OpenGame<WordSearchForm>(fx, "Word Search",
+                                              {{"cat", "a pet"}, {"dog", "a pet too"}}, 5);
+        QVERIFY(game);
+        Pump();
+        Shared().SoundOn = kFalse;
+        QVERIFY(FindAskedWord(game));
+        const double afterFirst = Shared().Score;
+        QVERIFY(afterFirst > -900000 && afterFirst <= -900000 + 30 * 2 * 3 * 10);
+        QCOMPARE(LabelText(game, "ScoreLabel"), "Score: " + QString::number(afterFirst, 'f', 0));
+        Pump(700);
+        QVERIFY(FindAskedWord(game));
+        QCOMPARE(Shared().Score, afterFirst);  // the last word gives nothing
+        fx.dialogs.answerYes();                // try again
+        PumpThroughEnd(game, fx.dialogs);
+        QVERIFY(!fx.sound.played.contains("2.wav"));  // silent fireworks with the sound off
+        QVERIFY(fx.dialogs.texts().first().startsWith("Oops! Unfortunately, you got a score of -"));
+        QVERIFY(fx.dialogs.texts().first().endsWith(
+            " on that game! You may want to practice a bit..."));
+        QCOMPARE(fx.dialogs.shown.back().text, "Would you like to try again?");
+        QCOMPARE(fx.dialogs.shown.back().title, "Another try?");
+        Pump();
+        // Kept: the new round runs without Timer1, so no time is counted and Restart, High
+        // Scores, Quit and Escape stay idle until that game is over.
+        QCOMPARE(Showing<WordSearchForm>(), game);
+        Pump(3000);
+        QCOMPARE(game->puzzle().Seconds, 0);
+        for (const char* name : {"RS", "HS", "Return"}) {
+            QVERIFY(TriggerMenu(game, name));
+            Pump();
+            QCOMPARE(Showing<WordSearchForm>(), game);
+        }
+        QTest::keyClick(game, Qt::Key_Escape);
         Pump();
         QCOMPARE(Showing<WordSearchForm>(), game);
     }
-    QTest::keyClick(game, Qt::Key_Escape);
-    Pump();
-    QCOMPARE(Showing<WordSearchForm>(), game);
-}
+};
 
 QTEST_MAIN(WordSearchScreenTest)
 #include "word_search_screen_test.moc"

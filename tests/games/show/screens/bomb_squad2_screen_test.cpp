@@ -1,36 +1,22 @@
 // Bomb Squad 2 on its screen: wiring every word to the table; a wrong definition and the clock
 // each to its own loser's box, the labels standing through the blast; the beeps turning high
 // under ten seconds; Restart's box.
-#include <QtTest>
 
 #include <cmath>
 
-#include "core/score_table.h"
-#include "road_kit.h"
 #include "games/show/bomb_squad2/bomb_squad2_screen.h"
 #include "platform/movie.h"
-
-using namespace wm;
-using namespace wm::test;
-
-class BombSquad2ScreenTest : public QObject {
-    Q_OBJECT
-private slots:
-    void wireEveryWordToTheTable();
-    void wrongDefinitionAndTimeOut();
-};
+#include "screen_kit.h"
 
 namespace {
+const Pairs kWeather{
+    {"breeze", "a gentle wind"}, {"drizzle", "very light rain"},
+    {"hail", "balls of ice falling from clouds"}, {"fog", "a cloud at ground level"},
+    {"sleet", "rain and snow together"}, {"gust", "a sudden strong wind"},
+    {"thunder", "the sound after lightning"}, {"frost", "ice crystals on cold ground"}};
+
 BombSquad2* startGame(ShellFixture& fx, int level) {
-    WriteOneList(fx, "Weather",
-                 {{"breeze", "a gentle wind"},
-                  {"drizzle", "very light rain"},
-                  {"hail", "balls of ice falling from clouds"},
-                  {"fog", "a cloud at ground level"},
-                  {"sleet", "rain and snow together"},
-                  {"gust", "a sudden strong wind"},
-                  {"thunder", "the sound after lightning"},
-                  {"frost", "ice crystals on cold ground"}});
+    WriteOneList(fx, "Weather", kWeather);
     for (int i = 1; i <= 400; ++i) fx.rng.then(std::fmod(i * 0.6180339887, 1.0));
     auto* game = qobject_cast<BombSquad2*>(PlayFromTitle("Bomb Squad 2", "Weather", level));
     Pump();
@@ -45,76 +31,79 @@ int defOf(const BombSquad2* game, int word) {
 }
 }  // namespace
 
-void BombSquad2ScreenTest::wireEveryWordToTheTable() {
-    Road fx(0, {"JOY"});
-    Shared().Score = 5000;
-    auto* game = startGame(fx, 3);
-    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
-    const int n = int(game->board().words.size());
-    QCOMPARE(n, 4);
-    QCOMPARE(game->timeLabel()->text(), "40");
-    // The definitions stand shuffled: each one's text is the meaning of its owner's word.
-    for (int j = 0; j < n; ++j)
-        QCOMPARE(game->defLabels()[j]->text().toStdString(),
-                 Shared().Meanings[game->board().words[game->board().defOwner[j]]]);
-    clickOn(game, game->defLabels()[0]);
-    QVERIFY(!game->exploding());  // nothing carried: nothing happens
+class BombSquad2ScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void wireEveryWordToTheTable() {
+        Road fx(0, {"JOY"});
+        Shared().Score = 5000;
+        auto* game = startGame(fx, 3);
+        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        const int n = int(game->board().words.size());
+        QCOMPARE(n, 4);
+        QCOMPARE(game->timeLabel()->text(), "40");
+        // The definitions stand shuffled: each one's text is the meaning of its owner's word.
+        for (int j = 0; j < n; ++j)
+            QCOMPARE(game->defLabels()[j]->text().toStdString(),
+                     Shared().Meanings[game->board().words[game->board().defOwner[j]]]);
+        clickOn(game, game->defLabels()[0]);
+        QVERIFY(!game->exploding());  // nothing carried: nothing happens
 
-    fx.dialogs.answerYes(false);
-    for (int i = 0; i < n; ++i) {
-        clickOn(game, game->wordLabels()[i]);
-        QVERIFY(game->board().carrying);
-        clickOn(game, game->defLabels()[defOf(game, i)]);
-        if (i == 0) {
-            // Wired once, the word cannot be picked up again.
-            clickOn(game, game->wordLabels()[0]);
-            QVERIFY(!game->board().carrying);
+        fx.dialogs.answerYes(false);
+        for (int i = 0; i < n; ++i) {
+            clickOn(game, game->wordLabels()[i]);
+            QVERIFY(game->board().carrying);
+            clickOn(game, game->defLabels()[defOf(game, i)]);
+            if (i == 0) {
+                // Wired once, the word cannot be picked up again.
+                clickOn(game, game->wordLabels()[0]);
+                QVERIFY(!game->board().carrying);
+            }
         }
+        QCOMPARE(fx.sound.played.count("dkbell.wav"), n);
+        QCOMPARE(fx.sound.played.count("snip.wav"), n);
+        // The score starts from 0 at each deal: (500 + 40 + a roll of 1..3) times 3.
+        QVERIFY(Shared().Score >= 541 * 3 && Shared().Score <= 543 * 3);
+        QCOMPARE(fx.win.tables.size(), 1);
+        QVERIFY(BackAtTitle());
     }
-    QCOMPARE(fx.sound.played.count("dkbell.wav"), n);
-    QCOMPARE(fx.sound.played.count("snip.wav"), n);
-    // The score starts from 0 at each deal: (500 + 40 + a roll of 1..3) times 3.
-    QVERIFY(Shared().Score >= 541 * 3 && Shared().Score <= 543 * 3);
-    QCOMPARE(fx.win.tables.size(), 1);
-    Pump();
-    QVERIFY(Showing<Title>());
-}
 
-void BombSquad2ScreenTest::wrongDefinitionAndTimeOut() {
-    ShellFixture fx;
-    auto* game = startGame(fx, 10);
-    QVERIFY(game);
-    QCOMPARE(game->timeLabel()->text(), "15");
-    Pump(5000);
-    QCOMPARE(fx.sound.played.count("spacebeep.wav"), 5);  // 14 .. 10 left
-    Pump(1000);
-    QCOMPARE(fx.sound.played.count("highbeep.wav"), 1);  // 9 left
-    clickOn(game, game->wordLabels()[0]);
-    fx.dialogs.answerYes(true);
-    clickOn(game, game->defLabels()[(defOf(game, 0) + 1) % 8]);
-    QVERIFY(game->exploding());
-    QVERIFY(game->bombMovie()->isVisible());
-    QVERIFY(!game->timeLabel()->isVisible());
-    Pump(2000);
-    QCOMPARE(fx.dialogs.last(),
-             "You connected the wrong wire and set the bomb off! You lose. Would you like to give "
-             "it another try?");
-    QVERIFY(!game->exploding());
-    // Restart asks first, then deals again with a full clock.
-    Pump(3000);
-    QCOMPARE(game->timeLabel()->text(), "12");
-    QVERIFY(TriggerMenu(game, "RS"));
-    QCOMPARE(fx.dialogs.last(), "Click OK to reset the game");
-    QCOMPARE(game->timeLabel()->text(), "15");
-    fx.dialogs.answerYes(false);
-    Pump(15000);
-    Pump(2000);
-    QCOMPARE(fx.dialogs.last(),
-             "You did not get the bomb diffused in time! You lose. Would you like to give it "
-             "another try?");
-    Pump();
-    QVERIFY(Showing<Title>());
-}
+    void wrongDefinitionAndTimeOut() {
+        ShellFixture fx;
+        auto* game = startGame(fx, 10);
+        QVERIFY(game);
+        QCOMPARE(game->timeLabel()->text(), "15");
+        Pump(5000);
+        QCOMPARE(fx.sound.played.count("spacebeep.wav"), 5);  // 14 .. 10 left
+        Pump(1000);
+        QCOMPARE(fx.sound.played.count("highbeep.wav"), 1);  // 9 left
+        clickOn(game, game->wordLabels()[0]);
+        fx.dialogs.answerYes(true);
+        clickOn(game, game->defLabels()[(defOf(game, 0) + 1) % 8]);
+        QVERIFY(game->exploding());
+        QVERIFY(game->bombMovie()->isVisible());
+        QVERIFY(!game->timeLabel()->isVisible());
+        Pump(2000);
+        QCOMPARE(
+            fx.dialogs.last(),
+            "You connected the wrong wire and set the bomb off! You lose. Would you like to give "
+            "it another try?");
+        QVERIFY(!game->exploding());
+        // Restart asks first, then deals again with a full clock.
+        Pump(3000);
+        QCOMPARE(game->timeLabel()->text(), "12");
+        QVERIFY(TriggerMenu(game, "RS"));
+        QCOMPARE(fx.dialogs.last(), "Click OK to reset the game");
+        QCOMPARE(game->timeLabel()->text(), "15");
+        fx.dialogs.answerYes(false);
+        Pump(15000);
+        Pump(2000);
+        QCOMPARE(fx.dialogs.last(),
+                 "You did not get the bomb diffused in time! You lose. Would you like to give it "
+                 "another try?");
+        QVERIFY(BackAtTitle());
+    }
+};
 
 QTEST_MAIN(BombSquad2ScreenTest)
 #include "bomb_squad2_screen_test.moc"

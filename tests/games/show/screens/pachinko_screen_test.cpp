@@ -1,30 +1,19 @@
 // Pachinko on its screen: five questions, the board, locking the values, a disk released
 // outside the zone and picked up again, drops to the table; and five wrong answers.
-#include <QtTest>
 
 #include <cmath>
 
-#include "game_road.h"
 #include "games/show/pachinko/pachinko_screen.h"
-
-using namespace wm;
-using namespace wm::test;
-
-class PachinkoScreenTest : public QObject {
-    Q_OBJECT
-private slots:
-    void earnDropAndScore();
-    void fiveWrongAnswersEndBeforeTheBoard();
-};
+#include "screen_kit.h"
 
 namespace {
+const Pairs kPlanets{
+    {"mercury", "the planet nearest the sun"}, {"venus", "the hottest planet"},
+    {"earth", "the planet we live on"}, {"mars", "the red planet"},
+    {"jupiter", "the largest planet"}};
+
 Plachinko* startGame(ShellFixture& fx) {
-    WriteOneList(fx, "Planets",
-                 {{"mercury", "the planet nearest the sun"},
-                  {"venus", "the hottest planet"},
-                  {"earth", "the planet we live on"},
-                  {"mars", "the red planet"},
-                  {"jupiter", "the largest planet"}});
+    WriteOneList(fx, "Planets", kPlanets);
     for (int i = 1; i <= 300; ++i) fx.rng.then(std::fmod(i * 0.6180339887, 1.0));
     auto* game = qobject_cast<Plachinko*>(PlayFromTitle("Pachinko", "Planets", 1));
     Pump();
@@ -41,90 +30,90 @@ void answerAll(Plachinko* game, const std::vector<bool>& right, QStringList* ask
 }
 }  // namespace
 
-void PachinkoScreenTest::earnDropAndScore() {
-    ShellFixture fx;
-    auto* game = startGame(fx);
-    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
-    QVERIFY(fx.dialogs.texts().first().startsWith("Welcome to PACHINKO!"));
-    QStringList asked;
-    answerAll(game, {true, false, true, true, false}, &asked);
-    asked.removeDuplicates();
-    QCOMPARE(asked.size(), 5);  // five words: each asked once
-    QCOMPARE(fx.sound.played.count("ding.wav"), 3);
-    QCOMPARE(fx.sound.played.count("buzz.wav"), 2);
-    QVERIFY(fx.dialogs.saw("Let's play pachinko! You have earned 3 disks!"));
-    QVERIFY(fx.dialogs.saw("First, let's see what point values you can win. Click OK to set the "
+class PachinkoScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void earnDropAndScore() {
+        Road fx(0, {"SUN"});
+        auto* game = startGame(fx);
+        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        QVERIFY(fx.dialogs.texts().first().startsWith("Welcome to PACHINKO!"));
+        QStringList asked;
+        answerAll(game, {true, false, true, true, false}, &asked);
+        asked.removeDuplicates();
+        QCOMPARE(asked.size(), 5);  // five words: each asked once
+        QCOMPARE(fx.sound.played.count("ding.wav"), 3);
+        QCOMPARE(fx.sound.played.count("buzz.wav"), 2);
+        QVERIFY(fx.dialogs.saw("Let's play pachinko! You have earned 3 disks!"));
+        QVERIFY(
+            fx.dialogs.saw("First, let's see what point values you can win. Click OK to set the "
                            "point values at the bottom of the board..."));
-    QVERIFY(!game->questionFrame()->isVisible());
-    QVERIFY(game->lockLabel()->isVisible());
-    Pump(100);
-    const auto spinning = game->slotValues();
-    QVERIFY(spinning[0] > spinning[4]);
-    // Before the values are locked no disk moves.
-    QTest::mousePress(game, Qt::LeftButton, {}, game->diskRest(0));
-    QVERIFY(!fx.sound.played.contains("webshot.wav"));
-    QTest::mouseRelease(game, Qt::LeftButton, {}, game->diskRest(0));
-    QTest::keyClick(game, Qt::Key_Space);
-    QVERIFY(game->valuesLocked());
-    QCOMPARE(fx.sound.played.count("cymbals.wav"), 1);
-    const auto locked = game->slotValues();
-    QTest::keyClick(game, Qt::Key_Space);  // twice: the values stand
-    Pump(100);
-    QCOMPARE(game->slotValues(), locked);
-    QCOMPARE(game->scoreText(), "Score: 00000000");
+        QVERIFY(!game->questionFrame()->isVisible());
+        QVERIFY(game->lockLabel()->isVisible());
+        Pump(100);
+        const auto spinning = game->slotValues();
+        QVERIFY(spinning[0] > spinning[4]);
+        // Before the values are locked no disk moves.
+        QTest::mousePress(game, Qt::LeftButton, {}, game->diskRest(0));
+        QVERIFY(!fx.sound.played.contains("webshot.wav"));
+        QTest::mouseRelease(game, Qt::LeftButton, {}, game->diskRest(0));
+        QTest::keyClick(game, Qt::Key_Space);
+        QVERIFY(game->valuesLocked());
+        QCOMPARE(fx.sound.played.count("cymbals.wav"), 1);
+        const auto locked = game->slotValues();
+        QTest::keyClick(game, Qt::Key_Space);  // twice: the values stand
+        Pump(100);
+        QCOMPARE(game->slotValues(), locked);
+        QCOMPARE(game->scoreText(), "Score: 00000000");
 
-    // Released outside the zone the disk goes home and can be picked up again.
-    QTest::mousePress(game, Qt::LeftButton, {}, game->diskRest(0));
-    QTest::mouseMove(game, game->diskRest(0) + QPoint(40, 200));
-    QTest::mouseRelease(game, Qt::LeftButton, {}, game->diskRest(0) + QPoint(40, 200));
-    QCOMPARE(fx.sound.played.count("gbell.wav"), 1);
-    QVERIFY(!game->falling());
-
-    WinDriver driver({"SUN"});
-    SetModalHook(std::ref(driver));
-    fx.dialogs.answerYes(false);
-    double expected = 0;
-    for (int d = 0; d < 3; ++d) {
-        QTest::mousePress(game, Qt::LeftButton, {}, game->diskRest(d));
-        QTest::mouseMove(game, game->dropPoint());
-        QTest::mouseRelease(game, Qt::LeftButton, {}, game->dropPoint());
-        QVERIFY(game->falling());
-        for (int t = 0; t < 400 && game->falling(); ++t) Pump(50);
+        // Released outside the zone the disk goes home and can be picked up again.
+        QTest::mousePress(game, Qt::LeftButton, {}, game->diskRest(0));
+        QTest::mouseMove(game, game->diskRest(0) + QPoint(40, 200));
+        QTest::mouseRelease(game, Qt::LeftButton, {}, game->diskRest(0) + QPoint(40, 200));
+        QCOMPARE(fx.sound.played.count("gbell.wav"), 1);
         QVERIFY(!game->falling());
-        const QString scored = fx.dialogs.texts().filter("You scored ").last();
-        expected += scored.section(' ', 2, 2).toDouble();
-        if (d < 2) {
-            QCOMPARE(Shared().Score, expected);
-            QCOMPARE(game->scoreText(), "Score: " + QString::number(expected));
-        }
-    }
-    // The pins bleep without cutting a sound already playing.
-    QVERIFY(fx.sound.played.contains("bleep2.wav"));
-    for (int i = 0; i < fx.sound.played.size(); ++i)
-        if (fx.sound.played[i] == "bleep2.wav")
-            QVERIFY(fx.sound.modes[i] == SoundMode::NoInterrupt);
-    QCOMPARE(fx.sound.played.count("dingling.wav"), 3);
-    QCOMPARE(Shared().Score, expected);
-    QCOMPARE(driver.tables.size(), 1);
-    QCOMPARE(fx.dialogs.last(),
-             QString("You got a high score of %1! Would you like to try again?").arg(expected));
-    Pump();
-    QVERIFY(Showing<Title>());
-}
 
-void PachinkoScreenTest::fiveWrongAnswersEndBeforeTheBoard() {
-    ShellFixture fx;
-    auto* game = startGame(fx);
-    QVERIFY(game);
-    fx.dialogs.answerYes(false);
-    answerAll(game, {false, false, false, false, false});
-    QCOMPARE(fx.dialogs.last(),
-             "Oops! You haven't earned any disks to drop into the Pachinko board! Would you like "
-             "to give it another try?");
-    QVERIFY(fx.dialogs.texts().filter("First, let's see").isEmpty());
-    Pump();
-    QVERIFY(Showing<Title>());
-}
+        fx.dialogs.answerYes(false);
+        double expected = 0;
+        for (int d = 0; d < 3; ++d) {
+            QTest::mousePress(game, Qt::LeftButton, {}, game->diskRest(d));
+            QTest::mouseMove(game, game->dropPoint());
+            QTest::mouseRelease(game, Qt::LeftButton, {}, game->dropPoint());
+            QVERIFY(game->falling());
+            for (int t = 0; t < 400 && game->falling(); ++t) Pump(50);
+            QVERIFY(!game->falling());
+            const QString scored = fx.dialogs.texts().filter("You scored ").last();
+            expected += scored.section(' ', 2, 2).toDouble();
+            if (d < 2) {
+                QCOMPARE(Shared().Score, expected);
+                QCOMPARE(game->scoreText(), "Score: " + QString::number(expected));
+            }
+        }
+        // The pins bleep without cutting a sound already playing.
+        QVERIFY(fx.sound.played.contains("bleep2.wav"));
+        for (int i = 0; i < fx.sound.played.size(); ++i)
+            if (fx.sound.played[i] == "bleep2.wav")
+                QVERIFY(fx.sound.modes[i] == SoundMode::NoInterrupt);
+        QCOMPARE(fx.sound.played.count("dingling.wav"), 3);
+        QCOMPARE(TableRow(fx, "Pachinko"), QString("SUN %1").arg(expected));
+        WM_VERIFY(WonBox(fx, expected));
+        QVERIFY(BackAtTitle());
+    }
+
+    void fiveWrongAnswersEndBeforeTheBoard() {
+        ShellFixture fx;
+        auto* game = startGame(fx);
+        QVERIFY(game);
+        fx.dialogs.answerYes(false);
+        answerAll(game, {false, false, false, false, false});
+        QCOMPARE(
+            fx.dialogs.last(),
+            "Oops! You haven't earned any disks to drop into the Pachinko board! Would you like "
+            "to give it another try?");
+        QVERIFY(fx.dialogs.texts().filter("First, let's see").isEmpty());
+        QVERIFY(BackAtTitle());
+    }
+};
 
 QTEST_MAIN(PachinkoScreenTest)
 #include "pachinko_screen_test.moc"

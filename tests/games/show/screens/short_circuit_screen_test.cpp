@@ -1,26 +1,13 @@
 // Short Circuit on its screen: spelling to a lit bulb and the table, a short circuit, clicks
 // outside the column in play.
-#include <QtTest>
 
 #include <cmath>
 
-#include "core/score_table.h"
-#include "game_road.h"
 #include "games/show/short_circuit/short_circuit_screen.h"
-
-using namespace wm;
-using namespace wm::test;
-
-class ShortCircuitScreenTest : public QObject {
-    Q_OBJECT
-private slots:
-    void spellToTheLightAndTheTable();
-    void wrongLetterShortsTheCircuit();
-};
+#include "screen_kit.h"
 
 namespace {
-ShortCircuit* startGame(ShellFixture& fx, int level,
-                        std::vector<std::pair<std::string, std::string>> words) {
+ShortCircuit* startGame(ShellFixture& fx, int level, const Pairs& words) {
     WriteOneList(fx, "Circuits", words);
     for (int i = 1; i <= 400; ++i) fx.rng.then(std::fmod(i * 0.6180339887, 1.0));
     auto* game = qobject_cast<ShortCircuit*>(PlayFromTitle("Short Circuit", "Circuits", level));
@@ -30,87 +17,85 @@ ShortCircuit* startGame(ShellFixture& fx, int level,
 void clickLetter(ShortCircuit* game, int column, int row) {
     QTest::mouseClick(game, Qt::LeftButton, {}, game->letter(column, row)->geometry().center());
 }
-const std::vector<std::pair<std::string, std::string>> kWords{
-    {"volt", "a unit of electric push"},
-    {"electricity", "energy carried by moving charges"},
-    {"wire", "a thin metal thread that carries current"},
-    {"switch", "turns a circuit on and off"}};
+const Pairs kWords{
+    {"volt", "a unit of electric push"}, {"electricity", "energy carried by moving charges"},
+    {"wire", "a thin metal thread that carries current"}, {"switch", "turns a circuit on and off"}};
 }  // namespace
 
-void ShortCircuitScreenTest::spellToTheLightAndTheTable() {
-    ShellFixture fx;
-    auto* game = startGame(fx, 5, kWords);
-    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
-    const auto& c = game->circuit();
-    QVERIFY(c.word != "ELECTRICITY");
-    QCOMPARE(game->directions()->text().toStdString(), shortcircuit::directions(Shared()));
-    QCOMPARE(c.rows, 5);
-    for (int col = 0; col < int(c.word.size()); ++col) {
-        QVERIFY(game->letter(col, 4)->isVisible());
-        QVERIFY(!game->letter(col, 5)->isVisible());
-        QCOMPARE(game->letter(col, c.rightRow[col])->text(), QString(QChar(c.word[col])));
-    }
-    // A click in a later column is ignored.
-    clickLetter(game, 1, c.rightRow[1]);
-    QCOMPARE(c.column, 0);
-    Pump(1500);  // three half seconds on the clock
-
-    WinDriver driver({"AMP"});
-    SetModalHook(std::ref(driver));
-    fx.dialogs.answerYes(false);
-    for (int col = 0; col < int(c.word.size()); ++col) {
-        clickLetter(game, col, c.rightRow[col]);
-        if (col == 1) {
-            for (int r = 0; r < c.rows; ++r)
-                QCOMPARE(game->letter(0, r)->isVisible(), r == c.rightRow[0]);
+class ShortCircuitScreenTest : public QObject {
+    Q_OBJECT
+private slots:
+    void spellToTheLightAndTheTable() {
+        Road fx(0, {"AMP"});
+        auto* game = startGame(fx, 5, kWords);
+        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        const auto& c = game->circuit();
+        QVERIFY(c.word != "ELECTRICITY");
+        QCOMPARE(game->directions()->text().toStdString(), shortcircuit::directions(Shared()));
+        QCOMPARE(c.rows, 5);
+        for (int col = 0; col < int(c.word.size()); ++col) {
+            QVERIFY(game->letter(col, 4)->isVisible());
+            QVERIFY(!game->letter(col, 5)->isVisible());
+            QCOMPARE(game->letter(col, c.rightRow[col])->text(), QString(QChar(c.word[col])));
         }
-    }
-    QVERIFY(game->lit());
-    QCOMPARE(fx.sound.played.count("laser.wav"), 1);
-    QVERIFY(driver.tables.isEmpty());
-    Pump(3000);
-    // The half seconds go on counting through the pause before the score: 3 + 6 of them.
-    QCOMPARE(game->circuit().halfSeconds, 9);
-    const int n = int(c.word.size());
-    const int band = 9.0 / n < 2 ? 500 : 9.0 / n < 4 ? 200 : 100;
-    const double hidden = Shared().GameOptionOn ? 1 : 5;
-    QVERIFY(Shared().Score >= hidden * (n * band + 501 * 5) &&
-            Shared().Score <= hidden * (n * band + 505 * 5));
-    QCOMPARE(driver.tables.size(), 1);
-    Pump();
-    QVERIFY(Showing<Title>());
-}
+        // A click in a later column is ignored.
+        clickLetter(game, 1, c.rightRow[1]);
+        QCOMPARE(c.column, 0);
+        Pump(1500);  // three half seconds on the clock
 
-void ShortCircuitScreenTest::wrongLetterShortsTheCircuit() {
-    ShellFixture fx;
-    auto* game = startGame(fx, 2, kWords);
-    QVERIFY(game);
-    const auto& c = game->circuit();
-    QCOMPARE(c.rightRow[0], 0);  // at level 2 the right letter is on top
-    const std::string word = c.word;
-    fx.dialogs.answerYes(false);
-    // Behind the try-again box the shorted column flashes on, red and back, every 300 ms.
-    QStringList looks;
-    fx.dialogs.whileOpen = [&](const ScriptedDialogs::Shown&) {
-        for (int i = 0; i < 4; ++i) {
-            Pump(300);
-            looks << game->letter(0, 1)->styleSheet();
+        fx.dialogs.answerYes(false);
+        for (int col = 0; col < int(c.word.size()); ++col) {
+            clickLetter(game, col, c.rightRow[col]);
+            if (col == 1) {
+                for (int r = 0; r < c.rows; ++r)
+                    QCOMPARE(game->letter(0, r)->isVisible(), r == c.rightRow[0]);
+            }
         }
-    };
-    clickLetter(game, 0, 1);
-    QCOMPARE(looks.size(), 4);
-    QVERIFY(looks[0] != looks[1]);
-    QCOMPARE(looks[0], looks[2]);
-    QCOMPARE(looks[1], looks[3]);
-    QCOMPARE(fx.sound.played.mid(fx.sound.played.size() - 2),
-             QStringList({"zap.wav", "loser3.wav"}));
-    QCOMPARE(fx.dialogs.last(),
-             "Oops! You short-circuited the connection! The word you were "
-             "trying to spell was \"" +
-                 QString::fromStdString(word) + "\". Would you like to try again?");
-    Pump();
-    QVERIFY(Showing<Title>());
-}
+        QVERIFY(game->lit());
+        QCOMPARE(fx.sound.played.count("laser.wav"), 1);
+        QVERIFY(fx.win.tables.isEmpty());
+        Pump(3000);
+        // The half seconds go on counting through the pause before the score: 3 + 6 of them.
+        QCOMPARE(game->circuit().halfSeconds, 9);
+        const int n = int(c.word.size());
+        const int band = 9.0 / n < 2 ? 500 : 9.0 / n < 4 ? 200 : 100;
+        const double hidden = Shared().GameOptionOn ? 1 : 5;
+        QVERIFY(Shared().Score >= hidden * (n * band + 501 * 5) &&
+                Shared().Score <= hidden * (n * band + 505 * 5));
+        QCOMPARE(fx.win.tables.size(), 1);
+        QVERIFY(BackAtTitle());
+    }
+
+    void wrongLetterShortsTheCircuit() {
+        ShellFixture fx;
+        auto* game = startGame(fx, 2, kWords);
+        QVERIFY(game);
+        const auto& c = game->circuit();
+        QCOMPARE(c.rightRow[0], 0);  // at level 2 the right letter is on top
+        const std::string word = c.word;
+        fx.dialogs.answerYes(false);
+        // Behind the try-again box the shorted column flashes on, red and back, every 300 ms.
+        QStringList looks;
+        fx.dialogs.whileOpen = [&](const ScriptedDialogs::Shown&) {
+            for (int i = 0; i < 4; ++i) {
+                Pump(300);
+                looks << game->letter(0, 1)->styleSheet();
+            }
+        };
+        clickLetter(game, 0, 1);
+        QCOMPARE(looks.size(), 4);
+        QVERIFY(looks[0] != looks[1]);
+        QCOMPARE(looks[0], looks[2]);
+        QCOMPARE(looks[1], looks[3]);
+        QCOMPARE(fx.sound.played.mid(fx.sound.played.size() - 2),
+                 QStringList({"zap.wav", "loser3.wav"}));
+        QCOMPARE(fx.dialogs.last(),
+                 "Oops! You short-circuited the connection! The word you were "
+                 "trying to spell was \"" +
+                     QString::fromStdString(word) + "\". Would you like to try again?");
+        QVERIFY(BackAtTitle());
+    }
+};
 
 QTEST_MAIN(ShortCircuitScreenTest)
 #include "short_circuit_screen_test.moc"

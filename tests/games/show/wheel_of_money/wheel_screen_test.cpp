@@ -1,16 +1,11 @@
 // The show on its screen: a whole game of ten spins through all ten mini-games to the table, and
 // the game that ends in the red.
 #include <QLineEdit>
-#include <QtTest>
 
-#include "core/score_table.h"
 #include "core/strings.h"
-#include "game_road.h"
 #include "games/show/wheel_of_money/wheel_screen.h"
 #include "platform/movie.h"
-
-using namespace wm;
-using namespace wm::test;
+#include "screen_kit.h"
 
 namespace {
 
@@ -71,73 +66,66 @@ void AnswerRight(GameShowForm* game) {
 class WheelScreenTest : public QObject {
     Q_OBJECT
 private slots:
-    void tenSpinsThroughEveryMiniGameToTheTable();
-    void aGameInTheRedEndsWithAdvice();
-};
+    void tenSpinsThroughEveryMiniGameToTheTable() {
+        Road fx(11, {"TV!"});  // the letter games need draws that differ
+        auto* game =
+            qobject_cast<GameShowForm*>(PlayFromTitle("Wheel of Money", "Human Body (", 4));
+        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        Pump(200);
+        QVERIFY(game->movieScreen()->isVisible());  // the intro plays first
+        QVERIFY(!game->command()->isEnabled());
+        UntilButton(game);
+        QVERIFY(!game->movieScreen()->isVisible());
+        QCOMPARE(game->command()->text(), "Click here to go to the wheel...");
+        QVERIFY(game->state().Label1.rfind("Welcome to Wheel of Money", 0) == 0);
 
-void WheelScreenTest::tenSpinsThroughEveryMiniGameToTheTable() {
-    ShellFixture fx;
-    SeededRng varied(11);  // the letter games need draws that differ
-    SetRng(&varied);
-    auto* game = qobject_cast<GameShowForm*>(PlayFromTitle("Wheel of Money", "Human Body (", 4));
-    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
-    Pump(200);
-    QVERIFY(game->movieScreen()->isVisible());  // the intro plays first
-    QVERIFY(!game->command()->isEnabled());
-    UntilButton(game);
-    QVERIFY(!game->movieScreen()->isVisible());
-    QCOMPARE(game->command()->text(), "Click here to go to the wheel...");
-    QVERIFY(game->state().Label1.rfind("Welcome to Wheel of Money", 0) == 0);
+        const int stops[] = {0, 1, 2, 4, 5, 6, 7, 8, 10, 11};
+        double total = 0;
+        for (int i = 0; i < 10; ++i) {
+            SpinTo(game, stops[i]);
+            QCOMPARE(game->state().SpinsLeft, 9 - i);
+            QCOMPARE(game->command()->text(), "Click here when you are ready to play...");
+            AnswerRight(game);
+            total += double(game->state().PrizeAmount);
+            QVERIFY2(game->state().Label1.rfind("Great job! $", 0) == 0,
+                     game->state().Label1.c_str());
+            QCOMPARE(Shared().Score, total);
+        }
+        QCOMPARE(game->command()->text(), "Click here to continue...");
+        QVERIFY(fx.sound.played.contains("beep.wav"));
+        QVERIFY(fx.sound.played.contains("cheer.wav"));
 
-    const int stops[] = {0, 1, 2, 4, 5, 6, 7, 8, 10, 11};
-    double total = 0;
-    for (int i = 0; i < 10; ++i) {
-        SpinTo(game, stops[i]);
-        QCOMPARE(game->state().SpinsLeft, 9 - i);
-        QCOMPARE(game->command()->text(), "Click here when you are ready to play...");
-        AnswerRight(game);
-        total += double(game->state().PrizeAmount);
-        QVERIFY2(game->state().Label1.rfind("Great job! $", 0) == 0, game->state().Label1.c_str());
-        QCOMPARE(Shared().Score, total);
-    }
-    QCOMPARE(game->command()->text(), "Click here to continue...");
-    QVERIFY(fx.sound.played.contains("beep.wav"));
-    QVERIFY(fx.sound.played.contains("cheer.wav"));
-
-    WinDriver driver({"TV!"});
-    SetModalHook(std::ref(driver));
-    fx.dialogs.answerYes(false);
-    game->clickCommand();
-    QCOMPARE(driver.congratulations.size(), 1);
-    QCOMPARE(fx.dialogs.last(), "You won a cash and prize total of $" + QString::number(total) +
-                                    "! Would you like to try again?");
-    Pump();
-    QVERIFY(Showing<Title>() != nullptr);
-    const ScoreTable t = ReadScoreTable(fx.path("scores/Wheel of Money.dat").toStdString());
-    QCOMPARE(t.score(1), total);
-}
-
-void WheelScreenTest::aGameInTheRedEndsWithAdvice() {
-    ShellFixture fx;
-    auto* game = qobject_cast<GameShowForm*>(
-        ContinueWithList(ChooserFor("Wheel of Money", 2, true), "Human Body ("));
-    QVERIFY(game);
-    Pump();
-    fx.rng.setFallback(0.1);
-    for (int i = 0; i < 10; ++i) {
-        SpinTo(game, 1);
+        fx.dialogs.answerYes(false);
         game->clickCommand();
-        // Too slow every time: the countdown runs out.
-        Pump(40000);
-        QVERIFY(game->state().Label1.rfind("Oops! Your time ran out!", 0) == 0);
+        QCOMPARE(fx.dialogs.last(), "You won a cash and prize total of $" + QString::number(total) +
+                                        "! Would you like to try again?");
+        QVERIFY(BackAtTitle());
+        QCOMPARE(TableRow(fx, "Wheel of Money"), "TV! " + QString::number(total));
     }
-    UntilButton(game);
-    game->clickCommand();
-    QCOMPARE(fx.dialogs.last(),
-             "Hmmm... maybe a bit more practice is needed before you're ready for this game. Go "
-             "and learn your vocab words, then come back and try again later...");
-    QVERIFY(Showing<Title>() != nullptr);
-}
+
+    void aGameInTheRedEndsWithAdvice() {
+        ShellFixture fx;
+        auto* game = qobject_cast<GameShowForm*>(
+            ContinueWithList(ChooserFor("Wheel of Money", 2, true), "Human Body ("));
+        QVERIFY(game);
+        Pump();
+        fx.rng.setFallback(0.1);
+        for (int i = 0; i < 10; ++i) {
+            SpinTo(game, 1);
+            game->clickCommand();
+            // Too slow every time: the countdown runs out.
+            Pump(40000);
+            QVERIFY(game->state().Label1.rfind("Oops! Your time ran out!", 0) == 0);
+        }
+        UntilButton(game);
+        game->clickCommand();
+        QCOMPARE(
+            fx.dialogs.last(),
+            "Hmmm... maybe a bit more practice is needed before you're ready for this game. Go "
+            "and learn your vocab words, then come back and try again later...");
+        QVERIFY(Showing<Title>() != nullptr);
+    }
+};
 
 QTEST_MAIN(WheelScreenTest)
 #include "wheel_screen_test.moc"

@@ -1,21 +1,16 @@
 // Flash cards on their screen: the road from the title into the cards with the cover's three
 // states and the end of the list; the alphabetical order, the scroll bar, the missing letter and
 // the sound gated by SoundOn.
-#include <QtTest>
 
-#include "road_kit.h"
 #include "games/study/flash_cards/flash_card_form.h"
+#include "screen_kit.h"
 #include "shell/flash_card_options.h"
-
-using namespace wm;
-using namespace wm::test;
 
 namespace {
 
-const std::vector<std::pair<std::string, std::string>> kAnimals = {
-    {"eel", "a long slippery fish"}, {"Cat", "a pet that purrs"},          {"ant", "a tiny insect"},
-    {"dog", "a pet that barks"},     {"bee", "it buzzes and makes honey"},
-};
+const Pairs kAnimals{
+    {"eel", "a long slippery fish"}, {"Cat", "a pet that purrs"}, {"ant", "a tiny insect"},
+    {"dog", "a pet that barks"}, {"bee", "it buzzes and makes honey"}};
 
 FlashCardForm* OpenCards(ShellFixture& fx, int mode, const char* letter = "A", bool sound = true) {
     WriteOneList(fx, "Animals", kAnimals);
@@ -44,82 +39,79 @@ void Uncover(FlashCardForm* f) {
 class FlashCardScreenTest : public QObject {
     Q_OBJECT
 private slots:
-    void fromTheTitleByLetterToTheEnd();
-    void alphabeticalWithButtonsAndScrollBar();
-};
-
-void FlashCardScreenTest::fromTheTitleByLetterToTheEnd() {
-    ShellFixture fx;
-    WriteOneList(fx, "Animals", kAnimals);
-    QVERIFY(ClickTitleButton("Flash Cards"));
-    auto* o = Showing<FlashCardOptions>();
-    QVERIFY(o);
-    QTest::mouseClick(o->Option2, Qt::LeftButton);
-    o->Letter->setText("c");
-    o->continueOn();
-    auto* game = Showing<GameOptions>();
-    game->SoundONOp->setChecked(true);
-    game->continueOn();
-    Pump();
-    auto* cards =
-        qobject_cast<FlashCardForm*>(ContinueWithList(Showing<ChooseList>(), "Animals ("));
-    QVERIFY(cards);
-    Pump();
-
-    QCOMPARE(cards->total_->text(), "Total cards available in this set: 5");
-    QCOMPARE(word(cards), "Cat");
-    QCOMPARE(cards->TheDefinition->text(), "a pet that purrs");
-    QCOMPARE(cards->Label1->text(), "Card number 3 out of 5");
-    QCOMPARE(cards->Gimme->text(), "Show the Word");
-    QCOMPARE(cards->coverState(), FlashCardForm::Cover::Covering);
-    QCOMPARE(fx.sound.played.count("pageturn.wav"), 1);
-
-    cards->Gimme->click();
-    QCOMPARE(cards->coverState(), FlashCardForm::Cover::Opening);
-    QCOMPARE(fx.sound.played.last(), "zap.wav");
-    cards->MovieBox->advance(5);
-    Pump(60);
-    QCOMPARE(cards->coverState(), FlashCardForm::Cover::Gone);
-    cards->Gimme->click();  // nothing more to open
-    QCOMPARE(fx.sound.played.count("zap.wav"), 1);
-
-    // By two: "eel" is the fifth card, and the next step runs past the list.
-    QTest::mouseClick(cards->Label2, Qt::LeftButton);
-    QCOMPARE(word(cards), "eel");
-    QCOMPARE(cards->coverState(), FlashCardForm::Cover::Covering);
-    QVERIFY(cards->Frame1->isHidden() && !cards->Frame2->isHidden());
-    cards->previousCard();
-    QCOMPARE(word(cards), "dog");
-    cards->nextCard();
-    cards->nextCard();
-    QCOMPARE(word(cards), "");
-    Uncover(cards);
-    QCOMPARE(word(cards), "That's the end of the list!");
-    QCOMPARE(cards->TheDefinition->text(), "That's the end of the list!");
-}
-
-void FlashCardScreenTest::alphabeticalWithButtonsAndScrollBar() {
-    {
+    void fromTheTitleByLetterToTheEnd() {
         ShellFixture fx;
-        auto* cards = OpenCards(fx, 1, "A", false);
+        WriteOneList(fx, "Animals", kAnimals);
+        QVERIFY(ClickTitleButton("Flash Cards"));
+        auto* o = Showing<FlashCardOptions>();
+        QVERIFY(o);
+        QTest::mouseClick(o->Option2, Qt::LeftButton);
+        o->Letter->setText("c");
+        o->continueOn();
+        auto* game = Showing<GameOptions>();
+        game->SoundONOp->setChecked(true);
+        game->continueOn();
+        Pump();
+        auto* cards =
+            qobject_cast<FlashCardForm*>(ContinueWithList(Showing<ChooseList>(), "Animals ("));
         QVERIFY(cards);
-        QTest::mouseClick(cards->Label2, Qt::LeftButton);
-        QCOMPARE(word(cards), "bee");
-        cards->CardScroll->setValue(4);
-        QCOMPARE(cards->Label1->text(), "Card number 4 out of 5");
-        QTest::mouseClick(cards->backlabel, Qt::LeftButton);
+        Pump();
+
+        QCOMPARE(cards->total_->text(), "Total cards available in this set: 5");
         QCOMPARE(word(cards), "Cat");
-        QVERIFY(!fx.sound.played.contains("pageturn.wav"));  // sound off
+        QCOMPARE(cards->TheDefinition->text(), "a pet that purrs");
+        QCOMPARE(cards->Label1->text(), "Card number 3 out of 5");
+        QCOMPARE(cards->Gimme->text(), "Show the Word");
+        QCOMPARE(cards->coverState(), FlashCardForm::Cover::Covering);
+        QCOMPARE(fx.sound.played.count("pageturn.wav"), 1);
+
+        cards->Gimme->click();
+        QCOMPARE(cards->coverState(), FlashCardForm::Cover::Opening);
+        QCOMPARE(fx.sound.played.last(), "zap.wav");
+        cards->MovieBox->advance(5);
+        Pump(60);
+        QCOMPARE(cards->coverState(), FlashCardForm::Cover::Gone);
+        cards->Gimme->click();  // nothing more to open
+        QCOMPARE(fx.sound.played.count("zap.wav"), 1);
+
+        // By two: "eel" is the fifth card, and the next step runs past the list.
+        QTest::mouseClick(cards->Label2, Qt::LeftButton);
+        QCOMPARE(word(cards), "eel");
+        QCOMPARE(cards->coverState(), FlashCardForm::Cover::Covering);
+        QVERIFY(cards->Frame1->isHidden() && !cards->Frame2->isHidden());
+        cards->previousCard();
+        QCOMPARE(word(cards), "dog");
+        cards->nextCard();
+        cards->nextCard();
+        QCOMPARE(word(cards), "");
+        Uncover(cards);
+        QCOMPARE(word(cards), "That's the end of the list!");
+        QCOMPARE(cards->TheDefinition->text(), "That's the end of the list!");
     }
-    // A letter no word starts with: told so, and the cards run one by one from the start.
-    ShellFixture fx2;
-    auto* cards = OpenCards(fx2, 3, "z");
-    QVERIFY(cards);
-    QCOMPARE(fx2.dialogs.shown.back().text,
-             "No words in this list start with z! Starting at beginning of list instead...");
-    cards->nextCard();
-    QCOMPARE(word(cards), "bee");
-}
+
+    void alphabeticalWithButtonsAndScrollBar() {
+        {
+            ShellFixture fx;
+            auto* cards = OpenCards(fx, 1, "A", false);
+            QVERIFY(cards);
+            QTest::mouseClick(cards->Label2, Qt::LeftButton);
+            QCOMPARE(word(cards), "bee");
+            cards->CardScroll->setValue(4);
+            QCOMPARE(cards->Label1->text(), "Card number 4 out of 5");
+            QTest::mouseClick(cards->backlabel, Qt::LeftButton);
+            QCOMPARE(word(cards), "Cat");
+            QVERIFY(!fx.sound.played.contains("pageturn.wav"));  // sound off
+        }
+        // A letter no word starts with: told so, and the cards run one by one from the start.
+        ShellFixture fx2;
+        auto* cards = OpenCards(fx2, 3, "z");
+        QVERIFY(cards);
+        QCOMPARE(fx2.dialogs.shown.back().text,
+                 "No words in this list start with z! Starting at beginning of list instead...");
+        cards->nextCard();
+        QCOMPARE(word(cards), "bee");
+    }
+};
 
 QTEST_MAIN(FlashCardScreenTest)
 #include "flash_card_screen_test.moc"

@@ -1,26 +1,18 @@
 // The quiz on its screen: a whole run of three questions with one wrong answer through the
 // results box back to the title (Escape on the way does nothing); questions on meanings, Restart
 // in the middle of the feedback, sound gated by SoundOn.
-#include <QtTest>
 
-#include "road_kit.h"
-#include "games/study/quiz/quiz_results.h"
 #include "games/study/quiz/quiz_screen.h"
+#include "games/study/quiz/quiz_results.h"
+#include "screen_kit.h"
 #include "shell/quiz_options.h"
-
-using namespace wm;
-using namespace wm::test;
 
 namespace {
 
-const std::vector<std::pair<std::string, std::string>> kPlanets = {
-    {"Mercury", "the planet closest to the Sun"},
-    {"Venus", "the hottest planet"},
-    {"Earth", "the planet we live on"},
-    {"Mars", "the red planet"},
-    {"Jupiter", "the largest planet"},
-    {"Saturn", "the planet with the brightest rings"},
-};
+const Pairs kPlanets{
+    {"Mercury", "the planet closest to the Sun"}, {"Venus", "the hottest planet"},
+    {"Earth", "the planet we live on"}, {"Mars", "the red planet"},
+    {"Jupiter", "the largest planet"}, {"Saturn", "the planet with the brightest rings"}};
 
 int wrongChoice(const Quiz* q) {
     return q->run().CorrectChoice == 1 ? 1 : 0;  // index of a card that is not the answer
@@ -35,122 +27,118 @@ QLabel* child(QWidget* w, const char* name) {
 class QuizScreenTest : public QObject {
     Q_OBJECT
 private slots:
-    void wholeQuizWithOneWrongAnswer();
-    void restartDuringFeedbackAndSoundOff();
+    void wholeQuizWithOneWrongAnswer() {
+        ShellFixture fx;
+        WriteOneList(fx, "Planets", kPlanets);
+        QVERIFY(ClickTitleButton("Quiz"));
+        auto* options = Showing<QuizOptions>();
+        QVERIFY(options);
+        options->QuestionBar->setValue(3);
+        options->continueOn();
+        auto* game = Showing<GameOptions>();
+        QVERIFY(game);
+        game->SpeedBar->setValue(4);
+        game->SoundONOp->setChecked(true);
+        game->continueOn();
+        Pump();
+        auto* quiz = qobject_cast<Quiz*>(ContinueWithList(Showing<ChooseList>(), "Planets ("));
+        QVERIFY(quiz);
+        Pump();
+
+        auto* remaining = child(quiz, "RemainingLabel");
+        QCOMPARE(child(quiz, "Direct")->text(),
+                 "Directions:  Click the meaning that BEST matches the word shown below.");
+        QCOMPARE(child(quiz, "Questionlabel")->text(), QString::fromStdString(Shared().TheWord));
+        QCOMPARE(remaining->text(), "2");
+        for (int i = 0; i < 8; ++i) QCOMPARE(quiz->answers()[i]->isVisible(), i < 4);
+        QCOMPARE(quiz->answerColour(0), 12582912);
+        QVERIFY(!quiz->findChild<QAction*>("HS")->isVisible());
+        // Escape on the quiz itself does nothing: the run goes on, no box asks.
+        QTest::keyClick(quiz->answers()[0], Qt::Key_Escape);
+        Pump();
+        QCOMPARE(Showing<Quiz>(), quiz);
+        QVERIFY(fx.dialogs.shown.empty());
+
+        // 1: right.
+        const int right1 = quiz->run().CorrectChoice - 1;
+        QCOMPARE(quiz->answers()[right1]->text(), QString::fromStdString(Shared().TheMeaning));
+        QTest::mouseClick(quiz->answers()[right1], Qt::LeftButton);
+        QCOMPARE(child(quiz, "Feedback")->text(), "Correct!");
+        QVERIFY(child(quiz, "Happy")->isVisible() && !child(quiz, "Sad")->isVisible());
+        QCOMPARE(quiz->answerColour(right1), 255);
+        QCOMPARE(child(quiz, "CorrectLabel")->text(), "1");
+        QCOMPARE(fx.sound.played, QStringList{"dingling.wav"});
+        // A second click while the feedback shows counts for nothing.
+        QTest::mouseClick(quiz->answers()[wrongChoice(quiz)], Qt::LeftButton);
+        QCOMPARE(child(quiz, "WrongLabel")->text(), "0");
+        QTest::mouseClick(quiz->findChild<QPushButton*>("Label1"), Qt::LeftButton);
+        QCOMPARE(remaining->text(), "1");
+        QVERIFY(!quiz->findChild<QFrame*>("Frame2")->isVisible());
+        QCOMPARE(quiz->answerColour(right1), 12582912);
+
+        // 2: wrong, and the right card flashes red and blue on the timer.
+        const int right2 = quiz->run().CorrectChoice - 1;
+        QTest::mouseClick(quiz->answers()[wrongChoice(quiz)], Qt::LeftButton);
+        QCOMPARE(child(quiz, "Feedback")->text(), "Wrong");
+        QVERIFY(child(quiz, "Sad")->isVisible() && !child(quiz, "Happy")->isVisible());
+        QCOMPARE(child(quiz, "WrongLabel")->text(), "1");
+        QCOMPARE(fx.sound.played.last(), "gbell.wav");
+        QCOMPARE(quiz->answerColour(right2), 255);
+        Pump(310);
+        QCOMPARE(quiz->answerColour(right2), 16711680);
+        Pump(310);
+        QCOMPARE(quiz->answerColour(right2), 255);
+        QTest::mouseClick(quiz->findChild<QPushButton*>("Label1"), Qt::LeftButton);
+        Pump(620);
+        QCOMPARE(quiz->answerColour(right2), 12582912);  // the flashing stopped
+
+        // 3: right, then the results.
+        QCOMPARE(remaining->text(), "0");
+        QTest::mouseClick(quiz->answers()[quiz->run().CorrectChoice - 1], Qt::LeftButton);
+        QStringList seen;
+        bool percentHiddenFirst = false;
+        SetModalHook([&](QDialog& d) {
+            auto* r = qobject_cast<QuizResults*>(&d);
+            QVERIFY(r);
+            seen << r->Label1->text() << r->Label4->text();
+            percentHiddenFirst = !r->Label3->isVisible() && r->stamp()->isPlaying();
+            r->stamp()->advance(0.7);
+            r->stamp()->advance(5);
+            Pump(100);
+            seen << (r->Label3->isVisible() ? r->Label3->text() : QString());
+            r->OK->click();
+        });
+        QTest::mouseClick(quiz->findChild<QPushButton*>("Label1"), Qt::LeftButton);
+        Pump();
+        QCOMPARE(seen, (QStringList{"You got 2 out of 3 correct.",
+                                    "Looks like you could use a little more work.", "66%"}));
+        QVERIFY(percentHiddenFirst);
+        QVERIFY(Showing<Title>());
+    }
+
+    void restartDuringFeedbackAndSoundOff() {
+        ShellFixture fx;
+        WriteOneList(fx, "Planets", kPlanets);
+        Shared().QuizType = 2;
+        Shared().QuizLength = 5;
+        auto* quiz =
+            qobject_cast<Quiz*>(ContinueWithList(ChooserFor("Quiz", 6, true, false), "Planets ("));
+        QVERIFY(quiz);
+        Pump();
+        QCOMPARE(child(quiz, "Direct")->text(),
+                 "Directions:  Click the word that BEST matches the meaning shown below.");
+        QCOMPARE(child(quiz, "Questionlabel")->text(), QString::fromStdString(Shared().TheMeaning));
+        QTest::mouseClick(quiz->answers()[wrongChoice(quiz)], Qt::LeftButton);
+        QVERIFY(fx.sound.played.isEmpty());  // sound off
+        QVERIFY(TriggerMenu(quiz, "RS"));
+        Pump(700);
+        QCOMPARE(child(quiz, "WrongLabel")->text(), "0");
+        QCOMPARE(child(quiz, "RemainingLabel")->text(), "4");
+        QVERIFY(!child(quiz, "Feedback")->isVisible());
+        QVERIFY(TriggerMenu(quiz, "Return"));
+        QVERIFY(BackAtTitle());
+    }
 };
-
-void QuizScreenTest::wholeQuizWithOneWrongAnswer() {
-    ShellFixture fx;
-    WriteOneList(fx, "Planets", kPlanets);
-    QVERIFY(ClickTitleButton("Quiz"));
-    auto* options = Showing<QuizOptions>();
-    QVERIFY(options);
-    options->QuestionBar->setValue(3);
-    options->continueOn();
-    auto* game = Showing<GameOptions>();
-    QVERIFY(game);
-    game->SpeedBar->setValue(4);
-    game->SoundONOp->setChecked(true);
-    game->continueOn();
-    Pump();
-    auto* quiz = qobject_cast<Quiz*>(ContinueWithList(Showing<ChooseList>(), "Planets ("));
-    QVERIFY(quiz);
-    Pump();
-
-    auto* remaining = child(quiz, "RemainingLabel");
-    QCOMPARE(child(quiz, "Direct")->text(),
-             "Directions:  Click the meaning that BEST matches the word shown below.");
-    QCOMPARE(child(quiz, "Questionlabel")->text(), QString::fromStdString(Shared().TheWord));
-    QCOMPARE(remaining->text(), "2");
-    for (int i = 0; i < 8; ++i) QCOMPARE(quiz->answers()[i]->isVisible(), i < 4);
-    QCOMPARE(quiz->answerColour(0), 12582912);
-    QVERIFY(!quiz->findChild<QAction*>("HS")->isVisible());
-    // Escape on the quiz itself does nothing: the run goes on, no box asks.
-    QTest::keyClick(quiz->answers()[0], Qt::Key_Escape);
-    Pump();
-    QCOMPARE(Showing<Quiz>(), quiz);
-    QVERIFY(fx.dialogs.shown.empty());
-
-    // 1: right.
-    const int right1 = quiz->run().CorrectChoice - 1;
-    QCOMPARE(quiz->answers()[right1]->text(), QString::fromStdString(Shared().TheMeaning));
-    QTest::mouseClick(quiz->answers()[right1], Qt::LeftButton);
-    QCOMPARE(child(quiz, "Feedback")->text(), "Correct!");
-    QVERIFY(child(quiz, "Happy")->isVisible() && !child(quiz, "Sad")->isVisible());
-    QCOMPARE(quiz->answerColour(right1), 255);
-    QCOMPARE(child(quiz, "CorrectLabel")->text(), "1");
-    QCOMPARE(fx.sound.played, QStringList{"dingling.wav"});
-    // A second click while the feedback shows counts for nothing.
-    QTest::mouseClick(quiz->answers()[wrongChoice(quiz)], Qt::LeftButton);
-    QCOMPARE(child(quiz, "WrongLabel")->text(), "0");
-    QTest::mouseClick(quiz->findChild<QPushButton*>("Label1"), Qt::LeftButton);
-    QCOMPARE(remaining->text(), "1");
-    QVERIFY(!quiz->findChild<QFrame*>("Frame2")->isVisible());
-    QCOMPARE(quiz->answerColour(right1), 12582912);
-
-    // 2: wrong, and the right card flashes red and blue on the timer.
-    const int right2 = quiz->run().CorrectChoice - 1;
-    QTest::mouseClick(quiz->answers()[wrongChoice(quiz)], Qt::LeftButton);
-    QCOMPARE(child(quiz, "Feedback")->text(), "Wrong");
-    QVERIFY(child(quiz, "Sad")->isVisible() && !child(quiz, "Happy")->isVisible());
-    QCOMPARE(child(quiz, "WrongLabel")->text(), "1");
-    QCOMPARE(fx.sound.played.last(), "gbell.wav");
-    QCOMPARE(quiz->answerColour(right2), 255);
-    Pump(310);
-    QCOMPARE(quiz->answerColour(right2), 16711680);
-    Pump(310);
-    QCOMPARE(quiz->answerColour(right2), 255);
-    QTest::mouseClick(quiz->findChild<QPushButton*>("Label1"), Qt::LeftButton);
-    Pump(620);
-    QCOMPARE(quiz->answerColour(right2), 12582912);  // the flashing stopped
-
-    // 3: right, then the results.
-    QCOMPARE(remaining->text(), "0");
-    QTest::mouseClick(quiz->answers()[quiz->run().CorrectChoice - 1], Qt::LeftButton);
-    QStringList seen;
-    bool percentHiddenFirst = false;
-    SetModalHook([&](QDialog& d) {
-        auto* r = qobject_cast<QuizResults*>(&d);
-        QVERIFY(r);
-        seen << r->Label1->text() << r->Label4->text();
-        percentHiddenFirst = !r->Label3->isVisible() && r->stamp()->isPlaying();
-        r->stamp()->advance(0.7);
-        r->stamp()->advance(5);
-        Pump(100);
-        seen << (r->Label3->isVisible() ? r->Label3->text() : QString());
-        r->OK->click();
-    });
-    QTest::mouseClick(quiz->findChild<QPushButton*>("Label1"), Qt::LeftButton);
-    Pump();
-    QCOMPARE(seen, (QStringList{"You got 2 out of 3 correct.",
-                                "Looks like you could use a little more work.", "66%"}));
-    QVERIFY(percentHiddenFirst);
-    QVERIFY(Showing<Title>());
-}
-
-void QuizScreenTest::restartDuringFeedbackAndSoundOff() {
-    ShellFixture fx;
-    WriteOneList(fx, "Planets", kPlanets);
-    Shared().QuizType = 2;
-    Shared().QuizLength = 5;
-    auto* quiz =
-        qobject_cast<Quiz*>(ContinueWithList(ChooserFor("Quiz", 6, true, false), "Planets ("));
-    QVERIFY(quiz);
-    Pump();
-    QCOMPARE(child(quiz, "Direct")->text(),
-             "Directions:  Click the word that BEST matches the meaning shown below.");
-    QCOMPARE(child(quiz, "Questionlabel")->text(), QString::fromStdString(Shared().TheMeaning));
-    QTest::mouseClick(quiz->answers()[wrongChoice(quiz)], Qt::LeftButton);
-    QVERIFY(fx.sound.played.isEmpty());  // sound off
-    QVERIFY(TriggerMenu(quiz, "RS"));
-    Pump(700);
-    QCOMPARE(child(quiz, "WrongLabel")->text(), "0");
-    QCOMPARE(child(quiz, "RemainingLabel")->text(), "4");
-    QVERIFY(!child(quiz, "Feedback")->isVisible());
-    QVERIFY(TriggerMenu(quiz, "Return"));
-    Pump();
-    QVERIFY(Showing<Title>());
-}
 
 QTEST_MAIN(QuizScreenTest)
 #include "quiz_screen_test.moc"

@@ -1,92 +1,81 @@
 // Scramble on its screen: from the title through the options and the chooser to a win and the
 // table; Hint, and a wrong guess to its try-again box, another word and Give Up.
-#include <QtTest>
 
-#include "core/clock.h"
-#include "core/score_table.h"
 #include "games/study/scramble/scramble_screen.h"
-#include "road_kit.h"
-
-using namespace wm;
-using namespace wm::test;
+#include "core/clock.h"
+#include "screen_kit.h"
 
 class ScrambleScreenTest : public QObject {
     Q_OBJECT
 private slots:
-    void fromTheTitleToTheTable();
-    void wrongGuessAsksAgainAndHintCosts();
+    void fromTheTitleToTheTable() {
+        Road fx(1, {"ABC"});
+        FixedClock clock(0.5);
+        SetClock(&clock);
+        const auto reset = qScopeGuard([] { SetClock(nullptr); });
+        QVERIFY(ClickTitleButton("Scramble"));
+        auto* options = Showing<GameOptions>();
+        QVERIFY(options);
+        QCOMPARE(options->Frame2->title(), "Scatter Letters?");
+        QVERIFY(options->Option2->isChecked());
+        QCOMPARE(options->SpeedBar->maximum(), 3);
+        options->Option1->setChecked(true);  // scatter
+        options->SpeedBar->setValue(2);
+        QTest::mouseClick(options->Command1, Qt::LeftButton);
+        Pump();
+        auto* game =
+            qobject_cast<Scramble*>(ContinueWithList(Showing<ChooseList>(), "Human Body ("));
+        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        Pump();
+        const SharedState& s = Shared();
+        QVERIFY(game->round().scatter);
+        const QString word = QString::fromStdString(s.TheWord);
+        QString tiles;  // the word's letters, shuffled
+        for (auto* l : game->letters())
+            if (l->isVisible()) tiles += l->text();
+        auto sorted = [](QString t) {
+            std::sort(t.begin(), t.end());
+            return t.toLower();
+        };
+        QCOMPARE(sorted(tiles), sorted(word));
+        QTest::keyClicks(game->guessBox(), word.toUpper());
+        QTest::keyClick(game->guessBox(), Qt::Key_Return);
+        QVERIFY(fx.sound.played.contains("applause.wav"));
+        QVERIFY(s.Score > 0);
+        WM_VERIFY(WonBox(fx, s.Score));
+        QCOMPARE(TableRow(fx, "Scramble"), "ABC " + QString::number(s.Score));
+        QVERIFY(BackAtTitle());
+    }
+
+    void wrongGuessAsksAgainAndHintCosts() {
+        Road fx(2);
+        fx.writeLines("thelists.new", {"Foxes", "fox", "a wild dog with a bushy tail"});
+        auto* game =
+            qobject_cast<Scramble*>(ContinueWithList(ChooserFor("Scramble", 1, true), "Foxes"));
+        QVERIFY(game);
+        Pump();
+        Button(game, "Command3")->click();
+        QCOMPARE(fx.dialogs.last(), "This word means \"a wild dog with a bushy tail\"");
+        QCOMPARE(fx.dialogs.shown.back().title, "Hint");
+        QCOMPARE(Shared().Score, -1000.0);
+        Button(game, "Command1")->click();  // nothing typed: no guess
+        QCOMPARE(fx.dialogs.shown.size(), std::size_t(1));
+        fx.dialogs.answerYes(true).answerYes(false);
+        QTest::keyClicks(game->guessBox(), "dog");
+        QTest::keyClick(game->guessBox(), Qt::Key_Return);
+        QCOMPARE(fx.sound.played.last(), "fall.wav");
+        QCOMPARE(fx.dialogs.last(),
+                 "Oops! The scrambled word was \"fox\". Would you like to try again?");
+        Pump();
+        QCOMPARE(Showing<Scramble>(), game);  // yes: another word
+        QCOMPARE(Shared().Score, 0.0);
+        Button(game, "Command2")->click();  // Give Up
+        QCOMPARE(fx.dialogs.last(),
+                 "Oops! The scrambled word was \"fox\". Would you like to try again?");
+        QVERIFY(BackAtTitle());
+        QVERIFY(fx.win.tables.isEmpty());
+    }
 };
-
-void ScrambleScreenTest::fromTheTitleToTheTable() {
-    Road fx(1, {"ABC"});
-    FixedClock clock(0.5);
-    SetClock(&clock);
-    const auto reset = qScopeGuard([] { SetClock(nullptr); });
-    QVERIFY(ClickTitleButton("Scramble"));
-    auto* options = Showing<GameOptions>();
-    QVERIFY(options);
-    QCOMPARE(options->Frame2->title(), "Scatter Letters?");
-    QVERIFY(options->Option2->isChecked());
-    QCOMPARE(options->SpeedBar->maximum(), 3);
-    options->Option1->setChecked(true);  // scatter
-    options->SpeedBar->setValue(2);
-    QTest::mouseClick(options->Command1, Qt::LeftButton);
-    Pump();
-    auto* game = qobject_cast<Scramble*>(ContinueWithList(Showing<ChooseList>(), "Human Body ("));
-    QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
-    Pump();
-    const SharedState& s = Shared();
-    QVERIFY(game->round().scatter);
-    const QString word = QString::fromStdString(s.TheWord);
-    QString tiles;  // the word's letters, shuffled
-    for (auto* l : game->letters())
-        if (l->isVisible()) tiles += l->text();
-    auto sorted = [](QString t) {
-        std::sort(t.begin(), t.end());
-        return t.toLower();
-    };
-    QCOMPARE(sorted(tiles), sorted(word));
-    QTest::keyClicks(game->guessBox(), word.toUpper());
-    QTest::keyClick(game->guessBox(), Qt::Key_Return);
-    QVERIFY(fx.sound.played.contains("applause.wav"));
-    QCOMPARE(fx.win.congratulations.size(), 1);
-    QVERIFY(fx.dialogs.last().startsWith("You got a high score of "));
-    QCOMPARE(fx.dialogs.shown.back().title, "Great job!");
-    Pump();
-    QVERIFY(Showing<Title>());
-    const ScoreTable table = ReadScoreTable(fx.path("scores/Scramble.dat").toStdString());
-    QCOMPARE(QString::fromStdString(table.initials(1)), "ABC");
-    QVERIFY(s.Score > 0);
-    QCOMPARE(table.score(1), s.Score);
-}
-
-void ScrambleScreenTest::wrongGuessAsksAgainAndHintCosts() {
-    Road fx(2);
-    fx.writeLines("thelists.new", {"Foxes", "fox", "a wild dog with a bushy tail"});
-    auto* game =
-        qobject_cast<Scramble*>(ContinueWithList(ChooserFor("Scramble", 1, true), "Foxes"));
-    QVERIFY(game);
-    Pump();
-    Button(game, "Command3")->click();
-    QCOMPARE(fx.dialogs.last(), "This word means \"a wild dog with a bushy tail\"");
-    QCOMPARE(fx.dialogs.shown.back().title, "Hint");
-    QCOMPARE(Shared().Score, -1000.0);
-    Button(game, "Command1")->click();  // nothing typed: no guess
-    QCOMPARE(fx.dialogs.shown.size(), std::size_t(1));
-    fx.dialogs.answerYes(true).answerYes(false);
-    QTest::keyClicks(game->guessBox(), "dog");
-    QTest::keyClick(game->guessBox(), Qt::Key_Return);
-    QCOMPARE(fx.sound.played.last(), "fall.wav");
-    QCOMPARE(fx.dialogs.last(), "Oops! The scrambled word was \"fox\". Would you like to try again?");
-    Pump();
-    QCOMPARE(Showing<Scramble>(), game);  // yes: another word
-    QCOMPARE(Shared().Score, 0.0);
-    Button(game, "Command2")->click();  // Give Up
-    QCOMPARE(fx.dialogs.last(), "Oops! The scrambled word was \"fox\". Would you like to try again?");
-    Pump();
-    QVERIFY(Showing<Title>());
-    QVERIFY(fx.win.tables.isEmpty());
-}
 
 QTEST_MAIN(ScrambleScreenTest)
 #include "scramble_screen_test.moc"
