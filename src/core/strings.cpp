@@ -1,6 +1,6 @@
-#include <algorithm>
 #include "core/strings.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -89,8 +89,7 @@ bool IsLetter(char c) {
     const auto u = static_cast<unsigned char>(c);
     if ((u >= 'A' && u <= 'Z') || (u >= 'a' && u <= 'z')) return true;
     if (u >= 0xC0) return u != 0xD7 && u != 0xF7;
-    return u == 0x8A || u == 0x8C || u == 0x8E || u == 0x9A || u == 0x9C || u == 0x9E ||
-           u == 0x9F;
+    return u == 0x8A || u == 0x8C || u == 0x8E || u == 0x9A || u == 0x9C || u == 0x9E || u == 0x9F;
 }
 
 bool IsLetterOrDigit(char c) {

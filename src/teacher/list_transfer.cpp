@@ -358,7 +358,8 @@ ImportedList ParseKvtml(const QByteArray& bytes, const QString& fileName) {
     if (xml.hasError() || !root) {
         QString why = root ? xml.errorString() : QString("it has no kvtml element");
         if (why.endsWith('.')) why.chop(1);  // the reader's own sentence sits inside brackets
-        list.error = "The file " + fileName + " is not a KVTML file that can be read (" + why + ").";
+        list.error =
+            "The file " + fileName + " is not a KVTML file that can be read (" + why + ").";
     } else if (old) {
         list.error = "The file " + fileName +
                      " is in the older KVTML 1 format, which is not supported. Open it in a "

@@ -1,6 +1,6 @@
-#include <algorithm>
 #include "games/study/scramble/scramble_rules.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <limits>
 
