@@ -97,7 +97,6 @@ void RemoveListFromCategories(const std::string& folderFilePath, const std::stri
     if (IsLocked(folderFilePath)) return;
     std::vector<std::string> lines = ReadLines(folderFilePath);
     std::vector<std::string> kept;
-    kept.reserve(lines.size());
     for (auto& l : lines) {
         if (l != name) kept.push_back(std::move(l));
     }

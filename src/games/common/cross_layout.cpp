@@ -105,11 +105,6 @@ public:
     const std::vector<PlacedWord>& order() const { return order_; }
 
 private:
-    const std::string& word(int index) const {
-        static const std::string none;
-        return index >= 0 && index < static_cast<int>(words_.size()) ? words_[index] : none;
-    }
-
     int drawIndex() {
         const int k = static_cast<int>(Int(rng_.Rnd() * wordCount_ + 1));
         return std::clamp(k, 1, wordCount_);  // a generator outside [0, 1) stays on the list
@@ -120,7 +115,7 @@ private:
         const int index = drawIndex();
         available_[index] = false;
         const int col = static_cast<int>(Int(rng_.Rnd() * 10 + 1));
-        const std::string& text = word(index);
+        const std::string& text = words_[index];  // drawn within the list's entries
         const int length = Len(text);
         // A first word longer than the board has no room: the attempt fails like any other.
         if (length > p_.rows) return false;
@@ -159,11 +154,11 @@ private:
     // reseeding costs more than the scan itself and would make a hard list stall the screen.
     // The draws are the same and in the same order.
     bool cross(int index) {
-        const int scanOrder = static_cast<int>(Int(rng_.Rnd() * 2 + 1));
-        const unsigned char orderBit = scanOrder == 1 ? 1 : 2;
+        const bool forward = static_cast<int>(Int(rng_.Rnd() * 2 + 1)) == 1;
+        const unsigned char orderBit = forward ? 1 : 2;
         if (failed_[index] & orderBit) return false;
         failed_[index] |= orderBit;
-        const std::string& text = word(index);
+        const std::string& text = words_[index];  // drawn within the list's entries
         auto tryCell = [&](int x, int y) {
             const char letter = board_.CrossLetters[x][y];
             if (letter == 0) return false;
@@ -180,7 +175,7 @@ private:
             }
             return false;
         };
-        if (scanOrder == 1) {
+        if (forward) {
             for (int x = 1; x <= p_.cols; ++x)
                 for (int y = 1; y <= p_.rows; ++y)
                     if (tryCell(x, y)) return true;

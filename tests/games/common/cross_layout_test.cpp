@@ -177,9 +177,13 @@ TEST(CrossLayout, NeighbourCapAndAgreementRules) {
         // "AB" would be followed by "C"... the cell after the end must be free.
         {"cell after the end taken", "XB", 5, 10, 2, true, false},
         {"cell before the start taken", "CX", 6, 10, 1, true, false},
+        {"cell after the end taken, down", "XA", 5, 9, 2, false, false},
         // Running through agreeing letters: "BCD" lays over "BC" and carries on.
         {"runs through agreeing letters", "BCD", 5, 10, 1, true, true},
         {"disagreeing letter", "BXD", 5, 10, 1, true, false},
+        // The same, crossing at the word's end: the letters before it are read backwards.
+        {"runs back through agreeing letters", "BCD", 7, 10, 3, true, true},
+        {"disagreeing letter behind", "XCD", 7, 10, 3, true, false},
         {"case counts", "Bc", 5, 10, 1, true, false},
         // The same word laid wholly over its twin would have no cell of its own.
         {"twin laid over a word", "BC", 5, 10, 1, true, false},
@@ -260,7 +264,9 @@ TEST(CrossLayout, MoreWordsWantedThanTheListHoldsEndsWithoutHanging) {
     EXPECT_LT(stuck.draws, 5000);
 
     ScriptedRng none;
-    EXPECT_FALSE(layOut(list({}), 0, 2, kCrosswordParams, none).ok);
+    const LayoutResult empty = layOut(list({}), 0, 2, kCrosswordParams, none);
+    EXPECT_FALSE(empty.ok);
+    EXPECT_EQ(empty.message, "Crossword creation failed. Please try another word list.");
     EXPECT_FALSE(layOut(list({"CAT"}), 1, 0, kCrosswordParams, none).ok);
     // A count past the entries held: those entries are no words, and nothing is read past them.
     ScriptedRng past(0.99);

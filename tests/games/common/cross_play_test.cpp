@@ -128,6 +128,10 @@ TEST(CrossPlay, FlashThenSolvedCellsSteerTheNextClick) {
     // Solved both ways: a click does nothing at all.
     EXPECT_FALSE(clickCell(b, 52));
     EXPECT_FALSE(b.helpShown);
+    // The next solved word flashes its full ten ticks again.
+    endSelectionSolved(b);
+    for (int t = 1; t <= 10; ++t) flashTick(b);
+    EXPECT_TRUE(b.flashing);
 }
 
 TEST(CrossPlay, EdgeTestsAreKeptAsDesigned) {
@@ -148,6 +152,10 @@ TEST(CrossPlay, EdgeTestsAreKeptAsDesigned) {
     EXPECT_TRUE(clickCell(b, 474));
     EXPECT_EQ(b.SelStart, 449);
     EXPECT_EQ(b.SelWord, 1);
+    // An answer longer than the room left stops at the board's last row.
+    PlayBoard longer = b;
+    EXPECT_TRUE(giveAnswer(longer, "oxen"));
+    EXPECT_EQ(longer.caption[474], 'X');
     // Cell 25 has no cell "above" (25 - 25 is not above 0), so its word cannot be found from it.
     EXPECT_TRUE(clickCell(b, 0));
     EXPECT_EQ(b.SelWord, 2);
@@ -161,6 +169,11 @@ TEST(CrossPlay, EdgeTestsAreKeptAsDesigned) {
     PlayBoard t = makePlayBoard(top, 25, 19);
     EXPECT_TRUE(clickCell(t, 1));
     EXPECT_EQ(t.SelStart, 0);
+    PlayBoard first = makePlayBoard(top, 25, 19);
+    EXPECT_TRUE(clickCell(first, 0));  // from its first cell, the word runs on to the right
+    EXPECT_EQ(pinks(first), "0 1 ");
+    EXPECT_FALSE(clickCell(t, -1));
+    EXPECT_FALSE(clickCell(t, t.cells()));
 }
 
 TEST(CrossPlay, EndOfTheGame) {

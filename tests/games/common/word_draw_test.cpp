@@ -23,6 +23,8 @@ TEST(DrawFreshWord, DrawsLoadedPlayableFreshEntriesAndAlwaysEnds) {
     ScriptedRng top(0.99);
     EXPECT_EQ(DrawFreshWord(Words({"", "ant"}, 5), top, {}, 1000, kAny), 1);
     EXPECT_EQ(DrawFreshWord(Words({"", "ant", "bee", "cat"}, 3), top, {}, 2, kAny), 2);
+    // A past draw that is no entry of this list (a stale index) is no repeat.
+    EXPECT_EQ(DrawFreshWord(Words({"", "ant"}, 1), top, {2, -1}, 1000, kAny), 1);
     // The same text in other capitals is a repeat: the draw goes on to the next.
     ScriptedRng rng;
     rng.then(0.4).then(0.9);
