@@ -174,6 +174,7 @@ private slots:
             OpenChooser(fx, "Hang Glider", {"<New List>", "Unit (2)", "ant", "a small insect"});
         QVERIFY(chooser->lists()->isVisible());
         QCOMPARE(chooser->lists()->currentRow(), 0);  // the first line when nothing was chosen
+        QVERIFY(chooser->findChild<QPushButton*>("Command1")->isEnabled());
         QVERIFY(SelectList(chooser, "Unit (2) (") >= 0);
         chooser->continueOn();  // the game is not built yet, but the list is loaded
         QCOMPARE(QString::fromStdString(Shared().CurrentListName), "Unit (2)");

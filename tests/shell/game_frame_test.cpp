@@ -8,6 +8,7 @@
 #include "game_road.h"
 #include "platform/speech.h"
 #include "shell/game_frame.h"
+#include "shell/game_registry.h"
 
 using namespace wm;
 using namespace wm::test;
@@ -151,6 +152,26 @@ private slots:
         fx->dialogs.answerYes(false);  // no: back to the title, everything stops
         game->frame.askTryAgain("Again?");
         QVERIFY(!flasher.isActive() && Showing<Title>() != nullptr);
+    }
+
+    void nothingEndsOrSpeaksOnceTheGameIsLeft() {
+        services().speech = &voice;
+        game->frame.setSayIt([] { return Spoken("perro"); });
+        const int stops = voice.stops;
+        const auto shown = fx->dialogs.shown.size();
+        game->frame.quit();
+        game->frame.wonGame();  // a late end after leaving: no box, no table
+        QCOMPARE(fx->dialogs.shown.size(), shown);
+        QPointer<TinyGame> gone(game);
+        game = nullptr;
+        Pump();
+        QVERIFY(gone.isNull());
+        QVERIFY(voice.stops > stops);  // the screen went, and its voice with it
+    }
+
+    void aGameNamingNoCardIsReported() {
+        GameRegistrar stray("No Such Game", [] { return nullptr; }, {});
+        QVERIFY(GameRegistrationErrors().contains("No Such Game"));
     }
 
     void restartDropsTheLastRoundsContinuations() {

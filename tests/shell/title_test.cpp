@@ -159,12 +159,16 @@ private slots:
     void pickRoutesByGame() {
         ShellFixture fx;
         Title* title = OpenTitle();
-        title->pick(0);  // Flying Cow goes on to its options
+        // Flying Cow's button goes on to its options.
+        title->findChild<QAbstractButton*>("ButtonImage0")->click();
         QCOMPARE(CurrentScreen()->objectName(), "GameOptions");
-        // The quiz has options of its own first.
+        // The quiz and the flash cards have options of their own first.
         OpenTitle(CurrentScreen())->pick(1);
         QVERIFY(fx.dialogs.shown.empty());
         QCOMPARE(CurrentScreen()->objectName(), "QuizOptions");
+        QCOMPARE(TitleRoute("Flash Cards"), "FlashCardOptions");
+        QWidget* cards = OpenScreen("FlashCardOptions", CurrentScreen());
+        QVERIFY(cards && cards->objectName() == "FlashCardOptions");
     }
 
     void highScoresBrowseTheShownGames() {
