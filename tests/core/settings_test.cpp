@@ -122,4 +122,8 @@ TEST(Settings, SpeechLinesBehindTheSixReadOldFilesAndKeepLaterLines) {
     EXPECT_EQ(dir.read("wmdata.dat"),
               "r0\r\nr1\r\nSound On\r\nsecret\r\nlistpath\r\nfolderpath\r\nSpeech Off\r\n10\r\n"
               "later\r\n");
+    WriteSpeechSettings(dir.path(), true, -99);
+    EXPECT_EQ(dir.read("wmdata.dat"),
+              "r0\r\nr1\r\nSound On\r\nsecret\r\nlistpath\r\nfolderpath\r\nSpeech On\r\n-10\r\n"
+              "later\r\n");
 }

@@ -8,9 +8,13 @@
 
 #include "core/display_file.h"
 #include "core/game_names.h"
+#include "look.h"
+#include "shell/about_form.h"
 #include "shell/black_back.h"
 #include "shell/enter_initials_form.h"
+#include "shell/fl_form.h"
 #include "shell/high_score_form.h"
+#include "shell/lang_choose.h"
 #include "shell/title.h"
 #include "shell_fixture.h"
 
@@ -169,6 +173,27 @@ private slots:
         QCOMPARE(TitleRoute("Flash Cards"), "FlashCardOptions");
         QWidget* cards = OpenScreen("FlashCardOptions", CurrentScreen());
         QVERIFY(cards && cards->objectName() == "FlashCardOptions");
+    }
+
+    void screensAndBoxesLookAsKept() {
+        ShellFixture fx;
+        WM_CHECK_LOOK("Shell_Title", OpenTitle());
+        for (const char* name : {"GameOptions", "QuizOptions", "FlashCardOptions"}) {
+            QWidget* screen = OpenScreen(name, CurrentScreen());
+            Pump();
+            WM_CHECK_LOOK(QString("Shell_") + name, screen);
+        }
+        Shared().CurrentGame = "Flying Cow";
+        AboutForm about;
+        HighScoreForm scores;
+        EnterInitialsForm initials;
+        LangChoose sides("S");
+        FLForm palette;
+        for (QDialog* box : std::initializer_list<QDialog*>{&about, &scores, &initials, &sides,
+                                                           &palette}) {
+            box->show();
+            WM_CHECK_LOOK("Shell_" + box->objectName(), box);
+        }
     }
 
     void highScoresBrowseTheShownGames() {

@@ -3,6 +3,7 @@
 // with a separate accent are stored as the one accented letter. Also the category file the
 // editor may not take.
 #include "shell/fl_form.h"
+#include "look.h"
 #include "teacher_fixture.h"
 
 using namespace wm;
@@ -84,7 +85,18 @@ private slots:
                 QVERIFY2(w, qPrintable(c));
                 QCOMPARE(c.section('=', 0, 0) + "=" + w->property("text").toString(), c);
             }
+            box->show();
+            WM_CHECK_LOOK("Teacher_" + box->objectName(), box);
         }
+        // The teacher's full screens as they open.
+        for (const char* screen : {"Manager", "EditList"}) {
+            QWidget* shown = OpenScreen(screen);
+            Pump();
+            WM_CHECK_LOOK(QString("Teacher_") + screen, shown);
+        }
+        QWidget* maker = OpenMaker("Birds");
+        Pump();
+        WM_CHECK_LOOK("Teacher_MakeNewList", maker);
     }
 
     void addWordByKeys_data() {
