@@ -51,6 +51,8 @@ TEST_F(ListFileTest, NamesAndExistence) {
     // ...but the first line is stripped without the length test.
     dir.writeLines("thelists.dat", {"[S]a", "w", "d"});
     EXPECT_TRUE(NameExists(path, "a"));
+    dir.writeLines("thelists.dat", {});
+    EXPECT_FALSE(NameExists(path, ""));  // an empty file holds no name, not even a blank one
     EXPECT_EQ(PlainName("[S]a"), "[S]a");
     EXPECT_EQ(PlainName("[S]ab"), "ab");
 }

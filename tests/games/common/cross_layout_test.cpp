@@ -268,6 +268,10 @@ TEST(CrossLayout, MoreWordsWantedThanTheListHoldsEndsWithoutHanging) {
     EXPECT_FALSE(empty.ok);
     EXPECT_EQ(empty.message, "Crossword creation failed. Please try another word list.");
     EXPECT_FALSE(layOut(list({"CAT"}), 1, 0, kCrosswordParams, none).ok);
+    // Two words wanted of a list of one: the second is not drawn for at all.
+    ScriptedRng one;
+    EXPECT_FALSE(layOut(list({"CAT"}), 1, 2, kCrosswordParams, one).ok);
+    EXPECT_EQ(one.draws, 2);  // the first word and its column
     // A count past the entries held: those entries are no words, and nothing is read past them.
     ScriptedRng past(0.99);
     EXPECT_FALSE(layOut(list({"CAT", "HAT"}), 4, 2, kCrosswordParams, past).ok);

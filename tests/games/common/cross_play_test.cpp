@@ -60,6 +60,9 @@ TEST(CrossPlay, ClicksOnACrossingCellAlternateAcrossAndDown) {
     ASSERT_TRUE(clickCell(b, 77));  // a cell of one word only
     EXPECT_TRUE(b.SelDown);
     EXPECT_EQ(b.SelStart, 27);
+    // Clicked again, it has no across word to turn to: nothing stays selected.
+    EXPECT_FALSE(clickCell(b, 77));
+    EXPECT_EQ(pinks(b), "");
 }
 
 TEST(CrossPlay, TypingSolvesCorrectsAndStopsAtTheWordsLength) {
@@ -123,6 +126,7 @@ TEST(CrossPlay, FlashThenSolvedCellsSteerTheNextClick) {
     EXPECT_EQ(b.caption[27], 'C');
     EXPECT_EQ(b.caption[77], 'T');
     EXPECT_EQ(b.colour[77], TileColour::Green);
+    EXPECT_EQ(b.colour[102], TileColour::White);  // the answer ends at its last letter
     EXPECT_FALSE(giveAnswer(b, "cat"));  // no selection
 
     // Solved both ways: a click does nothing at all.

@@ -111,6 +111,11 @@ TEST(MisspellWord, CapitalsFallThroughToTheDoubledLetter) {
     ScriptedRng none;
     EXPECT_EQ(MisspellWord("", fromEnd, none), "");
     EXPECT_EQ(fromEnd, 1);
+    int last = 30;  // the last rule is still in the table
+    ScriptedRng doubled;
+    doubled.pick(1, 6);
+    EXPECT_EQ(MisspellWord("feather", last, doubled), "ffeather");
+    EXPECT_EQ(last, 1);
     // A rule number out of the table starts again from the first rule.
     for (int out : {0, 31}) {
         int next = out;
