@@ -45,9 +45,11 @@ TEST_F(ListFileTest, NamesAndExistence) {
     EXPECT_TRUE(NameExists(path, "colours"));
     EXPECT_FALSE(NameExists(path, "cat"));
     // "[S]a" is a plain name of four characters after a separator...
-    dir.writeLines("thelists.dat", {"X", "w", "d", "<New List>", "[S]a", "w", "d"});
+    dir.writeLines("thelists.dat",
+                   {"X", "w", "d", "<New List>", "[S]a", "w", "d", "<New List>", "[S]ab", "w", "d"});
     EXPECT_TRUE(NameExists(path, "[S]a"));
     EXPECT_FALSE(NameExists(path, "a"));
+    EXPECT_TRUE(NameExists(path, "ab"));  // five characters: the language mark comes off
     // ...but the first line is stripped without the length test.
     dir.writeLines("thelists.dat", {"[S]a", "w", "d"});
     EXPECT_TRUE(NameExists(path, "a"));
@@ -64,6 +66,9 @@ TEST_F(ListFileTest, LoadsARecordUpToTheSeparator) {
     EXPECT_EQ(state.Words[2], "dog");
     EXPECT_EQ(state.Meanings[1], "a pet that purrs");
     EXPECT_EQ(state.WordsOnly, kFalse);
+    dir.writeLines("thelists.dat", {"  Animals  ", "cat", "a pet"});  // spaces round the name
+    load("Animals");
+    EXPECT_EQ(state.WordCount, 1);
 }
 
 TEST_F(ListFileTest, LastRecordWithoutSeparatorLoadsAllPairs) {

@@ -66,6 +66,7 @@ TEST(Strings, InStrFindsFromStart) {
     EXPECT_EQ(InStr("Unit (2) (30 words)", "("), 6);
     EXPECT_EQ(InStrRev("Unit (2) (30 words)", "("), 10);
     EXPECT_EQ(InStr("abc", "z"), 0);
+    EXPECT_EQ(InStrRev("abc", "z"), 0);
     EXPECT_EQ(InStr("abcabc", "a", 2), 4);
 }
 

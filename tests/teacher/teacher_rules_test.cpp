@@ -52,6 +52,10 @@ TEST(EditedListSave, MovesToTheEndAndKeepsTheGivenOrder) {
     SortLikeListBox(pairs);
     EXPECT_EQ(pairs.front().first, "ant");
     EXPECT_EQ(pairs[1].first, "Cat");
+    // Words the same but for capitals keep the order they were added in.
+    std::vector<WordPair> twins = {{"cat", "1"}, {"Cat", "2"}, {"CAT", "3"}, {"ant", "a"}};
+    SortLikeListBox(twins);
+    EXPECT_EQ(twins[1].second + twins[2].second + twins[3].second, "123");
     EXPECT_EQ(
         SaveEditedList(data, "Pets", "Pets", pairs),
         (Lines{"Birds", "owl", "o", "<New List>", "Pets", "ant", "a", "Cat", "c", "dog", "d"}));

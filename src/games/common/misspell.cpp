@@ -119,7 +119,8 @@ std::string ApplyMisspellRule(int rule, std::string_view s, MisspellTable table,
 }
 
 std::string MisspellWord(std::string_view word, int& nextRule, Rng& rng) {
-    if (nextRule < 1 || nextRule > kMisspellRules) nextRule = 1;
+    // A rule number outside 1..30 starts again from the first rule.
+    if (static_cast<unsigned>(nextRule - 1) >= kMisspellRules) nextRule = 1;
     for (int rule = nextRule; rule <= kMisspellRules; ++rule) {
         std::string s = ApplyMisspellRule(rule, word, MisspellTable::Show, rng);
         if (s != word) {
@@ -132,11 +133,12 @@ std::string MisspellWord(std::string_view word, int& nextRule, Rng& rng) {
 }
 
 std::string SpellCrushMisspell(std::string_view word, Rng& rng) {
-    for (int rule = 1; rule < kMisspellRules; ++rule) {
+    // The last rule doubles a letter, which changes any word with a letter in it.
+    for (int rule = 1; rule <= kMisspellRules; ++rule) {
         std::string s = ApplyMisspellRule(rule, word, MisspellTable::SpellCrush, rng);
         if (s != word) return s;
     }
-    return DoubleALetter(word, rng);
+    return std::string(word);
 }
 
 }  // namespace wm

@@ -38,11 +38,11 @@ int DrawFreshWord(const SharedState& s, Rng& rng, const std::vector<int>& drawn,
         k = std::clamp(static_cast<int>(Int(rng.Rnd() * loaded + 1)), 1, loaded);
         if (fits(k)) return k;
     } while (++tries < kUnluckyDraws);
-    for (int i = 1; i <= loaded; ++i) {
-        const int j = (k - 1 + i) % loaded + 1;
+    // Some entry fits (a playable one, a fresh one if any is left), so the walk on from the
+    // last draw ends within one round of the list.
+    for (int j = k % loaded + 1;; j = j % loaded + 1) {
         if (fits(j)) return j;
     }
-    return 0;
 }
 
 }  // namespace wm

@@ -45,6 +45,7 @@ TEST(CrossPlay, ClicksOnACrossingCellAlternateAcrossAndDown) {
     EXPECT_EQ(b.SelStart, 51);
     EXPECT_EQ(b.Cursor, 51);
     EXPECT_EQ(pinks(b), "51 52 53 ");
+    EXPECT_EQ(b.caption[51], 0);  // a white cell picked has no letter yet
     EXPECT_TRUE(b.helpShown);
 
     ASSERT_TRUE(clickCell(b, 52));
@@ -173,6 +174,15 @@ TEST(CrossPlay, EdgeTestsAreKeptAsDesigned) {
     PlayBoard t = makePlayBoard(top, 25, 19);
     EXPECT_TRUE(clickCell(t, 1));
     EXPECT_EQ(t.SelStart, 0);
+    // A solved word across the last row: clicked again, there is no row below to look at.
+    CrossBoard bottom;
+    bottom.CrossLetters[2][19] = 'O';
+    bottom.CrossLetters[3][19] = 'X';
+    bottom.CrossWordAt[2][19][kAcross] = 1;
+    PlayBoard last = makePlayBoard(bottom, 25, 19);
+    ASSERT_TRUE(clickCell(last, 451));
+    ASSERT_TRUE(giveAnswer(last, "ox"));
+    EXPECT_FALSE(clickCell(last, 451));
     PlayBoard first = makePlayBoard(top, 25, 19);
     EXPECT_TRUE(clickCell(first, 0));  // from its first cell, the word runs on to the right
     EXPECT_EQ(pinks(first), "0 1 ");

@@ -39,6 +39,7 @@ const RuleCase kRules[] = {
     {14, "duo", "dou", nullptr},
     {15, "lion", "loin", nullptr},
     {16, "happy", "happie", nullptr},
+    {16, "rhythm", "rhithm", nullptr},
     {17, "bread", "breed", nullptr},
     {18, "cause", "couse", nullptr},
     {19, "round", "raund", nullptr},

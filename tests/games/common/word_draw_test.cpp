@@ -38,9 +38,9 @@ TEST(DrawFreshWord, DrawsLoadedPlayableFreshEntriesAndAlwaysEnds) {
     ScriptedRng stuck(0.5);  // always entry 2 of 3
     EXPECT_EQ(DrawFreshWord(Words({"", "ant", "bee", "cat"}, 3), stuck, {}, 1000, noBee), 3);
     EXPECT_EQ(stuck.draws, 200);
-    ScriptedRng stuckLast(0.99);  // always entry 3: the walk wraps round to the first
-    EXPECT_EQ(DrawFreshWord(Words({"", "ant", "bee", "cat"}, 3), stuckLast, {1}, 1000,
-                            [](const std::string& w) { return w != "cat"; }),
+    ScriptedRng stuckLast(0.99);  // always the last entry: the walk wraps round to the first
+    EXPECT_EQ(DrawFreshWord(Words({"", "ant", "bee", "cat", "dog"}, 4), stuckLast, {1}, 1000,
+                            [](const std::string& w) { return w != "dog"; }),
               2);
     // Nothing to play, or no words at all: 0, without a draw.
     ScriptedRng none;
