@@ -242,7 +242,8 @@ TEST(SpeedType, TypingBackspaceAndEnter) {
     EXPECT_EQ(pressKey(r, word, KeyKind::Enter), Key::Wrong);
     pressKey(r, word, KeyKind::Char, 'm');
     EXPECT_EQ(pressKey(r, word, KeyKind::Enter), Key::Right);
-    // One character too many is still allowed; the second ends the round.
+    // One character too many is still allowed; the second ends the round, wrong.
+    r.WordWasRight = true;
     EXPECT_EQ(pressKey(r, word, KeyKind::Char, 'x'), Key::Typed);
     EXPECT_EQ(pressKey(r, word, KeyKind::Char, 'y'), Key::Wrong);
     EXPECT_FALSE(r.WordWasRight);

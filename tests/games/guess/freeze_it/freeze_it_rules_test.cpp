@@ -43,11 +43,12 @@ TEST(FreezeIt, StartReseedsDrawsAndShowsBlanksHyphensApostrophes) {
               std::tuple(1, 0.0, "ice-cream man's", "meaning of ice-cream man's"));
     EXPECT_EQ(std::tuple(shown(g), g.hidden(), g.wordNumber(), g.phase()),
               std::tuple("...-..... ...'.", 12, 1, Phase::Thawing));
-    // A word past the meanings held has none: blank, nothing read past the list.
+    // A word past the meanings held has none: blank, nothing read past the list. Its blocks
+    // are its own, none left from the word before.
     s.Meanings.resize(3);
     rng.pick(3, 3);
     ASSERT_TRUE(g.start(s, rng));
-    EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning), std::tuple(std::string("ox"), std::string()));
+    EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning, shown(g)), std::tuple("ox", "", ".."));
 }
 
 TEST(FreezeIt, ThawTakesTheDrawnHiddenBlockUntilTheWordMelts) {
