@@ -90,6 +90,7 @@ TEST(PrincessRules, StonesAreShuffledFromTheBackAndNeverReadAsTheWord) {
     ScriptedRng tops(0.99);
     EXPECT_EQ(layStones("noon", tops), (std::vector<int>{1, 2, 3, 0}));
     EXPECT_EQ(tops.draws, 18);
+    EXPECT_EQ(layStones("'twas", tops), (std::vector<int>{2, 3, 4, 1}));
     ScriptedRng twins(0.0);
     twins.then(0.0).then(0.5).then(0.99);  // n n swapped, o o swapped: still "noon"
     EXPECT_EQ(layStones("noon", twins), (std::vector<int>{2, 1, 0, 3}));
@@ -142,11 +143,13 @@ TEST(PrincessRules, WordsAsManyAsTheLevelAndPointsForCleanWords) {
 
 TEST(PrincessRules, EightSplashesInAGameWakeTheDragon) {
     for (auto [difficulty, words] : {std::pair{0, 1}, {1, 1}, {15, 15}, {40, 15}}) {
-        SharedState s = ListOf({"cat"}, difficulty);
+        SharedState s = ListOf({"'twas"}, difficulty);
         ScriptedRng rng(0.0);
         Game g;
         ASSERT_TRUE(g.start(s, rng));
-        EXPECT_EQ(g.words(), words) << difficulty;
+        // The apostrophe before the first letter stands on the bridge from the start.
+        EXPECT_EQ(std::tuple(g.words(), g.laid(0), g.nextPosition()), std::tuple(words, true, 1))
+            << difficulty;
     }
     SharedState s = ListOf({"ab", "cd"}, 3);
     ScriptedRng rng(0.0);
