@@ -37,19 +37,14 @@ TEST(WordGuess, RoundPicksWordAndStakesLengthTimesDifficulty) {
     rng.pick(3, 3).pick(7, 1000);  // the last word may be drawn; then the stake's draw
     GuessRound r;
     startRound(s, r, rng);
-    EXPECT_EQ(rng.randomizeCount, 1);
-    EXPECT_EQ(s.TheWord, "ox");
-    EXPECT_DOUBLE_EQ(s.Score, 7.0 * 3 * 2);
+    EXPECT_EQ(std::tuple(rng.randomizeCount, s.TheWord, s.Score), std::tuple(1, "ox", 7.0 * 3 * 2));
     // Nothing of the round before is carried.
     r.UsedLetters = "X ";
     r.Misses = 4;
     rng.pick(2, 3).pick(1, 1000);
     startRound(s, r, rng);
-    EXPECT_EQ(r.PickedIndex, 2);
-    EXPECT_EQ(r.Misses, 0);
-    EXPECT_EQ(r.UsedLetters, "");
-    EXPECT_EQ(shown(r), ".......");
-    EXPECT_DOUBLE_EQ(s.Score, 1.0 * 3 * 7);
+    EXPECT_EQ(std::tuple(r.PickedIndex, r.Misses, r.UsedLetters, shown(r), s.Score),
+              std::tuple(2, 0, "", ".......", 1.0 * 3 * 7));
 }
 
 TEST(WordGuess, KeysOnBlanksHyphensRepeatsAndAccents) {
@@ -69,12 +64,14 @@ TEST(WordGuess, KeysOnBlanksHyphensRepeatsAndAccents) {
 
     // Windows-1252: 0xE9 is e acute, 0xC9 its capital.
     GuessRound cafe = started("Caf\xE9");
-    EXPECT_EQ(pressKey(cafe, 'e'), KeyResult::Miss);
-    EXPECT_EQ(pressKey(cafe, '\xC9'), KeyResult::Hit);
-    EXPECT_EQ(cafe.boxes[3].letter, "\xE9");
-    EXPECT_EQ(pressKey(cafe, '\xE9'), KeyResult::Repeat);
-    EXPECT_EQ(pressKey(cafe, 'c'), KeyResult::Hit);
-    EXPECT_EQ(shown(cafe), "C..\xE9");
+    std::vector<KeyResult> results;
+    for (char c : std::string("e\xC9\xE9"
+                              "c"))
+        results.push_back(pressKey(cafe, c));
+    EXPECT_EQ(results,
+              (std::vector{KeyResult::Miss, KeyResult::Hit, KeyResult::Repeat, KeyResult::Hit}));
+    EXPECT_EQ(std::tuple(cafe.boxes[3].letter, shown(cafe)),
+              std::tuple(std::string("\xE9"), std::string("C..\xE9")));
     // The first box counts like the others: the word is complete only when it is filled.
     GuessRound ox = started("ox");
     EXPECT_EQ(pressKey(ox, 'x'), KeyResult::Hit);
@@ -245,7 +242,8 @@ TEST(SpeedType, TypingBackspaceAndEnter) {
     EXPECT_EQ(pressKey(r, word, KeyKind::Enter), Key::Wrong);
     pressKey(r, word, KeyKind::Char, 'm');
     EXPECT_EQ(pressKey(r, word, KeyKind::Enter), Key::Right);
-    // One character too many is still allowed; the second ends the round.
+    // One character too many is still allowed; the second ends the round, wrong.
+    r.WordWasRight = true;
     EXPECT_EQ(pressKey(r, word, KeyKind::Char, 'x'), Key::Typed);
     EXPECT_EQ(pressKey(r, word, KeyKind::Char, 'y'), Key::Wrong);
     EXPECT_FALSE(r.WordWasRight);
@@ -260,6 +258,7 @@ TEST(SpeedType, FiguresAndTheTimePerLetterAreCutFromTheirTexts) {
              {0, "00", "00", ""},  // T = 0: nothing from the third character on
              {0.578125, "00", "00", "578"},
              {1.15625, "00", "1", "562"},  // kept: the first decimal is skipped
+             {10, "00", "10", ""},
              {12.34567, "00", "12", "345"},
              {59.5, "00", "59", "5"},
              {60.25, "01", "00", "25"},  // a minute or more: minutes, and the decimals in place

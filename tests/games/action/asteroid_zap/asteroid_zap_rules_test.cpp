@@ -161,6 +161,19 @@ TEST(AsteroidShots, AShotIntoAnExplodingLetterIsAbsorbedAndRestartsTheBlast) {
     EXPECT_EQ(later, 0);
 }
 
+TEST(AsteroidShots, AMissIsFreeAgainOnlyPastTwentyPixelsAboveTheTop) {
+    Round r = Wall("CAT", "QCATXXXXXXXXXXXXXXXX");
+    r.g.height = 768 * kTwips;  // the ship's top at 640 pixels: a shot is at -20 on a tick
+    for (Rock& rock : r.rocks) rock.alive = false;
+    ScriptedRng rng(0.5);
+    int fourth = 0;
+    for (int t = 1; t <= 100 && !fourth; ++t) {
+        r.fireWanted = true;
+        if (tick(r, 1, rng).shotFired && t > 3) fourth = t;
+    }
+    EXPECT_EQ(fourth, 68) << "the first shot is at -20 on tick 66 and gone on tick 67";
+}
+
 TEST(AsteroidWall, SinksByDifficultyUntilTheShip) {
     Round r = Wall("CAT", "QCATXXXXXXXXXXXXXXXX");
     ScriptedRng rng(0.5);

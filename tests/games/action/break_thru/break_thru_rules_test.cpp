@@ -153,7 +153,8 @@ TEST(BreakThruPaddle, MovesOnTheKeysCarriesTheBallAndSetsTheAngle) {
     std::vector<Event> ev;
     for (int t = 0; t < 20 && ev.empty(); ++t) ev = g.tick({});
     ASSERT_EQ(ev.at(0).kind, Event::Missed);
-    EXPECT_EQ(std::tuple(g.ballsLeft(), g.phase(), g.ball().x), std::tuple(2, Phase::Serve, 77.0));
+    EXPECT_EQ(std::tuple(g.ballsLeft(), g.phase(), g.ball().x, g.ball().vx, g.ball().vy),
+              std::tuple(2, Phase::Serve, 77.0, 0.0, 0.0));
 }
 
 TEST(BreakThruCourt, FencesTheBackWallAndBricksTurnTheBall) {

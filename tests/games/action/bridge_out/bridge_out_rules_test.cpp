@@ -60,24 +60,19 @@ TEST(BridgeOutStart, ReseedsDrawsTheWordItsGapsThenFillsTheRiver) {
     rng.pick(2, 3).pick(3, 4).pick(1, 3).then(0.9).then(0.3);
     Game g;
     ASSERT_TRUE(g.start(s, rng));
-    EXPECT_EQ(rng.randomizeCount, 1);
-    EXPECT_EQ(rng.pending(), 0u);
-    EXPECT_EQ(s.TheWord, "frog");
-    EXPECT_EQ(s.TheMeaning, "meaning of frog");
+    EXPECT_EQ(std::tuple(rng.randomizeCount, rng.pending(), s.TheWord, s.TheMeaning),
+              std::tuple(1, 0u, "frog", "meaning of frog"));
     EXPECT_TRUE(g.isGap(0) && g.isGap(2));
     EXPECT_FALSE(g.isGap(1) || g.isGap(3) || g.isGap(-1) || g.isGap(4));
-    EXPECT_EQ(g.gapsLeft(), 2);
-    EXPECT_DOUBLE_EQ(g.road(), 58);
+    EXPECT_EQ(std::tuple(g.gapsLeft(), g.road(), g.phase()), std::tuple(2, 58.0, Phase::Ready));
     // Nine planks over 9.6 s, lanes taking turns; the others decoys: 0.9 of 26 is X.
     ASSERT_EQ(g.river().size(), 9u);
     EXPECT_EQ(rng.draws, 3 + 9 * 2);
-    EXPECT_EQ(g.river()[0].letter, "O");
-    EXPECT_EQ(g.river()[0].lane, 0);
-    EXPECT_DOUBLE_EQ(g.river()[0].x, -30 + 9.6 * 70);
-    EXPECT_EQ(g.river()[1].letter, "X");
-    EXPECT_EQ(g.river()[1].lane, 1);
-    EXPECT_DOUBLE_EQ(g.river()[1].x, -30 + 8.4 * 90);
-    EXPECT_EQ(g.phase(), Phase::Ready);
+    const Plank &first = g.river()[0], &second = g.river()[1];
+    EXPECT_EQ(std::tuple(first.letter, first.lane, second.letter, second.lane),
+              std::tuple("O", 0, "X", 1));
+    EXPECT_DOUBLE_EQ(first.x, -30 + 9.6 * 70);
+    EXPECT_DOUBLE_EQ(second.x, -30 + 8.4 * 90);
 }
 
 TEST(BridgeOutRiver, RightLettersAtMostTwiceAfloatAndDecoysNoGapWants) {
@@ -122,9 +117,8 @@ TEST(BridgeOutDrops, WrongSplashesBackMissedIsFreeRightLocksAndTheRoadToSpareIsT
     // A wrong plank: -5 x level, and back into the river where it was let go, held to it.
     ASSERT_TRUE(g.take(x));
     EXPECT_EQ(g.place(x, 0, 2000), Drop::Wrong);
-    EXPECT_EQ(g.score(), -30);
-    EXPECT_DOUBLE_EQ(g.plank(x)->x, 1000);
-    EXPECT_FALSE(g.plank(x)->held);
+    EXPECT_EQ(std::tuple(g.score(), g.plank(x)->x, g.plank(x)->held),
+              std::tuple(-30, 1000.0, false));
     // The right letter beside the bridge, on a whole plank, or on the wrong gap: no points.
     EXPECT_EQ(g.place(f, -1, -200), Drop::Missed);
     EXPECT_DOUBLE_EQ(g.plank(f)->x, -30);
@@ -133,8 +127,7 @@ TEST(BridgeOutDrops, WrongSplashesBackMissedIsFreeRightLocksAndTheRoadToSpareIsT
     EXPECT_EQ(g.score(), -60);
     // Right, while the truck still waits: +10 x level, the plank gone from the river.
     EXPECT_EQ(g.place(f, 0, 300), Drop::Right);
-    EXPECT_EQ(g.score(), 0);
-    EXPECT_EQ(g.place(f, 0, 300), Drop::Ignored);
+    EXPECT_EQ(std::tuple(g.score(), g.place(f, 0, 300)), std::tuple(0, Drop::Ignored));
     // The truck goes after two seconds, at 5 m/s on level 6.
     EXPECT_TRUE(g.advance(s, 1999, rng) == std::vector<Event>{Event::Spawned});
     auto ev = g.advance(s, 1, rng);
@@ -143,9 +136,8 @@ TEST(BridgeOutDrops, WrongSplashesBackMissedIsFreeRightLocksAndTheRoadToSpareIsT
     EXPECT_DOUBLE_EQ(g.truck(), 26.5);
     // The bridge whole: +60, and (58 - 26.5 metres, whole) x level = 31 x 6 = 186.
     EXPECT_EQ(g.place(o, 2, 0), Drop::Right);
-    EXPECT_EQ(g.lastBonus(), 186);
-    EXPECT_EQ(g.score(), 60 + 186);
-    EXPECT_EQ(g.phase(), Phase::Crossing);
+    EXPECT_EQ(std::tuple(g.lastBonus(), g.score(), g.phase()),
+              std::tuple(186, 60 + 186, Phase::Crossing));
     // The truck rolls across: nothing can be dragged, then the next word.
     const int any = g.river().front().id;
     EXPECT_FALSE(g.take(any));
@@ -153,10 +145,8 @@ TEST(BridgeOutDrops, WrongSplashesBackMissedIsFreeRightLocksAndTheRoadToSpareIsT
     g.advance(s, 2599, rng);
     EXPECT_EQ(g.phase(), Phase::Crossing);
     ev = g.advance(s, 1, rng);
-    EXPECT_EQ(ev.back(), Event::NextWord);
-    EXPECT_EQ(g.word(), "owl");
-    EXPECT_DOUBLE_EQ(g.truck(), 0);
-    EXPECT_DOUBLE_EQ(g.road(), 44);
+    EXPECT_EQ(std::tuple(ev.back(), g.word(), g.truck(), g.road()),
+              std::tuple(Event::NextWord, "owl", 0.0, 44.0));
 }
 
 TEST(BridgeOutEndings, ATruckStoppedAtTheGapThreeTimesIsTheLoss) {
@@ -172,9 +162,8 @@ TEST(BridgeOutEndings, ATruckStoppedAtTheGapThreeTimesIsTheLoss) {
         g.advance(s, 6285, rng);
         EXPECT_EQ(g.phase(), Phase::Driving);
         EXPECT_EQ(g.advance(s, 1, rng), std::vector<Event>{Event::Stopped});
-        EXPECT_DOUBLE_EQ(g.truck(), 44);
-        EXPECT_EQ(g.trucksLeft(), 3 - truck);
-        EXPECT_FALSE(g.canDrag());
+        EXPECT_EQ(std::tuple(g.truck(), g.trucksLeft(), g.canDrag()),
+                  std::tuple(44.0, 3 - truck, false));
         g.advance(s, 3199, rng);
         EXPECT_EQ(g.phase(), Phase::Stopped);
         const auto ev = g.advance(s, 1, rng);

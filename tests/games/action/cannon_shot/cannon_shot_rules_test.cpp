@@ -42,16 +42,14 @@ Game Started(SharedState& s, Rng& rng) {
 TEST(CannonShotNumbers, SpeedWindBarBallsAndLetters) {
     EXPECT_DOUBLE_EQ(balloonSpeed(2), 0.68);
     EXPECT_DOUBLE_EQ(balloonSpeed(20), 2.3);
-    EXPECT_EQ(maxWind(7), 0);
-    EXPECT_DOUBLE_EQ(maxWind(8), 0.01);
-    EXPECT_DOUBLE_EQ(maxWind(20), 0.058);
+    for (auto [level, wind] : {std::pair{2, 0.0}, {7, 0.0}, {8, 0.01}, {20, 0.058}})
+        EXPECT_DOUBLE_EQ(maxWind(level), wind) << level;
     // The bar rises over 50 ticks, falls back over 50, and rises again.
-    const std::pair<int, double> bar[] = {{0, 0},    {1, 0.02}, {25, 0.5},  {50, 1},
+    const std::pair<int, double> bar[] = {{0, 0},     {1, 0.02}, {25, 0.5}, {50, 1},
                                           {51, 0.98}, {100, 0},  {125, 0.5}};
     for (auto [ticks, power] : bar) EXPECT_DOUBLE_EQ(powerAfter(ticks), power) << ticks;
     // 2 x length + 3
-    EXPECT_EQ(ballsFor("cat"), 9);
-    EXPECT_EQ(ballsFor("ice cream"), 21);
+    EXPECT_EQ(std::tuple(ballsFor("cat"), ballsFor("ice cream")), std::tuple(9, 21));
 }
 
 TEST(CannonShotStart, DrawsWordWindDecoysOrderAndHeightsInThatOrder) {
@@ -61,17 +59,14 @@ TEST(CannonShotStart, DrawsWordWindDecoysOrderAndHeightsInThatOrder) {
     rng.pick(1, 3).pick(2, 3).then(1.0).then(0.0).then(0.0).then(0.999).then(0.05);
     Game g;
     ASSERT_TRUE(g.start(s, rng));
-    EXPECT_EQ(rng.randomizeCount, 1);
-    EXPECT_EQ(s.TheWord, "ox");
-    EXPECT_EQ(s.TheMeaning, "meaning of ox");
+    EXPECT_EQ(std::tuple(rng.randomizeCount, s.TheWord, s.TheMeaning),
+              std::tuple(1, "ox", "meaning of ox"));
     EXPECT_DOUBLE_EQ(g.wind(), 0.014);
     // Decoys are letters the word lacks: A, A, Z (the last), B.
     std::string letters;
     for (const Balloon& b : g.balloons()) letters += b.letter;
     std::sort(letters.begin(), letters.end());
-    EXPECT_EQ(letters, "AABOXZ");
-    EXPECT_EQ(g.ballsLeft(), 7);
-    EXPECT_EQ(g.phase(), Phase::Ready);
+    EXPECT_EQ(std::tuple(letters, g.ballsLeft(), g.phase()), std::tuple("AABOXZ", 7, Phase::Ready));
     // Spaced along their round from x 560, inside the sky.
     EXPECT_DOUBLE_EQ(g.balloons()[5].x, 560 + 5 * 120);
     EXPECT_DOUBLE_EQ(g.balloons()[0].alt, 170 + 0.5 * 370);
@@ -79,10 +74,9 @@ TEST(CannonShotStart, DrawsWordWindDecoysOrderAndHeightsInThatOrder) {
     SharedState calm = ListOf({"ice-cream"}, 7);
     ScriptedRng r2(0.3);
     ASSERT_TRUE(g.start(calm, r2));
-    EXPECT_EQ(g.wind(), 0);
-    EXPECT_EQ(r2.draws, 1 + 3 + 10 + 11);  // word, decoys, shuffle, heights
-    EXPECT_EQ(g.blanks(), std::string("\0\0\0-\0\0\0\0\0", 9));
-    EXPECT_EQ(g.nextPos(), 0);
+    EXPECT_EQ(std::tuple(g.wind(), r2.draws, g.blanks(), g.nextPos()),
+              std::tuple(0.0, 1 + 3 + 10 + 11, std::string("\0\0\0-\0\0\0\0\0", 9), 0))
+        << "word, decoys, shuffle, heights";
 }
 
 TEST(CannonShotStart, LevelHeldAndListsThatCannotPlayRefused) {
@@ -97,8 +91,8 @@ TEST(CannonShotStart, LevelHeldAndListsThatCannotPlayRefused) {
     // Fourteen letters fit; fifteen, none, or only marks do not.
     SharedState fits = ListOf({"photosynthesis"}, 4);
     EXPECT_TRUE(Game().start(fits, rng));
-    for (auto words : {std::vector<std::string>{"photosynthesiss"}, {"- '"},
-                       std::vector<std::string>{}}) {
+    for (auto words :
+         {std::vector<std::string>{"photosynthesiss"}, {"- '"}, std::vector<std::string>{}}) {
         SharedState s = ListOf(words, 4);
         EXPECT_FALSE(Game().start(s, rng));
     }
@@ -123,8 +117,8 @@ TEST(CannonShotWords, NoRepeatsInAGameAndTheDrawIsBounded) {
     }
     // The used entry drawn a hundred times gives the next free one; all used, the others
     // come round again, never the word just played.
-    EXPECT_EQ(played, (std::vector<std::string>{"a", "b", "c", "a", "b"}));
-    EXPECT_EQ(g.wordNumber(), 5);
+    EXPECT_EQ(std::tuple(played, g.wordNumber()),
+              std::tuple(std::vector<std::string>{"a", "b", "c", "a", "b"}, 5));
     EXPECT_FALSE(g.nextWord(s, rng));
 
     // Two words that fit: once both have come, the one just played waits a turn.
@@ -206,26 +200,23 @@ TEST(CannonShotPops, InOrderFillsTheBlanksWrongCostsAndComesRoundAgain) {
     EXPECT_FALSE(g.balloons()[l].shown());
     // The A: +10 x level, its blank filled; then an L; a decoy in between costs 5 x 4.
     EXPECT_EQ(Shoot(g, Find(g, 'A'), rng).at(0).kind, Event::Right);
-    EXPECT_EQ(g.score(), 40);
-    EXPECT_EQ(g.blanks(), std::string("a\0\0", 3));
-    EXPECT_EQ(g.nextPos(), 1);
+    EXPECT_EQ(std::tuple(g.score(), g.blanks(), g.nextPos()),
+              std::tuple(40, std::string("a\0\0", 3), 1));
     Shoot(g, Find(g, 'L'), rng);
     Shoot(g, Find(g, 'B', true), rng);
-    EXPECT_EQ(g.score(), 60);
-    EXPECT_EQ(g.ballsLeft(), 5);
+    EXPECT_EQ(std::tuple(g.score(), g.ballsLeft()), std::tuple(60, 5));
     // The wrong L drifts off the left and floats in again from the right.
     bool back = false;
     for (int t = 0; t < 3000 && !back; ++t)
-        for (const Event& e : g.tick({}, rng)) back = back || (e.kind == Event::Back && e.balloon == l);
+        for (const Event& e : g.tick({}, rng))
+            back = back || (e.kind == Event::Back && e.balloon == l);
     EXPECT_TRUE(back);
     EXPECT_GT(g.balloons()[l].x, 1600);
     for (int t = 0; t < 800 && Find(g, 'L') < 0; ++t) g.tick({}, rng);
     const auto ev = Shoot(g, Find(g, 'L'), rng);
     ASSERT_EQ(ev.size(), 2u);
-    EXPECT_EQ(ev[1].kind, Event::Spelled);
-    EXPECT_EQ(g.phase(), Phase::Spelled);
-    EXPECT_EQ(g.blanks(), "all");
-    EXPECT_EQ(g.score(), 100);
+    EXPECT_EQ(std::tuple(ev[1].kind, g.phase(), g.blanks(), g.score()),
+              std::tuple(Event::Spelled, Phase::Spelled, "all", 100));
     EXPECT_EQ(lostText("all"), "Out of cannonballs! The word was all.");
 }
 
@@ -239,26 +230,23 @@ TEST(CannonShotEnd, OutOfBallsLosesWhenTheLastLands) {
         EXPECT_EQ(l.phase(), Phase::Aiming) << b;
         ev = test::PlayShot(l, {-1, 40, 1}, rng);
     }
-    EXPECT_EQ(l.ballsLeft(), 0);
     ASSERT_EQ(ev.size(), 2u);
-    EXPECT_EQ(ev[0].kind, Event::Landed);
-    EXPECT_EQ(ev[1].kind, Event::Lost);
-    EXPECT_EQ(l.phase(), Phase::Lost);
+    EXPECT_EQ(std::tuple(l.ballsLeft(), ev[0].kind, ev[1].kind, l.phase()),
+              std::tuple(0, Event::Landed, Event::Lost, Phase::Lost));
     // After the end the balloons drift on; the barrel and the bar are still.
     const double x = l.balloons()[0].x;
     EXPECT_TRUE(l.tick({1, true}, rng).empty());
     EXPECT_LT(l.balloons()[0].x, x);
-    EXPECT_EQ(l.angle(), 10);
-    EXPECT_FALSE(l.charging());
+    EXPECT_EQ(std::tuple(l.angle(), l.charging()), std::tuple(10, false));
 }
 TEST(CannonShotAim, APathMeetsABalloonWhereItComesNearest) {
     // (segment a..b, point c) -> distance, and how far along the nearest point lies
     struct Row {
         double ax, ay, bx, by, cx, cy, distance, along;
-    } rows[] = {{0, 0, 10, 0, 4, 3, 3, 0.4},    {0, 0, 10, 0, -3, 4, 5, 0},
-                {0, 0, 10, 0, 16, -8, 10, 1},   {0, 0, 0, 10, 2, 7, 2, 0.7},
-                {2, 2, 2, 2, 5, 6, 5, 0},       {0, 0, 8, 6, 5, 5, 1, 0.7},
-                {2, 1, 12, 1, 6, 4, 3, 0.4},    {1, 2, 1, 12, 4, 6, 3, 0.4}};
+    } rows[] = {{0, 0, 10, 0, 4, 3, 3, 0.4},  {0, 0, 10, 0, -3, 4, 5, 0},
+                {0, 0, 10, 0, 16, -8, 10, 1}, {0, 0, 0, 10, 2, 7, 2, 0.7},
+                {2, 2, 2, 2, 5, 6, 5, 0},     {0, 0, 8, 6, 5, 5, 1, 0.7},
+                {2, 1, 12, 1, 6, 4, 3, 0.4},  {1, 2, 1, 12, 4, 6, 3, 0.4}};
     for (const Row& r : rows) {
         double along = -1;
         EXPECT_NEAR(segmentDistance(r.ax, r.ay, r.bx, r.by, r.cx, r.cy, &along), r.distance, 1e-9)

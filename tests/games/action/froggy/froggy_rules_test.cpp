@@ -250,15 +250,10 @@ TEST(FroggySetup, FourDifferentWordsOrARefusal) {
     rng.pick(2, 5).pick(4, 5);
     Board b;
     ASSERT_TRUE(setup(s, b, 1280, 800, rng).ready);
-    EXPECT_EQ(s.TheWord, "cat");
-    EXPECT_EQ(b.correctSlot, 2);
-    EXPECT_EQ(b.slotWords[2], "cat");
-    EXPECT_EQ(b.slotWords[1], "ant");
-    EXPECT_EQ(b.slotWords[3], "bee");
-    EXPECT_EQ(b.slotWords[4], "dog");
-    EXPECT_EQ(b.frogCol, 10);
-    EXPECT_EQ(b.logX[4], 640);
-    EXPECT_EQ(b.leftX[2], 768);
+    EXPECT_EQ(std::tuple(s.TheWord, b.correctSlot, b.frogCol, b.logX[4], b.leftX[2]),
+              std::tuple("cat", 2, 10, 640, 768));
+    EXPECT_EQ(std::tuple(b.slotWords[1], b.slotWords[2], b.slotWords[3], b.slotWords[4]),
+              std::tuple("ant", "cat", "bee", "dog"));
 
     s.Words = {"", "ant", "bee", "ant", "bee"};
     s.WordCount = 4;

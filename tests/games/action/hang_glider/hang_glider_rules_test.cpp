@@ -171,6 +171,7 @@ TEST(HangGliderEnds, FiveWordsWin) {
         const auto ev = Fly(g, rng, 1);
         EXPECT_EQ(Kinds(ev), w < 5 ? "RS" : "RSN");
         EXPECT_EQ(g.score(), 20 * w);
+        EXPECT_NE(g.letters().at(0).letter, next) << "each word counts its decoys afresh";
         if (w == 5) break;
         EXPECT_EQ(g.phase(), Phase::Spelled);
         ASSERT_TRUE(g.nextWord(s, rng));

@@ -74,24 +74,19 @@ TEST(SpiderwebsStart, ReseedsThenDrawsTheWordItsSlotAndTheDecoys) {
         .pick(3, 6);  // slot 4: "cat" may be a decoy
     Game g;
     ASSERT_EQ(g.start(s, rng), Start::Ok);
-    EXPECT_EQ(rng.randomizeCount, 1);
-    EXPECT_EQ(rng.pending(), 0u);
-    EXPECT_EQ(s.TheWord, "bee");
-    EXPECT_EQ(s.TheMeaning, "meaning of bee");
-    EXPECT_EQ(g.answer(), 2);
+    EXPECT_EQ(std::tuple(rng.randomizeCount, rng.pending(), s.TheWord, s.TheMeaning),
+              std::tuple(1, 0u, "bee", "meaning of bee"));
     std::vector<std::string> words;
     for (const Fly& f : g.flies()) words.push_back(f.word);
     EXPECT_EQ(words, (std::vector<std::string>{"elk", "ant", "bee", "cat"}));
-    EXPECT_EQ(g.round(), 1);
-    EXPECT_EQ(g.phase(), Phase::Ready);
+    EXPECT_EQ(std::tuple(g.answer(), g.round(), g.phase()), std::tuple(2, 1, Phase::Ready));
 
     // A draw that never finds a free word walks on to the next one not in the web.
     SharedState same = ListOf({"ant", "bee", "cat"}, 3);
     ScriptedRng stuck(0.0);  // every draw is entry 1
     ASSERT_EQ(g.start(same, stuck), Start::Ok);
-    EXPECT_EQ(g.flies()[0].word, "ant");
-    EXPECT_EQ(g.flies()[1].word, "bee");
-    EXPECT_EQ(g.flies()[2].word, "cat");
+    EXPECT_EQ(std::tuple(g.flies()[0].word, g.flies()[1].word, g.flies()[2].word),
+              std::tuple("ant", "bee", "cat"));
 }
 
 TEST(SpiderwebsPlay, WrongFlyHurriesTheSpiderThenTheRightOneIsFreed) {
@@ -122,8 +117,7 @@ TEST(SpiderwebsPlay, WrongFlyHurriesTheSpiderThenTheRightOneIsFreed) {
     rng.pick(2, 4).pick(1, 3).pick(1, 4).pick(3, 4);
     EXPECT_TRUE(Advance(g, s, rng, 1799, 1799).empty());
     EXPECT_EQ(Advance(g, s, rng, 1, 1), std::vector<Event>{Event::NextRound});
-    EXPECT_EQ(g.round(), 2);
-    EXPECT_EQ(s.TheWord, "bee");
+    EXPECT_EQ(std::tuple(g.round(), g.lastPoints(), s.TheWord), std::tuple(2, 0, "bee"));
     EXPECT_FALSE(g.flies()[1].eaten);
     // A click before the spider sets off gets the whole crawl: 11.5 s.
     EXPECT_EQ(g.click(0), Click::Right);

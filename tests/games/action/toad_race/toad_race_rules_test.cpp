@@ -47,13 +47,9 @@ TEST(ToadRaceStart, ReseedsDrawsTheWordThenEachToadsFirstWait) {
     rng.pick(3, 4).then(0.0).then(0.5).then(0.75);
     Race r;
     ASSERT_TRUE(r.start(s, rng));
-    EXPECT_EQ(rng.randomizeCount, 1);
-    EXPECT_EQ(rng.pending(), 0u);
-    EXPECT_EQ(s.TheWord, "owl");
-    EXPECT_EQ(s.TheMeaning, "meaning of owl");
-    EXPECT_EQ(r.nextHop(1), 4320);
-    EXPECT_EQ(r.nextHop(2), 5400);
-    EXPECT_EQ(r.nextHop(3), 5940);
+    EXPECT_EQ(std::tuple(rng.randomizeCount, rng.pending(), s.TheWord, s.TheMeaning),
+              std::tuple(1, 0u, "owl", "meaning of owl"));
+    EXPECT_EQ(std::tuple(r.nextHop(1), r.nextHop(2), r.nextHop(3)), std::tuple(4320, 5400, 5940));
     // Nothing moves and nothing is typed before "Go!".
     EXPECT_EQ(r.phase(), Phase::Ready);
     EXPECT_TRUE(r.advance(10000, rng).empty());
@@ -84,14 +80,12 @@ TEST(ToadRaceWords, NoRepeatsUntilTheListRunsOut) {
     // A used word is drawn again until a free one comes.
     rng.pick(1, 4).pick(3, 4);
     EXPECT_EQ(r.submit(s, "cat", rng), Typed::Hop);
-    EXPECT_EQ(s.TheWord, "owl");
-    EXPECT_EQ(rng.pending(), 0u);
+    EXPECT_EQ(std::tuple(s.TheWord, rng.pending()), std::tuple("owl", 0u));
     // Always a used word: after a hundred draws, the next free entry after the last draw.
     rng.setFallback(0.0);
     const int before = rng.draws;
     EXPECT_EQ(r.submit(s, "OWL", rng), Typed::Hop);
-    EXPECT_EQ(s.TheWord, "dog");
-    EXPECT_EQ(rng.draws - before, kWordDraws);
+    EXPECT_EQ(std::tuple(s.TheWord, rng.draws - before), std::tuple("dog", kWordDraws));
     rng.setFallback(0.9);
     EXPECT_EQ(r.submit(s, "dog", rng), Typed::Hop);
     EXPECT_EQ(s.TheWord, "bee");
@@ -116,8 +110,7 @@ TEST(ToadRaceWords, TwoWordsTakeTurns) {
     // Both played: the word just played is drawn, and drawn again until the other comes.
     rng.pick(2, 2).pick(2, 2).pick(1, 2);
     EXPECT_EQ(r.submit(s, "dog", rng), Typed::Hop);
-    EXPECT_EQ(s.TheWord, "cat");
-    EXPECT_EQ(rng.pending(), 0u);
+    EXPECT_EQ(std::tuple(s.TheWord, rng.pending()), std::tuple("cat", 0u));
 }
 
 TEST(ToadRaceTyping, CaseIgnoredAccentsCountBlanksAroundDoNotMatter) {
@@ -137,9 +130,9 @@ TEST(ToadRaceTyping, CaseIgnoredAccentsCountBlanksAroundDoNotMatter) {
         EXPECT_EQ(r.submit(s, row.typed, rng), row.result) << row.typed;
         // A wrong word: the toad sits and the word stands.
         const bool hop = row.result == Typed::Hop;
-        EXPECT_EQ(r.pad(0), hop ? 1 : 0) << row.typed;
-        EXPECT_EQ(s.TheWord, hop ? "th\xE9" : "caf\xE9") << row.typed;
-        EXPECT_EQ(r.lettersRight(), hop ? 4 : 0) << row.typed;
+        EXPECT_EQ(std::tuple(r.pad(0), s.TheWord, r.lettersRight()),
+                  std::tuple(hop ? 1 : 0, hop ? "th\xE9" : "caf\xE9", hop ? 4 : 0))
+            << row.typed;
     }
 }
 
@@ -152,28 +145,20 @@ TEST(ToadRaceClock, ComputerToadsHopOnTheirOwnClocksInOrder) {
     rng.then(1.0 / 6);  // toad 2's next wait: 4680
     auto hops = r.advance(1, rng);
     ASSERT_EQ(hops.size(), 1u);
-    EXPECT_EQ(hops[0].toad, 2);
-    EXPECT_EQ(hops[0].pad, 1);
-    EXPECT_EQ(hops[0].at, 4320);
-    EXPECT_EQ(r.nextHop(2), 9000);
+    EXPECT_EQ(std::tuple(hops[0].toad, hops[0].pad, hops[0].at, r.nextHop(2)),
+              std::tuple(2, 1, 4320, 9000));
     // Toads 1 and 3 fall due together at 5400: the lower toad first, each drawing its next wait.
     rng.then(0.0).then(0.999999);
     hops = r.advance(1080, rng);
     ASSERT_EQ(hops.size(), 2u);
-    EXPECT_EQ(hops[0].toad, 1);
-    EXPECT_EQ(hops[1].toad, 3);
-    EXPECT_EQ(r.nextHop(1), 9720);
-    EXPECT_EQ(r.nextHop(3), 11879);
+    EXPECT_EQ(std::tuple(hops[0].toad, hops[1].toad, r.nextHop(1), r.nextHop(3)),
+              std::tuple(1, 3, 9720, 11879));
     // A long step: every hop due in it, in the order they fell due.
     rng.setFallback(0.5);
     hops = r.advance(5400, rng);  // to 10800: toad 2 at 9000, toad 1 at 9720
     ASSERT_EQ(hops.size(), 2u);
-    EXPECT_EQ(hops[0].toad, 2);
-    EXPECT_EQ(hops[1].toad, 1);
-    EXPECT_EQ(r.pad(1), 2);
-    EXPECT_EQ(r.pad(2), 2);
-    EXPECT_EQ(r.pad(3), 1);
-    EXPECT_EQ(r.clock(), 10800);
+    EXPECT_EQ(std::tuple(hops[0].toad, hops[1].toad, r.pad(1), r.pad(2), r.pad(3), r.clock()),
+              std::tuple(2, 1, 2, 2, 1, 10800));
 }
 
 TEST(ToadRaceEnd, AComputerToadHomeFirstLoses) {
@@ -184,19 +169,15 @@ TEST(ToadRaceEnd, AComputerToadHomeFirstLoses) {
     EXPECT_EQ(r.submit(s, "cat", rng), Typed::Hop);
     // Toad 2 hops at 1200, then every 1500: its twelfth hop is at 1200 + 11 x 1500 = 17700.
     EXPECT_FALSE(r.advance(17699, rng).empty());
-    EXPECT_EQ(r.pad(2), 11);
-    EXPECT_EQ(r.phase(), Phase::Racing);
+    EXPECT_EQ(std::tuple(r.pad(2), r.phase()), std::tuple(11, Phase::Racing));
     const auto hops = r.advance(1, rng);
     ASSERT_EQ(hops.size(), 1u);
-    EXPECT_EQ(hops[0].pad, kPads);
-    EXPECT_EQ(r.phase(), Phase::Lost);
-    EXPECT_EQ(r.winner(), 2);
-    EXPECT_TRUE(r.over());
+    EXPECT_EQ(std::tuple(hops[0].pad, r.phase(), r.winner(), r.over()),
+              std::tuple(12, Phase::Lost, 2, true));
     // Nothing moves after the end, and typing does nothing.
     EXPECT_TRUE(r.advance(100000, rng).empty());
-    EXPECT_EQ(r.pad(1), 11);
     EXPECT_EQ(r.submit(s, s.TheWord, rng), Typed::Ignored);
-    EXPECT_EQ(r.pad(0), 1);
+    EXPECT_EQ(std::tuple(r.pad(1), r.pad(0)), std::tuple(11, 1));
     const char* names[] = {"You", "Goldie", "Puddles", "Ruby"};
     for (int t = 0; t < kToads; ++t) EXPECT_STREQ(toadName(t), names[t]);
     EXPECT_EQ(lostText(toadName(r.winner()), s.TheWord),
@@ -207,16 +188,14 @@ TEST(ToadRaceEnd, AComputerToadHomeFirstLoses) {
 TEST(ToadRaceEnd, ThePupilHomeFirstWinsAndScores) {
     // (pads the best computer toad is behind x 100 + letters typed right x 5) x level
     SharedState s = ListOf({"frog", "pond", "lily", "reed", "newt", "swan", "duck", "moss", "fish",
-                          "bank", "mud", "rain"},
-                         3);
+                            "bank", "mud", "rain"},
+                           3);
     ScriptedRng rng(0.5);
     rng.then(0.5).then(0.0);  // the word; Goldie's first wait 4840, then all every 6050 ms
     Race r = Started(s, rng);
     r.advance(23000, rng);
-    EXPECT_EQ(r.pad(1), 4);
-    EXPECT_EQ(r.pad(2), 3);
-    EXPECT_EQ(r.pad(3), 3);
-    EXPECT_EQ(r.bestComputerPad(), 4);
+    EXPECT_EQ(std::tuple(r.pad(1), r.pad(2), r.pad(3), r.bestComputerPad()),
+              std::tuple(4, 3, 3, 4));
     r.submit(s, "not it", rng);
     int letters = 0;
     for (int i = 1; i <= kPads; ++i) {
@@ -224,11 +203,8 @@ TEST(ToadRaceEnd, ThePupilHomeFirstWinsAndScores) {
         const Typed t = r.submit(s, s.TheWord, rng);
         ASSERT_EQ(t, i < kPads ? Typed::Hop : Typed::Home) << i;
     }
-    EXPECT_EQ(letters, 47);
-    EXPECT_EQ(r.lettersRight(), 47);
-    EXPECT_EQ(r.phase(), Phase::Won);
-    EXPECT_EQ(r.winner(), 0);
-    EXPECT_EQ(r.score(), (8 * 100 + 47 * 5) * 3);
+    EXPECT_EQ(std::tuple(letters, r.lettersRight(), r.phase(), r.winner(), r.score()),
+              std::tuple(47, 47, Phase::Won, 0, (8 * 100 + 47 * 5) * 3));
     EXPECT_TRUE(r.advance(100000, rng).empty());
     EXPECT_EQ(r.bestComputerPad(), 4);
 }

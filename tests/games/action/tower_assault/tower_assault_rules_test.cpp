@@ -96,18 +96,23 @@ TEST(TowerThrows, GuardShareAndDecoyInTheirOrder) {
     ASSERT_EQ(g.start(s, rng), Start::Ok);
     for (int t = 0; t < 60; ++t) g.tick(s, rng, -1);  // out of every scroll's way
     EXPECT_EQ(g.knightX(), 60);
-    std::vector<std::pair<std::string, int>> thrown;
+    std::vector<std::tuple<std::string, int, int>> thrown;  // word, guard, the scroll's number
     std::vector<Event> landed;
     for (int t = 0; t < 1500 && thrown.size() < 6; ++t) {
         const auto ev = g.tick(s, rng, 0);
         if (Has(ev, Event::Thrown))
-            thrown.emplace_back(g.scrolls().back().word, g.scrolls().back().guard);
+            thrown.emplace_back(g.scrolls().back().word, g.scrolls().back().guard,
+                                g.scrolls().back().id);
         if (Has(ev, Event::Landed) || Has(ev, Event::RightLanded))
             landed.push_back(Has(ev, Event::Landed) ? Event::Landed : Event::RightLanded);
     }
     EXPECT_EQ(rng.pending(), 0u);
-    EXPECT_EQ(thrown, (std::vector<std::pair<std::string, int>>{
-                          {"cat", 3}, {"dog", 4}, {"owl", 5}, {"bee", 2}, {"ant", 3}, {"dog", 4}}));
+    EXPECT_EQ(thrown, (std::vector<std::tuple<std::string, int, int>>{{"cat", 3, 1},
+                                                                      {"dog", 4, 2},
+                                                                      {"owl", 5, 3},
+                                                                      {"bee", 2, 4},
+                                                                      {"ant", 3, 5},
+                                                                      {"dog", 4, 6}}));
     EXPECT_EQ(landed, (std::vector<Event>{Event::Landed, Event::RightLanded}));
 }
 

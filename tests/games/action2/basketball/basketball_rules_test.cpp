@@ -90,6 +90,9 @@ TEST(BasketballRules, LettersRevealOneByOneOverRandomCapitals) {
     for (; ticks < 10 && !done; ++ticks) caption = g.revealTick(rest, done);
     EXPECT_EQ(ticks, 3) << "two more letters, then done as soon as all four show";
     EXPECT_EQ(caption, "hoop");
+    // A place already shown is drawn again 10000 times at most, then the first hidden one is
+    // taken: two such ticks with their coins, and three capitals for the hidden places.
+    EXPECT_EQ(rest.draws, 2 * (1 + 10000) + 3);
 }
 
 TEST(BasketballRules, PointsDependOnHowManyWordsWereShown) {

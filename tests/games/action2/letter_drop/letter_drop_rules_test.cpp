@@ -30,17 +30,13 @@ TEST(LetterDropRules, WordChoiceUpperCasesAndSetsTheTiles) {
     rng.pick(1, 2).pick(2, 2).pick(1, 11);  // a long word is passed over
     Game g;
     ASSERT_EQ(g.setup(s, rng), Setup::Ready);
-    EXPECT_EQ(s.TheWord, "ROCK'N ROLL");
-    EXPECT_EQ(s.TheMeaning, "meaning of rock'n roll");
-    EXPECT_EQ(s.GameSpeed, 90);
-    EXPECT_EQ(s.Score, 0);
-    EXPECT_EQ(rng.randomizeCount, 1);
-    EXPECT_EQ(g.lettersLeft(), 9);   // the apostrophe and the blank are not dropped
-    EXPECT_TRUE(g.tileShows(4));     // the apostrophe stands on its tile
-    EXPECT_FALSE(g.tileVisible(6));  // the blank hides its tile
-    EXPECT_TRUE(g.tileVisible(10));
-    EXPECT_FALSE(g.tileVisible(11));
-    EXPECT_EQ(g.falling(), 'R');
+    EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning, s.GameSpeed, s.Score, rng.randomizeCount),
+              std::tuple("ROCK'N ROLL", "meaning of rock'n roll", 90, 0.0, 1));
+    // The apostrophe and the blank are not dropped: the apostrophe stands on its tile, the
+    // blank hides its tile.
+    EXPECT_EQ(std::tuple(g.lettersLeft(), g.tileShows(4), g.tileVisible(6), g.falling()),
+              std::tuple(9, true, false, 'R'));
+    EXPECT_EQ(std::tuple(g.tileVisible(10), g.tileVisible(11)), std::tuple(true, false));
 }
 
 TEST(LetterDropRules, FourteenLettersFillEveryTileAndFifteenAreRefused) {
@@ -49,8 +45,7 @@ TEST(LetterDropRules, FourteenLettersFillEveryTileAndFifteenAreRefused) {
     Game g;
     ASSERT_EQ(g.setup(s, rng), Setup::Ready);
     for (int i = 0; i < kTiles; ++i) EXPECT_TRUE(g.tileVisible(i)) << i;
-    EXPECT_GE(g.tileLeft(0), 0);
-    EXPECT_LE(g.tileLeft(kTiles - 1) + kTileW, kFieldW);
+    EXPECT_EQ(g.tileLeft(0), kFieldW - g.tileLeft(kTiles - 1) - kTileW) << "a centred row";
 
     SharedState longOnly = ListOf({"ABCDEFGHIJKLMNO", "PQRSTUVWXYZABCDE", "LONGLONGLONGLONG"}, 90);
     ScriptedRng r2(0.3);
@@ -65,10 +60,8 @@ TEST(LetterDropRules, AWordWithNothingToDropIsPassedOverForAnother) {
     rng.pick(1, 2).pick(2, 2);
     Game g;
     ASSERT_EQ(g.setup(s, rng), Setup::Ready);
-    EXPECT_EQ(s.TheWord, "A-B");
-    EXPECT_EQ(s.TheMeaning, "meaning of a-b");
-    EXPECT_EQ(g.lettersLeft(), 2);
-    EXPECT_TRUE(g.tileShows(1));
+    EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning, g.lettersLeft(), g.tileShows(1)),
+              std::tuple("A-B", "meaning of a-b", 2, true));
     EXPECT_NE(g.falling(), 0);
 
     // None to drop on the whole list: said so after twice WordCount draws.
@@ -100,9 +93,9 @@ TEST(LetterDropRules, LandingTestAtTheTileEdges) {
         const int x = g.tileLeft(0) + c.offset - kTileW / 2;
         const Landing l = DropAt(g, s, x, rng);
         EXPECT_EQ(l, c.right ? Landing::Right : Landing::Wrong) << c.offset;
-        EXPECT_EQ(g.tileShows(0), c.right) << c.offset;
-        EXPECT_EQ(g.x(), kFieldW / 2);  // back to the top either way
-        EXPECT_EQ(g.y(), kTopY);
+        // Back to the top either way.
+        EXPECT_EQ(std::tuple(g.tileShows(0), g.x(), g.y()), std::tuple(c.right, kFieldW / 2, kTopY))
+            << c.offset;
     }
 }
 
@@ -115,9 +108,8 @@ TEST(LetterDropRules, ALetterOnAFilledTileOrTheWrongOneIsAMiss) {
     EXPECT_EQ(s.Score, 90 * 5);
     // The second A on the tile that already shows its letter.
     EXPECT_EQ(DropAt(g, s, g.tileLeft(0), rng), Landing::Wrong);
-    EXPECT_EQ(s.Score, 90 * 5 - 50);
-    EXPECT_EQ(g.lettersLeft(), 1);
-    EXPECT_EQ(g.falling(), 'A');  // the missed letter comes back
+    EXPECT_EQ(std::tuple(s.Score, g.lettersLeft(), g.falling()), std::tuple(90.0 * 5 - 50, 1, 'A'))
+        << "the missed letter comes back";
     EXPECT_EQ(DropAt(g, s, g.tileLeft(1), rng), Landing::Won);
 }
 
@@ -174,12 +166,10 @@ TEST(LetterDropRules, FourMissesTurnTheHintOnAndOneRightLandingTurnsItOff) {
         EXPECT_EQ(g.hintTile(), -1) << miss;
         DropAt(g, s, away, rng);
     }
-    EXPECT_EQ(s.Score, -200);  // below zero during play
-    EXPECT_EQ(g.misses(), 4);
-    EXPECT_EQ(g.hintTile(), 0);
+    EXPECT_EQ(std::tuple(s.Score, g.misses(), g.hintTile()), std::tuple(-200.0, 4, 0))
+        << "below zero during play";
     DropAt(g, s, g.tileLeft(0), rng);
-    EXPECT_EQ(g.hintTile(), -1);
-    EXPECT_EQ(g.misses(), 0);
+    EXPECT_EQ(std::tuple(g.hintTile(), g.misses()), std::tuple(-1, 0));
 }
 
 TEST(LetterDropRules, TheStarStartsOneTimeInFiftyAndLeavesPastTheRightEdge) {

@@ -33,12 +33,12 @@ TEST(MiniGolfRules, LevelTable) {
         const char* blocks;
         int R;
     };
-    for (const Row r : {Row{0, 2, "", 400}, Row{1, 2, "", 400}, Row{2, 3, "", 400},
-                        Row{3, 3, "", 400}, Row{4, 3, " 1 2 4 5", 300}, Row{5, 3, " 1 2 3 4 5", 300},
-                        Row{6, 4, " 1 2 3 4 5", 200}, Row{7, 4, " 1 2 3 4 5 11 12", 200},
-                        Row{8, 5, " 1 2 3 4 5 11 12", 100},
-                        Row{9, 5, " 1 2 3 4 5 6 7 8 11 12", 100},
-                        Row{10, 5, " 1 2 3 4 5 6 7 8 9 10 11 12", 100}}) {
+    for (const Row r :
+         {Row{0, 2, "", 400}, Row{1, 2, "", 400}, Row{2, 3, "", 400}, Row{3, 3, "", 400},
+          Row{4, 3, " 1 2 4 5", 300}, Row{5, 3, " 1 2 3 4 5", 300}, Row{6, 4, " 1 2 3 4 5", 200},
+          Row{7, 4, " 1 2 3 4 5 11 12", 200}, Row{8, 5, " 1 2 3 4 5 11 12", 100},
+          Row{9, 5, " 1 2 3 4 5 6 7 8 11 12", 100},
+          Row{10, 5, " 1 2 3 4 5 6 7 8 9 10 11 12", 100}}) {
         const Level l = LevelFor(r.difficulty);
         std::string blocks;
         for (int i = 0; i < int(l.blocks.size()); ++i)
@@ -58,30 +58,19 @@ TEST(MiniGolfRules, SetupLaysOutTheCourseAndTheWord) {
     rng.pick(1, 3);                                                         // block pattern 1
     Course c;
     c.setup(s, rng);
-    EXPECT_EQ(s.Score, 0);
-    EXPECT_EQ(c.seconds(), 90);
-    EXPECT_EQ(s.TheWord, "pear");
-    EXPECT_EQ(c.rightHole(), 4);
-    EXPECT_EQ(c.caption(4), "pear");
-    EXPECT_EQ(c.caption(1), "apple");
-    EXPECT_EQ(c.caption(2), "plum");
-    EXPECT_EQ(c.caption(3), "lime");
-    EXPECT_EQ(c.caption(5), "fig");
-    EXPECT_EQ(c.pattern(), 1);
-    EXPECT_EQ(c.B(), 384);
+    EXPECT_EQ(std::tuple(s.Score, c.seconds(), s.TheWord, c.rightHole(), c.pattern(), c.B()),
+              std::tuple(0.0, 90, "pear", 4, 1, 384));
+    EXPECT_EQ((std::vector{c.caption(1), c.caption(2), c.caption(3), c.caption(4), c.caption(5)}),
+              (std::vector<std::string>{"apple", "plum", "lime", "pear", "fig"}));
     const Box& b = c.box();  // 0.1 to 0.9 of the field's 15360 x 11520 twips across and down
-    EXPECT_EQ(b.left, 1536);
-    EXPECT_EQ(b.right, 13824);
-    EXPECT_EQ(b.bottom, 10368);
-    EXPECT_EQ(c.holeY(1), b.top + b.height() / 10);
-    EXPECT_EQ(c.holeY(4), b.top + b.height() / 5);
-    EXPECT_EQ(c.holeX(2), b.right - b.width() / 10 - 100);
-    EXPECT_EQ(c.holeX(4), (c.holeX(1) + 100 + c.holeX(3)) / 2);
-    EXPECT_EQ(c.blockX(3), c.holeX(3));
-    EXPECT_EQ(c.blockX(12) - c.blockX(11), 4 * c.B());
-    EXPECT_EQ(c.blockY(6), c.holeY(1) + 2 * 100 + c.B());
-    EXPECT_EQ(c.ballX(), kFieldW / 2);
-    EXPECT_EQ(c.ballY(), 0.8 * kFieldH);
+    EXPECT_EQ(std::tuple(b.left, b.right, b.bottom), std::tuple(1536, 13824, 10368));
+    EXPECT_EQ(std::tuple(c.holeY(1), c.holeY(4), c.holeX(2), c.holeX(4)),
+              std::tuple(b.top + b.height() / 10, b.top + b.height() / 5,
+                         b.right - b.width() / 10 - 100, (c.holeX(1) + 100 + c.holeX(3)) / 2));
+    // The first pattern: a block under each top hole, and a row through the middle.
+    EXPECT_EQ(std::tuple(c.blockX(3), c.blockX(12) - c.blockX(11), c.blockX(6), c.blockY(6)),
+              std::tuple(c.holeX(3), 4 * c.B(), c.holeX(1), c.holeY(1) + 2 * 100 + c.B()));
+    EXPECT_EQ(std::tuple(c.ballX(), c.ballY()), std::tuple(kFieldW / 2.0, 0.8 * kFieldH));
 }
 
 TEST(MiniGolfRules, AListOfOneWordRepeatedDoesNotHang) {

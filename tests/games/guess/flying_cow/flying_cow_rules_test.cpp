@@ -19,10 +19,11 @@ std::string Shown(const Game& g) {
     return out;
 }
 
-Key Type(Game& g, SharedState& s, const std::string& keys) {
-    Key last = Key::Ignored;
-    for (char c : keys) last = g.press(s, c);
-    return last;
+// What each key did: Ignored, Repeat, Hit, Drop, Miss, Solved or Lost by its first letter.
+std::string Type(Game& g, SharedState& s, const std::string& keys) {
+    std::string out;
+    for (char c : keys) out += "IRHDMSL"[static_cast<int>(g.press(s, c))];
+    return out;
 }
 }  // namespace
 
@@ -40,23 +41,22 @@ TEST(FlyingCowRules, MissesAndPointsByLevel) {
 
 TEST(FlyingCowRules, DrawsWithoutRepeatsWhileTheListLasts) {
     SharedState s = ListOf({"apple", "berry", "cherry"}, 4);
+    s.Meanings.pop_back();  // cherry has none: a blank meaning, nothing read past the list
     ScriptedRng rng;
     // Int(Rnd x 3 + 1): 2; then 2 again (drawn) and 3; then 2, 3 (drawn) and 1.
     rng.pick(2, 3).pick(2, 3).pick(3, 3).pick(2, 3).pick(3, 3).pick(1, 3);
     rng.pick(3, 3).pick(1, 3);  // every word played: repeats are allowed again
     Game g;
     ASSERT_TRUE(g.start(s, rng));
-    EXPECT_EQ(rng.randomizeCount, 1);
-    EXPECT_EQ(g.word(), "berry");
-    EXPECT_EQ(s.TheWord, "berry");
-    EXPECT_EQ(s.TheMeaning, "meaning of berry");
+    EXPECT_EQ(std::tuple(rng.randomizeCount, g.word(), s.TheWord, s.TheMeaning),
+              std::tuple(1, "berry", "berry", "meaning of berry"));
     std::vector<std::string> order{g.word()};
     for (int i = 2; i <= 5; ++i) {
         ASSERT_TRUE(g.nextWord(s, rng));
-        order.push_back(g.word());
+        order.push_back(g.word() + (s.TheMeaning.empty() ? "-" : ""));
         EXPECT_EQ(g.wordNumber(), i);
     }
-    EXPECT_EQ(order, (std::vector<std::string>{"berry", "cherry", "apple", "cherry", "apple"}));
+    EXPECT_EQ(order, (std::vector<std::string>{"berry", "cherry-", "apple", "cherry-", "apple"}));
     EXPECT_TRUE(g.lastWord());
     EXPECT_FALSE(g.nextWord(s, rng));
     EXPECT_EQ(rng.randomizeCount, 1);  // reseeded once a game
@@ -93,32 +93,26 @@ TEST(FlyingCowRules, LettersCaseAccentsAndWhatShowsFromTheStart) {
     Game g;
     ASSERT_TRUE(g.start(s, rng));
     EXPECT_EQ(Shown(g), ".... ..-....'.");
-    for (char c : {' ', '-', '\'', '1', '.', '\0'}) EXPECT_EQ(g.press(s, c), Key::Ignored) << c;
-    EXPECT_EQ(g.misses(), 0);
-    EXPECT_EQ(g.press(s, 'e'), Key::Miss);    // the accent counts: e is not é
-    EXPECT_EQ(g.press(s, '\xC9'), Key::Hit);  // É is é
-    EXPECT_EQ(g.press(s, '\xE9'), Key::Repeat);
-    EXPECT_EQ(g.press(s, 'E'), Key::Repeat);
-    EXPECT_EQ(g.press(s, 'C'), Key::Hit);
-    EXPECT_EQ(Shown(g), "c..\xE9 ..-....'.");
-    EXPECT_EQ(g.tried(),
-              "e\xE9"
-              "c");
-    EXPECT_EQ(g.triedState('e'), -1);
-    EXPECT_EQ(g.triedState('C'), 1);
-    EXPECT_EQ(g.triedState('z'), 0);
-    EXPECT_EQ(g.misses(), 1);
-    EXPECT_EQ(g.rung(), 1);
+    EXPECT_EQ(Type(g, s, std::string(" -'1.\0", 6)), "IIIIII");
+    // The accent counts: e is not é, É is é.
+    EXPECT_EQ(Type(g, s,
+                   "e\xC9\xE9"
+                   "EC"),
+              "MHRRH");
+    EXPECT_EQ(std::tuple(Shown(g), g.tried(), g.misses(), g.rung()), std::tuple("c..\xE9 ..-....'.",
+                                                                                "e\xE9"
+                                                                                "c",
+                                                                                1, 1));
+    EXPECT_EQ(std::tuple(g.triedState('e'), g.triedState('C'), g.triedState('z')),
+              std::tuple(-1, 1, 0));
     // A digit in the word is a letter to find.
     SharedState d = ListOf({"r2d2"}, 4);
     ASSERT_TRUE(g.start(d, rng));
-    EXPECT_EQ(g.press(d, '2'), Key::Hit);
-    EXPECT_EQ(g.press(d, '3'), Key::Ignored);
+    EXPECT_EQ(Type(g, d, "23"), "HI");
     // The accented capitals of Windows-1252 from 0xC0 on are letters; the multiply sign is not.
     SharedState owl = ListOf({"owl"}, 4);
     ASSERT_TRUE(g.start(owl, rng));
-    EXPECT_EQ(g.press(owl, '\xD7'), Key::Ignored);
-    EXPECT_EQ(g.press(owl, '\xC0'), Key::Miss);
+    EXPECT_EQ(Type(g, owl, "\xD7\xC0"), "IM");
     // What stands before the first letter shows from the start too.
     SharedState twas = ListOf({"'twas"}, 4);
     ASSERT_TRUE(g.start(twas, rng));
@@ -131,16 +125,15 @@ TEST(FlyingCowRules, RungsUpOnMissesDownOnADoubleFill) {
     Game g;
     ASSERT_TRUE(g.start(s, rng));
     EXPECT_EQ(g.allowed(), 7);
-    EXPECT_EQ(g.press(s, 'n'), Key::Hit);  // two blanks, but the cow is on the grass
-    EXPECT_EQ(g.rung(), 0);
-    EXPECT_EQ(Type(g, s, "xz"), Key::Miss);
-    EXPECT_EQ(g.rung(), 2);
-    EXPECT_EQ(g.press(s, 'b'), Key::Hit);  // one blank: no drop
-    EXPECT_EQ(g.rung(), 2);
-    EXPECT_EQ(g.press(s, 'A'), Key::Drop);  // three blanks: one rung down, not three
-    EXPECT_EQ(g.rung(), 1);
-    EXPECT_EQ(g.misses(), 2);
-    EXPECT_EQ(g.spare(), 6);
+    // n: two blanks, but the cow is on the grass; b: one blank, no drop; A: three blanks, one
+    // rung down, not three.
+    std::string trace;  // each key's outcome and the rung after it
+    for (char c : std::string("nxzbA")) {
+        trace += Type(g, s, std::string(1, c));
+        trace += std::to_string(g.rung());
+    }
+    EXPECT_EQ(trace, "H0M1M2H2D1");
+    EXPECT_EQ(std::tuple(g.misses(), g.spare()), std::tuple(2, 6));
 }
 
 TEST(FlyingCowRules, TheCowGoesUpOneMissPastTheLevelsAllowance) {
@@ -150,13 +143,10 @@ TEST(FlyingCowRules, TheCowGoesUpOneMissPastTheLevelsAllowance) {
         Game g;
         ASSERT_TRUE(g.start(s, rng));
         const std::string wrong = "bcdefghijkmnpq";
-        for (int i = 0; i < 11 - level; ++i) ASSERT_EQ(g.press(s, wrong[i]), Key::Miss) << level;
-        EXPECT_EQ(g.spare(), 0);
-        EXPECT_FALSE(g.over());
-        EXPECT_EQ(g.press(s, wrong[11 - level]), Key::Lost) << level;
-        EXPECT_TRUE(g.over());
-        EXPECT_EQ(g.press(s, 'o'), Key::Ignored);
-        EXPECT_EQ(s.Score, 0);
+        EXPECT_EQ(Type(g, s, wrong.substr(0, 11 - level)), std::string(11 - level, 'M')) << level;
+        EXPECT_EQ(std::tuple(g.spare(), g.over()), std::tuple(0, false));
+        EXPECT_EQ(Type(g, s, wrong.substr(11 - level, 1) + "o"), "LI") << level;
+        EXPECT_EQ(std::tuple(g.over(), s.Score), std::tuple(true, 0.0));
     }
 }
 
@@ -166,30 +156,23 @@ TEST(FlyingCowRules, ASolvedWordScoresAndTheHintHalvesIt) {
     rng.pick(1, 2).pick(2, 2).pick(1, 2);
     Game g;
     ASSERT_TRUE(g.start(s, rng));
-    EXPECT_EQ(Type(g, s, "xicr"), Key::Hit);
-    EXPECT_EQ(Type(g, s, "eam"), Key::Solved);
+    EXPECT_EQ(Type(g, s, "xicream"), "MHDHHHS");
     // Nine characters; the miss was taken back by the two c's: (9 x 10 + 7 x 5) x 4.
-    EXPECT_EQ(g.lastPoints(), 500);
-    EXPECT_EQ(s.Score, 500);
-    EXPECT_FALSE(g.hintOffered(s));
+    EXPECT_EQ(std::tuple(g.lastPoints(), s.Score, g.hintOffered(s)), std::tuple(500, 500.0, false));
     // The last letter fills two blanks: the cow comes down before the rungs are counted.
     ASSERT_TRUE(g.nextWord(s, rng));
-    EXPECT_EQ(g.word(), "noon");
-    EXPECT_TRUE(g.hintOffered(s));
+    EXPECT_EQ(std::tuple(g.word(), g.hintOffered(s)), std::tuple(std::string("noon"), true));
     EXPECT_TRUE(g.takeHint(s));
     EXPECT_FALSE(g.takeHint(s));
     EXPECT_TRUE(g.hinted());
-    EXPECT_EQ(Type(g, s, "xno"), Key::Solved);
-    EXPECT_EQ(g.spare(), 7);
-    EXPECT_EQ(g.lastPoints(), (40 + 35) * 4 / 2);
-    EXPECT_EQ(s.Score, 500 + 150);
+    EXPECT_EQ(Type(g, s, "xno"), "MDS");
+    EXPECT_EQ(std::tuple(g.spare(), g.lastPoints(), s.Score),
+              std::tuple(7, (40 + 35) * 4 / 2, 500.0 + 150));
     // A new game starts from nothing, at the level now set.
     s.Difficulty = 12;
     ASSERT_TRUE(g.start(s, rng));
-    EXPECT_EQ(s.Score, 0);
-    EXPECT_EQ(g.level(), 9);
-    EXPECT_EQ(g.wordNumber(), 1);
-    EXPECT_FALSE(g.hinted());
+    EXPECT_EQ(std::tuple(s.Score, g.level(), g.wordNumber(), g.hinted()),
+              std::tuple(0.0, 9, 1, false));
 }
 
 TEST(FlyingCowRules, NoHintOnAWordsOnlyList) {
@@ -197,8 +180,7 @@ TEST(FlyingCowRules, NoHintOnAWordsOnlyList) {
     ScriptedRng rng;
     Game g;
     ASSERT_TRUE(g.start(s, rng));
-    EXPECT_FALSE(g.hintOffered(s));
-    EXPECT_FALSE(g.takeHint(s));
-    EXPECT_EQ(Type(g, s, "owl"), Key::Solved);
+    EXPECT_EQ(std::tuple(g.hintOffered(s), g.takeHint(s)), std::tuple(false, false));
+    EXPECT_EQ(Type(g, s, "owl"), "HHS");
     EXPECT_EQ(s.Score, (30 + 35) * 4);
 }

@@ -29,12 +29,17 @@ Pick Spell(Game& g, SharedState& s, const std::string& letters) {
     }
     return last;
 }
+// Picks the stones numbered `stones` in turn: what each did, I R W S C or K (woke).
+std::string Picks(Game& g, SharedState& s, const std::vector<int>& stones) {
+    std::string out;
+    for (int i : stones) out += "IRWSCK"[static_cast<int>(g.pick(s, i))];
+    return out;
+}
 }  // namespace
 
 TEST(PrincessRules, PointsTextsAndWhatCanBePlayed) {
-    EXPECT_EQ(wordPoints(5, true), 100);
-    EXPECT_EQ(wordPoints(5, false), 50);
-    EXPECT_EQ(wordPoints(14, false), 140);
+    EXPECT_EQ(std::tuple(wordPoints(5, true), wordPoints(5, false), wordPoints(14, false)),
+              std::tuple(100, 50, 140));
     EXPECT_EQ(lostText("moat"), "The dragon woke up! The word was moat.");
     struct Row {
         std::string word;
@@ -85,6 +90,7 @@ TEST(PrincessRules, StonesAreShuffledFromTheBackAndNeverReadAsTheWord) {
     ScriptedRng tops(0.99);
     EXPECT_EQ(layStones("noon", tops), (std::vector<int>{1, 2, 3, 0}));
     EXPECT_EQ(tops.draws, 18);
+    EXPECT_EQ(layStones("'twas", tops), (std::vector<int>{2, 3, 4, 1}));
     ScriptedRng twins(0.0);
     twins.then(0.0).then(0.5).then(0.99);  // n n swapped, o o swapped: still "noon"
     EXPECT_EQ(layStones("noon", twins), (std::vector<int>{2, 1, 0, 3}));
@@ -103,83 +109,61 @@ TEST(PrincessRules, WordsAsManyAsTheLevelAndPointsForCleanWords) {
     rng.pick(1, 3);
     Game g;
     ASSERT_TRUE(g.start(s, rng));
-    EXPECT_EQ(rng.randomizeCount, 1);
-    EXPECT_EQ(s.Score, 0);
-    EXPECT_EQ(g.words(), 2);
-    EXPECT_EQ(s.TheWord, "Anna");
-    EXPECT_EQ(s.TheMeaning, "meaning of Anna");
-    EXPECT_EQ(Moat(g), "nnaA");
-    // Case does not matter, and either twin lays the next plank.
-    EXPECT_EQ(g.pick(s, 2), Pick::Right);
-    EXPECT_EQ(g.risenTo(2), 0);
-    EXPECT_EQ(g.pick(s, 2), Pick::Ignored);  // risen already
-    EXPECT_EQ(g.pick(s, -1), Pick::Ignored);  // no stone there, before the first or past the last
-    EXPECT_EQ(g.pick(s, 4), Pick::Ignored);
-    EXPECT_EQ(g.pick(s, 3), Pick::Wrong);
-    EXPECT_EQ(g.pick(s, 1), Pick::Right);
-    EXPECT_EQ(g.risenTo(1), 1);
-    EXPECT_EQ(g.stoneFor('A'), 3);
-    EXPECT_EQ(g.stoneFor('N'), 0);  // the right one first
-    EXPECT_EQ(g.pick(s, 0), Pick::Right);
-    EXPECT_EQ(g.pick(s, 3), Pick::Spelled);
-    EXPECT_EQ(g.lastPoints(), 40);  // a splash: no bonus
-    EXPECT_EQ(g.lowered(), 1);
-    EXPECT_EQ(g.pick(s, 0), Pick::Ignored);
-    EXPECT_EQ(g.stoneFor('a'), -1);
+    EXPECT_EQ(std::tuple(rng.randomizeCount, s.Score, g.words(), s.TheWord, s.TheMeaning, Moat(g)),
+              std::tuple(1, 0.0, 2, "Anna", "meaning of Anna", "nnaA"));
+    // Case does not matter, and either twin lays the next plank. Ignored: a stone risen
+    // already, and no stone before the first or past the last.
+    EXPECT_EQ(Picks(g, s, {2, 2, -1, 4, 3, 1}), "RIIIWR");
+    EXPECT_EQ(std::tuple(g.risenTo(2), g.risenTo(1), g.stoneFor('A'), g.stoneFor('N')),
+              std::tuple(0, 1, 3, 0));  // the right twin first
+    EXPECT_EQ(Picks(g, s, {0, 3, 0}), "RSI");
+    EXPECT_EQ(std::tuple(g.lastPoints(), g.lowered(), g.stoneFor('a')), std::tuple(40, 1, -1))
+        << "a splash: no bonus";
     // The hyphen stands on the bridge from the start and counts in the length.
     rng.pick(2, 3);
     ASSERT_TRUE(g.nextWord(s, rng));
-    EXPECT_EQ(g.wordNumber(), 2);
-    EXPECT_TRUE(g.laid(3));
-    EXPECT_FALSE(g.laid(0));
+    EXPECT_EQ(std::tuple(g.wordNumber(), g.laid(3), g.laid(0)), std::tuple(2, true, false));
     EXPECT_EQ(Spell(g, s, "icecrea"), Pick::Right);
     EXPECT_EQ(g.nextPosition(), 8);
     EXPECT_EQ(Spell(g, s, "m"), Pick::Crossed);
-    EXPECT_EQ(g.lastPoints(), 140);  // 9 x 10 + 50
-    EXPECT_EQ(s.Score, 180);
+    EXPECT_EQ(std::tuple(g.lastPoints(), s.Score, g.splashes()), std::tuple(140, 180.0, 1))
+        << "9 x 10 + 50";
     EXPECT_FALSE(g.nextWord(s, rng));
-    EXPECT_EQ(g.splashes(), 1);
     // A new game forgets the words of the last one: the first word may come again at once.
     rng.pick(1, 3);
     const int before = rng.draws;
     ASSERT_TRUE(g.start(s, rng));
-    EXPECT_EQ(s.TheWord, "Anna");
-    EXPECT_EQ(rng.draws - before, 1 + 3);  // the word, then its stones
-    EXPECT_EQ(g.splashes(), 0);
-    EXPECT_EQ(g.lowered(), 0);
+    EXPECT_EQ(std::tuple(s.TheWord, rng.draws - before, g.splashes(), g.lowered()),
+              std::tuple("Anna", 1 + 3, 0, 0));  // the word, then its stones
     // A new game on a list it cannot play leaves nothing to pick from the old one.
     SharedState none = ListOf({"- -"});
     EXPECT_FALSE(g.start(none, rng));
-    EXPECT_EQ(g.pick(none, 0), Pick::Ignored);
-    EXPECT_EQ(g.stoneFor('n'), -1);
+    EXPECT_EQ(std::tuple(g.pick(none, 0), g.stoneFor('n')), std::tuple(Pick::Ignored, -1));
 }
 
 TEST(PrincessRules, EightSplashesInAGameWakeTheDragon) {
     for (auto [difficulty, words] : {std::pair{0, 1}, {1, 1}, {15, 15}, {40, 15}}) {
-        SharedState s = ListOf({"cat"}, difficulty);
+        SharedState s = ListOf({"'twas"}, difficulty);
         ScriptedRng rng(0.0);
         Game g;
         ASSERT_TRUE(g.start(s, rng));
-        EXPECT_EQ(g.words(), words) << difficulty;
+        // The apostrophe before the first letter stands on the bridge from the start.
+        EXPECT_EQ(std::tuple(g.words(), g.laid(0), g.nextPosition()), std::tuple(words, true, 1))
+            << difficulty;
     }
     SharedState s = ListOf({"ab", "cd"}, 3);
     ScriptedRng rng(0.0);
     Game g;
     ASSERT_TRUE(g.start(s, rng));
     EXPECT_EQ(Moat(g), "ba");
-    for (int i = 0; i < 5; ++i) EXPECT_EQ(g.pick(s, 0), Pick::Wrong);
-    EXPECT_EQ(Spell(g, s, "ab"), Pick::Spelled);
-    EXPECT_EQ(g.lastPoints(), 20);
+    EXPECT_EQ(Picks(g, s, {0, 0, 0, 0, 0, 1, 0}), "WWWWWRS");
+    EXPECT_EQ(std::tuple(g.lastPoints(), g.wordSplashes()), std::tuple(20, 5));
     ASSERT_TRUE(g.nextWord(s, rng));
     EXPECT_EQ(g.wordSplashes(), 0);
-    EXPECT_EQ(g.pick(s, 0), Pick::Wrong);
-    EXPECT_EQ(g.pick(s, 0), Pick::Wrong);
+    EXPECT_EQ(Picks(g, s, {0, 0}), "WW");
     EXPECT_EQ(g.splashes(), 7);
-    EXPECT_EQ(g.pick(s, 0), Pick::Woke);
-    EXPECT_TRUE(g.over());
-    EXPECT_EQ(g.pick(s, 1), Pick::Ignored);
-    EXPECT_EQ(g.pick(s, -1), Pick::Ignored);
-    EXPECT_EQ(s.Score, 20);
+    EXPECT_EQ(Picks(g, s, {0, 1, -1}), "KII");
+    EXPECT_EQ(std::tuple(g.over(), s.Score), std::tuple(true, 20.0));
 }
 
 TEST(PrincessRules, AccentsAreLettersOfTheirOwn) {
