@@ -8,21 +8,11 @@
 #include "core/shared_state.h"
 #include "games/puzzles/blind_tiles/blind_tiles_rules.h"
 #include "games/puzzles/crossword/crossword_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 
 namespace {
-
-SharedState listOf(const std::vector<std::string>& words, int difficulty) {
-    SharedState s;
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        s.Words[i + 1] = words[i];
-        s.Meanings[i + 1] = "meaning of " + words[i];
-    }
-    s.WordCount = static_cast<short>(words.size());
-    s.Difficulty = difficulty;
-    return s;
-}
 
 // "CAT" down in column 5 (rows 9..11), "HAT" across row 10 from column 4.
 ScriptedRng catHatLayout() {
@@ -45,7 +35,7 @@ void typeWord(SharedState& s, crossword::CrosswordState& cw, const std::string& 
 TEST(CrosswordRules, RoundClampsDifficultyForGoodAndKeepsTheFirstScore) {
     std::vector<std::string> eight = {"apple", "pear",  "plum", "peach",
                                       "grape", "lemon", "lime", "melon"};
-    SharedState s = listOf(eight, 10);
+    SharedState s = test::ListOf(eight, 10);
     s.Score = 777;
     SystemRng rng;
     crossword::CrosswordState cw;
@@ -66,7 +56,7 @@ TEST(CrosswordRules, RoundClampsDifficultyForGoodAndKeepsTheFirstScore) {
 }
 
 TEST(CrosswordRules, RoadToAWin) {
-    SharedState s = listOf({"cat", "hat"}, 2);
+    SharedState s = test::ListOf({"cat", "hat"}, 2);
     ScriptedRng rng = catHatLayout();
     crossword::CrosswordState cw;
     ASSERT_TRUE(crossword::newRound(s, cw, false, rng).ok);
@@ -94,7 +84,7 @@ TEST(CrosswordRules, RoadToAWin) {
 }
 
 TEST(CrosswordRules, GiveAnswerCostsAndIsGuardedAgainstKeys) {
-    SharedState s = listOf({"cat", "hat"}, 2);
+    SharedState s = test::ListOf({"cat", "hat"}, 2);
     ScriptedRng rng = catHatLayout();
     crossword::CrosswordState cw;
     ASSERT_TRUE(crossword::newRound(s, cw, false, rng).ok);
@@ -118,7 +108,7 @@ TEST(CrosswordRules, GiveAnswerCostsAndIsGuardedAgainstKeys) {
     }
 
 TEST(BlindTilesRules, RoadToAWinWithTheSameWordTwice) {
-    SharedState s = listOf({"cat", "cat", "tact"}, 3);
+    SharedState s = test::ListOf({"cat", "cat", "tact"}, 3);
     SystemRng rng;
     blind_tiles::BlindTilesState bt;
     ASSERT_TRUE(blind_tiles::newRound(s, bt, rng).ok);
@@ -156,7 +146,7 @@ TEST(BlindTilesRules, RoadToAWinWithTheSameWordTwice) {
 }
 
 TEST(BlindTilesRules, ListThatCannotCrossGivesTheCrosswordsMessage) {
-    SharedState s = listOf({"abc", "def", "ghi"}, 3);
+    SharedState s = test::ListOf({"abc", "def", "ghi"}, 3);
     SystemRng rng;
     blind_tiles::BlindTilesState bt;
     const blind_tiles::RoundResult r = blind_tiles::newRound(s, bt, rng);

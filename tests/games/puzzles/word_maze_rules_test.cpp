@@ -7,6 +7,7 @@
 
 #include "core/rng.h"
 #include "core/shared_state.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::word_maze;
@@ -14,13 +15,7 @@ using namespace wm::word_maze;
 namespace {
 
 SharedState listOf(const std::vector<std::string>& words, int difficulty, bool definitions) {
-    SharedState s;
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        s.Words[i + 1] = words[i];
-        s.Meanings[i + 1] = "meaning of " + words[i];
-    }
-    s.WordCount = static_cast<short>(words.size());
-    s.Difficulty = difficulty;
+    SharedState s = test::ListOf(words, difficulty);
     s.GameOptionOn = definitions ? kTrue : kFalse;
     return s;
 }

@@ -7,22 +7,12 @@
 
 #include "core/rng.h"
 #include "core/shared_state.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::word_search;
 
 namespace {
-
-SharedState listOf(const std::vector<std::string>& words, int difficulty) {
-    SharedState s;
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        s.Words[i + 1] = words[i];
-        s.Meanings[i + 1] = "meaning of " + words[i];
-    }
-    s.WordCount = static_cast<short>(words.size());
-    s.Difficulty = difficulty;
-    return s;
-}
 
 std::string row(const WordSearchState& ws, int y) {
     std::string s;
@@ -52,7 +42,7 @@ WordSearchState handMade(SharedState& state, const std::vector<std::string>& wor
 }  // namespace
 
 TEST(WordSearchBuild, PlacesEachWordThenFillsInCapitals) {
-    SharedState state = listOf({"cat"}, 5);
+    SharedState state = test::ListOf({"cat"}, 5);
     state.Score = 1234;                               // carried in: a round never zeroes it
     ScriptedRng rng(0.0);                             // the fill: every free cell "A"
     rng.pick(1, 1).pick(1, 2).pick(3, 5).pick(2, 2);  // word 1, across, row 3, start column 2
@@ -100,7 +90,7 @@ TEST(WordSearchBuild, WordNeedsAGridOneLongerThanItselfAndTheGridGrowsByTwo) {
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.length);
-        SharedState state = listOf({std::string(c.length, 'q')}, c.difficulty);
+        SharedState state = test::ListOf({std::string(c.length, 'q')}, c.difficulty);
         SystemRng rng;
         WordSearchState ws;
         const BuildResult r = startRound(state, ws, rng);
@@ -116,7 +106,7 @@ TEST(WordSearchBuild, WordNeedsAGridOneLongerThanItselfAndTheGridGrowsByTwo) {
     }
 
     // A word one shorter than the grid never reaches the last column or row.
-    SharedState state = listOf({"abcd"}, 5);
+    SharedState state = test::ListOf({"abcd"}, 5);
     ScriptedRng rng(0.0);
     rng.pick(1, 1).pick(1, 2).pick(2, 5);  // across, row 2; the start can only be 1
     WordSearchState ws;
@@ -139,7 +129,7 @@ TEST(WordSearchMarking, NeighbourTestsKeepTheirQuirks) {
 }
 
 TEST(WordSearchMarking, LettersInOrderToAFoundWordAndItsScore) {
-    SharedState state = listOf({}, 5);
+    SharedState state = test::ListOf({}, 5);
     state.Score = 100;
     WordSearchState ws = handMade(state, {"CAT", "DOG"});
     ws.Seconds = 7;
@@ -184,7 +174,7 @@ TEST(WordSearchMarking, LettersInOrderToAFoundWordAndItsScore) {
 }
 
 TEST(WordSearchMarking, ClearScrollHintAndTheLastLine) {
-    SharedState state = listOf({}, 5);
+    SharedState state = test::ListOf({}, 5);
     WordSearchState ws = handMade(state, {"CAT", "DOG", "A"});
     ScriptedRng rng(0.0);
     tryCell(state, ws, 0, rng);

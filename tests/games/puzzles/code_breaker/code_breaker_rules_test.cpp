@@ -6,23 +6,15 @@
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "games/puzzles/code_breaker/code_breaker_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::code_breaker;
 
 namespace {
 
-SharedState listOf(std::vector<std::string> words, int level = 10) {
-    SharedState s;
-    s.Words = {""};
-    s.Meanings = {""};
-    for (auto& w : words) {
-        s.Words.push_back(w);
-        s.Meanings.push_back("meaning of " + w);
-    }
-    s.WordCount = static_cast<short>(words.size());
-    s.Difficulty = level;
-    return s;
+SharedState listOf(const std::vector<std::string>& words, int level = 10) {
+    return test::ListOf(words, level);
 }
 
 std::string guesses(const Game& g) {

@@ -56,7 +56,7 @@ TEST(ConcentrationDeal, AmbiguousAndShortListsEndInsteadOfSpinning) {
     EXPECT_EQ(kMaxDraws, 20000);
     EXPECT_FALSE(deal(listOf({"apple"}), 2, rng).ready());
     // A count past the end of the list's store draws up to its last place.
-    SharedState full = listOf({});
+    SharedState full;
     const int last = int(full.Words.size()) - 1;
     full.Words[last] = "zebra";
     full.Meanings[last] = "a striped horse";

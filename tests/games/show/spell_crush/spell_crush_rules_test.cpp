@@ -6,23 +6,11 @@
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "games/show/spell_crush/spell_crush_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::spellcrush;
-
-namespace {
-
-SharedState ListOf(std::initializer_list<const char*> words) {
-    SharedState s;
-    s.Words.assign(kMaxWords + 2, "");
-    s.Meanings.assign(kMaxWords + 2, "");
-    int i = 0;
-    for (const char* w : words) s.Words[++i] = w;
-    s.WordCount = static_cast<short>(i);
-    return s;
-}
-
-}  // namespace
+using wm::test::ListOf;
 
 TEST(Deal, DrawsInTheDesignedOrderAndMisspellsOneWord) {
     SharedState s = ListOf({"cat", "fish", "dog", "bird", "frog", "lion"});
@@ -43,7 +31,7 @@ TEST(Deal, DrawsInTheDesignedOrderAndMisspellsOneWord) {
 }
 
 TEST(Deal, NeverDealsTheEmptyEntryPastTheLimitAndNeverHangs) {
-    SharedState s = ListOf({});
+    SharedState s;
     for (int i = 1; i <= kMaxWords; ++i) s.Words[i] = "w" + std::to_string(i);
     s.WordCount = kMaxWords + 1;  // after the over-limit message
     SpellCrushState g;

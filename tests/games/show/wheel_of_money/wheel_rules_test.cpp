@@ -5,25 +5,16 @@
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "games/show/wheel_of_money/wheel_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::wheel;
 
 namespace {
 
-SharedState ListOf(std::initializer_list<std::pair<const char*, const char*>> pairs,
+SharedState ListOf(const std::vector<std::pair<std::string, std::string>>& pairs,
                    int difficulty = 2) {
-    SharedState s;
-    s.Words.assign(kMaxWords + 2, "");
-    s.Meanings.assign(kMaxWords + 2, "");
-    int i = 0;
-    for (auto [w, m] : pairs) {
-        s.Words[++i] = w;
-        s.Meanings[i] = m;
-    }
-    s.WordCount = static_cast<short>(i);
-    s.Difficulty = difficulty;
-    return s;
+    return test::PairsList(pairs, difficulty);
 }
 
 SharedState Animals(int difficulty = 2) {

@@ -6,22 +6,16 @@
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "games/study/flash_cards/flash_card_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::flash;
 
 namespace {
 
-SharedState List(std::vector<std::pair<std::string, std::string>> rows, int mode,
+SharedState List(const std::vector<std::pair<std::string, std::string>>& rows, int mode,
                  std::string letter = "A") {
-    SharedState s;
-    s.Words.assign(rows.size() + 2, "");
-    s.Meanings.assign(rows.size() + 2, "");
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        s.Words[i + 1] = rows[i].first;
-        s.Meanings[i + 1] = rows[i].second;
-    }
-    s.WordCount = short(rows.size());
+    SharedState s = test::PairsList(rows);
     s.FlashCardMode = short(mode);
     s.StartLetter = letter;
     s.ListChanged = -1;

@@ -9,22 +9,18 @@
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "games/study/quiz/quiz_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::quiz;
 
 namespace {
 
+// Words w1, w2... meaning m1, m2...
 SharedState List(int words, int difficulty, int length, int type = 1) {
-    SharedState s;
-    s.Words.assign(std::size_t(words) + 2, "");
-    s.Meanings.assign(std::size_t(words) + 2, "");
-    for (int i = 1; i <= words; ++i) {
-        s.Words[std::size_t(i)] = "w" + std::to_string(i);
-        s.Meanings[std::size_t(i)] = "m" + std::to_string(i);
-    }
-    s.WordCount = short(words);
-    s.Difficulty = difficulty;
+    std::vector<std::pair<std::string, std::string>> rows;
+    for (int i = 1; i <= words; ++i) rows.push_back({"w" + std::to_string(i), "m" + std::to_string(i)});
+    SharedState s = test::PairsList(rows, difficulty);
     s.QuizLength = short(length);
     s.QuizType = short(type);
     return s;

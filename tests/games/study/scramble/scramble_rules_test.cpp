@@ -8,6 +8,7 @@
 
 #include "core/rng.h"
 #include "core/shared_state.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::scramble;
@@ -16,17 +17,6 @@ namespace {
 
 // 1280 x 960 pixels at 15 twips a pixel; "Your Guess:" two thirds of the way down.
 const ScreenGeometry kScreen{19200, 14400, 9000};
-
-SharedState listOf(const std::vector<std::string>& words, int difficulty = 1) {
-    SharedState s;
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        s.Words[i + 1] = words[i];
-        s.Meanings[i + 1] = "meaning of " + words[i];
-    }
-    s.WordCount = static_cast<short>(words.size());
-    s.Difficulty = difficulty;
-    return s;
-}
 
 // The value that makes a scattered top come out as `top` for the given letter height.
 double topRoll(int top, int height, int label3Top) {
@@ -85,7 +75,7 @@ TEST(Layout, ScatterRerollsOnlyWithinOneHeight) {
 }
 
 TEST(NewGame, RoundDrawsInDesignedOrder) {
-    SharedState s = listOf({"cat", "horse", "dog"}, 2);
+    SharedState s = test::ListOf({"cat", "horse", "dog"}, 2);
     s.Score = 999;
     s.ElapsedSeconds = 42;
     ScrambleState round;
@@ -111,7 +101,7 @@ TEST(NewGame, RoundDrawsInDesignedOrder) {
 }
 
 TEST(NewGame, OnlyLongWordsEndOnTheMessage) {
-    SharedState s = listOf({std::string(25, 'a'), std::string(30, 'b')});
+    SharedState s = test::ListOf({std::string(25, 'a'), std::string(30, 'b')});
     ScrambleState round;
     ScriptedRng rng(0.7);
     NewGame game = newGame(s, round, kScreen, rng);
@@ -144,7 +134,7 @@ TEST(NewGame, WordsWithAStarArePickedAgainOrEndOnTheirMessage) {
         {{std::string(20, 'y'), tooLong}, {2, 1}, true, std::string(20, 'y')},  // 20 still fits
     };
     for (const Case& c : cases) {
-        SharedState s = listOf(c.words);
+        SharedState s = test::ListOf(c.words);
         ScrambleState round;
         ScriptedRng rng;
         for (int k : c.picks) rng.pick(k, static_cast<int>(c.words.size()));
@@ -237,7 +227,7 @@ TEST(Guess, ComparedLowerCasedAndEmptyIsNoGuess) {
 }
 
 TEST(Guess, HintCostsNothingOnceRight) {
-    SharedState s = listOf({"Cat"}, 1);
+    SharedState s = test::ListOf({"Cat"}, 1);
     s.TheWord = "Cat";
     s.TheMeaning = "-----";  // a words-only list
     ScrambleState round;
