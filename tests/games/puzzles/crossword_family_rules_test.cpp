@@ -108,10 +108,12 @@ TEST(CrosswordRules, GiveAnswerCostsAndIsGuardedAgainstKeys) {
     }
 
 TEST(BlindTilesRules, RoadToAWinWithTheSameWordTwice) {
-    SharedState s = test::ListOf({"cat", "cat", "tact"}, 3);
+    // Four wanted of three: after a hundred failed tries the puzzle settles for three.
+    SharedState s = test::ListOf({"cat", "cat", "tact"}, 4);
     SystemRng rng;
     blind_tiles::BlindTilesState bt;
     ASSERT_TRUE(blind_tiles::newRound(s, bt, rng).ok);
+    EXPECT_EQ(bt.Restarts, 101);
     EXPECT_EQ(bt.scoreText, "Score: 0");
     ASSERT_EQ(s.PuzzleWordCount, 3);
     ASSERT_EQ(bt.entries.size(), 3u);

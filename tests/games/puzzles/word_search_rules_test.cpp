@@ -173,6 +173,26 @@ TEST(WordSearchMarking, LettersInOrderToAFoundWordAndItsScore) {
     EXPECT_TRUE(flashTick(ws));
 }
 
+TEST(WordSearchMarking, ADragTakesTheCellsTheMouseMovesWellInto) {
+    // Cells 30 by 20; the mouse is placed from the pressed cell's corner.
+    SharedState state = test::ListOf({}, 5);
+    WordSearchState ws = handMade(state, {"CAT", "DOG"});
+    ScriptedRng rng;
+    EXPECT_EQ(mouseMove(state, ws, 90, 10, 30, 20, rng), TryResult::Refused);  // no drag
+    ws.LetterGrid[2][2] = 'A';  // C, A down the diagonal
+    mouseDown(state, ws, 0, rng);
+    EXPECT_EQ(mouseMove(state, ws, 45, 30, 30, 20, rng), TryResult::Accepted);
+    EXPECT_EQ(ws.LastCell, 21);
+    // Across from DOG's D.
+    ws = handMade(state, {"CAT", "DOG"});
+    scrollTo(state, ws, 2);
+    mouseDown(state, ws, 20, rng);
+    const std::pair<double, TryResult> moves[] = {
+        {45, TryResult::Refused}, {75, TryResult::Accepted}, {81, TryResult::Refused},
+        {95, TryResult::Found}};
+    for (auto [x, result] : moves) EXPECT_EQ(mouseMove(state, ws, x, 10, 30, 20, rng), result) << x;
+}
+
 TEST(WordSearchMarking, ClearScrollHintAndTheLastLine) {
     SharedState state = test::ListOf({}, 5);
     WordSearchState ws = handMade(state, {"CAT", "DOG", "A"});

@@ -264,6 +264,9 @@ TEST(CodeBreaker, WordsFlowAlongLinesAndKeysMoveBetweenThem) {
     EXPECT_FALSE(g.stepLine(1, l));
     EXPECT_TRUE(g.stepLine(-1, l));
     EXPECT_EQ(g.selected(), 3);  // c and d are as near: the left one
+    EXPECT_TRUE(g.select(7));
+    EXPECT_TRUE(g.stepLine(-1, l));
+    EXPECT_EQ(g.selected(), 0);  // g straight up onto a
     EXPECT_TRUE(g.select(0));
     EXPECT_TRUE(g.step(1));
     EXPECT_EQ(g.selected(), 2);  // over the hyphen and the gap
@@ -271,6 +274,7 @@ TEST(CodeBreaker, WordsFlowAlongLinesAndKeysMoveBetweenThem) {
     EXPECT_EQ(g.selectedSymbol(), 0);  // a, the first letter given a symbol
     EXPECT_TRUE(g.step(-1));
     EXPECT_EQ(g.selected(), 11);  // round the end
+    EXPECT_FALSE(g.step(0));
     // A code of one letter: a step comes round to the same tile.
     SharedState one = listOf({"a"});
     ASSERT_TRUE(g.start(one, rng));

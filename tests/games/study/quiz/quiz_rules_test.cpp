@@ -91,11 +91,16 @@ TEST(QuizRules, ExactlyAsManyWordsAsChoicesStillOffersThemAll) {
             EXPECT_LT(rng.draws, 4 * kDrawTries * (words + 1));
         }
     }
-    // Fewer words than choices (never let through by the chooser): blanks, no hang.
-    SharedState s = List(2, 4, 1);
+    // Fewer words than choices (never let through by the chooser): blanks, no hang, and no text
+    // left from the question before.
+    SharedState s = List(4, 4, 3);
     ScriptedRng rng(0.3);
     QuizRun run;
     startRun(run, s, rng);
+    s.WordCount = 2;
+    const int before = rng.draws;
+    ASSERT_TRUE(next(run, s, rng));
+    EXPECT_EQ(rng.draws - before, 2 + 4 * 401);  // each stuck draw gives up after 400 more
     EXPECT_EQ(std::count(run.choices.begin(), run.choices.begin() + 4, std::string()), 2);
 }
 
