@@ -47,9 +47,10 @@ TEST(CrosswordRules, RoundClampsDifficultyForGoodAndKeepsTheFirstScore) {
     EXPECT_GE(s.PuzzleWordCount, 2);
     EXPECT_LE(s.PuzzleWordCount, 8);
 
-    cw.MusicOpen = true;  // the tune playing goes on playing into the next round
+    cw.MusicOpen = true;  // the tune playing goes on playing into the next round; the rest is new
+    cw.KeyOnButton = true;
     ASSERT_TRUE(crossword::newRound(s, cw, false, rng).ok);
-    EXPECT_TRUE(cw.MusicOpen);
+    EXPECT_EQ(std::pair(cw.MusicOpen, cw.KeyOnButton), std::pair(true, false));
     EXPECT_EQ(s.Score, 0);
     EXPECT_EQ(cw.scoreText, "Score: 0");
     EXPECT_EQ(s.Difficulty, 8);
@@ -74,12 +75,12 @@ TEST(CrosswordRules, RoadToAWin) {
 
     crossword::clickCell(s, cw, kCatCell);
     EXPECT_EQ(cw.clue, "meaning of cat");
-    rng.pick(1, 1000);
+    rng.pick(1000, 1000);
     typeWord(s, cw, "cat", rng, &o);
     EXPECT_EQ(o, crossword::Outcome::GameEnds);  // at once, while the flash runs
     EXPECT_TRUE(cw.board.flashing);
     EXPECT_TRUE(cw.GameWon);
-    EXPECT_EQ(s.Score, 1050 + 251 * 3);
+    EXPECT_EQ(s.Score, 1050 + 1250 * 3);
     EXPECT_TRUE(cross::endGame(s, cw.GameWon));
 }
 
@@ -110,6 +111,7 @@ TEST(CrosswordRules, GiveAnswerCostsAndIsGuardedAgainstKeys) {
 TEST(BlindTilesRules, RoadToAWinWithTheSameWordTwice) {
     // Four wanted of three: after a hundred failed tries the puzzle settles for three.
     SharedState s = test::ListOf({"cat", "cat", "tact"}, 4);
+    s.Score = 50;  // the last game's
     SystemRng rng;
     blind_tiles::BlindTilesState bt;
     ASSERT_TRUE(blind_tiles::newRound(s, bt, rng).ok);
@@ -119,9 +121,10 @@ TEST(BlindTilesRules, RoadToAWinWithTheSameWordTwice) {
     ASSERT_EQ(bt.entries.size(), 3u);
     ASSERT_EQ(bt.PlaceWord.size(), 4u);
     for (int i = 1; i <= 3; ++i) EXPECT_EQ(bt.entries[i - 1], s.Words[bt.PlaceWord[i]]);
+    EXPECT_EQ(blind_tiles::giveAnswer(s, bt), blind_tiles::Outcome::None);  // nothing selected
 
     // Solve each place by clicking its first tile (twice when the crossing word comes first).
-    int solved = 0;
+    int solved = 0, typed = 0;
     for (int cell = 0; cell < 15 * 14; ++cell) {
         for (int dir : {cross::kAcross, cross::kDown}) {
             const int index = bt.board.layout.wordAt(cell % 15 + 1, cell / 15 + 1, dir);
@@ -130,12 +133,14 @@ TEST(BlindTilesRules, RoadToAWinWithTheSameWordTwice) {
                 blind_tiles::clickCell(bt, cell);
             if (bt.board.SelWord != index || !bt.board.selected()) continue;  // solved across it
             blind_tiles::Outcome o = blind_tiles::Outcome::None;
-            for (char c : s.Words[index]) o = blind_tiles::pressKey(s, bt, c);
+            for (char c : s.Words[index])
+                if (solved < 2) o = blind_tiles::pressKey(s, bt, c), ++typed;
+            if (solved == 2) o = blind_tiles::giveAnswer(s, bt);  // the last one given: 1000 off
             EXPECT_NE(o, blind_tiles::Outcome::Typed);
             ++solved;
             // Only the last word ends the game, and its flash stops at once.
             EXPECT_EQ(o == blind_tiles::Outcome::GameEnds, solved == 3);
-            if (solved == 3) EXPECT_FALSE(bt.board.flashing);
+            EXPECT_EQ(bt.board.flashing, solved < 3);
             for (int t = 0; t < 11; ++t) cross::flashTick(bt.board);
         }
     }
@@ -143,8 +148,8 @@ TEST(BlindTilesRules, RoadToAWinWithTheSameWordTwice) {
     for (std::size_t i = 0; i < bt.entries.size(); ++i) EXPECT_TRUE(bt.entrySolved[i]);
     EXPECT_EQ(solved, 3);
     EXPECT_TRUE(bt.GameWon);
-    EXPECT_EQ(s.Score, 100 * (3 + 3 + 4));
-    EXPECT_EQ(bt.scoreText, "Score: 1000");
+    EXPECT_EQ(s.Score, 100 * typed - 1000);
+    EXPECT_EQ(bt.scoreText, cross::scoreText(s.Score));
 }
 
 TEST(BlindTilesRules, ListThatCannotCrossGivesTheCrosswordsMessage) {

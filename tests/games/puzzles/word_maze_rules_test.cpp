@@ -85,9 +85,14 @@ TEST(WordMazeBuild, ImpossibleWalkEndsWithTheMessage) {
               "you chose. Please try again with different options or a different word list.");
     EXPECT_EQ(m.builds, 1001);
 
-    // More words wanted than the list holds ends too.
+    // More words wanted than the list holds ends too; so does a generator stuck on a word taken.
     SharedState few = listOf({"ab"}, 3, false);
     EXPECT_FALSE(startRound(few, m, rng).ok);
+    SharedState two = listOf({"ab", "cd"}, 2, false);
+    ScriptedRng stuck(0.0);
+    m.MazeWordCount = 2;
+    EXPECT_FALSE(buildMaze(two, m, stuck));
+    EXPECT_EQ(stuck.draws, 3 + 10000);
 
     // 39 letters fit exactly when every step is right until column 25, then down.
     SharedState exact = listOf({std::string(39, 'b')}, 1, false);
@@ -115,6 +120,7 @@ TEST(WordMazePlay, RetraceUndoAndFinish) {
               "You must follow the path of words to the end. The highlighted letters mark the "
               "paths you can choose.");
     EXPECT_EQ(state.Score, 0);
+    for (int off : {-1, 8}) EXPECT_EQ(clickCell(state, m, off, rng).result, ClickResult::Ignored);
 
     EXPECT_EQ(clickCell(state, m, 0, rng).result, ClickResult::Moved);
     EXPECT_EQ(pinks(m), "1 4 ");

@@ -183,6 +183,13 @@ TEST(WordSearchMarking, ADragTakesTheCellsTheMouseMovesWellInto) {
     mouseDown(state, ws, 0, rng);
     EXPECT_EQ(mouseMove(state, ws, 45, 30, 30, 20, rng), TryResult::Accepted);
     EXPECT_EQ(ws.LastCell, 21);
+    // On the last row a drag goes no lower, but still across.
+    ws.LetterGrid[1][20] = 'C';
+    ws.LetterGrid[2][20] = 'A';
+    clearMarking(ws);
+    mouseDown(state, ws, 380, rng);
+    EXPECT_EQ(mouseMove(state, ws, 10, 45, 30, 20, rng), TryResult::Refused);
+    EXPECT_EQ(mouseMove(state, ws, 75, 10, 30, 20, rng), TryResult::Accepted);
     // Across from DOG's D.
     ws = handMade(state, {"CAT", "DOG"});
     scrollTo(state, ws, 2);

@@ -38,8 +38,7 @@ TEST(ConcentrationDeal, DrawsThenShufflesInAFixedOrder) {
         EXPECT_EQ(g.cards[i].meaning, want[i].second) << i;
         EXPECT_FALSE(g.cards[i].up || g.cards[i].matched);
     }
-    EXPECT_EQ(g.score, 0);
-    EXPECT_EQ(g.seconds, 0);
+    EXPECT_EQ(std::tuple(g.level, g.score, g.seconds), std::tuple(2, 0.0, 0));
 }
 
 TEST(ConcentrationDeal, AmbiguousAndShortListsEndInsteadOfSpinning) {
@@ -54,7 +53,9 @@ TEST(ConcentrationDeal, AmbiguousAndShortListsEndInsteadOfSpinning) {
     EXPECT_FALSE(g.ready());
     EXPECT_EQ(rng.draws, kMaxDraws);  // the draws stop at the bound
     EXPECT_EQ(kMaxDraws, 20000);
-    EXPECT_FALSE(deal(listOf({"apple"}), 2, rng).ready());
+    ScriptedRng none;
+    EXPECT_FALSE(deal(listOf({"apple"}), 2, none).ready());
+    EXPECT_EQ(none.draws, 0);  // too short a list: not a single draw
     // A count past the end of the list's store draws up to its last place.
     SharedState full;
     const int last = int(full.Words.size()) - 1;
@@ -146,7 +147,8 @@ TEST(ConcentrationTable, GridFitsTheCardsToTheScreen) {
     const Row rows[] = {{4, 1240, 560, 2, 2},  {6, 1240, 560, 3, 2},  {12, 1240, 560, 4, 3},
                         {16, 1240, 560, 4, 4}, {16, 1860, 800, 6, 3}, {20, 1240, 560, 5, 4},
                         {20, 560, 1240, 3, 7}, {1, 100, 100, 1, 1},
-                        {2, 300, 200, 1, 2}};  // a tie: the fewer columns
+                        {2, 300, 200, 1, 2},  // a tie: the fewer columns
+                        {2, 3 + 1.5e-9, 2, 1, 2}};  // as good as a tie
     for (const Row& r : rows) {
         const Grid gr = grid(r.cards, r.w, r.h);
         EXPECT_EQ(gr.columns, r.columns) << r.cards << " in " << r.w << "x" << r.h;

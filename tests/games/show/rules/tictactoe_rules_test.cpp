@@ -54,7 +54,7 @@ TEST(TicTacToeOpponent, RandomSquareOnlyWhenNoLineHelps) {
     EXPECT_EQ(draws.draws, 4);
     // Draws stuck on a taken square: bounded, then the first free square from the top left.
     ScriptedRng stuck(0.0);
-    EXPECT_EQ(randomFree(boardOf("X.XOXOXOX"), stuck), (Square{1, 2}));
+    EXPECT_EQ(randomFree(boardOf("XOXOXO.O."), stuck), (Square{3, 1}));
 
     // Level 1, never offered, keeps its rule: random even with the centre free.
     ScriptedRng one;
@@ -112,6 +112,13 @@ TEST(TicTacToeQuestion, AsManyDistinctChoicesAsTheLevel) {
         std::sort(seen.begin(), seen.end());
         EXPECT_EQ(std::unique(seen.begin(), seen.end()), seen.end()) << "level " << level;
     }
+}
+
+TEST(TicTacToeQuestion, AShortListRepeatsTheWordAfterItsBoundedDraws) {
+    SharedState s = listOf({"cat", "dog"}, 3);
+    ScriptedRng stuck(0.0);
+    EXPECT_EQ(askQuestion(s, 3, stuck).options, (std::vector<int>{1, 1, 1}));
+    EXPECT_EQ(stuck.draws, 2 + 2 * 10000);
 }
 
 TEST(TicTacToeQuestion, ClockOnlyAtTheTopLevels) {

@@ -26,7 +26,7 @@ TEST(Deal, DrawsInTheDesignedOrderAndMisspellsOneWord) {
               (std::array<int, 4>{5, 2, 6, 1}));
     // "fish" went through Spell Crush's rules: the "f" of rule 1.
     EXPECT_EQ(g.shown, (std::array<std::string, 4>{"frog", "phish", "lion", "cat"}));
-    EXPECT_EQ(g.DealTime, 42);
+    EXPECT_EQ(std::pair(g.DealTime, g.ClickedWord), std::pair(42, -1));
     EXPECT_EQ(rng.pending(), 0u);
 }
 
@@ -48,8 +48,8 @@ TEST(Deal, NeverDealsTheEmptyEntryPastTheLimitAndNeverHangs) {
     SpellCrushState t;
     ScriptedRng stuck(0.0);
     deal(tiny, t, stuck);
-    EXPECT_EQ(t.DealWords[1], 1);
-    EXPECT_EQ(t.DealWords[2], 2);
+    EXPECT_EQ((std::array{t.DealWords[1], t.DealWords[2], t.DealWords[3], t.DealWords[4]}),
+              (std::array{1, 2, 2, 2}));
 }
 
 TEST(Judge, RightPaysByLengthAndSpeedWrongCostsNothing) {
@@ -57,7 +57,8 @@ TEST(Judge, RightPaysByLengthAndSpeedWrongCostsNothing) {
     SpellCrushState g;
     ScriptedRng rng;
     rng.pick(2, 4).pick(1, 4).pick(2, 4).pick(3, 4).pick(4, 4);
-    s.Score = 750;  // the last game's
+    s.Score = 750;  // the last game's, and its clock
+    g.SecondsLeft = 3;
     newGame(s, g, rng);
     EXPECT_EQ(g.SecondsLeft, 60);
     EXPECT_EQ(s.Score, 0);

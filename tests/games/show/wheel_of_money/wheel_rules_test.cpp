@@ -80,13 +80,14 @@ TEST(Wheel, OnlyASpinningWheelStopsAndTwentyFlashesEndOnTheStartColour) {
     SharedState s = Animals();
     ScriptedRng rng;
     WheelState w;
+    w.NextAction = Action::EndGame;  // left by the last game
     SetupGame(s, w, rng);
     EXPECT_FALSE(StopWheel(w));      // not spinning yet: a key does nothing
     EXPECT_FALSE(w.commandEnabled);  // the intro plays first
     AnimationEnded(w);
     EXPECT_EQ(ClickCommand(w), Action::ToWheel);
-    EXPECT_TRUE(w.Spinning);
-    EXPECT_TRUE(w.wheelShown);
+    EXPECT_TRUE(w.Spinning && w.wheelShown);
+    EXPECT_EQ(w.captions[4], "Definition Match!");
     EXPECT_TRUE(StopWheel(w));
     EXPECT_FALSE(StopWheel(w));  // a key during the flash does not touch the wheel
     int flashes = 0;
@@ -183,6 +184,7 @@ TEST(MiniGames, BackWordsAndTheQuestionAsAsked) {
     EXPECT_EQ(w.question, "Which of these is one of your vocabulry words spelled BACKWARDS?");
     EXPECT_EQ(w.choices[0], "GORF");
     EXPECT_EQ(w.choices[1], "AAAA");
+    EXPECT_EQ(w.ExcludedChoices, (std::array<long long, 3>{}));  // cleared, never filled
 }
 
 TEST(MiniGames, FillInShowsTheFirstLetterAndForcesABlankPastSeventyPercent) {
@@ -228,10 +230,13 @@ TEST(MiniGames, WordsTooLongOrOfOneLetterEndTheSpinInsteadOfHanging) {
     SystemRng rng;
     SlotStart st = StartSlot(s, w, rng);
     EXPECT_FALSE(st.refusal.empty());
+    SharedState edge = ListOf({{std::string(21, 'q'), "long"}});  // 21 letters still fit
+    WheelState e = On(5, edge, setup);
+    EXPECT_TRUE(StartSlot(edge, e, rng).refusal.empty());
     EXPECT_EQ(w.NextAction, Action::ToWheel);
     EXPECT_EQ(w.SpinsLeft, 9);
 
-    SharedState same = ListOf({{"aaa", "x"}, {"bbb", "y"}, {"ccc", "z"}, {"Dd", "w"}});
+    SharedState same = ListOf({{"aaa", "x"}, {"bbb", "y"}, {"ccc", "z"}, {"Dd", "w"}, {"e", "v"}});
     WheelState v = On(6, same, setup);
     EXPECT_EQ(StartSlot(same, v, rng).refusal,
               "None of the words on this list can be used for Letter Change! This spin is over. "
@@ -266,8 +271,9 @@ TEST(Clock, TimeOutNamesTheWordOnlyForTheLetterGamesAndRestartLeavesItRunning) {
 
     WheelState x = On(6, s, setup);
     ScriptedRng again(0.1);
-    again.pick(1, 500).pick(2, 5).pick(1, 5).pick(2, 5);
+    again.pick(1, 500).pick(2, 5).pick(2, 5).pick(4, 5);  // otter: the T and the E swap
     StartSlot(s, x, again);
+    EXPECT_EQ(std::pair(x.SwapFirst, x.SwapSecond), std::pair(2, 4));
     ClickCommand(x);
     while (!CountDown(x)) {
     }

@@ -65,6 +65,10 @@ TEST(QuizRules, RepeatsComeFromTheFirstQuestionWhenTheListIsShort) {
     rng.pick(2, 5).pick(4, 5);
     ASSERT_TRUE(next(run, s, rng));
     EXPECT_EQ(run.asked, 4);
+    // Every word asked already (a run the options never make): the first word, not a blank.
+    run.AskedWords.assign(6, true);
+    makeQuestion(run, s, rng);
+    EXPECT_EQ(run.asked, 1);
 
     // Six questions on the same five words: row 2 may come straight back.
     s = List(5, 2, 6);
@@ -148,9 +152,9 @@ TEST(QuizRules, AnswersCountAndChoicesPastTheLevelStayEmpty) {
     EXPECT_EQ(run.PickedChoice, right);
     EXPECT_EQ(std::pair(int(run.QuizRight), int(run.QuizWrong)), std::pair(1, 1));
     // Fewer choices on the next question: the ones past them are emptied.
-    s.Difficulty = 2;
+    s.Difficulty = 1;
     ASSERT_TRUE(next(run, s, rng));
-    EXPECT_EQ(std::count(run.choices.begin(), run.choices.end(), std::string()), 6);
+    EXPECT_EQ(std::count(run.choices.begin(), run.choices.end(), std::string()), 7);
     // Answers to a meaning are set larger than answers to a word.
     EXPECT_EQ(std::tuple(answerPointSize(1), answerPointSize(2), answerPointSize(3)),
               std::tuple(12, 18, 12));

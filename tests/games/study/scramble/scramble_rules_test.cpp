@@ -67,11 +67,12 @@ TEST(Layout, ScatterRerollsOnlyWithinOneHeight) {
         .then(topRoll(1651, h, floor))  // one height away exactly: stands
         .then(topRoll(floor - h, h, floor));
     RowLayout row = layOutLetters(3, kScreen, true, rng);
-    EXPECT_EQ(row.boxes[0].top, 826);
-    EXPECT_EQ(row.boxes[1].top, 1651);
-    EXPECT_EQ(row.boxes[2].top, floor - h);
-    EXPECT_EQ(rng.draws, 4);
+    EXPECT_EQ(std::tuple(row.boxes[0].top, row.boxes[1].top, row.boxes[2].top, rng.draws),
+              std::tuple(826, 1651, floor - h, 4));
     EXPECT_EQ(row.boxes[1].left - row.boxes[0].left, 905);  // lefts do not scatter
+    ScriptedRng stuck(0.0);  // never clear of the letter before: the hundredth roll stands
+    layOutLetters(2, kScreen, true, stuck);
+    EXPECT_EQ(stuck.draws, 1 + 100);
 }
 
 TEST(NewGame, RoundDrawsInDesignedOrder) {
@@ -132,6 +133,7 @@ TEST(NewGame, WordsWithAStarArePickedAgainOrEndOnTheirMessage) {
         {{"a*b", tooLong}, {1, 1, 1, 1, 1, 2}, false, tooLongText},
         {{tooLong, "a*b"}, {1, 1, 1, 1, 1, 2}, false, star},
         {{std::string(20, 'y'), tooLong}, {2, 1}, true, std::string(20, 'y')},  // 20 still fits
+        {{std::string(19, 'y') + "*", "a*b"}, {2, 2, 2, 2, 2, 1}, false, star},
     };
     for (const Case& c : cases) {
         SharedState s = test::ListOf(c.words);
@@ -189,6 +191,10 @@ TEST(Flicker, OnlyTheLetterBlackedLastComesBack) {
 
     ScrambleState blank;
     EXPECT_EQ(flicker(blank, 3, rng).black1, -1);
+    round.lastBlack = 5;  // left by a longer word: nothing to bring back
+    EXPECT_EQ(flicker(round, 2, rng).yellow, -1);
+    ScriptedRng top(1.0);  // a generator at its very top still blacks a letter of the word
+    EXPECT_EQ(flicker(round, 2, top).black1, 4);
 }
 
 TEST(Score, FactorsAtEachDifficulty) {
