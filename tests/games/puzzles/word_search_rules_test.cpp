@@ -48,17 +48,13 @@ TEST(WordSearchBuild, PlacesEachWordThenFillsInCapitals) {
     rng.pick(1, 1).pick(1, 2).pick(3, 5).pick(2, 2);  // word 1, across, row 3, start column 2
     WordSearchState ws;
     ASSERT_TRUE(startRound(state, ws, rng).ok);
-    EXPECT_EQ(row(ws, 3), "ACATA");
-    EXPECT_EQ(row(ws, 1), "AAAAA");
-    EXPECT_EQ(ws.GridSize, 5);
+    EXPECT_EQ(std::tuple(row(ws, 3), row(ws, 1), ws.GridSize), std::tuple("ACATA", "AAAAA", 5));
     EXPECT_TRUE(ws.NoDiagonals);
-    EXPECT_EQ(state.Score, 1234);
-    EXPECT_EQ(state.PuzzleWordCount, 1);
-    EXPECT_EQ(state.TheWord, "CAT");
+    EXPECT_EQ(std::tuple(state.Score, state.PuzzleWordCount, state.TheWord),
+              std::tuple(1234, 1, "CAT"));
     EXPECT_EQ(ws.cardText, "cat");         // word clue
     EXPECT_EQ(rng.randomizeCount, 2 + 5);  // the attempt, the word, each row of the fill
-    EXPECT_EQ(caption(ws, 2 * 20 + 1), "C");
-    EXPECT_EQ(caption(ws, 399), "");
+    EXPECT_EQ(std::tuple(caption(ws, 2 * 20 + 1), caption(ws, 399)), std::tuple("C", ""));
     // Down: column 4, from row 2.
     ScriptedRng down(0.0);
     down.pick(1, 1).pick(2, 2).pick(4, 5).pick(2, 2);
@@ -94,9 +90,8 @@ TEST(WordSearchBuild, WordNeedsAGridOneLongerThanItselfAndTheGridGrowsByTwo) {
         SystemRng rng;
         WordSearchState ws;
         const BuildResult r = startRound(state, ws, rng);
-        EXPECT_EQ(r.ok, c.ok);
-        EXPECT_EQ(ws.GridSize, c.finalSize);
-        EXPECT_EQ(r.message, c.message);
+        EXPECT_EQ(std::tuple(r.ok, ws.GridSize, r.message),
+                  std::tuple(c.ok, c.finalSize, c.message));
         if (!r.ok) {
             EXPECT_EQ(r.title, "Error!");
         }
@@ -150,8 +145,7 @@ TEST(WordSearchMarking, LettersInOrderToAFoundWordAndItsScore) {
     // (4 x 2 words x 3 letters - 7 seconds) x 10
     EXPECT_EQ(state.Score, 100 + (4 * 2 * 3 - 7) * 10);
     EXPECT_EQ(ws.WordList, std::vector<std::string>{"DOG"});
-    EXPECT_EQ(state.TheWord, "DOG");
-    EXPECT_EQ(ws.cardText, "meaning of DOG");
+    EXPECT_EQ(std::tuple(state.TheWord, ws.cardText), std::tuple("DOG", "meaning of DOG"));
     EXPECT_TRUE(ws.flashing);
     EXPECT_FALSE(ws.clearEnabled);
 
@@ -206,22 +200,19 @@ TEST(WordSearchMarking, ClearScrollHintAndTheLastLine) {
     ScriptedRng rng(0.0);
     tryCell(state, ws, 0, rng);
     clearMarking(ws);
-    EXPECT_EQ(ws.colour[0], CellColour::White);
-    EXPECT_EQ(ws.NextLetter, 1);
+    EXPECT_EQ(std::tuple(ws.colour[0], ws.NextLetter), std::tuple(CellColour::White, 1));
     EXPECT_FALSE(ws.Started);
 
     scrollTo(state, ws, 3);
     EXPECT_EQ(state.TheWord, "A");
     // A one-letter word is found by its first cell; the last line gone, WordIndex steps back.
     EXPECT_EQ(tryCell(state, ws, 40, rng), TryResult::Found);
-    EXPECT_EQ(state.WordIndex, 2);
-    EXPECT_EQ(state.TheWord, "DOG");
-    EXPECT_EQ(state.Score, (1 * 3 * 1 - 0) * 10);
+    EXPECT_EQ(std::tuple(state.WordIndex, state.TheWord, state.Score),
+              std::tuple(2, "DOG", (1 * 3 * 1 - 0) * 10));
 
     // While the flash runs, scrolling changes only WordIndex.
     scrollTo(state, ws, 1);
-    EXPECT_EQ(state.WordIndex, 1);
-    EXPECT_EQ(state.TheWord, "DOG");
+    EXPECT_EQ(std::tuple(state.WordIndex, state.TheWord), std::tuple(1, "DOG"));
 }
 
 TEST(WordSearchTexts, DirectionsHintAndLoss) {

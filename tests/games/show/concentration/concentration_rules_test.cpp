@@ -127,14 +127,10 @@ TEST(ConcentrationPlay, TurnBackAndBonusBoundaries) {
     EXPECT_EQ(click(one, 1).flip, Flip::Won);
     EXPECT_FALSE(Game{}.won());
 
-    EXPECT_EQ(matchPoints(7), 700);
-    EXPECT_EQ(missPoints(7), 70);
-    EXPECT_EQ(finishBonus(299, 4), 4);
-    EXPECT_EQ(finishBonus(300, 4), 0);
-    EXPECT_EQ(finishBonus(1000, 4), 0);
-    EXPECT_EQ(finishBonus(0, 10), 3000);
-    EXPECT_EQ(clockText(0), "0:00");
-    EXPECT_EQ(clockText(59), "0:59");
+    EXPECT_EQ(std::tuple(matchPoints(7), missPoints(7), finishBonus(299, 4), finishBonus(300, 4)),
+              std::tuple(700, 70, 4, 0));
+    EXPECT_EQ(std::tuple(finishBonus(1000, 4), finishBonus(0, 10), clockText(0), clockText(59)),
+              std::tuple(0, 3000, "0:00", "0:59"));
     EXPECT_EQ(clockText(600), "10:00");
 }
 

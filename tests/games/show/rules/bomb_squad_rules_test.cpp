@@ -26,9 +26,8 @@ TEST(BombSquadDeal, CertainBadWireAndCoins) {
     EXPECT_FALSE(d.wires[0].bad);
     EXPECT_EQ(d.wires[0].definition, 1);
     EXPECT_TRUE(d.wires[1].bad);
-    EXPECT_EQ(d.wires[1].definition, 3);
-    EXPECT_EQ(d.wires[2].word, 4);
-    EXPECT_EQ(d.wires[2].definition, 5);
+    EXPECT_EQ(std::tuple(d.wires[1].definition, d.wires[2].word, d.wires[2].definition),
+              std::tuple(3, 4, 5));
     EXPECT_TRUE(d.wires[0].smallFont);
     EXPECT_FALSE(d.wires[2].smallFont);
 }

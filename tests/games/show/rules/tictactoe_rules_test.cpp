@@ -103,9 +103,7 @@ TEST(TicTacToeQuestion, AsManyDistinctChoicesAsTheLevel) {
         // Wrong choices drawn: the word itself and repeats are drawn again.
         for (int k : {3, 1, 1, 2, 4, 5, 6}) rng.pick(k, 6);
         Question q = askQuestion(s, level, rng);
-        EXPECT_EQ(q.word, 3);
-        EXPECT_EQ(s.TheWord, "cloud");
-        EXPECT_EQ(q.right, 0);
+        EXPECT_EQ(std::tuple(q.word, s.TheWord, q.right), std::tuple(3, "cloud", 0));
         ASSERT_EQ(int(q.options.size()), level);
         EXPECT_EQ(q.options[0], 3);
         std::vector<int> seen(q.options);
@@ -122,9 +120,8 @@ TEST(TicTacToeQuestion, AShortListRepeatsTheWordAfterItsBoundedDraws) {
 }
 
 TEST(TicTacToeQuestion, ClockOnlyAtTheTopLevels) {
-    EXPECT_EQ(questionSeconds(4), 0);
-    EXPECT_EQ(questionSeconds(5), 10);
-    EXPECT_EQ(questionSeconds(6), 5);
+    EXPECT_EQ(std::tuple(questionSeconds(4), questionSeconds(5), questionSeconds(6)),
+              std::tuple(0, 10, 5));
     EXPECT_TRUE(playerMovesFirst(4));
     EXPECT_FALSE(playerMovesFirst(5));
 }

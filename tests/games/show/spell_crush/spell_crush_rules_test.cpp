@@ -60,31 +60,26 @@ TEST(Judge, RightPaysByLengthAndSpeedWrongCostsNothing) {
     s.Score = 750;  // the last game's, and its clock
     g.SecondsLeft = 3;
     newGame(s, g, rng);
-    EXPECT_EQ(g.SecondsLeft, 60);
-    EXPECT_EQ(s.Score, 0);
+    EXPECT_EQ(std::tuple(g.SecondsLeft, s.Score), std::tuple(60, 0));
     ASSERT_EQ(g.shown[1], "phish");
     // Within the first second "used" counts as 1: 500 a letter of the crushed word.
     Verdict right = judge(s, g, 1);
     EXPECT_TRUE(right.right);
-    EXPECT_EQ(right.points, 2500);
-    EXPECT_EQ(s.Score, 2500);
-    EXPECT_EQ(g.ClickedWord, 1);
+    EXPECT_EQ(std::tuple(right.points, s.Score, g.ClickedWord), std::tuple(2500, 2500, 1));
 
     g.SecondsLeft = g.DealTime - 3;  // three seconds later
     EXPECT_EQ(judge(s, g, 1).points, 833);
     EXPECT_EQ(s.Score, 3333);
     Verdict wrong = judge(s, g, 0);
     EXPECT_FALSE(wrong.right);
-    EXPECT_EQ(wrong.points, 0);
-    EXPECT_EQ(s.Score, 3333);
+    EXPECT_EQ(std::tuple(wrong.points, s.Score), std::tuple(0, 3333));
 }
 
 TEST(Clock, SixtySecondsThenTheEnd) {
     SpellCrushState g;
     int ticks = 0;
     while (!countSecond(g)) ++ticks;
-    EXPECT_EQ(ticks, 59);
-    EXPECT_EQ(g.SecondsLeft, 0);
+    EXPECT_EQ(std::tuple(ticks, g.SecondsLeft), std::tuple(59, 0));
     EXPECT_TRUE(countSecond(g));
     EXPECT_EQ(g.SecondsLeft, 0);
 }

@@ -124,8 +124,7 @@ TEST(Mystery, ThiefLeavesANegativeTotalAndFortuneBringsItBack) {
     ScriptedRng luck;
     luck.pick(4, 10).pick(200, 500);
     st = StartSlot(s, w, luck);
-    EXPECT_EQ(st.show, Show::Fortune);
-    EXPECT_EQ(s.Score, 300);
+    EXPECT_EQ(std::tuple(st.show, s.Score), std::tuple(Show::Fortune, 300));
     EXPECT_EQ(w.Label1, "Congratulations! You hit the FORTUNE. You have won $600.00!");
 }
 
@@ -137,9 +136,8 @@ TEST(Mystery, TheLastSpinEndsTheGameWithTheShortThiefText) {
     ScriptedRng rng;
     rng.pick(5, 10).pick(50, 500);
     StartSlot(s, w, rng);
-    EXPECT_EQ(w.SpinsLeft, 0);
-    EXPECT_EQ(w.NextAction, Action::EndGame);
-    EXPECT_EQ(w.Command1, "Click here to continue...");
+    EXPECT_EQ(std::tuple(w.SpinsLeft, w.NextAction, w.Command1),
+              std::tuple(0, Action::EndGame, "Click here to continue..."));
     EXPECT_EQ(w.Label1,
               "Oooooh! Tough Break! You hit the THIEF. He stole $100.00 from your jackpot!");
     AnimationEnded(w);
@@ -158,8 +156,7 @@ TEST(MiniGames, TypeItDrawsPrizeThenWordAndJudgesWithoutTrimming) {
     rng.pick(42, 500).pick(3, 5);
     StartSlot(s, w, rng);
     EXPECT_EQ(w.SecondsLeft, 8);  // 38 - 3 x 10
-    EXPECT_EQ(w.PrizeAmount, 420);
-    EXPECT_EQ(w.question, "\"a big cat\"");
+    EXPECT_EQ(std::tuple(w.PrizeAmount, w.question), std::tuple(420, "\"a big cat\""));
     EXPECT_EQ(w.Label1,
               "You will have 8 seconds to type out the word that matches the definition. Good "
               "luck!");
@@ -182,8 +179,7 @@ TEST(MiniGames, BackWordsAndTheQuestionAsAsked) {
     rng.pick(1, 500).pick(4, 5).pick(1, 4);
     StartSlot(s, w, rng);
     EXPECT_EQ(w.question, "Which of these is one of your vocabulry words spelled BACKWARDS?");
-    EXPECT_EQ(w.choices[0], "GORF");
-    EXPECT_EQ(w.choices[1], "AAAA");
+    EXPECT_EQ(std::tuple(w.choices[0], w.choices[1]), std::tuple("GORF", "AAAA"));
     EXPECT_EQ(w.ExcludedChoices, (std::array<long long, 3>{}));  // cleared, never filled
 }
 
@@ -233,8 +229,7 @@ TEST(MiniGames, WordsTooLongOrOfOneLetterEndTheSpinInsteadOfHanging) {
     SharedState edge = ListOf({{std::string(21, 'q'), "long"}});  // 21 letters still fit
     WheelState e = On(5, edge, setup);
     EXPECT_TRUE(StartSlot(edge, e, rng).refusal.empty());
-    EXPECT_EQ(w.NextAction, Action::ToWheel);
-    EXPECT_EQ(w.SpinsLeft, 9);
+    EXPECT_EQ(std::tuple(w.NextAction, w.SpinsLeft), std::tuple(Action::ToWheel, 9));
 
     SharedState same = ListOf({{"aaa", "x"}, {"bbb", "y"}, {"ccc", "z"}, {"Dd", "w"}, {"e", "v"}});
     WheelState v = On(6, same, setup);
@@ -261,8 +256,7 @@ TEST(Clock, TimeOutNamesTheWordOnlyForTheLetterGamesAndRestartLeavesItRunning) {
     EXPECT_TRUE(CountDown(w));
     // Over the welcome; the frame is gone, so the word is not named.
     EXPECT_EQ(w.Label1, "Oops! Your time ran out! Try to be a little faster next time!");
-    EXPECT_EQ(w.NextAction, Action::ToWheel);
-    EXPECT_EQ(w.SpinsLeft, 10);
+    EXPECT_EQ(std::tuple(w.NextAction, w.SpinsLeft), std::tuple(Action::ToWheel, 10));
     // The intro still plays: the button shows but cannot be pressed until it ends.
     EXPECT_TRUE(w.commandShown);
     EXPECT_FALSE(w.commandEnabled);

@@ -37,8 +37,7 @@ TEST(FlashCardRules, AlphabeticalWalkWithButtonsAndScrollBar) {
     const char* expected[] = {"ant", "bee", "Cat", "dog", "eel"};
     for (int i = 1; i <= 5; ++i) {
         nextCard(deck, s, rng);
-        EXPECT_EQ(s.WordIndex, i);
-        EXPECT_EQ(s.TheWord, expected[i - 1]);
+        EXPECT_EQ(std::tuple(s.WordIndex, s.TheWord), std::tuple(i, expected[i - 1]));
         EXPECT_EQ(deck.view.previousShown, i > 1);
         EXPECT_EQ(deck.view.nextShown, i < 5);
         EXPECT_EQ(deck.view.position, "Card number " + std::to_string(i) + " out of 5");
@@ -91,9 +90,7 @@ TEST(FlashCardRules, LetterNotFoundStartsAtTheBeginning) {
         Deck deck;
         EXPECT_EQ(setup(deck, s), std::string("No words in this list start with ") + letter +
                                       "! Starting at beginning of list instead...");
-        EXPECT_EQ(deck.mode, 1);
-        EXPECT_EQ(s.FlashCardMode, 1);
-        EXPECT_EQ(s.WordIndex, 0);
+        EXPECT_EQ(std::tuple(deck.mode, s.FlashCardMode, s.WordIndex), std::tuple(1, 1, 0));
         ScriptedRng rng;
         nextCard(deck, s, rng);
         nextCard(deck, s, rng);
@@ -111,8 +108,7 @@ TEST(FlashCardRules, TwinWordsShowTheFirstRowsMeaning) {
     nextCard(deck, s, rng);
     EXPECT_EQ(s.TheMeaning, "flies at night");
     nextCard(deck, s, rng);
-    EXPECT_EQ(s.TheWord, "bat");
-    EXPECT_EQ(s.TheMeaning, "flies at night");
+    EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning), std::tuple("bat", "flies at night"));
 }
 
 TEST(FlashCardRules, RandomCardsRepeatAndNeverShowPrevious) {

@@ -19,7 +19,8 @@ namespace {
 // Words w1, w2... meaning m1, m2...
 SharedState List(int words, int difficulty, int length, int type = 1) {
     std::vector<std::pair<std::string, std::string>> rows;
-    for (int i = 1; i <= words; ++i) rows.push_back({"w" + std::to_string(i), "m" + std::to_string(i)});
+    for (int i = 1; i <= words; ++i)
+        rows.push_back({"w" + std::to_string(i), "m" + std::to_string(i)});
     SharedState s = test::PairsList(rows, difficulty);
     s.QuizLength = short(length);
     s.QuizType = short(type);
@@ -42,16 +43,12 @@ TEST(QuizRules, ChoicesFollowTheDrawAndSkipTakenRows) {
     QuizRun run;
     startRun(run, s, rng);
     EXPECT_EQ(rng.pending(), 0u);
-    EXPECT_EQ(s.TheWord, "w2");
-    EXPECT_EQ(s.TheMeaning, "m2");
-    EXPECT_EQ(run.CorrectChoice, 2);
-    EXPECT_EQ(run.choiceCount, 3);
-    EXPECT_EQ(run.choices[0], "m4");
-    EXPECT_EQ(run.choices[1], "m2");
-    EXPECT_EQ(run.choices[2], "m5");
+    EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning, run.CorrectChoice, run.choiceCount),
+              std::tuple("w2", "m2", 2, 3));
+    EXPECT_EQ(std::tuple(run.choices[0], run.choices[1], run.choices[2]),
+              std::tuple("m4", "m2", "m5"));
     EXPECT_TRUE(run.choices[3].empty());
-    EXPECT_EQ(questionText(run, s), "w2");
-    EXPECT_EQ(run.QuestionsLeft, 4);
+    EXPECT_EQ(std::tuple(questionText(run, s), run.QuestionsLeft), std::tuple("w2", 4));
     EXPECT_GE(rng.randomizeCount, 1);  // reseeded for each question
 }
 
@@ -127,8 +124,7 @@ TEST(QuizRules, KindsByQuizType) {
     // Reached without the options screen: words, ten questions.
     s.QuizType = 0;
     s.QuizLength = 0;
-    EXPECT_EQ(quizType(s), 1);
-    EXPECT_EQ(quizLength(s), 10);
+    EXPECT_EQ(std::tuple(quizType(s), quizLength(s)), std::tuple(1, 10));
     s.QuizType = 4;
     EXPECT_EQ(quizType(s), 1);
     s.QuizLength = 1;  // the shortest quiz the options allow

@@ -159,12 +159,9 @@ TEST(Flicker, OnlyTheLetterBlackedLastComesBack) {
     ScriptedRng rng;
     rng.pick(2, 5).pick(4, 5);
     FlickerStep first = flicker(round, 2, rng);
-    EXPECT_EQ(first.yellow, -1);
-    EXPECT_EQ(first.black1, 1);
-    EXPECT_EQ(first.black2, -1);
+    EXPECT_EQ(std::tuple(first.yellow, first.black1, first.black2), std::tuple(-1, 1, -1));
     FlickerStep second = flicker(round, 2, rng);
-    EXPECT_EQ(second.yellow, 1);
-    EXPECT_EQ(second.black1, 3);
+    EXPECT_EQ(std::tuple(second.yellow, second.black1), std::tuple(1, 3));
     EXPECT_EQ(round.black, (std::vector<bool>{false, false, false, true, false}));
 
     // At Difficulty 3 only the second of the pair comes back: the word darkens tick by tick.
@@ -172,11 +169,9 @@ TEST(Flicker, OnlyTheLetterBlackedLastComesBack) {
     hard.scrambled = "abcde";
     rng.pick(1, 5).pick(2, 5).pick(3, 5).pick(4, 5);
     FlickerStep pair = flicker(hard, 3, rng);
-    EXPECT_EQ(pair.black1, 0);
-    EXPECT_EQ(pair.black2, 1);
+    EXPECT_EQ(std::tuple(pair.black1, pair.black2), std::tuple(0, 1));
     FlickerStep next = flicker(hard, 3, rng);
-    EXPECT_EQ(next.yellow, 1);
-    EXPECT_EQ(next.yellow2, -1);
+    EXPECT_EQ(std::tuple(next.yellow, next.yellow2), std::tuple(1, -1));
     EXPECT_EQ(hard.black, (std::vector<bool>{true, false, true, true, false}));
     // A letter drawn again while dark stays dark; the one drawn last comes back next tick.
     rng.pick(5, 5).pick(1, 5);
