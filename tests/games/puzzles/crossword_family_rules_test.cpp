@@ -74,9 +74,8 @@ TEST(CrosswordRules, RoadToAWin) {
     rng.pick(1000, 1000);
     typeWord(s, cw, "cat", rng, &o);
     EXPECT_EQ(o, crossword::Outcome::GameEnds);  // at once, while the flash runs
-    EXPECT_TRUE(cw.board.flashing);
-    EXPECT_TRUE(cw.GameWon);
-    EXPECT_EQ(s.Score, 1050 + 1250 * 3);
+    EXPECT_EQ(std::tuple(cw.board.flashing, cw.GameWon, s.Score),
+              std::tuple(true, true, 1050 + 1250 * 3));
     EXPECT_TRUE(cross::endGame(s, cw.GameWon));
 }
 
@@ -101,8 +100,7 @@ TEST(CrosswordRules, GiveAnswerCostsAndIsGuardedAgainstKeys) {
     crossword::clickCell(s, cw, kCatCell);
     rng.pick(500, 500);
     EXPECT_EQ(crossword::giveAnswer(s, cw, rng), crossword::Outcome::GameEnds);
-    EXPECT_EQ(s.Score, -1501);
-    EXPECT_TRUE(cw.GameWon);
+    EXPECT_EQ(std::tuple(s.Score, cw.GameWon), std::tuple(-1501, true));
     EXPECT_FALSE(cross::endGame(s, cw.GameWon));  // a negative score loses
     }
 
@@ -142,10 +140,8 @@ TEST(BlindTilesRules, RoadToAWinWithTheSameWordTwice) {
     }
     // Solving one "cat" marks both entries.
     for (std::size_t i = 0; i < bt.entries.size(); ++i) EXPECT_TRUE(bt.entrySolved[i]);
-    EXPECT_EQ(solved, 3);
-    EXPECT_TRUE(bt.GameWon);
-    EXPECT_EQ(s.Score, 100 * typed - 1000);
-    EXPECT_EQ(bt.scoreText, cross::scoreText(s.Score));
+    EXPECT_EQ(std::tuple(solved, bt.GameWon, s.Score, bt.scoreText),
+              std::tuple(3, true, 100 * typed - 1000, cross::scoreText(s.Score)));
 }
 
 TEST(BlindTilesRules, FewerWordsThanWantedAndSevenListedAtMost) {
@@ -169,7 +165,6 @@ TEST(BlindTilesRules, ListThatCannotCrossGivesTheCrosswordsMessage) {
     SystemRng rng;
     blind_tiles::BlindTilesState bt;
     const blind_tiles::RoundResult r = blind_tiles::newRound(s, bt, rng);
-    EXPECT_FALSE(r.ok);
-    EXPECT_EQ(r.message, "Crossword creation failed. Please try another word list.");
-    EXPECT_EQ(bt.Restarts, 101);
+    EXPECT_EQ(std::tuple(r.ok, r.message, bt.Restarts),
+              std::tuple(false, "Crossword creation failed. Please try another word list.", 101));
 }

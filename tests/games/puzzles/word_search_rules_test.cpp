@@ -136,9 +136,8 @@ TEST(WordSearchMarking, LettersInOrderToAFoundWordAndItsScore) {
     EXPECT_EQ(tryCell(state, ws, 0, rng), TryResult::Accepted);
     EXPECT_EQ(tryCell(state, ws, 2, rng), TryResult::Refused);   // wrong letter: nothing changes
     EXPECT_EQ(tryCell(state, ws, 25, rng), TryResult::Refused);  // an "X"
-    EXPECT_EQ(ws.NextLetter, 2);
-    EXPECT_TRUE(ws.clearEnabled);
-    EXPECT_EQ(ws.colour[0], CellColour::Pink);
+    EXPECT_EQ(std::tuple(ws.NextLetter, ws.clearEnabled, ws.colour[0]),
+              std::tuple(2, true, CellColour::Pink));
 
     EXPECT_EQ(tryCell(state, ws, 1, rng), TryResult::Accepted);
     EXPECT_EQ(tryCell(state, ws, 2, rng), TryResult::Found);
@@ -146,8 +145,7 @@ TEST(WordSearchMarking, LettersInOrderToAFoundWordAndItsScore) {
     EXPECT_EQ(state.Score, 100 + (4 * 2 * 3 - 7) * 10);
     EXPECT_EQ(ws.WordList, std::vector<std::string>{"DOG"});
     EXPECT_EQ(std::tuple(state.TheWord, ws.cardText), std::tuple("DOG", "meaning of DOG"));
-    EXPECT_TRUE(ws.flashing);
-    EXPECT_FALSE(ws.clearEnabled);
+    EXPECT_EQ(std::tuple(ws.flashing, ws.clearEnabled), std::tuple(true, false));
 
     // Cells marked during the flash turn blue with the rest.
     EXPECT_EQ(tryCell(state, ws, 20, rng), TryResult::Accepted);
@@ -161,8 +159,7 @@ TEST(WordSearchMarking, LettersInOrderToAFoundWordAndItsScore) {
     // The last word gives no points; the game ends when its flash does.
     EXPECT_EQ(tryCell(state, ws, 21, rng), TryResult::Accepted);
     EXPECT_EQ(tryCell(state, ws, 22, rng), TryResult::LastFound);
-    EXPECT_EQ(state.Score, 100 + (4 * 2 * 3 - 7) * 10);
-    EXPECT_TRUE(ws.PuzzleDone);
+    EXPECT_EQ(std::tuple(state.Score, ws.PuzzleDone), std::tuple(100 + (4 * 2 * 3 - 7) * 10, true));
     for (int t = 1; t <= 10; ++t) EXPECT_FALSE(flashTick(ws));
     EXPECT_TRUE(flashTick(ws));
 }

@@ -174,8 +174,7 @@ TEST(CodeBreaker, HintsCostThirtySecondsAndStay) {
     EXPECT_EQ(g.hint(rng), 0);
     EXPECT_EQ(g.movedFrom(), 1);
     EXPECT_EQ(guesses(g), "T...");  // E went with T's wrong letter
-    EXPECT_EQ(g.secondsLeft(), 6);
-    EXPECT_FALSE(g.canHint());
+    EXPECT_EQ(std::tuple(g.secondsLeft(), g.canHint()), std::tuple(6, false));
     EXPECT_TRUE(g.select(0));
     EXPECT_EQ(g.type('o'), Typed::Locked);
     EXPECT_FALSE(g.clear());

@@ -22,14 +22,11 @@ TEST(BombSquadDeal, CertainBadWireAndCoins) {
     ASSERT_TRUE(d.ready);
     EXPECT_EQ(d.secondsLeft, 30);
     ASSERT_EQ(d.wires.size(), 3u);
-    EXPECT_EQ(d.wires[0].word, 1);
-    EXPECT_FALSE(d.wires[0].bad);
-    EXPECT_EQ(d.wires[0].definition, 1);
-    EXPECT_TRUE(d.wires[1].bad);
+    EXPECT_EQ(std::tuple(d.wires[0].word, d.wires[0].bad, d.wires[0].definition, d.wires[1].bad),
+              std::tuple(1, false, 1, true));
     EXPECT_EQ(std::tuple(d.wires[1].definition, d.wires[2].word, d.wires[2].definition),
               std::tuple(3, 4, 5));
-    EXPECT_TRUE(d.wires[0].smallFont);
-    EXPECT_FALSE(d.wires[2].smallFont);
+    EXPECT_EQ(std::tuple(d.wires[0].smallFont, d.wires[2].smallFont), std::tuple(true, false));
 }
 
 TEST(BombSquadDeal, LevelsAndTheUnboundedDeal) {

@@ -92,8 +92,7 @@ TEST(Wheel, OnlyASpinningWheelStopsAndTwentyFlashesEndOnTheStartColour) {
     EXPECT_FALSE(StopWheel(w));  // a key during the flash does not touch the wheel
     int flashes = 0;
     while (!Flash(w)) ++flashes;
-    EXPECT_EQ(flashes + 1, 20);
-    EXPECT_FALSE(w.flashRed);
+    EXPECT_EQ(std::tuple(flashes + 1, w.flashRed), std::tuple(20, false));
 
 }
 
@@ -104,10 +103,8 @@ TEST(Mystery, ThiefLeavesANegativeTotalAndFortuneBringsItBack) {
     ScriptedRng rng;
     rng.pick(7, 10).pick(100, 500);  // the Thief, 100 x 3
     SlotStart st = StartSlot(s, w, rng);
-    EXPECT_EQ(st.show, Show::Thief);
-    EXPECT_TRUE(st.ooh);
-    EXPECT_EQ(s.Score, -300);
-    EXPECT_EQ(TotalText(s.Score), "Cash and Prize Total:  $-300.00");
+    EXPECT_EQ(std::tuple(st.show, st.ooh, s.Score, TotalText(s.Score)),
+              std::tuple(Show::Thief, true, -300, "Cash and Prize Total:  $-300.00"));
     EXPECT_EQ(w.Label1,
               "Oooooh! Tough Break! You hit the THIEF. He stole 300 dollars from your jackpot! "
               "Try to be more careful next time...");
@@ -164,8 +161,7 @@ TEST(MiniGames, TypeItDrawsPrizeThenWordAndJudgesWithoutTrimming) {
     EXPECT_EQ(ClickCommand(w), Action::Type);
     EXPECT_TRUE(w.timer4);
     Verdict v = CheckTyped(s, w, "lion ");
-    EXPECT_TRUE(v.decided);
-    EXPECT_FALSE(v.right);
+    EXPECT_EQ(std::tuple(v.decided, v.right), std::tuple(true, false));
     EXPECT_EQ(w.Label1, "Ooooh! So sorry. The word you were looking for was \"lion\".");
     EXPECT_EQ(s.Score, 0);
     EXPECT_EQ(w.Command1, "Click here give the wheel another spin...");
@@ -258,8 +254,7 @@ TEST(Clock, TimeOutNamesTheWordOnlyForTheLetterGamesAndRestartLeavesItRunning) {
     EXPECT_EQ(w.Label1, "Oops! Your time ran out! Try to be a little faster next time!");
     EXPECT_EQ(std::tuple(w.NextAction, w.SpinsLeft), std::tuple(Action::ToWheel, 10));
     // The intro still plays: the button shows but cannot be pressed until it ends.
-    EXPECT_TRUE(w.commandShown);
-    EXPECT_FALSE(w.commandEnabled);
+    EXPECT_EQ(std::tuple(w.commandShown, w.commandEnabled), std::tuple(true, false));
     AnimationEnded(w);
     EXPECT_TRUE(w.commandEnabled);
 
@@ -292,16 +287,14 @@ TEST(WheelChoice, TheRightChoiceWinsItsPrizeAndAWrongOneNamesIt) {
     WheelState w = board();
     const Verdict won = ClickChoice(s, w, 0);  // the first choice counts as any other
     EXPECT_TRUE(won.right && won.decided);
-    EXPECT_EQ(s.Score, 400);
-    EXPECT_EQ(w.Label1, "Great job! $300.00 has been added to your winnings!");
-    EXPECT_TRUE(w.commandShown);
+    EXPECT_EQ(std::tuple(s.Score, w.Label1, w.commandShown),
+              std::tuple(400, "Great job! $300.00 has been added to your winnings!", true));
     EXPECT_EQ(w.Command1, "Click here give the wheel another spin...");
     w = board();
     w.SpinsLeft = 0;
     const Verdict lost = ClickChoice(s, w, 2);
     EXPECT_TRUE(!lost.right && lost.decided);
     EXPECT_EQ(w.Label1, "Ooooh! So sorry. The correct choice was \"cat\".");
-    EXPECT_TRUE(w.commandShown);
-    EXPECT_EQ(w.NextAction, Action::EndGame);
+    EXPECT_EQ(std::tuple(w.commandShown, w.NextAction), std::tuple(true, Action::EndGame));
     EXPECT_FALSE(ClickChoice(s, w, 0).decided);  // once decided, the choices are done
 }

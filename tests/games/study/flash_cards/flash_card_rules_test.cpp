@@ -50,8 +50,7 @@ TEST(FlashCardRules, AlphabeticalWalkWithButtonsAndScrollBar) {
         EXPECT_TRUE(deck.view.nextShown);
     }
     scrollTo(deck, s, 1);
-    EXPECT_EQ(s.TheWord, "ant");
-    EXPECT_FALSE(deck.view.previousShown);
+    EXPECT_EQ(std::tuple(s.TheWord, deck.view.previousShown), std::tuple("ant", false));
     EXPECT_EQ(rng.draws, 0);
 }
 
@@ -122,9 +121,8 @@ TEST(FlashCardRules, RandomCardsRepeatAndNeverShowPrevious) {
     for (const auto& [w, m] : rows) {
         nextCard(deck, s, rng);
         EXPECT_EQ(s.TheWord, w);  // the list's own row, not the sorted entry
-        EXPECT_EQ(s.TheMeaning, m);
-        EXPECT_FALSE(deck.view.previousShown);
-        EXPECT_TRUE(deck.view.position.empty());
+        EXPECT_EQ(std::tuple(s.TheMeaning, deck.view.previousShown, deck.view.position.empty()),
+                  std::tuple(m, false, true));
     }
     // The last row drawn hides Next for good.
     EXPECT_FALSE(deck.view.nextShown);
