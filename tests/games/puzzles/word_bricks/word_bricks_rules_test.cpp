@@ -125,17 +125,14 @@ TEST(WordBricksPlay, LinesFillCheckAndLock) {
     EXPECT_EQ(drop(g, 4, -1).what, Drop::Refused);
 }
 
-TEST(WordBricksPlay, BricksMoveAlongTheirLine) {
+TEST(WordBricksPlay, BricksMoveAlongTheirLineAndTheBonusAndClock) {
     Game g = table(1, {"abcdefgh"}, {"ab", "cd", "ef", "gh"});
     for (int b : {0, 1, 2}) drop(g, b, 0);
     EXPECT_EQ(drop(g, 0, 0, 2).what, Drop::Placed);  // in front of "ef"
     EXPECT_EQ(onLine(g, 0), (Texts{"cd", "ab", "ef"}));
     drop(g, 0, 0, 0);
     EXPECT_EQ(drop(g, 3, 0, 9).what, Drop::Won);  // past the end: at the end
-}
-
-TEST(WordBricksScore, BonusAndClock) {
-    // max(0, 40 x level - seconds) x 2
+    // The bonus: max(0, 40 x level - seconds) x 2
     EXPECT_EQ(std::tuple(finishBonus(0, 10), finishBonus(79, 2), finishBonus(81, 2), clockText(69)),
               std::tuple(800, 2, 0, "1:09"));
     EXPECT_EQ(std::tuple(clockText(600), clockText(0)), std::tuple("10:00", "0:00"));

@@ -73,7 +73,7 @@ TEST(PachinkoFall, WallsTurnTheDiskBack) {
     EXPECT_EQ(d.dx, -7);
 }
 
-TEST(PachinkoSlots, ValuesRichestAtTheEdgesAndTheDropZone) {
+TEST(PachinkoSlots, ValuesRichestAtTheEdgesTheDropZoneAndTheSlotUnderTheCentre) {
     ScriptedRng rng;
     rng.then(0.5);                                                 // base 15
     for (double v : {0.0, 0.99, 0.5, 0.1, 0.2, 0.3}) rng.then(v);  // pairs, then the middle
@@ -87,6 +87,13 @@ TEST(PachinkoSlots, ValuesRichestAtTheEdgesAndTheDropZone) {
     EXPECT_EQ(kScoreStart, std::string("Score: 00000000"));  // before the first disk
     EXPECT_EQ(scoreLine(1234), "Score: 1234");               // after: no leading zeros
     EXPECT_EQ(scoreLine(15), "Score: 15");
+    // The disk scores in the slot under its centre.
+    Disk d;
+    for (const auto& [x, slot] : {std::pair{60 - 20, 1}, {60 - 21, 0}, {-30, 0}, {599, 9},
+                                  {540 - 20, 9}, {540 - 21, 8}}) {
+        d.x = x;
+        EXPECT_EQ(slotOf(d), slot) << x;
+    }
 }
 
 TEST(PachinkoQuestions, WordsAreNotAskedAgainAndTheAnswersDiffer) {
@@ -142,13 +149,5 @@ TEST(PachinkoFall, EdgesOfTheDiskAndItsSidesMeetThePins) {
         step(d, rng);
         EXPECT_TRUE(d.touched);
         EXPECT_EQ(d.dx, c.want) << c.pin->x << " " << c.dx;
-    }
-}
-
-TEST(PachinkoSlots, TheDiskScoresInTheSlotUnderItsCentre) {
-    Disk d;
-    for (const auto& [x, slot] : {std::pair{60 - 20, 1}, {60 - 21, 0}, {-30, 0}, {599, 9}, {540 - 20, 9}, {540 - 21, 8}}) {
-        d.x = x;
-        EXPECT_EQ(slotOf(d), slot) << x;
     }
 }

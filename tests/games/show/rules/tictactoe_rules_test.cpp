@@ -119,14 +119,10 @@ TEST(TicTacToeQuestion, AShortListRepeatsTheWordAfterItsBoundedDraws) {
     EXPECT_EQ(stuck.draws, 2 + 2 * 10000);
 }
 
-TEST(TicTacToeQuestion, ClockOnlyAtTheTopLevels) {
+TEST(TicTacToeScore, ClockOnlyAtTheTopLevelsAndAWinAddsToEarlierWins) {
     EXPECT_EQ(std::tuple(questionSeconds(4), questionSeconds(5), questionSeconds(6)),
               std::tuple(0, 10, 5));
-    EXPECT_TRUE(playerMovesFirst(4));
-    EXPECT_FALSE(playerMovesFirst(5));
-}
-
-TEST(TicTacToeScore, WinAddsToTheScoreOfEarlierWins) {
+    EXPECT_EQ(std::pair(playerMovesFirst(4), playerMovesFirst(5)), std::pair(true, false));
     ScriptedRng rng;
     rng.pick(1, 2).pick(2, 2).pick(6, 6);
     EXPECT_EQ(winScore(0, 2, rng), 1002);

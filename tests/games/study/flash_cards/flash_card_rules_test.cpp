@@ -136,11 +136,10 @@ TEST(FlashCardRules, RandomCardsRepeatAndNeverShowPrevious) {
 
 TEST(FlashCardRules, TheWordSideIsAlwaysCoveredFromTheOptions) {
     SharedState s = List(kAnimals, 1);
-    EXPECT_TRUE(coversWord(s));
-    s.ListChanged = 0;
-    EXPECT_TRUE(coversWord(s));
-    s.ListChanged = 1;  // never set by the options screen
-    EXPECT_FALSE(coversWord(s));
+    for (auto [changed, covers] : {std::pair{-1, true}, {0, true}, {1, false}}) {  // 1: never set
+        s.ListChanged = changed;
+        EXPECT_EQ(coversWord(s), covers) << changed;
+    }
     for (auto [mode, used] : {std::pair{0, 1}, {1, 1}, {2, 2}, {3, 3}, {4, 1}, {-2, 1}}) {
         s.FlashCardMode = mode;
         EXPECT_EQ(cardMode(s), used) << mode;
