@@ -128,6 +128,13 @@ TEST(PachinkoFall, EdgesOfTheDiskAndItsSidesMeetThePins) {
         EXPECT_EQ(d.y, p.y - 5 - 40) << x;
         EXPECT_EQ(d.dx, sign * 20) << x;
     }
+    // The lower edge just reaching the pin's top is a touch already.
+    ScriptedRng any(0.0);
+    Disk top = dropDisk(p.x - 20);
+    top.dy = 1;
+    top.y = p.y - 5 - 40 - 1;
+    step(top, any);
+    EXPECT_TRUE(top.touched);
     // A pin touched on the side turns the disk back a little faster, by 2 at a row's last pin.
     const Pin* last = nullptr;
     for (const Pin& q : pins())

@@ -54,6 +54,7 @@ TEST(TicTacToeOpponent, RandomSquareOnlyWhenNoLineHelps) {
     EXPECT_EQ(draws.draws, 4);
     // Draws stuck on a taken square: bounded, then the first free square from the top left.
     ScriptedRng stuck(0.0);
+    EXPECT_EQ(randomFree(boardOf("X.XOXOXOX"), stuck), (Square{1, 2}));
     EXPECT_EQ(randomFree(boardOf("XOXOXO.O."), stuck), (Square{3, 1}));
 
     // Level 1, never offered, keeps its rule: random even with the centre free.

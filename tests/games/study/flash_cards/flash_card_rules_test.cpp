@@ -49,6 +49,8 @@ TEST(FlashCardRules, AlphabeticalWalkWithButtonsAndScrollBar) {
         EXPECT_EQ(deck.view.previousShown, i > 1);
         EXPECT_TRUE(deck.view.nextShown);
     }
+    scrollTo(deck, s, 3);
+    EXPECT_EQ(std::tuple(s.TheWord, deck.view.previousShown), std::tuple("Cat", true));
     scrollTo(deck, s, 1);
     EXPECT_EQ(std::tuple(s.TheWord, deck.view.previousShown), std::tuple("ant", false));
     EXPECT_EQ(rng.draws, 0);
