@@ -7,6 +7,7 @@
 
 #include "core/rng.h"
 #include "core/shared_state.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::word_maze;
@@ -14,13 +15,7 @@ using namespace wm::word_maze;
 namespace {
 
 SharedState listOf(const std::vector<std::string>& words, int difficulty, bool definitions) {
-    SharedState s;
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        s.Words[i + 1] = words[i];
-        s.Meanings[i + 1] = "meaning of " + words[i];
-    }
-    s.WordCount = static_cast<short>(words.size());
-    s.Difficulty = difficulty;
+    SharedState s = test::ListOf(words, difficulty);
     s.GameOptionOn = definitions ? kTrue : kFalse;
     return s;
 }
@@ -65,16 +60,11 @@ TEST(WordMazeBuild, WalkSpellsTheWordsAndTheBoardFitsIt) {
     ScriptedRng rng;
     WordMazeState m = catDog(state, rng);
     EXPECT_EQ(rng.pending(), 0u);
-    EXPECT_EQ(board(m), "CAOG/XTDZ");
-    EXPECT_EQ(m.MazeWidth, 4);
-    EXPECT_EQ(m.MazeHeight, 2);
-    EXPECT_EQ(m.EndCell, 3);
-    EXPECT_EQ(m.colour[3], CellColour::Green);
-    EXPECT_EQ(pinks(m), "0 ");
-    EXPECT_EQ(state.TheWord, "cat");
-    EXPECT_EQ(m.label1, "meaning of cat");
-    EXPECT_EQ(m.label3, "Words Left :2");
-    EXPECT_EQ(state.Score, 50);
+    EXPECT_EQ(std::tuple(board(m), m.MazeWidth, m.MazeHeight, m.EndCell),
+              std::tuple("CAOG/XTDZ", 4, 2, 3));
+    EXPECT_EQ(std::tuple(m.colour[3], pinks(m), state.TheWord, m.label1),
+              std::tuple(CellColour::Green, "0 ", "cat", "meaning of cat"));
+    EXPECT_EQ(std::tuple(m.label3, state.Score), std::tuple("Words Left :2", 50));
     EXPECT_FALSE(m.undoEnabled);
 }
 
@@ -90,9 +80,14 @@ TEST(WordMazeBuild, ImpossibleWalkEndsWithTheMessage) {
               "you chose. Please try again with different options or a different word list.");
     EXPECT_EQ(m.builds, 1001);
 
-    // More words wanted than the list holds ends too.
+    // More words wanted than the list holds ends too; so does a generator stuck on a word taken.
     SharedState few = listOf({"ab"}, 3, false);
     EXPECT_FALSE(startRound(few, m, rng).ok);
+    SharedState two = listOf({"ab", "cd"}, 2, false);
+    ScriptedRng stuck(0.0);
+    m.MazeWordCount = 2;
+    EXPECT_FALSE(buildMaze(two, m, stuck));
+    EXPECT_EQ(stuck.draws, 3 + 10000);
 
     // 39 letters fit exactly when every step is right until column 25, then down.
     SharedState exact = listOf({std::string(39, 'b')}, 1, false);
@@ -102,10 +97,8 @@ TEST(WordMazeBuild, ImpossibleWalkEndsWithTheMessage) {
     for (int i = 0; i < 14; ++i) walk.then(0.25).then(0.75);  // right refused at 25: down
     m.MazeWordCount = 1;
     ASSERT_TRUE(buildMaze(exact, m, walk));
-    EXPECT_EQ(m.EndCol, 25);
-    EXPECT_EQ(m.EndRow, 15);
-    EXPECT_EQ(m.MazeWidth, 25);
-    EXPECT_EQ(m.MazeHeight, 15);
+    EXPECT_EQ(std::tuple(m.EndCol, m.EndRow, m.MazeWidth, m.MazeHeight),
+              std::tuple(25, 15, 25, 15));
 }
 
 TEST(WordMazePlay, RetraceUndoAndFinish) {
@@ -120,32 +113,27 @@ TEST(WordMazePlay, RetraceUndoAndFinish) {
               "You must follow the path of words to the end. The highlighted letters mark the "
               "paths you can choose.");
     EXPECT_EQ(state.Score, 0);
+    for (int off : {-1, 8}) EXPECT_EQ(clickCell(state, m, off, rng).result, ClickResult::Ignored);
 
     EXPECT_EQ(clickCell(state, m, 0, rng).result, ClickResult::Moved);
-    EXPECT_EQ(pinks(m), "1 4 ");
-    EXPECT_FALSE(m.visible[0]);
+    EXPECT_EQ(std::tuple(pinks(m), m.visible[0]), std::tuple("1 4 ", false));
     EXPECT_EQ(m.label5, "c");  // the word as the list holds it
 
     rng.pick(321, 1000);
     c = clickCell(state, m, 4, rng);  // pink, but "X" is not "A"
-    EXPECT_EQ(c.result, ClickResult::Wrong);
-    EXPECT_EQ(state.Score, -321);
-    EXPECT_EQ(c.label6, "-321 Points...");
-    EXPECT_EQ(m.LetterNo, 2);
+    EXPECT_EQ(std::tuple(c.result, state.Score, c.label6, m.LetterNo),
+              std::tuple(ClickResult::Wrong, -321, "-321 Points...", 2));
 
     EXPECT_EQ(clickCell(state, m, 1, rng).result, ClickResult::Moved);
     EXPECT_EQ(pinks(m), "0 2 5 ");  // the taken cell 0 turns pink too but stays hidden
     EXPECT_FALSE(m.visible[0]);
     EXPECT_EQ(clickCell(state, m, 5, rng).result, ClickResult::NextWord);
-    EXPECT_EQ(state.TheWord, "dog");
-    EXPECT_EQ(m.label3, "Words Left :1");
-    EXPECT_EQ(m.label5, "");
+    EXPECT_EQ(std::tuple(state.TheWord, m.label3, m.label5),
+              std::tuple("dog", "Words Left :1", ""));
 
     // Undo after a new word's start returns to the last letter of the word before.
     undoMove(state, m);
-    EXPECT_EQ(state.TheWord, "cat");
-    EXPECT_EQ(m.label1, "cat");
-    EXPECT_EQ(m.label5, "ca");
+    EXPECT_EQ(std::tuple(state.TheWord, m.label1, m.label5), std::tuple("cat", "cat", "ca"));
     EXPECT_TRUE(m.visible[5]);
     EXPECT_EQ(pinks(m), "0 2 5 ");  // around cell 1, taken cells included (still hidden)
     EXPECT_EQ(clickCell(state, m, 5, rng).result, ClickResult::NextWord);
@@ -165,10 +153,7 @@ TEST(WordMazePlay, RetraceUndoAndFinish) {
 
     // Undo all the way to the start.
     while (m.undoEnabled) undoMove(state, m);
-    EXPECT_EQ(pinks(m), "0 ");
-    EXPECT_EQ(m.WordNo, 1);
-    EXPECT_EQ(m.LetterNo, 1);
-    EXPECT_EQ(m.label5, "");
+    EXPECT_EQ(std::tuple(pinks(m), m.WordNo, m.LetterNo, m.label5), std::tuple("0 ", 1, 1, ""));
     for (bool v : m.visible) EXPECT_TRUE(v);
     undoMove(state, m);  // nothing left to undo
     EXPECT_EQ(m.WordNo, 1);

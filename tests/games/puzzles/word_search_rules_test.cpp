@@ -7,22 +7,12 @@
 
 #include "core/rng.h"
 #include "core/shared_state.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::word_search;
 
 namespace {
-
-SharedState listOf(const std::vector<std::string>& words, int difficulty) {
-    SharedState s;
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        s.Words[i + 1] = words[i];
-        s.Meanings[i + 1] = "meaning of " + words[i];
-    }
-    s.WordCount = static_cast<short>(words.size());
-    s.Difficulty = difficulty;
-    return s;
-}
 
 std::string row(const WordSearchState& ws, int y) {
     std::string s;
@@ -52,23 +42,19 @@ WordSearchState handMade(SharedState& state, const std::vector<std::string>& wor
 }  // namespace
 
 TEST(WordSearchBuild, PlacesEachWordThenFillsInCapitals) {
-    SharedState state = listOf({"cat"}, 5);
+    SharedState state = test::ListOf({"cat"}, 5);
     state.Score = 1234;                               // carried in: a round never zeroes it
     ScriptedRng rng(0.0);                             // the fill: every free cell "A"
     rng.pick(1, 1).pick(1, 2).pick(3, 5).pick(2, 2);  // word 1, across, row 3, start column 2
     WordSearchState ws;
     ASSERT_TRUE(startRound(state, ws, rng).ok);
-    EXPECT_EQ(row(ws, 3), "ACATA");
-    EXPECT_EQ(row(ws, 1), "AAAAA");
-    EXPECT_EQ(ws.GridSize, 5);
+    EXPECT_EQ(std::tuple(row(ws, 3), row(ws, 1), ws.GridSize), std::tuple("ACATA", "AAAAA", 5));
     EXPECT_TRUE(ws.NoDiagonals);
-    EXPECT_EQ(state.Score, 1234);
-    EXPECT_EQ(state.PuzzleWordCount, 1);
-    EXPECT_EQ(state.TheWord, "CAT");
+    EXPECT_EQ(std::tuple(state.Score, state.PuzzleWordCount, state.TheWord),
+              std::tuple(1234, 1, "CAT"));
     EXPECT_EQ(ws.cardText, "cat");         // word clue
     EXPECT_EQ(rng.randomizeCount, 2 + 5);  // the attempt, the word, each row of the fill
-    EXPECT_EQ(caption(ws, 2 * 20 + 1), "C");
-    EXPECT_EQ(caption(ws, 399), "");
+    EXPECT_EQ(std::tuple(caption(ws, 2 * 20 + 1), caption(ws, 399)), std::tuple("C", ""));
     // Down: column 4, from row 2.
     ScriptedRng down(0.0);
     down.pick(1, 1).pick(2, 2).pick(4, 5).pick(2, 2);
@@ -100,13 +86,12 @@ TEST(WordSearchBuild, WordNeedsAGridOneLongerThanItselfAndTheGridGrowsByTwo) {
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.length);
-        SharedState state = listOf({std::string(c.length, 'q')}, c.difficulty);
+        SharedState state = test::ListOf({std::string(c.length, 'q')}, c.difficulty);
         SystemRng rng;
         WordSearchState ws;
         const BuildResult r = startRound(state, ws, rng);
-        EXPECT_EQ(r.ok, c.ok);
-        EXPECT_EQ(ws.GridSize, c.finalSize);
-        EXPECT_EQ(r.message, c.message);
+        EXPECT_EQ(std::tuple(r.ok, ws.GridSize, r.message),
+                  std::tuple(c.ok, c.finalSize, c.message));
         if (!r.ok) {
             EXPECT_EQ(r.title, "Error!");
         }
@@ -116,7 +101,7 @@ TEST(WordSearchBuild, WordNeedsAGridOneLongerThanItselfAndTheGridGrowsByTwo) {
     }
 
     // A word one shorter than the grid never reaches the last column or row.
-    SharedState state = listOf({"abcd"}, 5);
+    SharedState state = test::ListOf({"abcd"}, 5);
     ScriptedRng rng(0.0);
     rng.pick(1, 1).pick(1, 2).pick(2, 5);  // across, row 2; the start can only be 1
     WordSearchState ws;
@@ -139,7 +124,7 @@ TEST(WordSearchMarking, NeighbourTestsKeepTheirQuirks) {
 }
 
 TEST(WordSearchMarking, LettersInOrderToAFoundWordAndItsScore) {
-    SharedState state = listOf({}, 5);
+    SharedState state = test::ListOf({}, 5);
     state.Score = 100;
     WordSearchState ws = handMade(state, {"CAT", "DOG"});
     ws.Seconds = 7;
@@ -151,19 +136,16 @@ TEST(WordSearchMarking, LettersInOrderToAFoundWordAndItsScore) {
     EXPECT_EQ(tryCell(state, ws, 0, rng), TryResult::Accepted);
     EXPECT_EQ(tryCell(state, ws, 2, rng), TryResult::Refused);   // wrong letter: nothing changes
     EXPECT_EQ(tryCell(state, ws, 25, rng), TryResult::Refused);  // an "X"
-    EXPECT_EQ(ws.NextLetter, 2);
-    EXPECT_TRUE(ws.clearEnabled);
-    EXPECT_EQ(ws.colour[0], CellColour::Pink);
+    EXPECT_EQ(std::tuple(ws.NextLetter, ws.clearEnabled, ws.colour[0]),
+              std::tuple(2, true, CellColour::Pink));
 
     EXPECT_EQ(tryCell(state, ws, 1, rng), TryResult::Accepted);
     EXPECT_EQ(tryCell(state, ws, 2, rng), TryResult::Found);
     // (4 x 2 words x 3 letters - 7 seconds) x 10
     EXPECT_EQ(state.Score, 100 + (4 * 2 * 3 - 7) * 10);
     EXPECT_EQ(ws.WordList, std::vector<std::string>{"DOG"});
-    EXPECT_EQ(state.TheWord, "DOG");
-    EXPECT_EQ(ws.cardText, "meaning of DOG");
-    EXPECT_TRUE(ws.flashing);
-    EXPECT_FALSE(ws.clearEnabled);
+    EXPECT_EQ(std::tuple(state.TheWord, ws.cardText), std::tuple("DOG", "meaning of DOG"));
+    EXPECT_EQ(std::tuple(ws.flashing, ws.clearEnabled), std::tuple(true, false));
 
     // Cells marked during the flash turn blue with the rest.
     EXPECT_EQ(tryCell(state, ws, 20, rng), TryResult::Accepted);
@@ -177,34 +159,57 @@ TEST(WordSearchMarking, LettersInOrderToAFoundWordAndItsScore) {
     // The last word gives no points; the game ends when its flash does.
     EXPECT_EQ(tryCell(state, ws, 21, rng), TryResult::Accepted);
     EXPECT_EQ(tryCell(state, ws, 22, rng), TryResult::LastFound);
-    EXPECT_EQ(state.Score, 100 + (4 * 2 * 3 - 7) * 10);
-    EXPECT_TRUE(ws.PuzzleDone);
+    EXPECT_EQ(std::tuple(state.Score, ws.PuzzleDone), std::tuple(100 + (4 * 2 * 3 - 7) * 10, true));
     for (int t = 1; t <= 10; ++t) EXPECT_FALSE(flashTick(ws));
     EXPECT_TRUE(flashTick(ws));
 }
 
+TEST(WordSearchMarking, ADragTakesTheCellsTheMouseMovesWellInto) {
+    // Cells 30 by 20; the mouse is placed from the pressed cell's corner.
+    SharedState state = test::ListOf({}, 5);
+    WordSearchState ws = handMade(state, {"CAT", "DOG"});
+    ScriptedRng rng;
+    EXPECT_EQ(mouseMove(state, ws, 90, 10, 30, 20, rng), TryResult::Refused);  // no drag
+    ws.LetterGrid[2][2] = 'A';  // C, A down the diagonal
+    mouseDown(state, ws, 0, rng);
+    EXPECT_EQ(mouseMove(state, ws, 45, 30, 30, 20, rng), TryResult::Accepted);
+    EXPECT_EQ(ws.LastCell, 21);
+    // On the last row a drag goes no lower, but still across.
+    ws.LetterGrid[1][20] = 'C';
+    ws.LetterGrid[2][20] = 'A';
+    clearMarking(ws);
+    mouseDown(state, ws, 380, rng);
+    EXPECT_EQ(mouseMove(state, ws, 10, 45, 30, 20, rng), TryResult::Refused);
+    EXPECT_EQ(mouseMove(state, ws, 75, 10, 30, 20, rng), TryResult::Accepted);
+    // Across from DOG's D.
+    ws = handMade(state, {"CAT", "DOG"});
+    scrollTo(state, ws, 2);
+    mouseDown(state, ws, 20, rng);
+    const std::pair<double, TryResult> moves[] = {
+        {45, TryResult::Refused}, {75, TryResult::Accepted}, {81, TryResult::Refused},
+        {95, TryResult::Found}};
+    for (auto [x, result] : moves) EXPECT_EQ(mouseMove(state, ws, x, 10, 30, 20, rng), result) << x;
+}
+
 TEST(WordSearchMarking, ClearScrollHintAndTheLastLine) {
-    SharedState state = listOf({}, 5);
+    SharedState state = test::ListOf({}, 5);
     WordSearchState ws = handMade(state, {"CAT", "DOG", "A"});
     ScriptedRng rng(0.0);
     tryCell(state, ws, 0, rng);
     clearMarking(ws);
-    EXPECT_EQ(ws.colour[0], CellColour::White);
-    EXPECT_EQ(ws.NextLetter, 1);
+    EXPECT_EQ(std::tuple(ws.colour[0], ws.NextLetter), std::tuple(CellColour::White, 1));
     EXPECT_FALSE(ws.Started);
 
     scrollTo(state, ws, 3);
     EXPECT_EQ(state.TheWord, "A");
     // A one-letter word is found by its first cell; the last line gone, WordIndex steps back.
     EXPECT_EQ(tryCell(state, ws, 40, rng), TryResult::Found);
-    EXPECT_EQ(state.WordIndex, 2);
-    EXPECT_EQ(state.TheWord, "DOG");
-    EXPECT_EQ(state.Score, (1 * 3 * 1 - 0) * 10);
+    EXPECT_EQ(std::tuple(state.WordIndex, state.TheWord, state.Score),
+              std::tuple(2, "DOG", (1 * 3 * 1 - 0) * 10));
 
     // While the flash runs, scrolling changes only WordIndex.
     scrollTo(state, ws, 1);
-    EXPECT_EQ(state.WordIndex, 1);
-    EXPECT_EQ(state.TheWord, "DOG");
+    EXPECT_EQ(std::tuple(state.WordIndex, state.TheWord), std::tuple(1, "DOG"));
 }
 
 TEST(WordSearchTexts, DirectionsHintAndLoss) {

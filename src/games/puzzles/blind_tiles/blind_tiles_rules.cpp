@@ -40,7 +40,6 @@ RoundResult newRound(SharedState& state, BlindTilesState& bt, Rng& rng) {
     if (!layout.ok) return {false, layout.message};
     state.PuzzleWordCount = static_cast<short>(layout.target);
     bt.board = cross::makePlayBoard(layout.board, kCols, kRows);
-    bt.PlaceWord.assign(1, 0);
     for (const cross::PlacedWord& w : layout.order) {
         bt.PlaceWord.push_back(w.index);
         if (static_cast<int>(bt.entries.size()) < kPanelLines)

@@ -21,7 +21,7 @@ inline constexpr int kPanelLines = 7;
 
 struct BlindTilesState {
     cross::PlayBoard board;
-    std::vector<int> PlaceWord;        // 1-based in the order of placing: PlaceWord[0] unused
+    std::vector<int> PlaceWord{0};     // 1-based in the order of placing: PlaceWord[0] unused
     std::vector<std::string> entries;  // ClueLabel(0..): the words in placing order
     std::vector<bool> entrySolved;     // light yellow once solved, pink before
     int Restarts = 0;

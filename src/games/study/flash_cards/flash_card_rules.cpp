@@ -63,8 +63,8 @@ void pickCard(Deck& deck, SharedState& s) {
                                  : std::string();
     s.TheWord.clear();
     s.TheMeaning.clear();
-    for (int i = 1; i <= s.WordCount && !word.empty(); ++i) {
-        if (UCase(s.Words[std::size_t(i)]) == word) {
+    for (int i = 1; i <= s.WordCount; ++i) {
+        if (!word.empty() && UCase(s.Words[std::size_t(i)]) == word) {
             s.TheWord = s.Words[std::size_t(i)];
             s.TheMeaning = s.Meanings[std::size_t(i)];
             break;

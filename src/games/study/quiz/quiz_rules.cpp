@@ -74,7 +74,7 @@ void makeQuestion(QuizRun& run, SharedState& s, Rng& rng) {
     s.TheMeaning = s.Meanings[std::size_t(k)];
     run.asked = k;
     run.AskedWords[std::size_t(k)] = true;
-    std::vector<bool> local(std::size_t(n) + 1, false);
+    std::vector<bool> local(run.AskedWords.size(), false);
     local[std::size_t(k)] = true;
 
     run.choiceCount = std::clamp(s.Difficulty, 1, kMaxChoices);

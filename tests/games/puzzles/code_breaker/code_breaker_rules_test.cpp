@@ -6,23 +6,15 @@
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "games/puzzles/code_breaker/code_breaker_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::code_breaker;
 
 namespace {
 
-SharedState listOf(std::vector<std::string> words, int level = 10) {
-    SharedState s;
-    s.Words = {""};
-    s.Meanings = {""};
-    for (auto& w : words) {
-        s.Words.push_back(w);
-        s.Meanings.push_back("meaning of " + w);
-    }
-    s.WordCount = static_cast<short>(words.size());
-    s.Difficulty = level;
-    return s;
+SharedState listOf(const std::vector<std::string>& words, int level = 10) {
+    return test::ListOf(words, level);
 }
 
 std::string guesses(const Game& g) {
@@ -36,9 +28,8 @@ std::string guesses(const Game& g) {
 TEST(CodeBreaker, ClockPointsAndTexts) {
     const int seconds[][2] = {{1, 324}, {10, 270}, {50, 30}, {0, 324}, {51, 30}};
     for (auto [level, s] : seconds) EXPECT_EQ(secondsFor(level), s) << level;
-    EXPECT_EQ(pointsFor(250, 10, 4), 2540);
-    EXPECT_EQ(pointsFor(0, 50, 5), 50);
-    EXPECT_EQ(fold('\xE9'), '\xC9');
+    EXPECT_EQ(std::tuple(pointsFor(250, 10, 4), pointsFor(0, 50, 5), fold('\xE9')),
+              std::tuple(2540, 50, '\xC9'));
     EXPECT_EQ(clockText(65) + clockText(600) + clockText(-3), "1:0510:000:00");
     EXPECT_EQ(timeUpText({"cat", "ice cream"}),
               "Time's up! The code was \"cat\", \"ice cream\". Would you like to try again?");
@@ -56,8 +47,7 @@ TEST(CodeBreaker, DifferentWordsDrawnWithinTheRoom) {
     EXPECT_EQ(rng.randomizeCount, 1);
     EXPECT_EQ(s.Score, 0);
     EXPECT_EQ(g.words(), (std::vector<std::string>{"cat", "dog", "owl"}));
-    EXPECT_EQ(s.TheWord, "cat");
-    EXPECT_EQ(s.TheMeaning, "meaning of cat");
+    EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning), std::tuple("cat", "meaning of cat"));
     // Nothing fit was left for a fourth word: no draw for it; then the 26 draws of the key.
     EXPECT_EQ(rng.draws, 6 + 26);
     EXPECT_EQ(g.letters(), 9);
@@ -65,8 +55,9 @@ TEST(CodeBreaker, DifferentWordsDrawnWithinTheRoom) {
     SharedState two = listOf({"ant", "bee"});
     ScriptedRng again(0.0);
     again.pick(2, 2);
+    two.Meanings.resize(2);  // bee's meaning missing from the list: no clue rather than a crash
     ASSERT_TRUE(g.start(two, again));
-    EXPECT_EQ(two.TheWord, "bee");
+    EXPECT_EQ(std::pair(two.TheWord, two.TheMeaning), std::pair(std::string("bee"), std::string()));
 
     // 25 + 25 letters leave room for 10 more, not 25: the draw gives up on a word after 50 tries.
     SharedState big = listOf({std::string(25, 'a'), std::string(25, 'b'), std::string(25, 'c'),
@@ -106,16 +97,7 @@ TEST(CodeBreaker, KeyNeverLeavesALetterAsItself) {
     for (int i = 1; i <= 23; ++i) chain.pick(2, 26 - i);
     chain.pick(1, 2).pick(3, 25);
     ASSERT_TRUE(g.start(s, chain));
-    EXPECT_EQ(g.key(), "BCZEFGHIJKLMNOPQRSTUVWXYAD");
-    EXPECT_EQ(chain.pending(), 0u);
-    for (int f = 0; f < 100; f += 7) {
-        ScriptedRng r(f / 100.0);
-        ASSERT_TRUE(g.start(s, r));
-        std::string sorted = g.key();
-        std::sort(sorted.begin(), sorted.end());
-        EXPECT_EQ(sorted, "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
-        for (int i = 0; i < 26; ++i) EXPECT_NE(g.key()[i], 'A' + i) << f;
-    }
+    EXPECT_EQ(std::tuple(g.key(), chain.pending()), std::tuple("BCZEFGHIJKLMNOPQRSTUVWXYAD", 0u));
 }
 
 TEST(CodeBreaker, AccentedLettersArePicturesOfTheirOwn) {
@@ -127,9 +109,8 @@ TEST(CodeBreaker, AccentedLettersArePicturesOfTheirOwn) {
     Game g;
     ASSERT_TRUE(g.start(s, rng));
     ASSERT_EQ(g.symbols().size(), 3u);  // É, T, È: é and É are one symbol
-    EXPECT_EQ(g.symbols()[0].plain, '\xC9');
-    EXPECT_EQ(g.symbols()[0].picture, 2);
-    EXPECT_EQ(g.symbols()[1].code, 'S');
+    EXPECT_EQ(std::tuple(g.symbols()[0].plain, g.symbols()[0].picture, g.symbols()[1].code),
+              std::tuple('\xC9', 2, 'S'));
     EXPECT_EQ(g.symbols()[2].picture, 3);
     // Sixteen pictures: a word that needs a seventeenth waits for one that needs none.
     const std::string sixteen = "\xE0\xE1\xE2\xE3\xE4\xE5\xE6\xE7\xE8\xE9\xEA\xEB\xEC\xED\xEE\xEF";
@@ -145,17 +126,15 @@ TEST(CodeBreaker, LettersMoveAndTheCodeIsCracked) {
     ScriptedRng rng(0.0);
     Game g;
     ASSERT_TRUE(g.start(s, rng));
-    EXPECT_EQ(g.selected(), 0);
+    EXPECT_EQ(std::pair(g.selected(), g.movedFrom()), std::pair(0, -1));
     EXPECT_EQ(g.type('b'), Typed::Ignored);  // the clock has not started
     g.begin();
     // Symbols B, E, A, D. A letter typed moves on to the next tile without one.
     EXPECT_EQ(g.type('x'), Typed::Placed);
     EXPECT_EQ(g.selected(), 1);
     EXPECT_EQ(g.type('X'), Typed::Moved);  // X leaves B for E
-    EXPECT_EQ(g.movedFrom(), 0);
-    EXPECT_EQ(guesses(g), ".X..");
-    EXPECT_EQ(g.holder('x'), 1);
-    EXPECT_EQ(g.selected(), 2);
+    EXPECT_EQ(std::tuple(g.movedFrom(), guesses(g), g.holder('x'), g.selected()),
+              std::tuple(0, ".X..", 1, 2));
     EXPECT_EQ(g.type('1'), Typed::Ignored);
     EXPECT_TRUE(g.select(0));
     EXPECT_EQ(g.type('b'), Typed::Placed);
@@ -169,12 +148,10 @@ TEST(CodeBreaker, LettersMoveAndTheCodeIsCracked) {
     EXPECT_EQ(g.selected(), 3);
     for (int i = 0; i < 20; ++i) g.tick();
     EXPECT_EQ(g.type('d'), Typed::Filled);  // every symbol has a letter; X is wrong
-    EXPECT_EQ(g.selected(), 3);
-    EXPECT_EQ(g.phase(), Phase::Playing);
+    EXPECT_EQ(std::tuple(g.selected(), g.phase()), std::tuple(3, Phase::Playing));
     EXPECT_TRUE(g.select(1));
     EXPECT_EQ(g.type('e'), Typed::Won);
-    EXPECT_EQ(g.phase(), Phase::Won);
-    EXPECT_EQ(g.points(), 250 * 10 + 10 * 4);
+    EXPECT_EQ(std::tuple(g.phase(), g.points()), std::tuple(Phase::Won, 250 * 10 + 10 * 4));
     EXPECT_EQ(g.type('q'), Typed::Ignored);
     EXPECT_FALSE(g.select(0));
     // Try again: the same board waits for its clock again.
@@ -198,8 +175,7 @@ TEST(CodeBreaker, HintsCostThirtySecondsAndStay) {
     EXPECT_EQ(g.hint(rng), 0);
     EXPECT_EQ(g.movedFrom(), 1);
     EXPECT_EQ(guesses(g), "T...");  // E went with T's wrong letter
-    EXPECT_EQ(g.secondsLeft(), 6);
-    EXPECT_FALSE(g.canHint());
+    EXPECT_EQ(std::tuple(g.secondsLeft(), g.canHint()), std::tuple(6, false));
     EXPECT_TRUE(g.select(0));
     EXPECT_EQ(g.type('o'), Typed::Locked);
     EXPECT_FALSE(g.clear());
@@ -221,8 +197,7 @@ TEST(CodeBreaker, HintsCostThirtySecondsAndStay) {
     g.type('t');
     g.type('o');
     EXPECT_EQ(g.hint(r), 2);
-    EXPECT_EQ(g.phase(), Phase::Won);
-    EXPECT_EQ(g.points(), 6 * 49 + 30);
+    EXPECT_EQ(std::tuple(g.phase(), g.points()), std::tuple(Phase::Won, 6 * 49 + 30));
 }
 
 TEST(CodeBreaker, TheClockRunsOut) {
@@ -236,8 +211,7 @@ TEST(CodeBreaker, TheClockRunsOut) {
     for (int i = 0; i < 29; ++i) ASSERT_FALSE(g.tick());
     EXPECT_EQ(g.phase(), Phase::Playing);
     EXPECT_TRUE(g.tick());
-    EXPECT_EQ(g.phase(), Phase::Lost);
-    EXPECT_EQ(g.secondsLeft(), 0);
+    EXPECT_EQ(std::tuple(g.phase(), g.secondsLeft()), std::tuple(Phase::Lost, 0));
     EXPECT_FALSE(g.tick());
     EXPECT_EQ(g.type('o'), Typed::Ignored);
 }
@@ -246,16 +220,13 @@ TEST(CodeBreaker, WordsFlowAlongLinesAndKeysMoveBetweenThem) {
     auto at = [](const Layout& l, int i) { return std::make_pair(l.places[i].line, l.places[i].column); };
     const Layout a = layOut({"ab", "cde", "fg"}, 6);
     EXPECT_EQ(at(a, 2), std::make_pair(0, 3));  // 2 + 1 + 3 fills the line exactly
-    EXPECT_EQ(at(a, 5), std::make_pair(1, 0));
-    EXPECT_EQ(a.lines, 2);
-    EXPECT_EQ(a.columns, 6);
+    EXPECT_EQ(std::tuple(at(a, 5), a.lines, a.columns), std::tuple(std::make_pair(1, 0), 2, 6));
     const Layout b = layOut({"ab", "cdef"}, 6);
     EXPECT_EQ(at(b, 2), std::make_pair(1, 0));
     const Layout c = layOut({"abcdefghij"}, 4);  // a long word goes on over the next lines
-    EXPECT_EQ(at(c, 4), std::make_pair(1, 0));
-    EXPECT_EQ(at(c, 9), std::make_pair(2, 1));
-    EXPECT_EQ(c.lines, 3);
-    EXPECT_EQ(layOut({}, 5).lines, 0);
+    EXPECT_EQ(std::tuple(at(c, 4), at(c, 9), c.lines, layOut({}, 5).lines),
+              std::tuple(std::make_pair(1, 0), std::make_pair(2, 1), 3, 0));
+    EXPECT_EQ(layOut({"ab"}, 0).columns, 1);  // no room at all: still a column
     EXPECT_EQ(bestColumns({"ab", "ab", "ab", "ab", "ab"}, 1400, 100, 1.6), 14);
     EXPECT_EQ(bestColumns({"abcdef", "abcdef"}, 100, 1400, 1.6), 6);
 
@@ -272,6 +243,9 @@ TEST(CodeBreaker, WordsFlowAlongLinesAndKeysMoveBetweenThem) {
     EXPECT_FALSE(g.stepLine(1, l));
     EXPECT_TRUE(g.stepLine(-1, l));
     EXPECT_EQ(g.selected(), 3);  // c and d are as near: the left one
+    EXPECT_TRUE(g.select(7));
+    EXPECT_TRUE(g.stepLine(-1, l));
+    EXPECT_EQ(g.selected(), 0);  // g straight up onto a
     EXPECT_TRUE(g.select(0));
     EXPECT_TRUE(g.step(1));
     EXPECT_EQ(g.selected(), 2);  // over the hyphen and the gap
@@ -279,6 +253,7 @@ TEST(CodeBreaker, WordsFlowAlongLinesAndKeysMoveBetweenThem) {
     EXPECT_EQ(g.selectedSymbol(), 0);  // a, the first letter given a symbol
     EXPECT_TRUE(g.step(-1));
     EXPECT_EQ(g.selected(), 11);  // round the end
+    EXPECT_FALSE(g.step(0));
     // A code of one letter: a step comes round to the same tile.
     SharedState one = listOf({"a"});
     ASSERT_TRUE(g.start(one, rng));

@@ -62,9 +62,8 @@ TEST(SafeCrackerRules, WhatIsTypedAndWhatStandsFixed) {
     EXPECT_TRUE(playable("abcdefghijkl"));
     EXPECT_FALSE(playable("abcdefghijklm"));  // thirteen letters
     EXPECT_FALSE(playable("- -"));
-    EXPECT_EQ(safePoints(1, 5), 350);
-    EXPECT_EQ(safePoints(6, 12), 170);
-    EXPECT_EQ(alarmText("x-ray"), "The alarm went off! The combination was x-ray.");
+    EXPECT_EQ(std::tuple(safePoints(1, 5), safePoints(6, 12), alarmText("x-ray")),
+              std::tuple(350, 170, "The alarm went off! The combination was x-ray."));
     EXPECT_EQ(lostText({"a", "b", "c"}),
               "The alarm went off at every safe! The combinations were a, b and c.");
     EXPECT_EQ(lostText({"owl"}), "The alarm went off at every safe! The combinations were owl.");
@@ -73,21 +72,20 @@ TEST(SafeCrackerRules, WhatIsTypedAndWhatStandsFixed) {
 TEST(SafeCrackerRules, DrawsWithoutRepeatsSkipsWhatCannotBePlayedAndIsBounded) {
     SharedState s = ListOf({"apple", "abcdefghijklm", "APPLE", "berry", "- -"});
     ScriptedRng rng;
-    // Int(Rnd x 5 + 1): 1; then 3 ("APPLE" is "apple" again), 2 (too long), 4.
-    rng.pick(1, 5).pick(3, 5).pick(2, 5).pick(4, 5);
+    // Int(Rnd x 5 + 1): 1, and 1 again in a new game; then 3 ("APPLE" is "apple" again), 2 (too
+    // long), 4.
+    rng.pick(1, 5).pick(1, 5).pick(3, 5).pick(2, 5).pick(4, 5);
     Game g;
     ASSERT_TRUE(g.start(s, rng));
-    EXPECT_EQ(rng.randomizeCount, 1);
-    EXPECT_EQ(g.word(), "apple");
-    EXPECT_EQ(s.TheWord, "apple");
-    EXPECT_EQ(s.TheMeaning, "meaning of apple");
+    ASSERT_TRUE(g.start(s, rng));  // a new game forgets the words of the last
+    EXPECT_EQ(rng.randomizeCount, 2);
+    EXPECT_EQ(std::tuple(g.word(), s.TheWord, s.TheMeaning),
+              std::tuple("apple", "apple", "meaning of apple"));
     EXPECT_EQ(Try(g, s, "paple"), Entry::Wrong);
     ASSERT_TRUE(g.nextSafe(s, rng));
-    EXPECT_EQ(g.word(), "berry");
-    EXPECT_EQ(g.safeNumber(), 2);
-    EXPECT_EQ(g.triesUsed(), 0);
+    EXPECT_EQ(std::tuple(g.word(), g.safeNumber(), g.triesUsed()), std::tuple("berry", 2, 0));
     EXPECT_EQ(g.keyMark('p'), Mark::Unknown);  // each safe starts with a fresh keyboard
-    EXPECT_EQ(rng.draws, 4);
+    EXPECT_EQ(rng.draws, 5);
     // Every word had its safe: repeats come back.
     rng.pick(3, 5);
     ASSERT_TRUE(g.nextSafe(s, rng));
@@ -109,8 +107,7 @@ TEST(SafeCrackerRules, TypingARowAndTheTriesOfASafe) {
     ScriptedRng rng;
     Game g;
     ASSERT_TRUE(g.start(s, rng));
-    EXPECT_EQ(g.openCount(), 8);
-    EXPECT_EQ(g.current(), "   -     ");
+    EXPECT_EQ(std::tuple(g.openCount(), g.current()), std::tuple(8, "   -     "));
     EXPECT_EQ(g.type('-'), Entry::Ignored);  // the hyphen stands in its place
     EXPECT_EQ(g.erase(), Entry::Ignored);
     for (char c : std::string("ICEC")) EXPECT_EQ(g.type(c), Entry::Typed);
@@ -128,47 +125,35 @@ TEST(SafeCrackerRules, TypingARowAndTheTriesOfASafe) {
     for (char c = 0; c < 8; ++c) g.erase();
     // The keyboard: the best each letter is known to be.
     EXPECT_EQ(Try(g, s, "cearmerk"), Entry::Wrong);
-    EXPECT_EQ(g.keyMark('i'), Mark::Green);
-    EXPECT_EQ(g.keyMark('A'), Mark::Amber);
+    EXPECT_EQ(std::tuple(g.keyMark('i'), g.keyMark('A')), std::tuple(Mark::Green, Mark::Amber));
     EXPECT_EQ(g.keyMark('e'), Mark::Green);  // amber once, green once
-    EXPECT_EQ(g.keyMark('k'), Mark::Grey);
-    EXPECT_EQ(g.keyMark('q'), Mark::Unknown);
-    EXPECT_EQ(g.triesLeft(), 4);
+    EXPECT_EQ(std::tuple(g.keyMark('k'), g.keyMark('q'), g.triesLeft()),
+              std::tuple(Mark::Grey, Mark::Unknown, 4));
     EXPECT_EQ(Try(g, s, "IceCream"), Entry::Opened);
     // Opened on the third try: (7 - 3) x 50 + 9 x 10.
-    EXPECT_EQ(g.lastPoints(), 290);
-    EXPECT_EQ(s.Score, 290);
+    EXPECT_EQ(std::tuple(g.lastPoints(), s.Score), std::tuple(290, 290));
     EXPECT_EQ(g.type('a'), Entry::Ignored);
 }
 
-TEST(SafeCrackerRules, FiveSafesAGame) {
-    SharedState s = ListOf({"owl", "bat"});
-    ScriptedRng rng;
-    Game g;
-    ASSERT_TRUE(g.start(s, rng));
-    int safes = 1;
-    while (safes < 10 && g.nextSafe(s, rng)) ++safes;
-    EXPECT_EQ(safes, 5);
-}
-
-TEST(SafeCrackerRules, TheSixthWrongTrySetsOffTheAlarm) {
+TEST(SafeCrackerRules, TheSixthWrongTrySetsOffTheAlarmAndFiveSafesMakeAGame) {
     SharedState s = ListOf({"owl"});
     ScriptedRng rng;
     Game g;
-    ASSERT_TRUE(g.start(s, rng));
     const char* tries[] = {"abc", "def", "ghi", "jkm", "npq"};
-    for (const char* t : tries) ASSERT_EQ(Try(g, s, t), Entry::Wrong) << t;
-    EXPECT_FALSE(g.decided());
-    EXPECT_EQ(Try(g, s, "rst"), Entry::Alarm);
-    EXPECT_TRUE(g.decided());
-    EXPECT_FALSE(g.opened());
-    EXPECT_EQ(g.triesUsed(), 6);
-    EXPECT_EQ(s.Score, 0);
-    EXPECT_EQ(g.safesOpened(), 0);
-    EXPECT_EQ(Try(g, s, "owl"), Entry::Ignored);
-    // Opened on the sixth try instead: the least a safe scores.
+    // Opened on the sixth try: the least a safe scores.
     ASSERT_TRUE(g.start(s, rng));
     for (const char* t : tries) Try(g, s, t);
     EXPECT_EQ(Try(g, s, "OWL"), Entry::Opened);
     EXPECT_EQ(s.Score, 50 + 30);
+    // A new game starts from nothing.
+    ASSERT_TRUE(g.start(s, rng));
+    for (const char* t : tries) ASSERT_EQ(Try(g, s, t), Entry::Wrong) << t;
+    EXPECT_FALSE(g.decided());
+    EXPECT_EQ(Try(g, s, "rst"), Entry::Alarm);
+    EXPECT_EQ(std::tuple(g.decided(), g.opened()), std::tuple(true, false));
+    EXPECT_EQ(std::tuple(g.triesUsed(), s.Score, g.safesOpened()), std::tuple(6, 0, 0));
+    EXPECT_EQ(Try(g, s, "owl"), Entry::Ignored);
+    int safes = 1;
+    while (safes < 10 && g.nextSafe(s, rng)) ++safes;
+    EXPECT_EQ(safes, 5);
 }

@@ -58,13 +58,12 @@ TEST(WordBricksDeal, WordsThenCutsThenTheHeap) {
     rng.pick(1, 6).pick(5, 6).pick(1, 6).pick(3, 6).pick(4, 6).pick(2, 2).pick(1, 2);
     rng.pick(1, 4).pick(3, 3).pick(1, 2);
     const Game g = deal(s, 2, rng);
-    EXPECT_EQ(rng.draws, 10);
+    EXPECT_EQ(std::pair(rng.draws, g.level), std::pair(10, 2));
     ASSERT_EQ(g.lines.size(), 2u);
-    EXPECT_EQ(g.lines[0].clue, "meaning of tiger");
-    EXPECT_EQ(g.lines[1].word, "zebra");
-    EXPECT_EQ(g.lines[1].clue, "5 letters");
+    EXPECT_EQ(std::tuple(g.lines[0].clue, g.lines[1].word, g.lines[1].clue),
+              std::tuple("meaning of tiger", "zebra", "5 letters"));
     Texts heap;
-    for (const Brick& b : g.bricks) heap.push_back(b.text);
+    for (const Brick& b : g.bricks) heap.push_back(b.line == -1 ? b.text : "not on the ground");
     EXPECT_EQ(heap, (Texts{"er", "bra", "ze", "tig"}));
 
     // A 14-letter word is the longest a line takes.
@@ -73,8 +72,7 @@ TEST(WordBricksDeal, WordsThenCutsThenTheHeap) {
     EXPECT_EQ(deal(s, 1, one).lines.at(0).word, "hippopotamuses");
 
     const SharedState bare = ListOf({"a", "bee"}, 1, true);
-    EXPECT_EQ(clue(bare, 1), "1 letter");
-    EXPECT_EQ(clue(bare, 2), "3 letters");
+    EXPECT_EQ(std::tuple(clue(bare, 1), clue(bare, 2)), std::tuple("1 letter", "3 letters"));
 }
 
 TEST(WordBricksDeal, UnusableListsEndInsteadOfSpinning) {
@@ -101,8 +99,7 @@ TEST(WordBricksPlay, LinesFillCheckAndLock) {
     // Another word's brick spells it too, in any case.
     EXPECT_EQ(drop(g, 0, 0).what, Drop::Placed);
     EXPECT_EQ(drop(g, 1, 0, 0).what, Drop::Built);
-    EXPECT_EQ(g.score, 50);
-    EXPECT_EQ(onLine(g, 0), (Texts{"TI", "ger"}));
+    EXPECT_EQ(std::tuple(g.score, onLine(g, 0)), std::tuple(50, (Texts{"TI", "ger"})));
     // A built line keeps its bricks and takes no more.
     EXPECT_EQ(drop(g, 1, -1).what, Drop::Refused);
     EXPECT_EQ(drop(g, 4, 0).what, Drop::Refused);
@@ -114,8 +111,7 @@ TEST(WordBricksPlay, LinesFillCheckAndLock) {
     const DropResult wrong = drop(g, 2, 1);
     EXPECT_EQ(wrong.what, Drop::Shaken);
     EXPECT_EQ(wrong.shaken, (std::vector<int>{3, 2}));
-    EXPECT_EQ(g.score, 40);
-    EXPECT_EQ(g.bricks[3].line, -1);
+    EXPECT_EQ(std::tuple(g.score, g.bricks[3].line), std::tuple(40, -1));
     g.seconds = 32767;
     tick(g);  // the clock's count stops at the largest the table holds
     EXPECT_EQ(g.seconds, 32767);
@@ -129,21 +125,15 @@ TEST(WordBricksPlay, LinesFillCheckAndLock) {
     EXPECT_EQ(drop(g, 4, -1).what, Drop::Refused);
 }
 
-TEST(WordBricksPlay, BricksMoveAlongTheirLine) {
+TEST(WordBricksPlay, BricksMoveAlongTheirLineAndTheBonusAndClock) {
     Game g = table(1, {"abcdefgh"}, {"ab", "cd", "ef", "gh"});
     for (int b : {0, 1, 2}) drop(g, b, 0);
     EXPECT_EQ(drop(g, 0, 0, 2).what, Drop::Placed);  // in front of "ef"
     EXPECT_EQ(onLine(g, 0), (Texts{"cd", "ab", "ef"}));
     drop(g, 0, 0, 0);
     EXPECT_EQ(drop(g, 3, 0, 9).what, Drop::Won);  // past the end: at the end
-}
-
-TEST(WordBricksScore, BonusAndClock) {
-    // max(0, 40 x level - seconds) x 2
-    EXPECT_EQ(finishBonus(0, 10), 800);
-    EXPECT_EQ(finishBonus(79, 2), 2);
-    EXPECT_EQ(finishBonus(81, 2), 0);
-    EXPECT_EQ(clockText(69), "1:09");
-    EXPECT_EQ(clockText(600), "10:00");
-    EXPECT_EQ(clockText(75), "1:15");
+    // The bonus: max(0, 40 x level - seconds) x 2
+    EXPECT_EQ(std::tuple(finishBonus(0, 10), finishBonus(79, 2), finishBonus(81, 2), clockText(69)),
+              std::tuple(800, 2, 0, "1:09"));
+    EXPECT_EQ(std::tuple(clockText(600), clockText(0)), std::tuple("10:00", "0:00"));
 }

@@ -22,37 +22,37 @@ TEST(BombSquadDeal, CertainBadWireAndCoins) {
     ASSERT_TRUE(d.ready);
     EXPECT_EQ(d.secondsLeft, 30);
     ASSERT_EQ(d.wires.size(), 3u);
-    EXPECT_EQ(d.wires[0].word, 1);
-    EXPECT_FALSE(d.wires[0].bad);
-    EXPECT_EQ(d.wires[0].definition, 1);
-    EXPECT_TRUE(d.wires[1].bad);
-    EXPECT_EQ(d.wires[1].definition, 3);
-    EXPECT_EQ(d.wires[2].word, 4);
-    EXPECT_EQ(d.wires[2].definition, 5);
-    EXPECT_TRUE(d.wires[0].smallFont);
-    EXPECT_FALSE(d.wires[2].smallFont);
+    EXPECT_EQ(std::tuple(d.wires[0].word, d.wires[0].bad, d.wires[0].definition, d.wires[1].bad),
+              std::tuple(1, false, 1, true));
+    EXPECT_EQ(std::tuple(d.wires[1].definition, d.wires[2].word, d.wires[2].definition),
+              std::tuple(3, 4, 5));
+    EXPECT_EQ(std::tuple(d.wires[0].smallFont, d.wires[2].smallFont), std::tuple(true, false));
 }
 
 TEST(BombSquadDeal, LevelsAndTheUnboundedDeal) {
-    const std::pair<int, bombsquad::Level> table[] = {{1, {2, 30}}, {3, {4, 25}}, {7, {8, 20}},
-                                                      {10, {8, 8}}, {0, {2, 30}}, {11, {8, 8}}};
-    for (auto [lv, want] : table) {
-        EXPECT_EQ(bombsquad::level(lv).wires, want.wires) << lv;
-        EXPECT_EQ(bombsquad::level(lv).seconds, want.seconds) << lv;
+    // Wires and seconds of each level, held to 1..10: the first bomb's, then the second's.
+    const int table[][5] = {{0, 2, 30, 2, 30},  {1, 2, 30, 2, 30},  {2, 3, 30, 3, 40},
+                            {3, 4, 25, 4, 40},  {4, 5, 25, 5, 45},  {5, 6, 20, 6, 40},
+                            {6, 7, 20, 7, 40},  {7, 8, 20, 8, 35},  {8, 8, 15, 8, 25},
+                            {9, 8, 10, 8, 20},  {10, 8, 8, 8, 15},  {11, 8, 8, 8, 15}};
+    for (auto [lv, w1, s1, w2, s2] : table) {
+        const auto one = bombsquad::level(lv), two = bombsquad2::level(lv);
+        EXPECT_EQ(std::tuple(one.wires, one.seconds, two.wires, two.seconds),
+                  std::tuple(w1, s1, w2, s2)) << lv;
     }
-    // The second bomb's own table: wires and seconds for each level, held to 1..10.
-    const int second[][3] = {{0, 2, 30}, {1, 2, 30}, {2, 3, 40}, {3, 4, 40}, {4, 5, 45},
-                             {5, 6, 40}, {6, 7, 40},  {7, 8, 35}, {8, 8, 25}, {9, 8, 20},
-                             {10, 8, 15}, {11, 8, 15}};
-    for (auto [lv, wires, seconds] : second) {
-        EXPECT_EQ(bombsquad2::level(lv).wires, wires) << lv;
-        EXPECT_EQ(bombsquad2::level(lv).seconds, seconds) << lv;
-    }
-    // Eight wires from six words cannot be dealt: the deal ends instead of spinning for ever.
+    // Eight wires from six words cannot be dealt: the deal ends instead of spinning for ever,
+    // the second bomb's with two definitions left without a wire.
     SharedState s = sixWords();
     SystemRng rng;
     EXPECT_FALSE(bombsquad::deal(s, 8, rng).ready);
-    EXPECT_FALSE(bombsquad2::deal(s, 8, rng).ready);
+    const bombsquad2::Board b = bombsquad2::deal(s, 8, rng);
+    EXPECT_FALSE(b.ready);
+    EXPECT_EQ(std::count(b.defOwner.begin(), b.defOwner.end(), -1), 2);
+    // A generator stuck on a place taken gives up after its bounded draws.
+    ScriptedRng stuck(0.0);
+    stuck.pick(1, 6).pick(1, 2).pick(2, 6);
+    EXPECT_FALSE(bombsquad2::deal(s, 1, stuck).ready);
+    EXPECT_EQ(stuck.draws, 3 + 20000);
 }
 
 TEST(BombSquadCut, SnipDefuseExplode) {
@@ -108,7 +108,7 @@ TEST(BombSquad2, ShuffledDefinitionsAndCarriedWires) {
     EXPECT_EQ(bombsquad2::clickWord(b, 1), bombsquad2::WordClick::PickedUp);
     EXPECT_EQ(bombsquad2::clickWord(b, 1), bombsquad2::WordClick::PickedUp) << "dropped, anew";
     EXPECT_EQ(bombsquad2::clickDefinition(b, 0), DefClick::Connected);
-    EXPECT_FALSE(b.carrying);
+    EXPECT_EQ(std::pair(b.carrying, b.carried), std::pair(false, -1));
     EXPECT_EQ(bombsquad2::clickWord(b, 0), bombsquad2::WordClick::PickedUp);
     EXPECT_EQ(bombsquad2::clickWord(b, 1), bombsquad2::WordClick::Dropped) << "wired already";
     EXPECT_FALSE(b.carrying);

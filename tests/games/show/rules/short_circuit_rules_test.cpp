@@ -15,10 +15,8 @@ TEST(ShortCircuitDeal, NeverAWordOverTenLetters) {
     rng.then(0.9).then(0.0).then(0.0);  // C: right row 1 of 0..1; others
     Circuit c = newCircuit(s, 3, rng);
     ASSERT_TRUE(c.ready);
-    EXPECT_EQ(s.TheWord, "cat");
-    EXPECT_EQ(c.word, "CAT");
-    EXPECT_EQ(c.rightRow[0], 1);
-    EXPECT_EQ(c.letters[0][1], 'C');
+    EXPECT_EQ(std::tuple(s.TheWord, c.word, c.rightRow[0], c.letters[0][1]),
+              std::tuple("cat", "CAT", 1, 'C'));
     EXPECT_TRUE(c.robber);  // the last draw, under a half: the robber comes
     ScriptedRng high(0.9);
     high.pick(2, 3);
@@ -36,8 +34,7 @@ TEST(ShortCircuitDeal, TwoRowsPutTheRightLetterOnTopAndNoOtherRowRepeatsIt) {
     SystemRng rng;
     Circuit c = newCircuit(s, 2, rng);
     for (std::size_t col = 0; col < c.word.size(); ++col) {
-        EXPECT_EQ(c.rightRow[col], 0);
-        EXPECT_EQ(c.letters[col][0], 'A');
+        EXPECT_EQ(std::tuple(c.rightRow[col], c.letters[col][0]), std::tuple(0, 'A'));
         EXPECT_NE(c.letters[col][1], 'A');
     }
     // A generator stuck on "A" still gives the other row a letter that differs.

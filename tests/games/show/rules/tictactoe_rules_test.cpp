@@ -55,6 +55,7 @@ TEST(TicTacToeOpponent, RandomSquareOnlyWhenNoLineHelps) {
     // Draws stuck on a taken square: bounded, then the first free square from the top left.
     ScriptedRng stuck(0.0);
     EXPECT_EQ(randomFree(boardOf("X.XOXOXOX"), stuck), (Square{1, 2}));
+    EXPECT_EQ(randomFree(boardOf("XOXOXO.O."), stuck), (Square{3, 1}));
 
     // Level 1, never offered, keeps its rule: random even with the centre free.
     ScriptedRng one;
@@ -103,9 +104,7 @@ TEST(TicTacToeQuestion, AsManyDistinctChoicesAsTheLevel) {
         // Wrong choices drawn: the word itself and repeats are drawn again.
         for (int k : {3, 1, 1, 2, 4, 5, 6}) rng.pick(k, 6);
         Question q = askQuestion(s, level, rng);
-        EXPECT_EQ(q.word, 3);
-        EXPECT_EQ(s.TheWord, "cloud");
-        EXPECT_EQ(q.right, 0);
+        EXPECT_EQ(std::tuple(q.word, s.TheWord, q.right), std::tuple(3, "cloud", 0));
         ASSERT_EQ(int(q.options.size()), level);
         EXPECT_EQ(q.options[0], 3);
         std::vector<int> seen(q.options);
@@ -114,15 +113,17 @@ TEST(TicTacToeQuestion, AsManyDistinctChoicesAsTheLevel) {
     }
 }
 
-TEST(TicTacToeQuestion, ClockOnlyAtTheTopLevels) {
-    EXPECT_EQ(questionSeconds(4), 0);
-    EXPECT_EQ(questionSeconds(5), 10);
-    EXPECT_EQ(questionSeconds(6), 5);
-    EXPECT_TRUE(playerMovesFirst(4));
-    EXPECT_FALSE(playerMovesFirst(5));
+TEST(TicTacToeQuestion, AShortListRepeatsTheWordAfterItsBoundedDraws) {
+    SharedState s = listOf({"cat", "dog"}, 3);
+    ScriptedRng stuck(0.0);
+    EXPECT_EQ(askQuestion(s, 3, stuck).options, (std::vector<int>{1, 1, 1}));
+    EXPECT_EQ(stuck.draws, 2 + 2 * 10000);
 }
 
-TEST(TicTacToeScore, WinAddsToTheScoreOfEarlierWins) {
+TEST(TicTacToeScore, ClockOnlyAtTheTopLevelsAndAWinAddsToEarlierWins) {
+    EXPECT_EQ(std::tuple(questionSeconds(4), questionSeconds(5), questionSeconds(6)),
+              std::tuple(0, 10, 5));
+    EXPECT_EQ(std::pair(playerMovesFirst(4), playerMovesFirst(5)), std::pair(true, false));
     ScriptedRng rng;
     rng.pick(1, 2).pick(2, 2).pick(6, 6);
     EXPECT_EQ(winScore(0, 2, rng), 1002);

@@ -6,23 +6,11 @@
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "games/show/spell_crush/spell_crush_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::spellcrush;
-
-namespace {
-
-SharedState ListOf(std::initializer_list<const char*> words) {
-    SharedState s;
-    s.Words.assign(kMaxWords + 2, "");
-    s.Meanings.assign(kMaxWords + 2, "");
-    int i = 0;
-    for (const char* w : words) s.Words[++i] = w;
-    s.WordCount = static_cast<short>(i);
-    return s;
-}
-
-}  // namespace
+using wm::test::ListOf;
 
 TEST(Deal, DrawsInTheDesignedOrderAndMisspellsOneWord) {
     SharedState s = ListOf({"cat", "fish", "dog", "bird", "frog", "lion"});
@@ -38,12 +26,12 @@ TEST(Deal, DrawsInTheDesignedOrderAndMisspellsOneWord) {
               (std::array<int, 4>{5, 2, 6, 1}));
     // "fish" went through Spell Crush's rules: the "f" of rule 1.
     EXPECT_EQ(g.shown, (std::array<std::string, 4>{"frog", "phish", "lion", "cat"}));
-    EXPECT_EQ(g.DealTime, 42);
+    EXPECT_EQ(std::pair(g.DealTime, g.ClickedWord), std::pair(42, -1));
     EXPECT_EQ(rng.pending(), 0u);
 }
 
 TEST(Deal, NeverDealsTheEmptyEntryPastTheLimitAndNeverHangs) {
-    SharedState s = ListOf({});
+    SharedState s;
     for (int i = 1; i <= kMaxWords; ++i) s.Words[i] = "w" + std::to_string(i);
     s.WordCount = kMaxWords + 1;  // after the over-limit message
     SpellCrushState g;
@@ -60,8 +48,8 @@ TEST(Deal, NeverDealsTheEmptyEntryPastTheLimitAndNeverHangs) {
     SpellCrushState t;
     ScriptedRng stuck(0.0);
     deal(tiny, t, stuck);
-    EXPECT_EQ(t.DealWords[1], 1);
-    EXPECT_EQ(t.DealWords[2], 2);
+    EXPECT_EQ((std::array{t.DealWords[1], t.DealWords[2], t.DealWords[3], t.DealWords[4]}),
+              (std::array{1, 2, 2, 2}));
 }
 
 TEST(Judge, RightPaysByLengthAndSpeedWrongCostsNothing) {
@@ -69,33 +57,26 @@ TEST(Judge, RightPaysByLengthAndSpeedWrongCostsNothing) {
     SpellCrushState g;
     ScriptedRng rng;
     rng.pick(2, 4).pick(1, 4).pick(2, 4).pick(3, 4).pick(4, 4);
-    s.Score = 750;  // the last game's
+    s.Score = 750;  // the last game's, and its clock
+    g.SecondsLeft = 3;
     newGame(s, g, rng);
-    EXPECT_EQ(g.SecondsLeft, 60);
-    EXPECT_EQ(s.Score, 0);
+    EXPECT_EQ(std::tuple(g.SecondsLeft, s.Score), std::tuple(60, 0));
     ASSERT_EQ(g.shown[1], "phish");
     // Within the first second "used" counts as 1: 500 a letter of the crushed word.
     Verdict right = judge(s, g, 1);
-    EXPECT_TRUE(right.right);
-    EXPECT_EQ(right.points, 2500);
-    EXPECT_EQ(s.Score, 2500);
-    EXPECT_EQ(g.ClickedWord, 1);
+    EXPECT_EQ(std::tuple(right.right, right.points, s.Score, g.ClickedWord),
+              std::tuple(true, 2500, 2500, 1));
 
     g.SecondsLeft = g.DealTime - 3;  // three seconds later
     EXPECT_EQ(judge(s, g, 1).points, 833);
     EXPECT_EQ(s.Score, 3333);
     Verdict wrong = judge(s, g, 0);
-    EXPECT_FALSE(wrong.right);
-    EXPECT_EQ(wrong.points, 0);
-    EXPECT_EQ(s.Score, 3333);
-}
-
-TEST(Clock, SixtySecondsThenTheEnd) {
-    SpellCrushState g;
+    EXPECT_EQ(std::tuple(wrong.right, wrong.points, s.Score), std::tuple(false, 0, 3333));
+    // The clock of a new game: sixty seconds, then the end.
+    g = SpellCrushState{};
     int ticks = 0;
     while (!countSecond(g)) ++ticks;
-    EXPECT_EQ(ticks, 59);
-    EXPECT_EQ(g.SecondsLeft, 0);
+    EXPECT_EQ(std::tuple(ticks, g.SecondsLeft), std::tuple(59, 0));
     EXPECT_TRUE(countSecond(g));
     EXPECT_EQ(g.SecondsLeft, 0);
 }

@@ -5,25 +5,16 @@
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "games/show/wheel_of_money/wheel_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::wheel;
 
 namespace {
 
-SharedState ListOf(std::initializer_list<std::pair<const char*, const char*>> pairs,
+SharedState ListOf(const std::vector<std::pair<std::string, std::string>>& pairs,
                    int difficulty = 2) {
-    SharedState s;
-    s.Words.assign(kMaxWords + 2, "");
-    s.Meanings.assign(kMaxWords + 2, "");
-    int i = 0;
-    for (auto [w, m] : pairs) {
-        s.Words[++i] = w;
-        s.Meanings[i] = m;
-    }
-    s.WordCount = static_cast<short>(i);
-    s.Difficulty = difficulty;
-    return s;
+    return test::PairsList(pairs, difficulty);
 }
 
 SharedState Animals(int difficulty = 2) {
@@ -89,19 +80,19 @@ TEST(Wheel, OnlyASpinningWheelStopsAndTwentyFlashesEndOnTheStartColour) {
     SharedState s = Animals();
     ScriptedRng rng;
     WheelState w;
+    w.NextAction = Action::EndGame;  // left by the last game
     SetupGame(s, w, rng);
     EXPECT_FALSE(StopWheel(w));      // not spinning yet: a key does nothing
     EXPECT_FALSE(w.commandEnabled);  // the intro plays first
     AnimationEnded(w);
     EXPECT_EQ(ClickCommand(w), Action::ToWheel);
-    EXPECT_TRUE(w.Spinning);
-    EXPECT_TRUE(w.wheelShown);
+    EXPECT_TRUE(w.Spinning && w.wheelShown);
+    EXPECT_EQ(w.captions[4], "Definition Match!");
     EXPECT_TRUE(StopWheel(w));
     EXPECT_FALSE(StopWheel(w));  // a key during the flash does not touch the wheel
     int flashes = 0;
     while (!Flash(w)) ++flashes;
-    EXPECT_EQ(flashes + 1, 20);
-    EXPECT_FALSE(w.flashRed);
+    EXPECT_EQ(std::tuple(flashes + 1, w.flashRed), std::tuple(20, false));
 
 }
 
@@ -112,10 +103,8 @@ TEST(Mystery, ThiefLeavesANegativeTotalAndFortuneBringsItBack) {
     ScriptedRng rng;
     rng.pick(7, 10).pick(100, 500);  // the Thief, 100 x 3
     SlotStart st = StartSlot(s, w, rng);
-    EXPECT_EQ(st.show, Show::Thief);
-    EXPECT_TRUE(st.ooh);
-    EXPECT_EQ(s.Score, -300);
-    EXPECT_EQ(TotalText(s.Score), "Cash and Prize Total:  $-300.00");
+    EXPECT_EQ(std::tuple(st.show, st.ooh, s.Score, TotalText(s.Score)),
+              std::tuple(Show::Thief, true, -300, "Cash and Prize Total:  $-300.00"));
     EXPECT_EQ(w.Label1,
               "Oooooh! Tough Break! You hit the THIEF. He stole 300 dollars from your jackpot! "
               "Try to be more careful next time...");
@@ -132,8 +121,7 @@ TEST(Mystery, ThiefLeavesANegativeTotalAndFortuneBringsItBack) {
     ScriptedRng luck;
     luck.pick(4, 10).pick(200, 500);
     st = StartSlot(s, w, luck);
-    EXPECT_EQ(st.show, Show::Fortune);
-    EXPECT_EQ(s.Score, 300);
+    EXPECT_EQ(std::tuple(st.show, s.Score), std::tuple(Show::Fortune, 300));
     EXPECT_EQ(w.Label1, "Congratulations! You hit the FORTUNE. You have won $600.00!");
 }
 
@@ -145,9 +133,8 @@ TEST(Mystery, TheLastSpinEndsTheGameWithTheShortThiefText) {
     ScriptedRng rng;
     rng.pick(5, 10).pick(50, 500);
     StartSlot(s, w, rng);
-    EXPECT_EQ(w.SpinsLeft, 0);
-    EXPECT_EQ(w.NextAction, Action::EndGame);
-    EXPECT_EQ(w.Command1, "Click here to continue...");
+    EXPECT_EQ(std::tuple(w.SpinsLeft, w.NextAction, w.Command1),
+              std::tuple(0, Action::EndGame, "Click here to continue..."));
     EXPECT_EQ(w.Label1,
               "Oooooh! Tough Break! You hit the THIEF. He stole $100.00 from your jackpot!");
     AnimationEnded(w);
@@ -166,8 +153,7 @@ TEST(MiniGames, TypeItDrawsPrizeThenWordAndJudgesWithoutTrimming) {
     rng.pick(42, 500).pick(3, 5);
     StartSlot(s, w, rng);
     EXPECT_EQ(w.SecondsLeft, 8);  // 38 - 3 x 10
-    EXPECT_EQ(w.PrizeAmount, 420);
-    EXPECT_EQ(w.question, "\"a big cat\"");
+    EXPECT_EQ(std::tuple(w.PrizeAmount, w.question), std::tuple(420, "\"a big cat\""));
     EXPECT_EQ(w.Label1,
               "You will have 8 seconds to type out the word that matches the definition. Good "
               "luck!");
@@ -175,8 +161,7 @@ TEST(MiniGames, TypeItDrawsPrizeThenWordAndJudgesWithoutTrimming) {
     EXPECT_EQ(ClickCommand(w), Action::Type);
     EXPECT_TRUE(w.timer4);
     Verdict v = CheckTyped(s, w, "lion ");
-    EXPECT_TRUE(v.decided);
-    EXPECT_FALSE(v.right);
+    EXPECT_EQ(std::tuple(v.decided, v.right), std::tuple(true, false));
     EXPECT_EQ(w.Label1, "Ooooh! So sorry. The word you were looking for was \"lion\".");
     EXPECT_EQ(s.Score, 0);
     EXPECT_EQ(w.Command1, "Click here give the wheel another spin...");
@@ -190,8 +175,8 @@ TEST(MiniGames, BackWordsAndTheQuestionAsAsked) {
     rng.pick(1, 500).pick(4, 5).pick(1, 4);
     StartSlot(s, w, rng);
     EXPECT_EQ(w.question, "Which of these is one of your vocabulry words spelled BACKWARDS?");
-    EXPECT_EQ(w.choices[0], "GORF");
-    EXPECT_EQ(w.choices[1], "AAAA");
+    EXPECT_EQ(std::tuple(w.choices[0], w.choices[1]), std::tuple("GORF", "AAAA"));
+    EXPECT_EQ(w.ExcludedChoices, (std::array<long long, 3>{}));  // cleared, never filled
 }
 
 TEST(MiniGames, FillInShowsTheFirstLetterAndForcesABlankPastSeventyPercent) {
@@ -237,10 +222,12 @@ TEST(MiniGames, WordsTooLongOrOfOneLetterEndTheSpinInsteadOfHanging) {
     SystemRng rng;
     SlotStart st = StartSlot(s, w, rng);
     EXPECT_FALSE(st.refusal.empty());
-    EXPECT_EQ(w.NextAction, Action::ToWheel);
-    EXPECT_EQ(w.SpinsLeft, 9);
+    SharedState edge = ListOf({{std::string(21, 'q'), "long"}});  // 21 letters still fit
+    WheelState e = On(5, edge, setup);
+    EXPECT_TRUE(StartSlot(edge, e, rng).refusal.empty());
+    EXPECT_EQ(std::tuple(w.NextAction, w.SpinsLeft), std::tuple(Action::ToWheel, 9));
 
-    SharedState same = ListOf({{"aaa", "x"}, {"bbb", "y"}, {"ccc", "z"}, {"Dd", "w"}});
+    SharedState same = ListOf({{"aaa", "x"}, {"bbb", "y"}, {"ccc", "z"}, {"Dd", "w"}, {"e", "v"}});
     WheelState v = On(6, same, setup);
     EXPECT_EQ(StartSlot(same, v, rng).refusal,
               "None of the words on this list can be used for Letter Change! This spin is over. "
@@ -265,18 +252,17 @@ TEST(Clock, TimeOutNamesTheWordOnlyForTheLetterGamesAndRestartLeavesItRunning) {
     EXPECT_TRUE(CountDown(w));
     // Over the welcome; the frame is gone, so the word is not named.
     EXPECT_EQ(w.Label1, "Oops! Your time ran out! Try to be a little faster next time!");
-    EXPECT_EQ(w.NextAction, Action::ToWheel);
-    EXPECT_EQ(w.SpinsLeft, 10);
+    EXPECT_EQ(std::tuple(w.NextAction, w.SpinsLeft), std::tuple(Action::ToWheel, 10));
     // The intro still plays: the button shows but cannot be pressed until it ends.
-    EXPECT_TRUE(w.commandShown);
-    EXPECT_FALSE(w.commandEnabled);
+    EXPECT_EQ(std::tuple(w.commandShown, w.commandEnabled), std::tuple(true, false));
     AnimationEnded(w);
     EXPECT_TRUE(w.commandEnabled);
 
     WheelState x = On(6, s, setup);
     ScriptedRng again(0.1);
-    again.pick(1, 500).pick(2, 5).pick(1, 5).pick(2, 5);
+    again.pick(1, 500).pick(2, 5).pick(2, 5).pick(4, 5);  // otter: the T and the E swap
     StartSlot(s, x, again);
+    EXPECT_EQ(std::pair(x.SwapFirst, x.SwapSecond), std::pair(2, 4));
     ClickCommand(x);
     while (!CountDown(x)) {
     }
@@ -301,16 +287,14 @@ TEST(WheelChoice, TheRightChoiceWinsItsPrizeAndAWrongOneNamesIt) {
     WheelState w = board();
     const Verdict won = ClickChoice(s, w, 0);  // the first choice counts as any other
     EXPECT_TRUE(won.right && won.decided);
-    EXPECT_EQ(s.Score, 400);
-    EXPECT_EQ(w.Label1, "Great job! $300.00 has been added to your winnings!");
-    EXPECT_TRUE(w.commandShown);
+    EXPECT_EQ(std::tuple(s.Score, w.Label1, w.commandShown),
+              std::tuple(400, "Great job! $300.00 has been added to your winnings!", true));
     EXPECT_EQ(w.Command1, "Click here give the wheel another spin...");
     w = board();
     w.SpinsLeft = 0;
     const Verdict lost = ClickChoice(s, w, 2);
     EXPECT_TRUE(!lost.right && lost.decided);
     EXPECT_EQ(w.Label1, "Ooooh! So sorry. The correct choice was \"cat\".");
-    EXPECT_TRUE(w.commandShown);
-    EXPECT_EQ(w.NextAction, Action::EndGame);
+    EXPECT_EQ(std::tuple(w.commandShown, w.NextAction), std::tuple(true, Action::EndGame));
     EXPECT_FALSE(ClickChoice(s, w, 0).decided);  // once decided, the choices are done
 }

@@ -6,22 +6,16 @@
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "games/study/flash_cards/flash_card_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::flash;
 
 namespace {
 
-SharedState List(std::vector<std::pair<std::string, std::string>> rows, int mode,
+SharedState List(const std::vector<std::pair<std::string, std::string>>& rows, int mode,
                  std::string letter = "A") {
-    SharedState s;
-    s.Words.assign(rows.size() + 2, "");
-    s.Meanings.assign(rows.size() + 2, "");
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        s.Words[i + 1] = rows[i].first;
-        s.Meanings[i + 1] = rows[i].second;
-    }
-    s.WordCount = short(rows.size());
+    SharedState s = test::PairsList(rows);
     s.FlashCardMode = short(mode);
     s.StartLetter = letter;
     s.ListChanged = -1;
@@ -43,19 +37,22 @@ TEST(FlashCardRules, AlphabeticalWalkWithButtonsAndScrollBar) {
     const char* expected[] = {"ant", "bee", "Cat", "dog", "eel"};
     for (int i = 1; i <= 5; ++i) {
         nextCard(deck, s, rng);
-        EXPECT_EQ(s.WordIndex, i);
-        EXPECT_EQ(s.TheWord, expected[i - 1]);
+        EXPECT_EQ(std::tuple(s.WordIndex, s.TheWord), std::tuple(i, expected[i - 1]));
         EXPECT_EQ(deck.view.previousShown, i > 1);
         EXPECT_EQ(deck.view.nextShown, i < 5);
         EXPECT_EQ(deck.view.position, "Card number " + std::to_string(i) + " out of 5");
     }
     EXPECT_EQ(s.TheMeaning, "slippery");
-    previousCard(deck, s);
-    EXPECT_EQ(s.TheWord, "dog");
-    EXPECT_TRUE(deck.view.nextShown);
+    for (int i = 4; i >= 1; --i) {
+        previousCard(deck, s);
+        EXPECT_EQ(s.TheWord, expected[i - 1]);
+        EXPECT_EQ(deck.view.previousShown, i > 1);
+        EXPECT_TRUE(deck.view.nextShown);
+    }
+    scrollTo(deck, s, 3);
+    EXPECT_EQ(std::tuple(s.TheWord, deck.view.previousShown), std::tuple("Cat", true));
     scrollTo(deck, s, 1);
-    EXPECT_EQ(s.TheWord, "ant");
-    EXPECT_FALSE(deck.view.previousShown);
+    EXPECT_EQ(std::tuple(s.TheWord, deck.view.previousShown), std::tuple("ant", false));
     EXPECT_EQ(rng.draws, 0);
 }
 
@@ -80,17 +77,10 @@ TEST(FlashCardRules, FromALetterStepsByTwoAndRunsPastTheEnd) {
             EXPECT_EQ(s.TheWord, r.shown[i]);
         }
         EXPECT_FALSE(deck.view.nextShown);
+        if (r.shown.back().empty())  // past the end both faces read the end text
+            EXPECT_EQ(reveal(s).word + "|" + reveal(s).meaning,
+                      "That's the end of the list!|That's the end of the list!");
     }
-    // Past the end both faces read the end text.
-    SharedState s = List(kAnimals, 3, "d");
-    ScriptedRng rng;
-    Deck deck;
-    setup(deck, s);
-    nextCard(deck, s, rng);
-    nextCard(deck, s, rng);
-    EXPECT_EQ(s.WordIndex, 6);
-    EXPECT_EQ(reveal(s).word, "That's the end of the list!");
-    EXPECT_EQ(reveal(s).meaning, "That's the end of the list!");
 }
 
 TEST(FlashCardRules, LetterNotFoundStartsAtTheBeginning) {
@@ -101,9 +91,7 @@ TEST(FlashCardRules, LetterNotFoundStartsAtTheBeginning) {
         Deck deck;
         EXPECT_EQ(setup(deck, s), std::string("No words in this list start with ") + letter +
                                       "! Starting at beginning of list instead...");
-        EXPECT_EQ(deck.mode, 1);
-        EXPECT_EQ(s.FlashCardMode, 1);
-        EXPECT_EQ(s.WordIndex, 0);
+        EXPECT_EQ(std::tuple(deck.mode, s.FlashCardMode, s.WordIndex), std::tuple(1, 1, 0));
         ScriptedRng rng;
         nextCard(deck, s, rng);
         nextCard(deck, s, rng);
@@ -121,8 +109,7 @@ TEST(FlashCardRules, TwinWordsShowTheFirstRowsMeaning) {
     nextCard(deck, s, rng);
     EXPECT_EQ(s.TheMeaning, "flies at night");
     nextCard(deck, s, rng);
-    EXPECT_EQ(s.TheWord, "bat");
-    EXPECT_EQ(s.TheMeaning, "flies at night");
+    EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning), std::tuple("bat", "flies at night"));
 }
 
 TEST(FlashCardRules, RandomCardsRepeatAndNeverShowPrevious) {
@@ -136,22 +123,25 @@ TEST(FlashCardRules, RandomCardsRepeatAndNeverShowPrevious) {
     for (const auto& [w, m] : rows) {
         nextCard(deck, s, rng);
         EXPECT_EQ(s.TheWord, w);  // the list's own row, not the sorted entry
-        EXPECT_EQ(s.TheMeaning, m);
-        EXPECT_FALSE(deck.view.previousShown);
-        EXPECT_TRUE(deck.view.position.empty());
+        EXPECT_EQ(std::tuple(s.TheMeaning, deck.view.previousShown, deck.view.position.empty()),
+                  std::tuple(m, false, true));
     }
     // The last row drawn hides Next for good.
     EXPECT_FALSE(deck.view.nextShown);
     EXPECT_EQ(rng.randomizeCount, 4);
+    // An empty list has no card to draw.
+    SharedState none = List({}, 2);
+    setup(deck, none);
+    nextCard(deck, none, rng);
+    EXPECT_EQ(reveal(none).word, "That's the end of the list!");
 }
 
 TEST(FlashCardRules, TheWordSideIsAlwaysCoveredFromTheOptions) {
     SharedState s = List(kAnimals, 1);
-    EXPECT_TRUE(coversWord(s));
-    s.ListChanged = 0;
-    EXPECT_TRUE(coversWord(s));
-    s.ListChanged = 1;  // never set by the options screen
-    EXPECT_FALSE(coversWord(s));
+    for (auto [changed, covers] : {std::pair{-1, true}, {0, true}, {1, false}}) {  // 1: never set
+        s.ListChanged = changed;
+        EXPECT_EQ(coversWord(s), covers) << changed;
+    }
     for (auto [mode, used] : {std::pair{0, 1}, {1, 1}, {2, 2}, {3, 3}, {4, 1}, {-2, 1}}) {
         s.FlashCardMode = mode;
         EXPECT_EQ(cardMode(s), used) << mode;

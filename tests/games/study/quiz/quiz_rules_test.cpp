@@ -9,22 +9,19 @@
 #include "core/rng.h"
 #include "core/shared_state.h"
 #include "games/study/quiz/quiz_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::quiz;
 
 namespace {
 
+// Words w1, w2... meaning m1, m2...
 SharedState List(int words, int difficulty, int length, int type = 1) {
-    SharedState s;
-    s.Words.assign(std::size_t(words) + 2, "");
-    s.Meanings.assign(std::size_t(words) + 2, "");
-    for (int i = 1; i <= words; ++i) {
-        s.Words[std::size_t(i)] = "w" + std::to_string(i);
-        s.Meanings[std::size_t(i)] = "m" + std::to_string(i);
-    }
-    s.WordCount = short(words);
-    s.Difficulty = difficulty;
+    std::vector<std::pair<std::string, std::string>> rows;
+    for (int i = 1; i <= words; ++i)
+        rows.push_back({"w" + std::to_string(i), "m" + std::to_string(i)});
+    SharedState s = test::PairsList(rows, difficulty);
     s.QuizLength = short(length);
     s.QuizType = short(type);
     return s;
@@ -46,16 +43,12 @@ TEST(QuizRules, ChoicesFollowTheDrawAndSkipTakenRows) {
     QuizRun run;
     startRun(run, s, rng);
     EXPECT_EQ(rng.pending(), 0u);
-    EXPECT_EQ(s.TheWord, "w2");
-    EXPECT_EQ(s.TheMeaning, "m2");
-    EXPECT_EQ(run.CorrectChoice, 2);
-    EXPECT_EQ(run.choiceCount, 3);
-    EXPECT_EQ(run.choices[0], "m4");
-    EXPECT_EQ(run.choices[1], "m2");
-    EXPECT_EQ(run.choices[2], "m5");
+    EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning, run.CorrectChoice, run.choiceCount),
+              std::tuple("w2", "m2", 2, 3));
+    EXPECT_EQ(std::tuple(run.choices[0], run.choices[1], run.choices[2]),
+              std::tuple("m4", "m2", "m5"));
     EXPECT_TRUE(run.choices[3].empty());
-    EXPECT_EQ(questionText(run, s), "w2");
-    EXPECT_EQ(run.QuestionsLeft, 4);
+    EXPECT_EQ(std::tuple(questionText(run, s), run.QuestionsLeft), std::tuple("w2", 4));
     EXPECT_GE(rng.randomizeCount, 1);  // reseeded for each question
 }
 
@@ -69,6 +62,10 @@ TEST(QuizRules, RepeatsComeFromTheFirstQuestionWhenTheListIsShort) {
     rng.pick(2, 5).pick(4, 5);
     ASSERT_TRUE(next(run, s, rng));
     EXPECT_EQ(run.asked, 4);
+    // Every word asked already (a run the options never make): the first word, not a blank.
+    run.AskedWords.assign(6, true);
+    makeQuestion(run, s, rng);
+    EXPECT_EQ(run.asked, 1);
 
     // Six questions on the same five words: row 2 may come straight back.
     s = List(5, 2, 6);
@@ -95,11 +92,16 @@ TEST(QuizRules, ExactlyAsManyWordsAsChoicesStillOffersThemAll) {
             EXPECT_LT(rng.draws, 4 * kDrawTries * (words + 1));
         }
     }
-    // Fewer words than choices (never let through by the chooser): blanks, no hang.
-    SharedState s = List(2, 4, 1);
+    // Fewer words than choices (never let through by the chooser): blanks, no hang, and no text
+    // left from the question before.
+    SharedState s = List(4, 4, 3);
     ScriptedRng rng(0.3);
     QuizRun run;
     startRun(run, s, rng);
+    s.WordCount = 2;
+    const int before = rng.draws;
+    ASSERT_TRUE(next(run, s, rng));
+    EXPECT_EQ(rng.draws - before, 2 + 4 * 401);  // each stuck draw gives up after 400 more
     EXPECT_EQ(std::count(run.choices.begin(), run.choices.begin() + 4, std::string()), 2);
 }
 
@@ -122,8 +124,7 @@ TEST(QuizRules, KindsByQuizType) {
     // Reached without the options screen: words, ten questions.
     s.QuizType = 0;
     s.QuizLength = 0;
-    EXPECT_EQ(quizType(s), 1);
-    EXPECT_EQ(quizLength(s), 10);
+    EXPECT_EQ(std::tuple(quizType(s), quizLength(s)), std::tuple(1, 10));
     s.QuizType = 4;
     EXPECT_EQ(quizType(s), 1);
     s.QuizLength = 1;  // the shortest quiz the options allow
@@ -147,9 +148,9 @@ TEST(QuizRules, AnswersCountAndChoicesPastTheLevelStayEmpty) {
     EXPECT_EQ(run.PickedChoice, right);
     EXPECT_EQ(std::pair(int(run.QuizRight), int(run.QuizWrong)), std::pair(1, 1));
     // Fewer choices on the next question: the ones past them are emptied.
-    s.Difficulty = 2;
+    s.Difficulty = 1;
     ASSERT_TRUE(next(run, s, rng));
-    EXPECT_EQ(std::count(run.choices.begin(), run.choices.end(), std::string()), 6);
+    EXPECT_EQ(std::count(run.choices.begin(), run.choices.end(), std::string()), 7);
     // Answers to a meaning are set larger than answers to a word.
     EXPECT_EQ(std::tuple(answerPointSize(1), answerPointSize(2), answerPointSize(3)),
               std::tuple(12, 18, 12));

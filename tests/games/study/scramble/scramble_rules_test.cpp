@@ -8,6 +8,7 @@
 
 #include "core/rng.h"
 #include "core/shared_state.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::scramble;
@@ -16,17 +17,6 @@ namespace {
 
 // 1280 x 960 pixels at 15 twips a pixel; "Your Guess:" two thirds of the way down.
 const ScreenGeometry kScreen{19200, 14400, 9000};
-
-SharedState listOf(const std::vector<std::string>& words, int difficulty = 1) {
-    SharedState s;
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        s.Words[i + 1] = words[i];
-        s.Meanings[i + 1] = "meaning of " + words[i];
-    }
-    s.WordCount = static_cast<short>(words.size());
-    s.Difficulty = difficulty;
-    return s;
-}
 
 // The value that makes a scattered top come out as `top` for the given letter height.
 double topRoll(int top, int height, int label3Top) {
@@ -77,15 +67,16 @@ TEST(Layout, ScatterRerollsOnlyWithinOneHeight) {
         .then(topRoll(1651, h, floor))  // one height away exactly: stands
         .then(topRoll(floor - h, h, floor));
     RowLayout row = layOutLetters(3, kScreen, true, rng);
-    EXPECT_EQ(row.boxes[0].top, 826);
-    EXPECT_EQ(row.boxes[1].top, 1651);
-    EXPECT_EQ(row.boxes[2].top, floor - h);
-    EXPECT_EQ(rng.draws, 4);
+    EXPECT_EQ(std::tuple(row.boxes[0].top, row.boxes[1].top, row.boxes[2].top, rng.draws),
+              std::tuple(826, 1651, floor - h, 4));
     EXPECT_EQ(row.boxes[1].left - row.boxes[0].left, 905);  // lefts do not scatter
+    ScriptedRng stuck(0.0);  // never clear of the letter before: the hundredth roll stands
+    layOutLetters(2, kScreen, true, stuck);
+    EXPECT_EQ(stuck.draws, 1 + 100);
 }
 
 TEST(NewGame, RoundDrawsInDesignedOrder) {
-    SharedState s = listOf({"cat", "horse", "dog"}, 2);
+    SharedState s = test::ListOf({"cat", "horse", "dog"}, 2);
     s.Score = 999;
     s.ElapsedSeconds = 42;
     ScrambleState round;
@@ -111,7 +102,7 @@ TEST(NewGame, RoundDrawsInDesignedOrder) {
 }
 
 TEST(NewGame, OnlyLongWordsEndOnTheMessage) {
-    SharedState s = listOf({std::string(25, 'a'), std::string(30, 'b')});
+    SharedState s = test::ListOf({std::string(25, 'a'), std::string(30, 'b')});
     ScrambleState round;
     ScriptedRng rng(0.7);
     NewGame game = newGame(s, round, kScreen, rng);
@@ -142,9 +133,10 @@ TEST(NewGame, WordsWithAStarArePickedAgainOrEndOnTheirMessage) {
         {{"a*b", tooLong}, {1, 1, 1, 1, 1, 2}, false, tooLongText},
         {{tooLong, "a*b"}, {1, 1, 1, 1, 1, 2}, false, star},
         {{std::string(20, 'y'), tooLong}, {2, 1}, true, std::string(20, 'y')},  // 20 still fits
+        {{std::string(19, 'y') + "*", "a*b"}, {2, 2, 2, 2, 2, 1}, false, star},
     };
     for (const Case& c : cases) {
-        SharedState s = listOf(c.words);
+        SharedState s = test::ListOf(c.words);
         ScrambleState round;
         ScriptedRng rng;
         for (int k : c.picks) rng.pick(k, static_cast<int>(c.words.size()));
@@ -167,12 +159,9 @@ TEST(Flicker, OnlyTheLetterBlackedLastComesBack) {
     ScriptedRng rng;
     rng.pick(2, 5).pick(4, 5);
     FlickerStep first = flicker(round, 2, rng);
-    EXPECT_EQ(first.yellow, -1);
-    EXPECT_EQ(first.black1, 1);
-    EXPECT_EQ(first.black2, -1);
+    EXPECT_EQ(std::tuple(first.yellow, first.black1, first.black2), std::tuple(-1, 1, -1));
     FlickerStep second = flicker(round, 2, rng);
-    EXPECT_EQ(second.yellow, 1);
-    EXPECT_EQ(second.black1, 3);
+    EXPECT_EQ(std::tuple(second.yellow, second.black1), std::tuple(1, 3));
     EXPECT_EQ(round.black, (std::vector<bool>{false, false, false, true, false}));
 
     // At Difficulty 3 only the second of the pair comes back: the word darkens tick by tick.
@@ -180,11 +169,9 @@ TEST(Flicker, OnlyTheLetterBlackedLastComesBack) {
     hard.scrambled = "abcde";
     rng.pick(1, 5).pick(2, 5).pick(3, 5).pick(4, 5);
     FlickerStep pair = flicker(hard, 3, rng);
-    EXPECT_EQ(pair.black1, 0);
-    EXPECT_EQ(pair.black2, 1);
+    EXPECT_EQ(std::tuple(pair.black1, pair.black2), std::tuple(0, 1));
     FlickerStep next = flicker(hard, 3, rng);
-    EXPECT_EQ(next.yellow, 1);
-    EXPECT_EQ(next.yellow2, -1);
+    EXPECT_EQ(std::tuple(next.yellow, next.yellow2), std::tuple(1, -1));
     EXPECT_EQ(hard.black, (std::vector<bool>{true, false, true, true, false}));
     // A letter drawn again while dark stays dark; the one drawn last comes back next tick.
     rng.pick(5, 5).pick(1, 5);
@@ -199,6 +186,10 @@ TEST(Flicker, OnlyTheLetterBlackedLastComesBack) {
 
     ScrambleState blank;
     EXPECT_EQ(flicker(blank, 3, rng).black1, -1);
+    round.lastBlack = 5;  // left by a longer word: nothing to bring back
+    EXPECT_EQ(flicker(round, 2, rng).yellow, -1);
+    ScriptedRng top(1.0);  // a generator at its very top still blacks a letter of the word
+    EXPECT_EQ(flicker(round, 2, top).black1, 4);
 }
 
 TEST(Score, FactorsAtEachDifficulty) {
@@ -237,7 +228,7 @@ TEST(Guess, ComparedLowerCasedAndEmptyIsNoGuess) {
 }
 
 TEST(Guess, HintCostsNothingOnceRight) {
-    SharedState s = listOf({"Cat"}, 1);
+    SharedState s = test::ListOf({"Cat"}, 1);
     s.TheWord = "Cat";
     s.TheMeaning = "-----";  // a words-only list
     ScrambleState round;
