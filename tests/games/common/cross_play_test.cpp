@@ -24,6 +24,15 @@ PlayBoard catHat() {
     return makePlayBoard(b, 25, 19);
 }
 
+// "OX" (word 1) across from column `col` of row `row`.
+PlayBoard oxAcross(int col, int row) {
+    CrossBoard b;
+    b.CrossLetters[col][row] = 'O';
+    b.CrossLetters[col + 1][row] = 'X';
+    b.CrossWordAt[col][row][kAcross] = 1;
+    return makePlayBoard(b, 25, 19);
+}
+
 std::string pinks(const PlayBoard& b) {
     std::string s;
     for (int i = 0; i < b.cells(); ++i)
@@ -167,23 +176,15 @@ TEST(CrossPlay, EdgeTestsAreKeptAsDesigned) {
     clickCell(b, 474);  // another word selected, so cell 25 is not pink
     EXPECT_FALSE(clickCell(b, 25));
     // Cell 1 has cell 0 on its left: a word across the top from the first cell is found from it.
-    CrossBoard top;
-    top.CrossLetters[1][1] = 'O';
-    top.CrossLetters[2][1] = 'X';
-    top.CrossWordAt[1][1][kAcross] = 1;
-    PlayBoard t = makePlayBoard(top, 25, 19);
+    PlayBoard t = oxAcross(1, 1);
     EXPECT_TRUE(clickCell(t, 1));
     EXPECT_EQ(t.SelStart, 0);
     // A solved word across the last row: clicked again, there is no row below to look at.
-    CrossBoard bottom;
-    bottom.CrossLetters[2][19] = 'O';
-    bottom.CrossLetters[3][19] = 'X';
-    bottom.CrossWordAt[2][19][kAcross] = 1;
-    PlayBoard last = makePlayBoard(bottom, 25, 19);
+    PlayBoard last = oxAcross(2, 19);
     ASSERT_TRUE(clickCell(last, 451));
     ASSERT_TRUE(giveAnswer(last, "ox"));
     EXPECT_FALSE(clickCell(last, 451));
-    PlayBoard first = makePlayBoard(top, 25, 19);
+    PlayBoard first = oxAcross(1, 1);
     EXPECT_TRUE(clickCell(first, 0));  // from its first cell, the word runs on to the right
     EXPECT_EQ(pinks(first), "0 1 ");
     EXPECT_FALSE(clickCell(t, -1));
