@@ -2,8 +2,9 @@
 // never Cancel; text the list file cannot hold is refused where it is typed, and letters typed
 // with a separate accent are stored as the one accented letter. Also the category file the
 // editor may not take.
-#include "shell/fl_form.h"
 #include "look.h"
+#include "shell/fl_form.h"
+#include "teacher/list_exchange.h"
 #include "teacher_fixture.h"
 
 using namespace wm;
@@ -70,7 +71,11 @@ private slots:
              {"Label2=Categories", "Label3=Word Lists (None Selected)", "Command2=Add New Category",
               "Command3=Delete Category", "Command1=Save", "Command4=Cancel"}},
             {[] { return new SoundOptions; }, "Save", {}},
-            {[] { return new SpeechOptions; }, "Save", {"RateLabel=Speaking rate:"}},
+            {[] { return new SpeechOptions; }, "Save",
+             {"RateLabel=Speaking rate:",
+              "SpeechOn=Games may say the words aloud (\"Say It\" and the flash cards' speaker)"}},
+            {[] { return new ExportForm; }, "Export",
+             {"Command1=Cancel", "Browse=Browse...", "Kvtml=KVTML (vocabulary trainers)"}},
             {[] { return new EnableDisable; }, "Apply", {}},
         };
         for (const auto& [make, okText, captions] : boxes) {
