@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QImage>
 #include <QString>
+#include <QWidget>
 #include <algorithm>
 #include <cstdlib>
 #include <functional>
