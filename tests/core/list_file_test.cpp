@@ -45,8 +45,8 @@ TEST_F(ListFileTest, NamesAndExistence) {
     EXPECT_TRUE(NameExists(path, "colours"));
     EXPECT_FALSE(NameExists(path, "cat"));
     // "[S]a" is a plain name of four characters after a separator...
-    dir.writeLines("thelists.dat",
-                   {"X", "w", "d", "<New List>", "[S]a", "w", "d", "<New List>", "[S]ab", "w", "d"});
+    dir.writeLines("thelists.dat", {"X", "w", "d", "<New List>", "[S]a", "w", "d", "<New List>",
+                                    "[S]ab", "w", "d"});
     EXPECT_TRUE(NameExists(path, "[S]a"));
     EXPECT_FALSE(NameExists(path, "a"));
     EXPECT_TRUE(NameExists(path, "ab"));  // five characters: the language mark comes off
