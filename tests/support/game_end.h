@@ -20,10 +20,10 @@ Game* FromTitle(ShellFixture& fx, const QString& game, const Pairs& pairs, int l
     for (int step = 0; step < 2; ++step) {
         if (auto* options = Showing<GameOptions>()) {
             options->SpeedBar->setValue(level);
-            options->continueOn();
+            options->Command1->click();
         } else if (auto* chooser = Showing<ChooseList>()) {
             if (SelectList(chooser, "Test Words (") < 0) return nullptr;
-            chooser->continueOn();
+            chooser->findChild<QPushButton*>("Command1")->click();
         }
         Pump();
     }

@@ -99,10 +99,11 @@ inline ChooseList* ChooserFor(const QString& game, int difficulty, bool optionOn
 // is passed with its values as they stand. Returns the screen shown afterwards.
 inline QWidget* ContinueWithList(ChooseList* chooser, const QString& listStartsWith) {
     if (!chooser || SelectList(chooser, listStartsWith) < 0) return nullptr;
-    chooser->continueOn();
+    // The buttons a pupil presses, not the slots behind them.
+    chooser->findChild<QPushButton*>("Command1")->click();
     Pump();
     if (auto* options = Showing<GameOptions>()) {
-        options->continueOn();
+        options->Command1->click();
         Pump();
     }
     return CurrentScreen();
@@ -123,7 +124,7 @@ inline QWidget* PlayFromTitle(const QString& game, const QString& listStartsWith
                 auto* chooser = Showing<ChooseList>();
                 if (options) {
                     options->SpeedBar->setValue(difficulty);
-                    options->continueOn();
+                    options->Command1->click();
                     Pump();
                     chooser = Showing<ChooseList>();
                 }
