@@ -71,7 +71,11 @@ TEST(WavWriter, HeaderSizesAreExactAtEveryLength) {
 
 TEST(Synth, FinishFadesTheEndsAndNormalisesToThePeak) {
     Synth s(0.2);
-    s.tone(Tone{.length = 0.2, .attack = 0, .release = 0});
+    Tone t;
+    t.length = 0.2;
+    t.attack = 0;
+    t.release = 0;
+    s.tone(t);
     const std::vector<std::int16_t> out = s.finish(0.5);
     int peak = 0;
     for (std::int16_t v : out) peak = std::max(peak, std::abs(static_cast<int>(v)));
