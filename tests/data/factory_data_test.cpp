@@ -2,6 +2,7 @@
 // installation must start, list, load and lay out exactly as designed.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <map>
@@ -26,18 +27,14 @@ std::string DataFile(const std::string& name) {
 }
 
 bool HasHighByte(const std::string& s) {
-    for (unsigned char c : s) {
-        if (c >= 191) return true;
-    }
-    return false;
+    return std::any_of(s.begin(), s.end(), [](unsigned char c) { return c >= 191; });
 }
 
 // The chooser's table of foreign lists: prefixed names longer than four characters.
 std::vector<ForeignList> ForeignTable(const std::vector<std::string>& names) {
     std::vector<ForeignList> foreign;
-    for (const auto& n : names) {
+    for (const auto& n : names)
         if (Len(n) > 4 && HasPrefix(n)) foreign.push_back({Mid(n, 2, 1), PlainName(n)});
-    }
     return foreign;
 }
 
@@ -59,12 +56,11 @@ Loaded Load(const std::string& stored, const std::vector<std::string>& names,
     hooks.message = [&](const std::string& m) { messages.push_back(m); };
     LoadList(DataFile("thelists.new"), state, ForeignTable(names), hooks);
     EXPECT_TRUE(messages.empty()) << stored;
-    Loaded out{stored, {}, {}, state.WordsOnly == kTrue};
-    for (int i = 1; i <= state.WordCount; ++i) {
-        out.words.push_back(state.Words[i]);
-        out.meanings.push_back(state.Meanings[i]);
-    }
-    return out;
+    const int n = state.WordCount;
+    return {stored,
+            {state.Words.begin() + 1, state.Words.begin() + 1 + n},
+            {state.Meanings.begin() + 1, state.Meanings.begin() + 1 + n},
+            state.WordsOnly == kTrue};
 }
 
 TEST(FactoryFiles, EveryLineEndsInCrLf) {
@@ -73,14 +69,12 @@ TEST(FactoryFiles, EveryLineEndsInCrLf) {
         const std::string bytes = ReadBytes(DataFile(name));
         ASSERT_GE(bytes.size(), 2u);
         EXPECT_EQ(bytes.substr(bytes.size() - 2), "\r\n");
-        for (std::size_t i = 0; i < bytes.size(); ++i) {
-            if (bytes[i] == '\n') {
-                EXPECT_TRUE(i > 0 && bytes[i - 1] == '\r') << "lone LF at " << i;
-            }
-            if (bytes[i] == '\r') {
-                EXPECT_TRUE(i + 1 < bytes.size() && bytes[i + 1] == '\n') << "lone CR at " << i;
-            }
-        }
+        // Every LF has its CR before it, every CR its LF after it.
+        std::ptrdiff_t pairs = 0;
+        for (auto at = bytes.find("\r\n"); at != std::string::npos; at = bytes.find("\r\n", at + 2))
+            ++pairs;
+        EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), pairs);
+        EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\r'), pairs);
     }
 }
 
@@ -132,8 +126,7 @@ TEST(FactoryLists, EachListLoadsWholeAndClean) {
     for (const auto& stored : names) {
         SCOPED_TRACE(stored);
         const Loaded list = Load(stored, names);
-        EXPECT_GE(list.words.size(), 20u);
-        EXPECT_LE(list.words.size(), 40u);
+        EXPECT_TRUE(list.words.size() >= 20 && list.words.size() <= 40) << list.words.size();
         if (list.wordsOnly) {
             ++wordsOnlyLists;
             // The chooser tests the last definition line, the loader the first: all must agree.

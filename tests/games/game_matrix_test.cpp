@@ -10,7 +10,7 @@
 #include <random>
 
 #include "core/rng.h"
-#include "game_road.h"
+#include "game_end.h"
 #include "shell/game_registry.h"
 #include "shell/high_score_form.h"
 #include "teacher/program_options.h"
@@ -19,8 +19,6 @@ using namespace wm;
 using namespace wm::test;
 
 namespace {
-
-using Pairs = std::vector<std::pair<std::string, std::string>>;
 
 struct MatrixList {
     QString name;
@@ -47,14 +45,11 @@ std::vector<MatrixList> Lists() {
                       {"supercalifragilisticexpialidocious", "wonderful, in a song"},
                       {"antidisestablishmentarianisms", "against a state church, and more"},
                       {"floccinaucinihilipilifications", "the act of judging worthless"}}});
-    lists.push_back({"Words Only",
-                     {{"accommodate", ""},
-                      {"believe", ""},
-                      {"calendar", ""},
-                      {"definitely", ""},
-                      {"embarrass", ""},
-                      {"friend", ""}},
-                     true});
+    MatrixList wordsOnly{"Words Only", {}, true};
+    for (const char* w :
+         {"accommodate", "believe", "calendar", "definitely", "embarrass", "friend"})
+        wordsOnly.pairs.push_back({w, ""});
+    lists.push_back(std::move(wordsOnly));
     MatrixList big{"Thousand Words", {}};
     for (int i = 0; i < 1000; ++i)
         big.pairs.push_back({LettersOf(i, 3 + i % 9), "meaning number " + std::to_string(i + 1)});
@@ -96,13 +91,6 @@ const int kKeys[] = {Qt::Key_A,     Qt::Key_E,      Qt::Key_O,         Qt::Key_T
                      Qt::Key_Down,  Qt::Key_Return, Qt::Key_Backspace, Qt::Key_Z,
                      Qt::Key_1,     Qt::Key_Minus,  Qt::Key_Apostrophe};
 
-// The menu's Quit entry, whatever its control name.
-QAction* QuitOf(QWidget* screen) {
-    for (auto* a : screen ? screen->findChildren<QAction*>() : QList<QAction*>())
-        if (a->text() == "Quit") return a;
-    return nullptr;
-}
-
 }  // namespace
 
 class GameMatrix : public QObject {
@@ -116,17 +104,13 @@ private slots:
 
 void GameMatrix::everyRegistrationNamesACard() {
     QCOMPARE(GameRegistrationErrors(), QStringList{});
+    ShellFixture fx;
     int built = 0;
     for (const GameCard& card : Catalogue()) {
         if (!card.built()) continue;
         ++built;
         QVERIFY2(HasScreen(QString::fromStdString(card.screen)), card.name.c_str());
-        // Every asset the game declares was made by the build.
-        for (const std::string& asset : card.assets) {
-            const QString path = QString(WM_ASSET_DIR) + "/" + QString::fromStdString(asset);
-            QVERIFY2(QFile::exists(path), qPrintable(QString::fromStdString(card.name) + ": " +
-                                                     QString::fromStdString(asset)));
-        }
+        QCOMPARE(MissingAssets(fx, card.name.c_str()), QString());  // the build made them all
     }
     QVERIFY(built >= 1);
 }
@@ -153,13 +137,9 @@ void GameMatrix::allFortyTwoAreOffered() {
     // The score browser steps through all 42 and stops at the last.
     Shared().CurrentGame = "Title";
     HighScoreForm scores;
-    QStringList seen{scores.game()};
-    for (int i = 0; i < 41; ++i) {
-        scores.nextGame();
-        seen << scores.game();
-    }
+    QStringList seen;
+    for (int i = 0; i < 42; ++i, scores.nextGame()) seen << scores.game();
     QCOMPARE(QSet<QString>(seen.begin(), seen.end()).size(), 42);
-    scores.nextGame();
     QCOMPARE(scores.game(), seen.last());
     EnableDisable shows;
     QCOMPARE(shows.games()->count(), 42);
@@ -188,7 +168,6 @@ void GameMatrix::everyGameSurvivesAwkwardLists_data() {
                 << QString::fromStdString(card->name) << i;
 }
 
-
 void GameMatrix::everyGameSurvivesAwkwardLists() {
     QFETCH(QString, game);
     QFETCH(int, list);
@@ -209,8 +188,7 @@ void GameMatrix::everyGameSurvivesAwkwardLists() {
     WriteOneList(fx, ml.name, ml.pairs, ml.wordsOnly);
     OpenScreen("Title");
     Pump();
-    const bool optionOn = (list % 2) == 0;
-    ChooseList* chooser = ChooserFor(game, card->options.start, optionOn);
+    ChooseList* chooser = ChooserFor(game, card->options.start, list % 2 == 0);
     QVERIFY(chooser);
     Shared().TheWord = "\x01";  // untouched by a game that plays no single word
     QPointer<QWidget> screen = ContinueWithList(chooser, ml.name + " (");
@@ -222,8 +200,7 @@ void GameMatrix::everyGameSurvivesAwkwardLists() {
     }
     QCOMPARE(screen->objectName(), QString::fromStdString(card->screen));
 
-    int step = 0;
-    for (; step < 60 && screen && CurrentScreen() == screen; ++step) {
+    for (int step = 0; step < 60 && screen && CurrentScreen() == screen; ++step) {
         QVERIFY2(!Shared().TheWord.empty(), "an empty word was played");
         QWidget* target = screen;
         switch (dice() % 5) {
@@ -268,7 +245,9 @@ void GameMatrix::everyGameSurvivesAwkwardLists() {
         QTest::keyClick(screen, Qt::Key_Escape);
         Pump();
         if (screen && CurrentScreen() == screen) {
-            QAction* quit = QuitOf(screen);
+            QAction* quit = nullptr;  // the menu's Quit entry, whatever its control name
+            for (auto* a : screen->findChildren<QAction*>())
+                if (!quit && a->text() == "Quit") quit = a;
             QVERIFY(quit);
             quit->trigger();
             Pump();

@@ -164,23 +164,20 @@ private slots:
 
     void voicePlans() {
         const auto R = SoundMode::Replace, N = SoundMode::NoInterrupt, O = SoundMode::Overlap;
-        const struct {
-            SoundMode mode;
-            std::vector<bool> mine;
-            bool other;
-            int voice;
-            bool stopOthers;
-        } rows[] = {{R, {true, true}, true, 0, true},      // replace cuts whatever sounds
-                    {N, {false}, false, 0, false},         // a bleep into silence
-                    {N, {true}, false, -1, false},         // a bleep over itself
-                    {N, {false}, true, -1, false},         // over another
-                    {N, {false, true}, false, -1, false},  // over a second voice of its own
-                    {O, {true, false}, true, 1, false},    // overlap reuses a free voice
-                    {O, {true, true}, false, 2, false},    // or adds one
-                    {O, std::vector<bool>(kMaxVoices, true), false, 0, false}};  // cap: the oldest
-        for (const auto& r : rows) {
-            const VoicePlan plan = PlanVoice(r.mode, r.mine, r.other);
-            QCOMPARE(std::pair(plan.voice, plan.stopOthers), std::pair(r.voice, r.stopOthers));
+        // The mode, which of the effect's own voices sound, whether another sounds; the voice and
+        // whether the others stop.
+        const std::tuple<SoundMode, std::vector<bool>, bool, int, bool> rows[] = {
+            {R, {true, true}, true, 0, true},      // replace cuts whatever sounds
+            {N, {false}, false, 0, false},         // a bleep into silence
+            {N, {true}, false, -1, false},         // a bleep over itself
+            {N, {false}, true, -1, false},         // over another
+            {N, {false, true}, false, -1, false},  // over a second voice of its own
+            {O, {true, false}, true, 1, false},    // overlap reuses a free voice
+            {O, {true, true}, false, 2, false},    // or adds one
+            {O, std::vector<bool>(kMaxVoices, true), false, 0, false}};  // cap: the oldest
+        for (const auto& [mode, mine, other, voice, stopOthers] : rows) {
+            const VoicePlan plan = PlanVoice(mode, mine, other);
+            QCOMPARE(std::pair(plan.voice, plan.stopOthers), std::pair(voice, stopOthers));
         }
     }
 
@@ -231,15 +228,13 @@ private slots:
     // A 1600x1000 stage on a wide screen is cut top and bottom, on a tall one left and right,
     // and stays whole on a screen of its own shape.
     void stagesCoverTheScreen() {
-        struct Row {
-            QSizeF screen;
-            double scale, dx, dy;
-        } rows[] = {
+        // The screen, the scale and the shift.
+        const std::tuple<QSizeF, double, double, double> rows[] = {
             {{1920, 1080}, 1.2, 0, -60}, {{1280, 1024}, 1.024, -179.2, 0}, {{800, 500}, 0.5, 0, 0}};
-        for (const Row& r : rows) {
-            const QTransform t = scene::coverStage(r.screen, {1600, 1000});
-            QCOMPARE(QPointF(t.m11(), t.m22()), QPointF(r.scale, r.scale));
-            QCOMPARE(QPointF(t.dx(), t.dy()), QPointF(r.dx, r.dy));
+        for (const auto& [screen, scale, dx, dy] : rows) {
+            const QTransform t = scene::coverStage(screen, {1600, 1000});
+            QCOMPARE(QPointF(t.m11(), t.m22()), QPointF(scale, scale));
+            QCOMPARE(QPointF(t.dx(), t.dy()), QPointF(dx, dy));
         }
         QCOMPARE(scene::coverStage({800, 600}, {}), QTransform());
     }
@@ -341,18 +336,16 @@ private slots:
     }
 
     void pointerCountsLikeThePlatform() {
-        QCOMPARE(Pointer::count(), 0);
-        QVERIFY(!cursorBlank());
-        QCOMPARE(Pointer::show(false), -1);
-        QVERIFY(cursorBlank());
-        QCOMPARE(Pointer::show(false), -2);
-        QCOMPARE(Pointer::show(true), -1);
-        QVERIFY(Pointer::isHidden() && cursorBlank());
-        QCOMPARE(Pointer::show(true), 0);
-        QVERIFY(!cursorBlank());
-        QCOMPARE(Pointer::show(true), 1);  // shown twice needs two hides
-        QCOMPARE(Pointer::show(false), 0);
-        QVERIFY(!cursorBlank());
+        QVERIFY(Pointer::count() == 0 && !cursorBlank());
+        // Show or hide, the count it leaves, and whether the pointer is hidden: shown twice
+        // needs two hides.
+        const std::tuple<bool, int, bool> steps[] = {{false, -1, true}, {false, -2, true},
+                                                     {true, -1, true},  {true, 0, false},
+                                                     {true, 1, false},  {false, 0, false}};
+        for (auto [show, count, hidden] : steps) {
+            QCOMPARE(Pointer::show(show), count);
+            QCOMPARE(std::pair(Pointer::isHidden(), cursorBlank()), std::pair(hidden, hidden));
+        }
         QCOMPARE(QGuiApplication::overrideCursor(), nullptr);  // nothing left on the stack
 
         // A screen that hides the pointer and closes without showing it again.

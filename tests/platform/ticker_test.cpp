@@ -55,9 +55,8 @@ TEST_F(TickerTest, DueTimersFireInTimeOrderAndAsOftenAsDue) {
     const std::vector<std::string> expected = {"tiny@16", "fast@30", "tiny@32", "once@40",
                                                "tiny@48", "slow@50", "fast@60", "tiny@64"};
     EXPECT_EQ(log.lines, expected);
-    EXPECT_FALSE(once.isActive());
-    EXPECT_TRUE(slow.isActive());
-    EXPECT_EQ(Ticker::get().now() - log.start, 65);
+    EXPECT_EQ(std::tuple(once.isActive(), slow.isActive(), Ticker::get().now() - log.start),
+              std::tuple(false, true, 65));
     // The remainder of a part-way interval carries into the next advance.
     log.lines.clear();
     tiny.stop();
@@ -87,8 +86,7 @@ TEST_F(TickerTest, StoppedOrDeletedInsideATimeoutNeverFiresAgain) {
     Ticker::get().advance(100);
     EXPECT_EQ(log.lines, (std::vector<std::string>{"first@20", "self", "first@40", "first@60",
                                                    "first@80", "first@100"}));
-    EXPECT_EQ(selfDeleting, nullptr);
-    EXPECT_FALSE(stopped.isActive());
+    EXPECT_TRUE(selfDeleting == nullptr && !stopped.isActive());
 }
 
 TEST_F(TickerTest, StartedInsideATimeoutCountsFromThatMoment) {

@@ -38,6 +38,13 @@ QMap<QString, QByteArray> snapshot(const QString& root) {
     return out;
 }
 
+// Writes `bytes` to `path`, or adds them at its end; whether it could.
+bool Put(const QString& path, const QByteArray& bytes,
+         QIODevice::OpenMode mode = QIODevice::WriteOnly) {
+    QFile f(path);
+    return f.open(mode) && f.write(bytes) == bytes.size();
+}
+
 }  // namespace
 
 class AssetFilesTest : public QObject {
@@ -48,10 +55,7 @@ private slots:
         QVERIFY(dir_.isValid());
         // A pupil's score table from an earlier run of the program.
         QVERIFY(QDir(dir_.path()).mkpath("scores"));
-        QFile score(dir_.filePath("scores/Quiz.dat"));
-        QVERIFY(score.open(QIODevice::WriteOnly));
-        score.write(kScore);
-        score.close();
+        QVERIFY(Put(dir_.filePath("scores/Quiz.dat"), kScore));
         QString error;
         QVERIFY2(generate(sourceAssetsDir(), dir_.path(),
                           {"pictures", "buttons", "tunes", "movies", "art"}, &error),
@@ -73,7 +77,6 @@ private slots:
             QVERIFY2(!seen.contains(hash), qPrintable(gameName(i) + " looks like another button"));
             seen.insert(hash);
         }
-        QCOMPARE(seen.size(), wm::kGameCount);
     }
 
     // Every manifest line is in the folder with content the program can use.
@@ -104,7 +107,8 @@ private slots:
                 int at = 14, seen = 0;
                 while (at + 8 <= b.size() && b.mid(at, 4) == "MTrk") {
                     at += 8 + int(u32(at + 4));
-                    QVERIFY2(at <= b.size() && b.mid(at - 3, 3) == QByteArray("\xFF\x2F\0", 3), qPrintable(e.name));
+                    QVERIFY2(at <= b.size() && b.mid(at - 3, 3) == QByteArray("\xFF\x2F\0", 3),
+                             qPrintable(e.name));
                     ++seen;
                 }
                 QCOMPARE(at, int(b.size()));
@@ -125,11 +129,7 @@ private slots:
         const QString mid = dir_.filePath("sounds/wmtheme.mid");
         const QString jpg = dir_.filePath("images/wm-back.jpg");
         const QString jpg2 = dir_.filePath("buttons/Quiz.jpg");
-        for (const QString& path : {mid, jpg}) {
-            QFile f(path);
-            QVERIFY(f.open(QIODevice::WriteOnly));
-            f.write("spoilt");
-        }
+        for (const QString& path : {mid, jpg}) QVERIFY(Put(path, "spoilt"));
         const QDateTime buttonTime = QFileInfo(jpg2).lastModified();
         QString error;
         QVERIFY2(generate(sourceAssetsDir(), dir_.path(), {"tunes"}, &error), qPrintable(error));
@@ -148,21 +148,17 @@ private slots:
     void aBrokenRecipeNamesItsFileAndLine() {
         QTemporaryDir src, app;
         QVERIFY(QDir(src.path()).mkpath("sounds"));
-        QFile manifest(src.filePath("manifest.txt"));
-        QVERIFY(manifest.open(QIODevice::WriteOnly));
-        manifest.write("sound sounds/pop.sound sounds/pop.wav\n"
-                       "sound sounds/tick.sound sounds/tick.wav\n");
-        manifest.close();
-        QVERIFY(QFile::copy(sourceAssetsDir() + "/sounds/pop.sound", src.filePath("sounds/pop.sound")));
+        QVERIFY(Put(src.filePath("manifest.txt"),
+                    "sound sounds/pop.sound sounds/pop.wav\n"
+                    "sound sounds/tick.sound sounds/tick.wav\n"));
+        QVERIFY(
+            QFile::copy(sourceAssetsDir() + "/sounds/pop.sound", src.filePath("sounds/pop.sound")));
         QString error;
         QVERIFY(!generate(src.path(), app.path(), {"sounds"}, &error));
         QVERIFY2(error.contains("sounds/tick.sound"), qPrintable(error));
         QVERIFY(QFile::copy(sourceAssetsDir() + "/sounds/tick.sound",
                             src.filePath("sounds/tick.sound")));
-        QFile pop(src.filePath("sounds/pop.sound"));
-        QVERIFY(pop.open(QIODevice::Append));
-        pop.write("tone frq=300\n");
-        pop.close();
+        QVERIFY(Put(src.filePath("sounds/pop.sound"), "tone frq=300\n", QIODevice::Append));
         QVERIFY(!generate(src.path(), app.path(), {"sounds"}, &error));
         QVERIFY2(error.startsWith(src.filePath("sounds/pop.sound") + ":"), qPrintable(error));
         QVERIFY2(error.endsWith("tone has no key \"frq\""), qPrintable(error));

@@ -59,7 +59,7 @@ void HelpPagesTest::everyOfferedGameHasItsPageAndNoOtherDoes() {
         QVERIFY2(html.contains("src=\"../../" + button + "\""), qPrintable(page));
         QVERIFY2(index.contains("href=\"" + page + "\""), qPrintable(page));
         if (card.options.hasDifficulty)
-            QVERIFY2(html.contains(QStringLiteral("from level %1 (easiest) to level %2")
+            QVERIFY2(html.contains(QString("from level %1 (easiest) to level %2")
                                        .arg(card.options.min)
                                        .arg(card.options.max)),
                      qPrintable(page));
@@ -68,9 +68,8 @@ void HelpPagesTest::everyOfferedGameHasItsPageAndNoOtherDoes() {
     QCOMPARE(AllPages().size(), built + 2);  // and the index and the teacher's guide
     QVERIFY(index.contains(QString::number(built) + " games that turn vocabulary lists"));
     const QString teacher = Read(kHelp + "/teacher.htm");
-    QVERIFY(teacher.contains("mapleton"));
-    QVERIFY(teacher.contains("Teacher Management"));
-    QVERIFY(teacher.contains("thelists.dat"));
+    for (const char* text : {"mapleton", "Teacher Management", "thelists.dat"})
+        QVERIFY2(teacher.contains(text), text);
 }
 
 void HelpPagesTest::everyLinkAndPictureIsFound() {
@@ -83,8 +82,8 @@ void HelpPagesTest::everyLinkAndPictureIsFound() {
             const auto match = m.next();
             const QString target = match.captured(1);
             QVERIFY2(!target.contains("://"), qPrintable(page + ": " + target));
-            const QString file =
-                target.isEmpty() ? page : here.absoluteFilePath(QUrl::fromPercentEncoding(target.toUtf8()));
+            const QString decoded = QUrl::fromPercentEncoding(target.toUtf8());
+            const QString file = target.isEmpty() ? page : here.absoluteFilePath(decoded);
             QVERIFY2(QFile::exists(file), qPrintable(page + ": " + target));
             if (const QString anchor = match.captured(3); !anchor.isEmpty())
                 QVERIFY2(Read(file).contains("id=\"" + anchor + "\""),

@@ -13,7 +13,6 @@
 
 using namespace wm::assetgen;
 
-
 TEST(SoundRecipe, MistakesNameTheFileAndLine) {
     const std::vector<std::pair<const char*, const char*>> cases = {
         {"", "t.sound:1: a recipe starts with"},
@@ -69,13 +68,11 @@ TEST(Manifest, ReadsNamesWithBlanksAndSizes) {
                       "m.txt", &entries, &error))
         << error.toStdString();
     ASSERT_EQ(entries.size(), 3u);
-    EXPECT_EQ(entries[0].name, "buttons/Bomb Squad 2.jpg");
-    EXPECT_EQ(entries[0].size, QSize(360, 270));
-    EXPECT_EQ(entries[0].line, 3);
-    EXPECT_EQ(groupOf(entries[0].kind), "buttons");
-    EXPECT_EQ(entries[1].source, "sounds/a.sound");
-    EXPECT_TRUE(entries[1].size.isEmpty());
-    EXPECT_EQ(groupOf(entries[2].kind), "");
+    EXPECT_EQ(
+        std::tuple(entries[0].name, entries[0].size, entries[0].line, groupOf(entries[0].kind)),
+        std::tuple("buttons/Bomb Squad 2.jpg", QSize(360, 270), 3, "buttons"));
+    EXPECT_EQ(std::tuple(entries[1].source, entries[1].size.isEmpty(), groupOf(entries[2].kind)),
+              std::tuple("sounds/a.sound", true, ""));
 }
 
 TEST(Manifest, BadLinesAreRefusedWithTheirLine) {

@@ -62,11 +62,12 @@ private:
         return scene;
     }
 
-    static QImage draw(MovieScene& scene, double t) {
-        QImage img(200, 100, QImage::Format_ARGB32);
+    static QImage draw(MovieScene& scene, double t, QSize size = {200, 100}) {
+        QImage img(size, QImage::Format_ARGB32);
         img.fill(Qt::white);
         QPainter p(&img);
-        scene.paint(p, QRectF(0, 0, 200, 100), t);
+        p.setRenderHint(QPainter::Antialiasing);
+        scene.paint(p, QRectF(img.rect()), t);
         return img;
     }
 
@@ -81,24 +82,22 @@ private slots:
         QVERIFY(scene);
         QCOMPARE(scene->duration(), 4.0);
         QCOMPARE(scene->naturalSize(), QSize(200, 100));
-        struct Row {
-            double t, x, opacity;
-            int frame;
-        };
-        for (const Row& r :
-             std::vector<Row>{{0, 50, 0, 0},
-                              {0.5, 100, 0.5, 0},
-                              {1, 150, 1, 0},
-                              {1.99, 150 - 100 * std::pow(0.495, 3), 1, 0},  // eased in
-                              {2, 137.5, 1, 1},  // the frame switches on its key
-                              {2.5, 150 - 100 * std::pow(0.75, 3), 1, 1},
-                              {3, 50, 1, 1},
-                              {3.9, 50, 1, 1}}) {
-            const SpriteState s = scene->stateAt("lamp", r.t);
-            QVERIFY2(qAbs(s.x - r.x) < 1e-9, qPrintable(QString("x at %1: %2").arg(r.t).arg(s.x)));
+        // The time, x, the opacity and the frame.
+        for (const auto& [t, x, opacity, frame] :
+             std::vector<std::tuple<double, double, double, int>>{
+                 {0, 50, 0, 0},
+                 {0.5, 100, 0.5, 0},
+                 {1, 150, 1, 0},
+                 {1.99, 150 - 100 * std::pow(0.495, 3), 1, 0},  // eased in
+                 {2, 137.5, 1, 1},                              // the frame switches on its key
+                 {2.5, 150 - 100 * std::pow(0.75, 3), 1, 1},
+                 {3, 50, 1, 1},
+                 {3.9, 50, 1, 1}}) {
+            const SpriteState s = scene->stateAt("lamp", t);
+            QVERIFY2(qAbs(s.x - x) < 1e-9, qPrintable(QString("x at %1: %2").arg(t).arg(s.x)));
             QCOMPARE(s.y, 50.0);  // set once, held throughout
-            QVERIFY2(qAbs(s.opacity - r.opacity) < 1e-9, qPrintable(QString::number(r.t)));
-            QCOMPARE(s.frame, r.frame);
+            QVERIFY2(qAbs(s.opacity - opacity) < 1e-9, qPrintable(QString::number(t)));
+            QCOMPARE(s.frame, frame);
             QCOMPARE(s.scale, 1.0);
         }
     }
@@ -107,15 +106,11 @@ private slots:
         auto scene = load(kTimeline);
         QVERIFY(scene);
         // Hidden at the start: only the background. The ghost's id is not in the drawing.
-        QImage img = draw(*scene, 0);
-        QCOMPARE(img.pixelColor(50, 50), QColor(Qt::black));
-        QCOMPARE(img.pixelColor(100, 50), QColor(Qt::black));
-        img = draw(*scene, 1.5);
-        QCOMPARE(img.pixelColor(150, 50), QColor(Qt::red));
-        QCOMPARE(img.pixelColor(60, 50), QColor(Qt::black));
-        img = draw(*scene, 3.5);
-        QCOMPARE(img.pixelColor(50, 50), QColor(Qt::blue));
-        QCOMPARE(img.pixelColor(150, 50), QColor(Qt::black));
+        const std::tuple<double, int, QColor> pixels[] = {
+            {0, 50, Qt::black},   {0, 100, Qt::black}, {1.5, 150, Qt::red},
+            {1.5, 60, Qt::black}, {3.5, 50, Qt::blue}, {3.5, 150, Qt::black}};
+        for (const auto& [t, x, colour] : pixels)
+            QCOMPARE(draw(*scene, t).pixelColor(x, 50), colour);
     }
 
     // Every film we ship loads, finds every drawing it names and paints at any moment.
@@ -136,16 +131,10 @@ private slots:
                      qPrintable(scene->missingDrawings().join(", ")));
             const QString shots = qEnvironmentVariable("WM_SHOTS");
             for (double u : {0.0, 0.3, 0.6, 0.9}) {
-                QImage img(scene->naturalSize(), QImage::Format_ARGB32);
-                img.fill(QColor(236, 226, 200));
-                QPainter p(&img);
-                p.setRenderHint(QPainter::Antialiasing);
-                scene->paint(p, QRectF(img.rect()), u * scene->duration());
-                p.end();
+                const QImage img = draw(*scene, u * scene->duration(), scene->naturalSize());
                 if (!shots.isEmpty())
-                    img.save(QStringLiteral("%1/%2-%3.png")
-                                 .arg(shots, QFileInfo(e.name).baseName())
-                                 .arg(u));
+                    img.save(shots + "/" + QFileInfo(e.name).baseName() +
+                             QString("-%1.png").arg(u));
             }
         }
         QVERIFY(films >= 1);

@@ -46,21 +46,13 @@ std::vector<std::int16_t> readWav(const QByteArray& b, const QString& name) {
     if (b.size() < 44) return samples;
     EXPECT_EQ(b.left(4), QByteArray("RIFF"));
     EXPECT_EQ(le32(b, 4), static_cast<std::uint32_t>(b.size() - 8));
-    EXPECT_EQ(b.mid(8, 4), QByteArray("WAVE"));
-    EXPECT_EQ(b.mid(12, 4), QByteArray("fmt "));
-    EXPECT_EQ(le32(b, 16), 16u);
-    EXPECT_EQ(le16(b, 20), 1);  // PCM
-    EXPECT_EQ(le16(b, 22), 1);  // mono
-    EXPECT_EQ(le32(b, 24), 22050u);
-    EXPECT_EQ(le32(b, 28), 44100u);  // byte rate
-    EXPECT_EQ(le16(b, 32), 2);       // block align
-    EXPECT_EQ(le16(b, 34), 16);
+    EXPECT_EQ(b.mid(8, 8), QByteArray("WAVEfmt "));
+    // A 16-byte format: PCM, mono, 22050 Hz, 44100 bytes a second, blocks of 2, 16 bits.
+    EXPECT_EQ(b.mid(16, 20), QByteArray::fromHex("10000000 0100 0100 22560000 44ac0000 0200 1000"));
     EXPECT_EQ(b.mid(36, 4), QByteArray("data"));
-    const std::uint32_t dataBytes = le32(b, 40);
-    EXPECT_EQ(dataBytes, static_cast<std::uint32_t>(b.size() - 44));
-    for (int at = 44; at + 1 < b.size(); at += 2) {
+    EXPECT_EQ(le32(b, 40), static_cast<std::uint32_t>(b.size() - 44));
+    for (int at = 44; at + 1 < b.size(); at += 2)
         samples.push_back(static_cast<std::int16_t>(le16(b, at)));
-    }
     return samples;
 }
 
@@ -88,8 +80,7 @@ TEST(Synth, FinishFadesTheEndsAndNormalisesToThePeak) {
     int peak = 0;
     for (std::int16_t v : out) peak = std::max(peak, std::abs(static_cast<int>(v)));
     EXPECT_NEAR(peak, 16384, 40);
-    EXPECT_EQ(out.front(), 0);
-    EXPECT_EQ(out.back(), 0);
+    EXPECT_EQ(std::tuple(out.front(), out.back()), std::tuple(0, 0));
 }
 
 TEST(SoundEffects, EveryEffectIsAWellFormedAudibleWav) {
@@ -127,8 +118,7 @@ TEST(SoundEffects, EveryEffectIsAWellFormedAudibleWav) {
         }
         EXPECT_LT(std::sqrt(change / level), 1.0) << "too bright";
         // Starting or stopping away from zero clicks on the speaker.
-        EXPECT_LT(std::abs(s.front()), 500);
-        EXPECT_LT(std::abs(s.back()), 500);
+        EXPECT_LT(std::max(std::abs(s.front()), std::abs(s.back())), 500);
         // The build made its copy in another process: the same bytes, so nothing depends on
         // the clock, the machine or memory left over.
         QFile built(QDir(qEnvironmentVariable("WM_TEST_APP_DIR")).filePath(f.path));
@@ -137,4 +127,3 @@ TEST(SoundEffects, EveryEffectIsAWellFormedAudibleWav) {
     for (const auto& [name, bounds] : expected)
         EXPECT_TRUE(names.contains(name)) << name.toStdString();
 }
-

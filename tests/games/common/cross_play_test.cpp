@@ -49,27 +49,18 @@ void type(PlayBoard& b, const std::string& keys, const std::string& word) {
 TEST(CrossPlay, ClicksOnACrossingCellAlternateAcrossAndDown) {
     PlayBoard b = catHat();
     ASSERT_TRUE(clickCell(b, 52));
-    EXPECT_TRUE(b.SelAcross);
-    EXPECT_EQ(b.SelWord, 2);
-    EXPECT_EQ(b.SelStart, 51);
-    EXPECT_EQ(b.Cursor, 51);
-    EXPECT_EQ(pinks(b), "51 52 53 ");
-    EXPECT_EQ(b.caption[51], 0);  // a white cell picked has no letter yet
-    EXPECT_TRUE(b.helpShown);
+    EXPECT_EQ(std::tuple(b.SelAcross, b.SelWord, b.SelStart, b.Cursor, pinks(b)),
+              std::tuple(true, 2, 51, 51, "51 52 53 "));
+    // A white cell picked has no letter yet.
+    EXPECT_EQ(std::tuple(b.caption[51], b.helpShown), std::tuple(0, true));
 
     ASSERT_TRUE(clickCell(b, 52));
-    EXPECT_TRUE(b.SelDown);
-    EXPECT_EQ(b.SelWord, 1);
-    EXPECT_EQ(b.SelStart, 27);
-    EXPECT_EQ(pinks(b), "27 52 77 ");
-
+    EXPECT_EQ(std::tuple(b.SelDown, b.SelWord, b.SelStart, pinks(b)),
+              std::tuple(true, 1, 27, "27 52 77 "));
     ASSERT_TRUE(clickCell(b, 52));
-    EXPECT_TRUE(b.SelAcross);
-    EXPECT_EQ(b.SelWord, 2);
-
+    EXPECT_EQ(std::tuple(b.SelAcross, b.SelWord), std::tuple(true, 2));
     ASSERT_TRUE(clickCell(b, 77));  // a cell of one word only
-    EXPECT_TRUE(b.SelDown);
-    EXPECT_EQ(b.SelStart, 27);
+    EXPECT_EQ(std::tuple(b.SelDown, b.SelStart), std::tuple(true, 27));
     // Clicked again, it has no across word to turn to: nothing stays selected.
     EXPECT_FALSE(clickCell(b, 77));
     EXPECT_EQ(pinks(b), "");
@@ -82,18 +73,16 @@ TEST(CrossPlay, TypingSolvesCorrectsAndStopsAtTheWordsLength) {
     EXPECT_EQ(b.caption[51], 'H');
     EXPECT_EQ(pressKey(b, 'a', "hat"), KeyResult::Typed);
     EXPECT_EQ(pressKey(b, 'x', "hat"), KeyResult::Wrong);
-    EXPECT_EQ(pinks(b), "");  // the wrong answer shows by the pink going
-    EXPECT_EQ(b.caption[53], 'X');
+    // The wrong answer shows by the pink going.
+    EXPECT_EQ(std::tuple(pinks(b), b.caption[53]), std::tuple("", 'X'));
     EXPECT_EQ(pressKey(b, 'y', "hat"), KeyResult::Ignored);  // one past the word: nothing
     EXPECT_EQ(b.Cursor, 54);
     // Backspace drops a letter each; the extra key counted in Typed though the cursor stayed,
     // so from there the cursor runs one cell behind the letters.
     EXPECT_EQ(pressKey(b, kBackspace, "hat"), KeyResult::Typed);
-    EXPECT_EQ(b.Cursor, 53);
-    EXPECT_EQ(b.caption[53], 0);
+    EXPECT_EQ(std::tuple(b.Cursor, b.caption[53]), std::tuple(53, 0));
     pressKey(b, kBackspace, "hat");
-    EXPECT_EQ(b.Typed, "HA");
-    EXPECT_EQ(b.caption[52], 0);
+    EXPECT_EQ(std::tuple(b.Typed, b.caption[52]), std::tuple("HA", 0));
     EXPECT_EQ(pressKey(b, 't', "hat"), KeyResult::Solved);  // Typed is right...
     EXPECT_EQ(b.caption[52], 'T');                          // ...though shown one cell early
 
@@ -102,16 +91,14 @@ TEST(CrossPlay, TypingSolvesCorrectsAndStopsAtTheWordsLength) {
     type(fresh, "ha", "hat");
     EXPECT_EQ(pressKey(fresh, 't', "hat"), KeyResult::Solved);
     endSelectionSolved(fresh);
-    EXPECT_FALSE(fresh.selected());
-    EXPECT_FALSE(fresh.helpShown);
+    EXPECT_EQ(std::tuple(fresh.selected(), fresh.helpShown), std::tuple(false, false));
     EXPECT_EQ(pressKey(fresh, 'x', "hat"), KeyResult::Ignored);  // nothing selected
 
     // A space adds nothing to Typed but moves the cursor.
     PlayBoard spaced = catHat();
     clickCell(spaced, 51);
     pressKey(spaced, ' ', "hat");
-    EXPECT_EQ(spaced.Typed, "");
-    EXPECT_EQ(spaced.Cursor, 52);
+    EXPECT_EQ(std::tuple(spaced.Typed, spaced.Cursor), std::tuple("", 52));
 }
 
 TEST(CrossPlay, FlashThenSolvedCellsSteerTheNextClick) {
@@ -133,11 +120,10 @@ TEST(CrossPlay, FlashThenSolvedCellsSteerTheNextClick) {
     type(b, "ca", "cat");
     EXPECT_EQ(b.caption[52], 'A');  // solved letters are never overwritten, but typed
     ASSERT_TRUE(giveAnswer(b, "cat"));
-    EXPECT_EQ(b.caption[27], 'C');
-    EXPECT_EQ(b.caption[77], 'T');
-    EXPECT_EQ(b.colour[77], TileColour::Green);
+    EXPECT_EQ(std::tuple(b.caption[27], b.caption[77], b.colour[77]),
+              std::tuple('C', 'T', TileColour::Green));
     EXPECT_EQ(b.colour[102], TileColour::White);  // the answer ends at its last letter
-    EXPECT_FALSE(giveAnswer(b, "cat"));  // no selection
+    EXPECT_FALSE(giveAnswer(b, "cat"));           // no selection
 
     // Solved both ways: a click does nothing at all.
     EXPECT_FALSE(clickCell(b, 52));
@@ -164,8 +150,7 @@ TEST(CrossPlay, EdgeTestsAreKeptAsDesigned) {
     // The cell below 449 is the last one, which the tighter down test never looks at.
     EXPECT_FALSE(clickCell(b, 449));
     EXPECT_TRUE(clickCell(b, 474));
-    EXPECT_EQ(b.SelStart, 449);
-    EXPECT_EQ(b.SelWord, 1);
+    EXPECT_EQ(std::tuple(b.SelStart, b.SelWord), std::tuple(449, 1));
     // An answer longer than the room left stops at the board's last row.
     PlayBoard longer = b;
     EXPECT_TRUE(giveAnswer(longer, "oxen"));

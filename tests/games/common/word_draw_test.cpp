@@ -26,8 +26,7 @@ TEST(DrawFreshWord, DrawsLoadedPlayableFreshEntriesAndAlwaysEnds) {
     // A past draw that is no entry of this list (a stale index) is no repeat.
     EXPECT_EQ(DrawFreshWord(Words({"", "ant"}, 1), top, {2, -1}, 1000, kAny), 1);
     // The same text in other capitals is a repeat: the draw goes on to the next.
-    ScriptedRng rng;
-    rng.then(0.4).then(0.9);
+    auto rng = ScriptedRng().then(0.4).then(0.9);
     EXPECT_EQ(DrawFreshWord(Words({"", "ant", "ANT", "bee"}, 3), rng, {1}, 1000, kAny), 3);
     EXPECT_EQ(rng.draws, 2);
     // Once every word has come, a repeat is drawn.

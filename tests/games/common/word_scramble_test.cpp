@@ -8,20 +8,16 @@
 using namespace wm;
 
 TEST(ScrambleWord, TakesEachPlaceOnceInDrawOrder) {
-    ScriptedRng rng;
-    rng.pick(3, 4).pick(3, 4).pick(1, 4).pick(1, 4).pick(4, 4).pick(2, 4);
+    auto rng = ScriptedRng().pick(3, 4).pick(3, 4).pick(1, 4).pick(1, 4).pick(4, 4).pick(2, 4);
     EXPECT_EQ(ScrambleWord("abcd", rng), "cadb");
-    EXPECT_EQ(rng.draws, 6);
-    EXPECT_EQ(rng.pending(), 0u);
+    EXPECT_EQ(std::tuple(rng.draws, rng.pending()), std::tuple(6, 0u));
 
     // Repeated letters are told apart by place, not by value; the result may be the word itself.
-    ScriptedRng same;
-    same.pick(1, 3).pick(2, 3).pick(3, 3);
+    auto same = ScriptedRng().pick(1, 3).pick(2, 3).pick(3, 3);
     EXPECT_EQ(ScrambleWord("aab", same), "aab");
 
     // A "*" is never taken: it keeps its place, and the draws stop once the rest are taken.
-    ScriptedRng star;
-    star.pick(2, 3).pick(3, 3).pick(2, 3).pick(1, 3);
+    auto star = ScriptedRng().pick(2, 3).pick(3, 3).pick(2, 3).pick(1, 3);
     EXPECT_EQ(ScrambleWord("a*b", star), "b*a");
     EXPECT_EQ(star.draws, 4);
 

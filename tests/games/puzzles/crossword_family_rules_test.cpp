@@ -16,8 +16,7 @@ namespace {
 
 // "CAT" down in column 5 (rows 9..11), "HAT" across row 10 from column 4.
 ScriptedRng catHatLayout() {
-    ScriptedRng rng;
-    rng.pick(1, 2).pick(5, 10).pick(2, 2).pick(1, 2);
+    auto rng = ScriptedRng().pick(1, 2).pick(5, 10).pick(2, 2).pick(1, 2);
     return rng;
 }
 constexpr int kCatCell = 8 * 25 + 4;  // C at (5, 9)
@@ -33,19 +32,16 @@ void typeWord(SharedState& s, crossword::CrosswordState& cw, const std::string& 
 }  // namespace
 
 TEST(CrosswordRules, RoundClampsDifficultyForGoodAndKeepsTheFirstScore) {
-    std::vector<std::string> eight = {"apple", "pear",  "plum", "peach",
-                                      "grape", "lemon", "lime", "melon"};
-    SharedState s = test::ListOf(eight, 10);
+    SharedState s =
+        test::ListOf({"apple", "pear", "plum", "peach", "grape", "lemon", "lime", "melon"}, 10);
     s.Score = 777;
     SystemRng rng;
     crossword::CrosswordState cw;
     ASSERT_TRUE(crossword::newRound(s, cw, true, rng).ok);
-    EXPECT_EQ(s.Difficulty, 8);  // lowered, and it stays lowered
-    EXPECT_EQ(s.Score, 777);     // the first round runs on what it finds
-    EXPECT_EQ(cw.scoreText, "Score: 0000");
-    EXPECT_EQ(cw.clue, "Click a word in the puzzle to see the clue.");
-    EXPECT_GE(s.PuzzleWordCount, 2);
-    EXPECT_LE(s.PuzzleWordCount, 8);
+    // Difficulty lowered, and it stays lowered; the first round runs on the score it finds.
+    EXPECT_EQ(std::tuple(s.Difficulty, s.Score, cw.scoreText, cw.clue),
+              std::tuple(8, 777, "Score: 0000", "Click a word in the puzzle to see the clue."));
+    EXPECT_TRUE(s.PuzzleWordCount >= 2 && s.PuzzleWordCount <= 8);
 
     cw.MusicOpen = true;  // the tune playing goes on playing into the next round; the rest is new
     cw.KeyOnButton = true;
@@ -60,7 +56,6 @@ TEST(CrosswordRules, RoadToAWin) {
     crossword::CrosswordState cw;
     ASSERT_TRUE(crossword::newRound(s, cw, false, rng).ok);
     EXPECT_EQ(s.PuzzleWordCount, 2);
-
     crossword::clickCell(s, cw, kHatCell);
     EXPECT_EQ(cw.clue, "meaning of hat");
     rng.pick(100, 1000);
@@ -102,7 +97,7 @@ TEST(CrosswordRules, GiveAnswerCostsAndIsGuardedAgainstKeys) {
     EXPECT_EQ(crossword::giveAnswer(s, cw, rng), crossword::Outcome::GameEnds);
     EXPECT_EQ(std::tuple(s.Score, cw.GameWon), std::tuple(-1501, true));
     EXPECT_FALSE(cross::endGame(s, cw.GameWon));  // a negative score loses
-    }
+}
 
 TEST(BlindTilesRules, RoadToAWinWithTheSameWordTwice) {
     SharedState s = test::ListOf({"cat", "cat", "tact"}, 3);
@@ -111,9 +106,8 @@ TEST(BlindTilesRules, RoadToAWinWithTheSameWordTwice) {
     blind_tiles::BlindTilesState bt;
     ASSERT_TRUE(blind_tiles::newRound(s, bt, rng).ok);
     EXPECT_EQ(bt.scoreText, "Score: 0");
-    ASSERT_EQ(s.PuzzleWordCount, 3);
-    ASSERT_EQ(bt.entries.size(), 3u);
-    ASSERT_EQ(bt.PlaceWord.size(), 4u);
+    ASSERT_EQ(std::tuple(s.PuzzleWordCount, bt.entries.size(), bt.PlaceWord.size()),
+              std::tuple(3, 3u, 4u));
     for (int i = 1; i <= 3; ++i) EXPECT_EQ(bt.entries[i - 1], s.Words[bt.PlaceWord[i]]);
     EXPECT_EQ(blind_tiles::giveAnswer(s, bt), blind_tiles::Outcome::None);  // nothing selected
 
@@ -152,8 +146,8 @@ TEST(BlindTilesRules, FewerWordsThanWantedAndSevenListedAtMost) {
     // placed: the panel lists the first seven. (A layout that failed shows nothing here.)
     const std::vector<std::string> nine = {"tea", "eat", "ate", "tee", "tat",
                                            "eta", "sat", "set", "tes"};
-    for (const auto& [words, level] : {std::pair{std::vector<std::string>{"cat", "cat", "tact"}, 4},
-                                       std::pair{nine, 8}}) {
+    for (const auto& [words, level] :
+         {std::pair{std::vector<std::string>{"cat", "cat", "tact"}, 4}, std::pair{nine, 8}}) {
         SharedState s = test::ListOf(words, level);
         SystemRng rng;
         blind_tiles::BlindTilesState bt;

@@ -64,8 +64,8 @@ TEST(WordMazeBuild, WalkSpellsTheWordsAndTheBoardFitsIt) {
               std::tuple("CAOG/XTDZ", 4, 2, 3));
     EXPECT_EQ(std::tuple(m.colour[3], pinks(m), state.TheWord, m.label1),
               std::tuple(CellColour::Green, "0 ", "cat", "meaning of cat"));
-    EXPECT_EQ(std::tuple(m.label3, state.Score), std::tuple("Words Left :2", 50));
-    EXPECT_FALSE(m.undoEnabled);
+    EXPECT_EQ(std::tuple(m.label3, state.Score, m.undoEnabled),
+              std::tuple("Words Left :2", 50, false));
 }
 
 TEST(WordMazeBuild, ImpossibleWalkEndsWithTheMessage) {
@@ -91,8 +91,7 @@ TEST(WordMazeBuild, ImpossibleWalkEndsWithTheMessage) {
 
     // 39 letters fit exactly when every step is right until column 25, then down.
     SharedState exact = listOf({std::string(39, 'b')}, 1, false);
-    ScriptedRng walk;  // direction 3 (odd), then the override 1: right
-    walk.pick(1, 1);
+    auto walk = ScriptedRng().pick(1, 1);  // direction 3 (odd), then the override 1: right
     for (int i = 0; i < 24; ++i) walk.then(0.25).then(0.25);
     for (int i = 0; i < 14; ++i) walk.then(0.25).then(0.75);  // right refused at 25: down
     m.MazeWordCount = 1;
@@ -116,8 +115,8 @@ TEST(WordMazePlay, RetraceUndoAndFinish) {
     for (int off : {-1, 8}) EXPECT_EQ(clickCell(state, m, off, rng).result, ClickResult::Ignored);
 
     EXPECT_EQ(clickCell(state, m, 0, rng).result, ClickResult::Moved);
-    EXPECT_EQ(std::tuple(pinks(m), m.visible[0]), std::tuple("1 4 ", false));
-    EXPECT_EQ(m.label5, "c");  // the word as the list holds it
+    // Label5: the word as the list holds it.
+    EXPECT_EQ(std::tuple(pinks(m), m.visible[0], m.label5), std::tuple("1 4 ", false, "c"));
 
     rng.pick(321, 1000);
     c = clickCell(state, m, 4, rng);  // pink, but "X" is not "A"
@@ -125,8 +124,8 @@ TEST(WordMazePlay, RetraceUndoAndFinish) {
               std::tuple(ClickResult::Wrong, -321, "-321 Points...", 2));
 
     EXPECT_EQ(clickCell(state, m, 1, rng).result, ClickResult::Moved);
-    EXPECT_EQ(pinks(m), "0 2 5 ");  // the taken cell 0 turns pink too but stays hidden
-    EXPECT_FALSE(m.visible[0]);
+    // The taken cell 0 turns pink too but stays hidden.
+    EXPECT_EQ(std::tuple(pinks(m), m.visible[0]), std::tuple("0 2 5 ", false));
     EXPECT_EQ(clickCell(state, m, 5, rng).result, ClickResult::NextWord);
     EXPECT_EQ(std::tuple(state.TheWord, m.label3, m.label5),
               std::tuple("dog", "Words Left :1", ""));
@@ -134,8 +133,8 @@ TEST(WordMazePlay, RetraceUndoAndFinish) {
     // Undo after a new word's start returns to the last letter of the word before.
     undoMove(state, m);
     EXPECT_EQ(std::tuple(state.TheWord, m.label1, m.label5), std::tuple("cat", "cat", "ca"));
-    EXPECT_TRUE(m.visible[5]);
-    EXPECT_EQ(pinks(m), "0 2 5 ");  // around cell 1, taken cells included (still hidden)
+    // Pink around cell 1, taken cells included (still hidden).
+    EXPECT_EQ(std::tuple(m.visible[5], pinks(m)), std::tuple(true, "0 2 5 "));
     EXPECT_EQ(clickCell(state, m, 5, rng).result, ClickResult::NextWord);
 
     // The end cell with the right letter before its time.
@@ -160,15 +159,9 @@ TEST(WordMazePlay, RetraceUndoAndFinish) {
 }
 
 TEST(WordMazePlay, FinalScoreBySpeedAndClueMode) {
-    struct Case {
-        int seconds;
-        bool definitions;
-        double before;
-        double after;
-        bool won;
-    };
-    // Difficulty 2 and a roll of 100: 200 points before the speed factor.
-    const Case cases[] = {
+    // Seconds, definitions or words as clues, the score before and after, won. Difficulty 2 and a
+    // roll of 100: 200 points before the speed factor.
+    const std::tuple<int, bool, double, double, bool> cases[] = {
         {5, true, 0, 500, true},       // p = 2: x 2.5
         {6, true, 0, 360, true},       // p = 3: x 1.8
         {14, true, 0, 260, true},      // p = 7: x 1.3
@@ -179,15 +172,14 @@ TEST(WordMazePlay, FinalScoreBySpeedAndClueMode) {
         {5, true, -300, -250, false},  // a negative total loses
         {5, true, 0.3, 500, true},     // made whole: Int(500.75)
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.seconds);
-        SharedState state = listOf({"ab", "cd"}, 2, c.definitions);
-        state.Score = c.before;
+    for (const auto& [seconds, definitions, before, after, won] : cases) {
+        SCOPED_TRACE(seconds);
+        SharedState state = listOf({"ab", "cd"}, 2, definitions);
+        state.Score = before;
         WordMazeState m;
-        m.Seconds = c.seconds;
-        ScriptedRng rng;
-        rng.pick(100, 5000);
-        EXPECT_EQ(finishMaze(state, m, rng), c.won);
-        EXPECT_DOUBLE_EQ(state.Score, c.after);
+        m.Seconds = seconds;
+        auto rng = ScriptedRng().pick(100, 5000);
+        EXPECT_EQ(finishMaze(state, m, rng), won);
+        EXPECT_DOUBLE_EQ(state.Score, after);
     }
 }

@@ -10,17 +10,6 @@
 
 namespace {
 
-bool SelectWord(BlindTilesForm* game, const WordPlace& w) {
-    const QPoint at = game->board()->tileRect(w.cell).center();
-    for (int clicks = 0; clicks < 3; ++clicks) {
-        QTest::mouseClick(game->board(), Qt::LeftButton, {}, at);
-        const auto& b = game->state().board;
-        if ((w.direction == cross::kAcross ? b.SelAcross : b.SelDown) && b.SelWord == w.index)
-            return true;
-    }
-    return false;
-}
-
 QStringList ShownEntries(const BlindTilesForm* game) {
     QStringList out;
     for (auto* l : game->clueLabels())
@@ -36,11 +25,7 @@ BlindTilesForm* OpenBlindTiles(ShellFixture& fx, const std::vector<std::string>&
                                int difficulty, bool soundOn) {
     Pairs pairs;
     for (const auto& w : words) pairs.push_back({w, ""});
-    WriteOneList(fx, "Tiles", pairs, true);
-    auto* chooser = ChooserFor("Blind Tiles", difficulty, false, soundOn);
-    ThroughOptions(chooser, "Tiles", difficulty, soundOn);
-    Pump(30);
-    return Showing<BlindTilesForm>();
+    return ThroughOptions<BlindTilesForm>(fx, "Blind Tiles", pairs, difficulty, soundOn, 30, true);
 }
 
 }  // namespace
@@ -57,7 +42,7 @@ private slots:
         QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
         SharedState& s = Shared();
         QCOMPARE(fx.music.opened, appFile("sounds/vivaldi.mid"));
-        QCOMPARE(game->findChild<QLabel*>("Label2")->text(), "Score: 0");
+        QCOMPARE(LabelText(game, "Label2"), "Score: 0");
         const auto words = PlacedWords(game->state().board);
         QCOMPARE(int(words.size()), int(s.PuzzleWordCount));
         // The panel lists the words in the order they were placed, all pink.
@@ -71,15 +56,14 @@ private slots:
         auto* command1 = game->findChild<QPushButton*>("Command1");
         int expected = 0;
         for (std::size_t n = 0; n < words.size(); ++n) {
-            QVERIFY(SelectWord(game, words[n]));
+            QVERIFY(SelectWord(game, words[n], game->board()->tileRect(words[n].cell)));
             QVERIFY(command1->isVisible());
             const std::string& word = s.Words[words[n].index];
             QTest::keyClicks(game, toQ(word));
             expected += 100 * int(word.size());
             if (n + 1 < words.size()) {
                 QCOMPARE(s.Score, double(expected));  // 100 a letter, no draw
-                QCOMPARE(game->findChild<QLabel*>("Label2")->text(),
-                         "Score: " + QString::number(expected));
+                QCOMPARE(LabelText(game, "Label2"), "Score: " + QString::number(expected));
                 QVERIFY(EntryYellow(game->clueLabels()[entries.indexOf(toQ(word))]));
                 Pump(16 * 12);
             }
@@ -117,7 +101,7 @@ private slots:
         const auto gardenAt = std::find_if(words.begin(), words.end(), [&](const WordPlace& w) {
             return s.Words[w.index] == "garden";
         });
-        QVERIFY(SelectWord(game, *gardenAt));
+        QVERIFY(SelectWord(game, *gardenAt, game->board()->tileRect(gardenAt->cell)));
         QTest::keyClicks(game, "danger");
         QCOMPARE(int(s.PuzzleWordCount), 5);
         QCOMPARE(game->state().board.colour[gardenAt->cell], cross::TileColour::White);
@@ -133,7 +117,7 @@ private slots:
         fx.sound.played.clear();
         auto* command1 = game->findChild<QPushButton*>("Command1");
         for (const auto& w : words) {
-            QVERIFY(SelectWord(game, w));
+            QVERIFY(SelectWord(game, w, game->board()->tileRect(w.cell)));
             QTest::mouseClick(command1, Qt::LeftButton);
         }
         // Exactly 1000 a word, and no sound for a given answer.

@@ -44,17 +44,14 @@ TEST(CodeBreaker, DifferentWordsDrawnWithinTheRoom) {
     rng.pick(1, 6).pick(2, 6).pick(4, 6).pick(3, 6).pick(5, 6).pick(6, 6);
     Game g;
     ASSERT_TRUE(g.start(s, rng));
-    EXPECT_EQ(rng.randomizeCount, 1);
-    EXPECT_EQ(s.Score, 0);
     EXPECT_EQ(g.words(), (std::vector<std::string>{"cat", "dog", "owl"}));
-    EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning), std::tuple("cat", "meaning of cat"));
     // Nothing fit was left for a fourth word: no draw for it; then the 26 draws of the key.
-    EXPECT_EQ(rng.draws, 6 + 26);
-    EXPECT_EQ(g.letters(), 9);
+    EXPECT_EQ(
+        std::tuple(rng.randomizeCount, s.Score, s.TheWord, s.TheMeaning, rng.draws, g.letters()),
+        std::tuple(1, 0, "cat", "meaning of cat", 6 + 26, 9));
     // Another game on the same board takes its clue from its own first word.
     SharedState two = listOf({"ant", "bee"});
-    ScriptedRng again(0.0);
-    again.pick(2, 2);
+    auto again = ScriptedRng(0.0).pick(2, 2);
     two.Meanings.resize(2);  // bee's meaning missing from the list: no clue rather than a crash
     ASSERT_TRUE(g.start(two, again));
     EXPECT_EQ(std::pair(two.TheWord, two.TheMeaning), std::pair(std::string("bee"), std::string()));
@@ -65,8 +62,8 @@ TEST(CodeBreaker, DifferentWordsDrawnWithinTheRoom) {
     ScriptedRng zero(0.0);
     ASSERT_TRUE(g.start(big, zero));
     ASSERT_EQ(g.words().size(), 3u);
-    EXPECT_EQ(g.words()[2], std::string(10, 'd'));
-    EXPECT_EQ(zero.draws, 1 + 50 + 50 + 26);
+    EXPECT_EQ(std::tuple(g.words()[2], zero.draws),
+              std::tuple(std::string(10, 'd'), 1 + 50 + 50 + 26));
 
     // Only the first entry fits: the walk after the last draw comes round to it.
     SharedState first = listOf({"owl", "- -", "42"});
@@ -77,8 +74,7 @@ TEST(CodeBreaker, DifferentWordsDrawnWithinTheRoom) {
     SharedState many = listOf({"a", "b", "c", "d", "e", "f", "g"});
     ASSERT_TRUE(g.start(many, zero));
     EXPECT_EQ(g.words().size(), 5u);  // five at most
-    for (auto words : {std::vector<std::string>{"- -", "42", tooLong}, std::vector<std::string>{}}) {
-        SharedState none = listOf(words);
+    for (auto none : {listOf({"- -", "42", tooLong}), listOf({})}) {
         ScriptedRng r(0.4);
         EXPECT_FALSE(g.start(none, r));
         EXPECT_LT(r.draws, 60);
@@ -92,8 +88,7 @@ TEST(CodeBreaker, KeyNeverLeavesALetterAsItself) {
     ASSERT_TRUE(g.start(s, first));
     EXPECT_EQ(g.key(), "BADCFEHGJILKNMPORQTSVUXWZY");
     // Each letter takes the next; Y takes A, and Z, left alone with itself, swaps with C.
-    ScriptedRng chain;
-    chain.pick(1, 1).pick(1, 25);
+    auto chain = ScriptedRng().pick(1, 1).pick(1, 25);
     for (int i = 1; i <= 23; ++i) chain.pick(2, 26 - i);
     chain.pick(1, 2).pick(3, 25);
     ASSERT_TRUE(g.start(s, chain));
@@ -102,21 +97,19 @@ TEST(CodeBreaker, KeyNeverLeavesALetterAsItself) {
 
 TEST(CodeBreaker, AccentedLettersArePicturesOfTheirOwn) {
     SharedState s = listOf({"\xE9t\xE8\xC9"});
-    ScriptedRng rng(0.0);
-    rng.pick(1, 1);
+    auto rng = ScriptedRng(0.0).pick(1, 1);
     for (int i = 0; i < 26; ++i) rng.then(0.0);
     rng.pick(3, 16).pick(3, 15);
     Game g;
     ASSERT_TRUE(g.start(s, rng));
     ASSERT_EQ(g.symbols().size(), 3u);  // É, T, È: é and É are one symbol
-    EXPECT_EQ(std::tuple(g.symbols()[0].plain, g.symbols()[0].picture, g.symbols()[1].code),
-              std::tuple('\xC9', 2, 'S'));
-    EXPECT_EQ(g.symbols()[2].picture, 3);
+    EXPECT_EQ(std::tuple(g.symbols()[0].plain, g.symbols()[0].picture, g.symbols()[1].code,
+                         g.symbols()[2].picture),
+              std::tuple('\xC9', 2, 'S', 3));
     // Sixteen pictures: a word that needs a seventeenth waits for one that needs none.
     const std::string sixteen = "\xE0\xE1\xE2\xE3\xE4\xE5\xE6\xE7\xE8\xE9\xEA\xEB\xEC\xED\xEE\xEF";
     SharedState list = listOf({sixteen, "\xF2x", "\xE9x", sixteen + "\xF1"});
-    ScriptedRng r(0.0);
-    r.pick(1, 4).pick(2, 4).pick(4, 4).pick(3, 4);
+    auto r = ScriptedRng(0.0).pick(1, 4).pick(2, 4).pick(4, 4).pick(3, 4);
     ASSERT_TRUE(g.start(list, r));
     EXPECT_EQ(g.words(), (std::vector<std::string>{sixteen, "\xE9x"}));
 }
@@ -161,8 +154,7 @@ TEST(CodeBreaker, LettersMoveAndTheCodeIsCracked) {
 
 TEST(CodeBreaker, HintsCostThirtySecondsAndStay) {
     SharedState s = listOf({"toe", "ox"}, 49);  // 36 seconds
-    ScriptedRng rng(0.0);
-    rng.pick(1, 2).pick(2, 2);
+    auto rng = ScriptedRng(0.0).pick(1, 2).pick(2, 2);
     Game g;
     ASSERT_TRUE(g.start(s, rng));
     EXPECT_FALSE(g.canHint());
@@ -173,9 +165,9 @@ TEST(CodeBreaker, HintsCostThirtySecondsAndStay) {
     EXPECT_EQ(g.type('t'), Typed::Placed);
     rng.pick(1, 4);
     EXPECT_EQ(g.hint(rng), 0);
-    EXPECT_EQ(g.movedFrom(), 1);
-    EXPECT_EQ(guesses(g), "T...");  // E went with T's wrong letter
-    EXPECT_EQ(std::tuple(g.secondsLeft(), g.canHint()), std::tuple(6, false));
+    // E went with T's wrong letter.
+    EXPECT_EQ(std::tuple(g.movedFrom(), guesses(g), g.secondsLeft(), g.canHint()),
+              std::tuple(1, "T...", 6, false));
     EXPECT_TRUE(g.select(0));
     EXPECT_EQ(g.type('o'), Typed::Locked);
     EXPECT_FALSE(g.clear());
@@ -217,7 +209,9 @@ TEST(CodeBreaker, TheClockRunsOut) {
 }
 
 TEST(CodeBreaker, WordsFlowAlongLinesAndKeysMoveBetweenThem) {
-    auto at = [](const Layout& l, int i) { return std::make_pair(l.places[i].line, l.places[i].column); };
+    auto at = [](const Layout& l, int i) {
+        return std::pair(l.places[i].line, l.places[i].column);
+    };
     const Layout a = layOut({"ab", "cde", "fg"}, 6);
     EXPECT_EQ(at(a, 2), std::make_pair(0, 3));  // 2 + 1 + 3 fills the line exactly
     EXPECT_EQ(std::tuple(at(a, 5), a.lines, a.columns), std::tuple(std::make_pair(1, 0), 2, 6));
@@ -231,28 +225,24 @@ TEST(CodeBreaker, WordsFlowAlongLinesAndKeysMoveBetweenThem) {
     EXPECT_EQ(bestColumns({"abcdef", "abcdef"}, 100, 1400, 1.6), 6);
 
     SharedState s = listOf({"a-bc", "def", "ghijk"});
-    ScriptedRng rng(0.0);
-    rng.pick(1, 3).pick(2, 3).pick(3, 3);
+    auto rng = ScriptedRng(0.0).pick(1, 3).pick(2, 3).pick(3, 3);
     Game g;
     ASSERT_TRUE(g.start(s, rng));
     const Layout l = layOut(g.words(), 8);  // a-bc def / ghijk
+    // The tile chosen after a move that was made (-1 when it was not).
+    auto after = [&](bool moved) { return moved ? g.selected() : -1; };
     EXPECT_TRUE(g.select(6));                // f
     EXPECT_FALSE(g.select(1));               // the hyphen is not a code letter
-    EXPECT_TRUE(g.stepLine(1, l));
-    EXPECT_EQ(g.selected(), 11);  // k, the nearest below
+    EXPECT_EQ(after(g.stepLine(1, l)), 11);  // k, the nearest below
     EXPECT_FALSE(g.stepLine(1, l));
-    EXPECT_TRUE(g.stepLine(-1, l));
-    EXPECT_EQ(g.selected(), 3);  // c and d are as near: the left one
+    EXPECT_EQ(after(g.stepLine(-1, l)), 3);  // c and d are as near: the left one
     EXPECT_TRUE(g.select(7));
-    EXPECT_TRUE(g.stepLine(-1, l));
-    EXPECT_EQ(g.selected(), 0);  // g straight up onto a
+    EXPECT_EQ(after(g.stepLine(-1, l)), 0);  // g straight up onto a
     EXPECT_TRUE(g.select(0));
-    EXPECT_TRUE(g.step(1));
-    EXPECT_EQ(g.selected(), 2);  // over the hyphen and the gap
+    EXPECT_EQ(after(g.step(1)), 2);  // over the hyphen and the gap
     EXPECT_TRUE(g.select(0));
     EXPECT_EQ(g.selectedSymbol(), 0);  // a, the first letter given a symbol
-    EXPECT_TRUE(g.step(-1));
-    EXPECT_EQ(g.selected(), 11);  // round the end
+    EXPECT_EQ(after(g.step(-1)), 11);  // round the end
     EXPECT_FALSE(g.step(0));
     // A code of one letter: a step comes round to the same tile.
     SharedState one = listOf({"a"});

@@ -9,31 +9,17 @@
 
 namespace {
 
-const Pairs kSpace{
-    {"planet", "A world that circles a star"}, {"earth", "The planet we live on"},
-    {"moon", "It circles the earth"}, {"comet", "An icy body with a bright tail"},
-    {"orbit", "The path around a planet or star"}, {"star", "A ball of burning gas"},
-    {"meteor", "A shooting star"}, {"rocket", "It carries people into space"}};
-
-// Selects the word `index` in `direction` by clicking its first cell (a second click switches
-// to the crossing word). Returns false when the word cannot be selected.
-bool SelectWord(CrosswordForm* game, int index, int direction, int cell) {
-    const QPoint at = game->board()->cellRect(cell).center();
-    for (int clicks = 0; clicks < 3; ++clicks) {
-        QTest::mouseClick(game->board(), Qt::LeftButton, {}, at);
-        const auto& b = game->state().board;
-        const bool dirOk = direction == cross::kAcross ? b.SelAcross : b.SelDown;
-        if (dirOk && b.SelWord == index) return true;
-    }
-    return false;
-}
+const Pairs kSpace{{"planet", "A world that circles a star"},
+                   {"earth", "The planet we live on"},
+                   {"moon", "It circles the earth"},
+                   {"comet", "An icy body with a bright tail"},
+                   {"orbit", "The path around a planet or star"},
+                   {"star", "A ball of burning gas"},
+                   {"meteor", "A shooting star"},
+                   {"rocket", "It carries people into space"}};
 
 CrosswordForm* OpenCrossword(ShellFixture& fx, bool soundOn) {
-    WriteOneList(fx, "Space Words", kSpace);
-    auto* chooser = ChooserFor("Crossword", 10, false, soundOn);
-    ThroughOptions(chooser, "Space Words", 10, soundOn);
-    Pump(100);
-    return Showing<CrosswordForm>();
+    return ThroughOptions<CrosswordForm>(fx, "Crossword", kSpace, 10, soundOn, 100);
 }
 
 }  // namespace
@@ -51,8 +37,7 @@ private slots:
         QCOMPARE(int(s.Difficulty), 8);
         QCOMPARE(fx.music.opened, appFile("sounds/entertainer.mid"));
         QCOMPARE(fx.music.plays, 1);
-        QCOMPARE(game->findChild<QLabel*>("ClueLabel")->text(),
-                 "Click a word in the puzzle to see the clue.");
+        QCOMPARE(LabelText(game, "ClueLabel"), "Click a word in the puzzle to see the clue.");
 
         const auto words = PlacedWords(game->state().board);
         QCOMPARE(int(words.size()), int(s.PuzzleWordCount));
@@ -60,8 +45,8 @@ private slots:
         QVERIFY(!command1->isVisible());
         for (std::size_t n = 0; n < words.size(); ++n) {
             const auto& w = words[n];
-            QVERIFY(SelectWord(game, w.index, w.direction, w.cell));
-            QCOMPARE(game->findChild<QLabel*>("ClueLabel")->text(), toQ(s.Meanings[w.index]));
+            QVERIFY(SelectWord(game, w, game->board()->cellRect(w.cell)));
+            QCOMPARE(LabelText(game, "ClueLabel"), toQ(s.Meanings[w.index]));
             QVERIFY(command1->isVisible());
             const QString word = toQ(s.Words[w.index]);
             if (n == 0) {
@@ -104,7 +89,7 @@ private slots:
         auto* command1 = game->findChild<QPushButton*>("Command1");
         const auto words = PlacedWords(game->state().board);
         for (const auto& w : words) {
-            QVERIFY(SelectWord(game, w.index, w.direction, w.cell));
+            QVERIFY(SelectWord(game, w, game->board()->cellRect(w.cell)));
             if (&w == &words.front()) {
                 // A key typed onto the button never gives the answer; a mouse-down clears the
                 // guard.

@@ -29,11 +29,8 @@ Texts onLine(const Game& g, int line) {
 }  // namespace
 
 TEST(WordBricksSplit, CutsIntoTwosAndThrees) {
-    struct Case {
-        std::string word;
-        std::vector<int> sizes;  // each drawn cut
-        Texts bricks;
-    } cases[] = {
+    // The word, the size of each cut drawn, the bricks.
+    const std::tuple<std::string, std::vector<int>, Texts> cases[] = {
         {"cat", {}, {"cat"}},
         {"moon", {}, {"mo", "on"}},  // never a three and a lonely one
         {"apple", {3}, {"app", "le"}},
@@ -41,11 +38,11 @@ TEST(WordBricksSplit, CutsIntoTwosAndThrees) {
         {"elephants", {2, 3}, {"el", "eph", "an", "ts"}},
         {"ice cream", {3, 3}, {"ice", " cr", "eam"}},
     };
-    for (const Case& c : cases) {
+    for (const auto& [word, sizes, bricks] : cases) {
         ScriptedRng rng;
-        for (int size : c.sizes) rng.pick(size - 1, 2);
-        EXPECT_EQ(split(c.word, rng), c.bricks) << c.word;
-        EXPECT_EQ(rng.draws, int(c.sizes.size())) << c.word;
+        for (int size : sizes) rng.pick(size - 1, 2);
+        EXPECT_EQ(split(word, rng), bricks) << word;
+        EXPECT_EQ(rng.draws, int(sizes.size())) << word;
     }
 }
 
@@ -67,8 +64,7 @@ TEST(WordBricksDeal, WordsThenCutsThenTheHeap) {
     EXPECT_EQ(heap, (Texts{"er", "bra", "ze", "tig"}));
 
     // A 14-letter word is the longest a line takes.
-    ScriptedRng one;
-    one.pick(2, 6);
+    auto one = ScriptedRng().pick(2, 6);
     EXPECT_EQ(deal(s, 1, one).lines.at(0).word, "hippopotamuses");
 
     const SharedState bare = ListOf({"a", "bee"}, 1, true);
@@ -80,8 +76,7 @@ TEST(WordBricksDeal, UnusableListsEndInsteadOfSpinning) {
     EXPECT_FALSE(deal(ListOf({"ant", "bee"}), 2, rng).ready());
     EXPECT_EQ(rng.draws, kMaxDraws);
     // Every entry tried and too few of them usable: no need to wait for the bound.
-    ScriptedRng all;
-    all.pick(1, 3).pick(2, 3).pick(3, 3);
+    auto all = ScriptedRng().pick(1, 3).pick(2, 3).pick(3, 3);
     EXPECT_FALSE(deal(ListOf({"ant", "extraordinarily", "bee"}), 3, all).ready());
     EXPECT_EQ(all.draws, 3);
     EXPECT_FALSE(deal(ListOf({}), 2, all).ready());
@@ -94,7 +89,7 @@ TEST(WordBricksPlay, LinesFillCheckAndLock) {
     Game g = table(2, {"Tiger", "ox"}, {"ger", "TI", "o", "x", "ti"});
     EXPECT_EQ(drop(g, 0, 1).what, Drop::Refused);  // three letters, room for two
     EXPECT_EQ(drop(g, 2, 1).what, Drop::Placed);
-    EXPECT_EQ(drop(g, 2, -1).what, Drop::Moved);    // back to the ground
+    EXPECT_EQ(drop(g, 2, -1).what, Drop::Moved);  // back to the ground
     EXPECT_TRUE(g.lines[1].bricks.empty());
     // Another word's brick spells it too, in any case.
     EXPECT_EQ(drop(g, 0, 0).what, Drop::Placed);
@@ -109,9 +104,8 @@ TEST(WordBricksPlay, LinesFillCheckAndLock) {
     // A full wrong line: every brick off, ten points gone.
     drop(g, 3, 1);
     const DropResult wrong = drop(g, 2, 1);
-    EXPECT_EQ(wrong.what, Drop::Shaken);
-    EXPECT_EQ(wrong.shaken, (std::vector<int>{3, 2}));
-    EXPECT_EQ(std::tuple(g.score, g.bricks[3].line), std::tuple(40, -1));
+    EXPECT_EQ(std::tuple(wrong.what, wrong.shaken, g.score, g.bricks[3].line),
+              std::tuple(Drop::Shaken, std::vector<int>{3, 2}, 40, -1));
     g.seconds = 32767;
     tick(g);  // the clock's count stops at the largest the table holds
     EXPECT_EQ(g.seconds, 32767);
