@@ -1,13 +1,9 @@
 // Asteroid Zap on its screen: shooting the filler away to a win and the table, a wrong letter
 // and a destroyed ship waiting for a key, the ship under the arrow keys, and long words.
-#include <QtTest>
 #include <algorithm>
 
 #include "game_end.h"
 #include "games/action/asteroid_zap/asteroid_zap_screen.h"
-
-using namespace wm;
-using namespace wm::test;
 
 namespace {
 

@@ -1,13 +1,9 @@
 // BreakThru on its screen: from the title through the chooser and the options, the paddle
 // steered with the keys, bricks broken in order and out of it, two words to the table; a game
 // lost at 1920x1080 with every ball missed, a try again, and a list whose words are too long.
-#include <QtTest>
-
 #include "game_end.h"
 #include "games/action/break_thru/break_thru_screen.h"
 
-using namespace wm;
-using namespace wm::test;
 using namespace wm::break_thru;
 
 class BreakThruScreenTest : public QObject {

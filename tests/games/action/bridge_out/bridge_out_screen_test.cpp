@@ -1,16 +1,11 @@
 // Bridge Out on its screen: from the title, planks dragged out of the river into the gaps (a
 // wrong one first), eight bridges fixed and the score to the table; three trucks stopped at the
 // gap at 1920x1080, the box naming the words, a try again; a list with nothing to build.
-#include <QtTest>
-
 #include "look.h"
 
 #include "core/strings.h"
 #include "game_end.h"
 #include "games/action/bridge_out/bridge_out_screen.h"
-
-using namespace wm;
-using namespace wm::test;
 
 class BridgeOutScreenTest : public QObject {
     Q_OBJECT

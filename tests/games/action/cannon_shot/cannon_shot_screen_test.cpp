@@ -2,8 +2,6 @@
 // barrel turned, the bar charged, balloons popped in order and out of it, five words to the
 // table; a game lost at 1920x1080 with every cannonball spent, a try again, and a list whose
 // words are all too long.
-#include <QtTest>
-
 #include "look.h"
 
 #include "cannon_aim.h"
@@ -11,8 +9,6 @@
 #include "games/action/cannon_shot/cannon_shot_screen.h"
 #include "platform/speech.h"
 
-using namespace wm;
-using namespace wm::test;
 using namespace wm::cannon_shot;
 
 class CannonShotScreenTest : public QObject {

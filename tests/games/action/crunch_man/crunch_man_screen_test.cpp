@@ -1,12 +1,7 @@
 // Crunch Man on its screen: from the title through a scripted field to a win and the table,
 // to a wrong letter and to a mine, the sounds gated by SoundOn, and the long-word refusal.
-#include <QtTest>
-
 #include "game_end.h"
 #include "games/action/crunch_man/crunch_man_screen.h"
-
-using namespace wm;
-using namespace wm::test;
 
 namespace {
 

@@ -1,13 +1,9 @@
 // Hang Glider on its screen, flown with the keys: from the title through "Get ready!", each
 // letter met by steering up to it, a wrong one, five words to the table; a game lost at
 // 1920x1080 by diving into the field, a try again, and a list whose words are all too long.
-#include <QtTest>
-
 #include "game_end.h"
 #include "games/action/hang_glider/hang_glider_screen.h"
 
-using namespace wm;
-using namespace wm::test;
 using namespace wm::hang_glider;
 
 class HangGliderScreenTest : public QObject {

@@ -1,16 +1,11 @@
 // Jailbreak on its screen: from the title through the chooser and the options to a won game and
 // the table; a click, a hint, the palette and a silent mistake; the guard at the door and a
 // try again; an escape with no points left; a list without enough different words.
-#include <QtTest>
-
 #include "look.h"
 
 #include "game_end.h"
 #include "games/action/jailbreak/jailbreak_screen.h"
 #include "platform/text.h"
-
-using namespace wm;
-using namespace wm::test;
 
 namespace {
 

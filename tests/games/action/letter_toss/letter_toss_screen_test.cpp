@@ -1,15 +1,10 @@
 // Letter Toss on its screen: from the title through tosses flicked with the mouse to the time-up
 // and the table; a miss on the floor, a flick too weak to throw, a silent game with no points and
 // a try again, the last ball in the air when the clock runs out; a list it cannot use.
-#include <QtTest>
-
 #include "look.h"
 
 #include "game_end.h"
 #include "games/action/letter_toss/letter_toss_screen.h"
-
-using namespace wm;
-using namespace wm::test;
 
 namespace {
 

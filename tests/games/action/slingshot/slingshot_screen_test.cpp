@@ -2,8 +2,6 @@
 // wrong target and the right ones, ten definitions won to the table; a game of misses at
 // 1920x1080, the answer flashing after three stones, the words shown in the loss box, a try
 // again.
-#include <QtTest>
-
 #include "look.h"
 
 #include <cmath>
@@ -11,8 +9,6 @@
 #include "game_end.h"
 #include "games/action/slingshot/slingshot_screen.h"
 
-using namespace wm;
-using namespace wm::test;
 using namespace wm::slingshot;
 
 class SlingShotScreenTest : public QObject {

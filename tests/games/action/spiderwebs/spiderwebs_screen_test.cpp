@@ -2,14 +2,9 @@
 // ten definitions and the score to the table; twelve flies with long words, the spider winning
 // every definition, the word shown each time, no points and a try again; a list with too few
 // words for the web.
-#include <QtTest>
-
 #include "core/strings.h"
 #include "game_end.h"
 #include "games/action/spiderwebs/spiderwebs_screen.h"
-
-using namespace wm;
-using namespace wm::test;
 
 class SpiderScreenTest : public QObject {
     Q_OBJECT

@@ -1,13 +1,8 @@
 // Toad Race on its screen: from the title through "Ready... Go!", wrong and right words, the
 // palette, a race won to the table; a race lost to a computer toad at 1920x1080, the box naming
 // the winner and the word, a try again; a list with no words.
-#include <QtTest>
-
 #include "game_end.h"
 #include "games/action/toad_race/toad_race_screen.h"
-
-using namespace wm;
-using namespace wm::test;
 
 class ToadRaceScreenTest : public QObject {
     Q_OBJECT

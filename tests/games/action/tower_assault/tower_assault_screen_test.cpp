@@ -1,14 +1,9 @@
 // Tower Assault on its screen: from the title, the knight steered with held arrow keys under
 // ten right scrolls, the ladder and the score to the table; three wrong scrolls caught at
 // 1920x1080, the box naming the word, a try again; a list with one word only refused.
-#include <QtTest>
-
 #include "game_end.h"
 #include "games/action/tower_assault/tower_assault_screen.h"
 #include "tower_steer.h"
-
-using namespace wm;
-using namespace wm::test;
 
 class TowerScreenTest : public QObject {
     Q_OBJECT

@@ -1,13 +1,9 @@
 // Letter Drop on its screen: from the title, letters steered with held keys onto their tiles, a
 // wrong landing that crumbles, the win to the table; lists of long words and of words with
 // nothing to drop refused; the close box that ends the program.
-#include <QtTest>
-
 #include "game_end.h"
 #include "games/action/letter_drop/letter_drop_screen.h"
 
-using namespace wm;
-using namespace wm::test;
 using namespace wm::letter_drop;
 
 class LetterDropScreenTest : public QObject {

@@ -1,15 +1,11 @@
 // Mini Golf on its screen: from the title, a putt into the right hole, the clock to the table;
 // and a putt into a wrong hole, the label's hint, the score caption that waits for the right
 // hole, and the ending that never reaches the table.
-#include <QtTest>
-
 #include <cmath>
 
 #include "game_end.h"
 #include "games/action/mini_golf/mini_golf_screen.h"
 
-using namespace wm;
-using namespace wm::test;
 using namespace wm::mini_golf;
 
 class MiniGolfScreenTest : public QObject {
