@@ -3,8 +3,8 @@
 // gap at 1920x1080, the box naming the words, a try again; a list with nothing to build.
 #include "look.h"
 
+#include "act_kit.h"
 #include "core/strings.h"
-#include "game_end.h"
 #include "games/action/bridge_out/bridge_out_screen.h"
 
 class BridgeOutScreenTest : public QObject {
@@ -41,10 +41,7 @@ void BridgeOutScreenTest::eightBridgesFromTheTitleToTheTable() {
         {"yak", "a hairy ox"},       {"emu", "a big bird"},       {"fox", "a red animal"}};
     BridgeOutGame* game = nullptr;
     bool rolling = false;  // the river flows on behind the end boxes
-    SetModalHook([&](QDialog& d) {
-        rolling = game && game->frame().findTimer("Timer1")->isActive();
-        fx.win(d);
-    });
+    WatchBehindTheWin(fx, game, rolling);
     game = FromTitle<BridgeOutGame>(fx, "Bridge Out", river, 2);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Shared().SoundOn = kTrue;

@@ -1,8 +1,8 @@
 // Hang Glider on its screen, flown with the keys: from the title through "Get ready!", each
 // letter met by steering up to it, a wrong one, five words to the table; a game lost at
 // 1920x1080 by diving into the field, a try again, and a list whose words are all too long.
-#include "game_end.h"
 #include "games/action/hang_glider/hang_glider_screen.h"
+#include "act_kit.h"
 
 using namespace wm::hang_glider;
 
@@ -25,15 +25,10 @@ bool FlyThrough(HangGlider* game, char letter, double y) {
     int held = 0;
     for (int frame = 0; frame < 120 && !through(); ++frame) {
         const double dy = y - g.y();
-        const int want = dy < -8 ? Qt::Key_Up : dy > 8 ? Qt::Key_Down : 0;
-        if (want != held) {
-            if (held) SendKey(game, held, QEvent::KeyRelease);
-            if (want) SendKey(game, want);
-            held = want;
-        }
+        Hold(game, held, dy < -8 ? Qt::Key_Up : dy > 8 ? Qt::Key_Down : 0);
         Pump(16);
     }
-    if (held) SendKey(game, held, QEvent::KeyRelease);
+    Hold(game, held, 0);
     return through();
 }
 
@@ -63,8 +58,7 @@ void HangGliderScreenTest::fiveWordsWonWithTheKeys() {
     Pump();
     QCOMPARE(game->sky()->call(), "Get ready!");
     QVERIFY(fx.sound.played.contains("gliderready.wav"));
-    QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
-    QCOMPARE(LabelText(game, "LevelLabel"), "Level 2");
+    QCOMPARE(Labels(game, "Label1 LevelLabel"), Meaning() + " | Level 2");
     QVERIFY(fx.music.opened.endsWith("hangglider.mid") && game->windowTitle() == "Hang Glider");
     CheckLayout(game);
     Pump(HangGlider::kReadyMs);
@@ -98,7 +92,7 @@ void HangGliderScreenTest::fiveWordsWonWithTheKeys() {
             QVERIFY(fx.sound.played.contains("gliderword.wav"));
             Pump(HangGlider::kWordMs);
             QCOMPARE(game->sky()->call(), QString("Word %1 of 5").arg(w + 1));
-            QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
+            QCOMPARE(LabelText(game, "Label1"), Meaning());
             QVERIFY(game->findChild<QLabel*>("Label1")->isVisible());
             Pump(HangGlider::kReadyMs);
         }
@@ -127,11 +121,8 @@ void HangGliderScreenTest::landingTooEarlyLosesAndALongClueShrinks() {
     QCOMPARE(game->game().phase(), Phase::Lost);
     QCOMPARE(game->sky()->call(), "You landed too early!");
     QVERIFY(fx.sound.played.contains("gliderland.wav"));
-    fx.dialogs.answerYes(true);
     bool behind = false;  // the sky flies on behind the box
-    fx.dialogs.whileOpen = [&](const auto&) {
-        behind = game->frame().findTimer("Timer1")->isActive();
-    };
+    WatchBehindTheBox(fx, game, behind);
     Pump(HangGlider::kEndMs);
     QVERIFY(behind);
     QCOMPARE(LastBox(fx),
@@ -156,8 +147,7 @@ void HangGliderScreenTest::landingTooEarlyLosesAndALongClueShrinks() {
     game = OpenGame<HangGlider>(fx, "Hang Glider", {{"eagle", longer}, {"eagle", longer}}, 1);
     QVERIFY(game);
     Pump();
-    const QLabel* clue = game->findChild<QLabel*>("Label1");
-    QVERIFY(clue->font().pixelSize() < 30);  // 30 at this size for a short clue
+    QVERIFY(game->findChild<QLabel*>("Label1")->font().pixelSize() < 30);  // 30 for a short one
     CheckLayout(game);
 }
 

@@ -127,8 +127,7 @@ void JailbreakScreenTest::locksHintsAndThePalette() {
     QCOMPARE(Shared().Score, 140.0);
     QCOMPARE(fx.sound.played.size(), sounds);
     QTest::keyClick(game->typingBox(), Qt::Key_Escape);
-    Pump();
-    QVERIFY(Showing<Title>());
+    QVERIFY(BackAtTitle());
 }
 
 void JailbreakScreenTest::theGuardCatchesYouAndYouTryAgain() {
@@ -155,8 +154,7 @@ void JailbreakScreenTest::theGuardCatchesYouAndYouTryAgain() {
     QCOMPARE(Shared().Score, 0.0);
     Pump(2000 + 1500 * 40 + 1600);  // caught again, and this time No
     QVERIFY(fx.dialogs.last().startsWith("The guard caught you!"));
-    Pump();
-    QVERIFY(Showing<Title>());
+    QVERIFY(BackAtTitle());
     QCOMPARE(ReadScoreTable(fx.path("scores/Jailbreak.dat").toStdString()).score(1), 0.0);
 }
 
@@ -182,8 +180,7 @@ void JailbreakScreenTest::anEscapeWithNoPointsLeftThenTooFewDifferentWords() {
     QCOMPARE(LastBox(fx),
              "Escaped! | You escaped from all three cells, but your score is -660, "
              "so it cannot go on the high score table. Would you like to try again?");
-    Pump();
-    QVERIFY(Showing<Title>());
+    QVERIFY(BackAtTitle());
     // Three spellings of one word are one word: too few for two locks.
     FromTitle<QWidget>(fx, "Jailbreak",
                        {{"cat", "a pet that purrs"}, {"Cat", "a pet"}, {"CAT", "meows"}}, 2);

@@ -3,7 +3,7 @@
 // a try again, the last ball in the air when the clock runs out; a list it cannot use.
 #include "look.h"
 
-#include "game_end.h"
+#include "act_kit.h"
 #include "games/action/letter_toss/letter_toss_screen.h"
 
 namespace {
@@ -44,10 +44,7 @@ void LetterTossScreenTest::roadFromTitleThroughSixtySecondsToTheTable() {
     Road fx(0, {"LTS"});
     LetterTossGame* game = nullptr;
     bool fanTurning = false;  // behind the end boxes
-    SetModalHook([&](QDialog& d) {
-        fanTurning = game && game->frame().findTimer("Anim")->isActive();
-        fx.win(d);
-    });
+    WatchBehindTheWin(fx, game, fanTurning, "Anim");
     game = FromTitle<LetterTossGame>(fx, "Letter Toss", kFour, 3);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     // The generator's middle value: cloud, its basket the middle one of three, no draught.

@@ -2,9 +2,9 @@
 // ten definitions and the score to the table; twelve flies with long words, the spider winning
 // every definition, the word shown each time, no points and a try again; a list with too few
 // words for the web.
-#include "core/strings.h"
-#include "game_end.h"
 #include "games/action/spiderwebs/spiderwebs_screen.h"
+#include "act_kit.h"
+#include "core/strings.h"
 
 class SpiderScreenTest : public QObject {
     Q_OBJECT
@@ -72,10 +72,7 @@ void SpiderScreenTest::tenDefinitionsFromTheTitleToTheTable() {
                      {"worm", "it wriggles"}, {"gnat", "a very small fly"}};
     SpiderGame* game = nullptr;
     bool dancing = false;  // the fireflies behind the end boxes
-    SetModalHook([&](QDialog& d) {
-        dancing = game && game->frame().findTimer("Timer1")->isActive();
-        fx.win(d);
-    });
+    WatchBehindTheWin(fx, game, dancing);
     game = FromTitle<SpiderGame>(fx, "Spiderwebs", bugs, 3);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Shared().SoundOn = kTrue;

@@ -1,8 +1,8 @@
 // Tower Assault on its screen: from the title, the knight steered with held arrow keys under
 // ten right scrolls, the ladder and the score to the table; three wrong scrolls caught at
 // 1920x1080, the box naming the word, a try again; a list with one word only refused.
-#include "game_end.h"
 #include "games/action/tower_assault/tower_assault_screen.h"
+#include "act_kit.h"
 #include "tower_steer.h"
 
 class TowerScreenTest : public QObject {
@@ -18,18 +18,12 @@ namespace {
 template <class Done>
 bool Drive(TowerGame* game, bool catchRight, Done done, int frames = 4000) {
     int held = 0;
-    for (int i = 0; i < frames; ++i) {
-        if (done()) break;
+    for (int i = 0; i < frames && !done(); ++i) {
         const int dir = TowerSteer(game->game(), catchRight);
-        const int key = dir < 0 ? Qt::Key_Left : dir > 0 ? Qt::Key_Right : 0;
-        if (key != held) {
-            if (held) SendKey(game, held, QEvent::KeyRelease);
-            if (key) SendKey(game, key);
-            held = key;
-        }
+        Hold(game, held, dir < 0 ? Qt::Key_Left : dir > 0 ? Qt::Key_Right : 0);
         Pump(16);
     }
-    if (held) SendKey(game, held, QEvent::KeyRelease);
+    Hold(game, held, 0);
     return done();
 }
 
@@ -96,11 +90,8 @@ void TowerScreenTest::threeWrongScrollsDriveTheKnightBack() {
     QCOMPARE(game->scene()->call(), "The guards drove you back!");
     QVERIFY(fx.sound.played.contains("towerlose.wav"));
     const QString word = Word();
-    fx.dialogs.answerYes(true);
     bool behind = false;  // the scene plays on behind the box
-    fx.dialogs.whileOpen = [&](const auto&) {
-        behind = game->frame().findTimer("Timer1")->isActive();
-    };
+    WatchBehindTheBox(fx, game, behind);
     Pump(TowerGame::kEndMs);
     QCOMPARE(LastBox(fx), "Tower Assault | The guards drove you back! The word was \"" + word +
                               "\". Would you like to try again?");

@@ -108,8 +108,7 @@ void LetterDropScreenTest::longWordsAndNothingToDropAreRefused() {
     QCOMPARE(LastBox(fx),
              "Letter Drop! | The words on this vocabulary list are too long for this "
              "game. Please choose another list or another game.");
-    Pump();
-    QVERIFY(Showing<Title>());
+    QVERIFY(BackAtTitle());
     // Marks and blanks only: nothing to drop, and one box that says so.
     fx.dialogs.shown.clear();
     OpenGame<QWidget>(fx, "Letter Drop", {{"- -", "only dashes"}, {"'-'", "marks"}}, 90, true);
@@ -118,8 +117,7 @@ void LetterDropScreenTest::longWordsAndNothingToDropAreRefused() {
              QStringList{"The words on this vocabulary list are either too long for this game or "
                          "have no letters to drop. Please choose another list or another game."});
     QCOMPARE(fx.dialogs.shown.back().title, "Letter Drop!");
-    Pump();
-    QVERIFY(Showing<Title>());
+    QVERIFY(BackAtTitle());
 }
 
 void LetterDropScreenTest::closingTheScreenEndsTheProgram() {
