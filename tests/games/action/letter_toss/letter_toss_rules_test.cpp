@@ -169,8 +169,8 @@ TEST(LetterTossClock, SixtySecondsThenTimeIsUp) {
 
 TEST(LetterTossView, TheRoomInPerspective) {
     const Seen hand = project({0, 0, 150}), rim = project({340, 1000, 220});
-    EXPECT_EQ(std::tuple(hand.x, hand.y), std::tuple(800.0, 850.0));
-    EXPECT_EQ(std::tuple(rim.x, rim.y, rim.scale), std::tuple(970.0, 540.0, 0.5));
+    EXPECT_EQ(std::tuple(hand.x, hand.y, rim.x, rim.y, rim.scale),
+              std::tuple(800.0, 850.0, 970.0, 540.0, 0.5));
 }
 
 // One step of the flight (16 ms; gravity 2400) against the walls, a rim and a basket's sides,

@@ -109,9 +109,7 @@ TEST(SpiderwebsPlay, WrongFlyHurriesTheSpiderThenTheRightOneIsFreed) {
     EXPECT_EQ(g.click(2), Click::Wrong);
     EXPECT_EQ(g.msLeft(), 4925);  // 100 ms half as fast again, then twice as fast
     EXPECT_EQ(g.click(0), Click::Right);
-    EXPECT_EQ(g.lastPoints(), 98);
-    EXPECT_EQ(g.score(), -50 + 98);
-    EXPECT_EQ(g.freed(), 1);
+    EXPECT_EQ(std::tuple(g.lastPoints(), g.score(), g.freed()), std::tuple(98, -50 + 98, 1));
     EXPECT_EQ(g.click(0), Click::Ignored);
     // The fly buzzes away, then the next definition: the spider's pace back to its own.
     rng.pick(2, 4).pick(1, 3).pick(1, 4).pick(3, 4);

@@ -95,8 +95,8 @@ TEST(ToadRaceWords, NoRepeatsUntilTheListRunsOut) {
         ASSERT_EQ(r.submit(s, s.TheWord, rng), Typed::Hop);
         next.push_back(s.TheWord);
     }
-    EXPECT_EQ(next, (std::vector<std::string>{"cat", "dog", "owl", "bee"}));
-    EXPECT_EQ(r.pad(0), 7);
+    EXPECT_EQ(std::tuple(next, r.pad(0)),
+              std::tuple(std::vector<std::string>{"cat", "dog", "owl", "bee"}, 7));
 }
 
 TEST(ToadRaceWords, TwoWordsTakeTurns) {

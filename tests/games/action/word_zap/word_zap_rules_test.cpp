@@ -106,8 +106,8 @@ TEST(WordZapClock, TimeRunsOutAndTheStarsBringTheEnd) {
 }
 
 TEST(WordZapTexts, Captions) {
-    EXPECT_EQ(scoreCaption(2300), "Score: 2300");
-    EXPECT_EQ(timeCaption(7), "Time:  7");
+    EXPECT_EQ(std::tuple(scoreCaption(2300), timeCaption(7)),
+              std::tuple("Score: 2300", "Time:  7"));
     EXPECT_EQ(badScoreText(-600),
               "Oops! You scored -600! Try to be more careful what you shoot next time! Would you "
               "like to try again?");

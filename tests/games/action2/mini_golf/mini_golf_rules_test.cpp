@@ -95,8 +95,7 @@ TEST(MiniGolfRules, SwingIsClampedAndFliesAwayFromThePull) {
     EXPECT_FALSE(c.canSwing(bx, by));  // not while the ball moves
     c.setup(s, rng);
     c.swing(bx - 5001 * 5, by + 5);
-    EXPECT_EQ(c.vx(), 1000);
-    EXPECT_EQ(c.vy(), -1);
+    EXPECT_EQ(std::tuple(c.vx(), c.vy()), std::tuple(1000, -1));
 }
 
 TEST(MiniGolfRules, SwingStartsOnlyCloseToTheBall) {
@@ -222,6 +221,5 @@ TEST(MiniGolfRules, ScoresByStrokesAndAWrongHoleCostsAThousand) {
     EXPECT_FALSE(c.canSwing(int(c.ballX()), int(c.ballY())));
     c.nextWord(s, rng);
     EXPECT_FALSE(c.waiting());
-    EXPECT_EQ(s.Score, -1000);
-    EXPECT_EQ(c.strokes(), 0);
+    EXPECT_EQ(std::tuple(s.Score, c.strokes()), std::tuple(-1000, 0));
 }
