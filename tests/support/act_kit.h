@@ -1,8 +1,9 @@
-// What the action games' screen tests share beyond the end kit: the end of a game watched for
-// the play going on behind its boxes, and an arrow key held down as a pupil's finger moves.
+// What the action games' screen tests start from: the screen kit and the end kit, the end of a
+// game watched for the play going on behind its boxes, and an arrow key held as a finger moves.
 #pragma once
 
 #include "game_end.h"
+#include "screen_kit.h"
 
 namespace wm::test {
 
@@ -23,6 +24,13 @@ void WatchBehindTheWin(Road& fx, Game* const& game, bool& behind, const char* na
         behind = game && game->frame().findTimer(name)->isActive();
         fx.win(d);
     });
+}
+
+// Empty when the game's call reads `text` and its sound `effect` was played; else what differs.
+inline QString Called(const ShellFixture& fx, const QString& call, const QString& text,
+                      const QString& effect) {
+    if (call != text) return "the call is \"" + call + "\", not \"" + text + "\"";
+    return fx.sound.played.contains(effect) ? QString() : effect + " was not played";
 }
 
 // Lets go of the key held (0: none) and holds `key` instead, unless it is held already.

@@ -2,7 +2,7 @@
 // and a destroyed ship waiting for a key, the ship under the arrow keys, and long words.
 #include <algorithm>
 
-#include "game_end.h"
+#include "act_kit.h"
 #include "games/action/asteroid_zap/asteroid_zap_screen.h"
 
 namespace {
@@ -95,8 +95,7 @@ void AsteroidZapScreenTest::shipDestroyedAndArrowKeysThenLongWords() {
     QCOMPARE(game->defText(), "Your ship was destroyed! The word was:");
     QVERIFY(game->waitingForKey());
     SendKey(game, Qt::Key_Space);
-    QVERIFY(fx.dialogs.saw("Would you like to try again?"));
-    QVERIFY(BackAtTitle());
+    QVERIFY(fx.dialogs.saw("Would you like to try again?") && BackAtTitle());
     fx.rng.setFallback(0.1);  // always the first, of 15 letters
     WM_VERIFY(Refused(fx, "Asteroid Zap", {{"extraordinarily", "very"}, {"encyclopaedias", "x"}}, 2,
                       "The words on this list are too long to play this game! Choose another "

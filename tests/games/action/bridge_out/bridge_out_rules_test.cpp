@@ -112,8 +112,7 @@ TEST(BridgeOutDrops, WrongSplashesBackMissedIsFreeRightLocksAndTheRoadToSpareIsT
     Game g;
     ASSERT_TRUE(g.start(s, rng));
     const int f = PlankOf(g, "F"), o = PlankOf(g, "O"), x = PlankOf(g, "X");
-    ASSERT_TRUE(f && o && x);
-    ASSERT_TRUE(g.take(o));  // in the pupil's hand while the truck comes
+    ASSERT_TRUE(f && o && x && g.take(o));  // in the pupil's hand while the truck comes
     // A wrong plank: -5 x level, and back into the river where it was let go, held to it.
     ASSERT_TRUE(g.take(x));
     EXPECT_EQ(g.place(x, 0, 2000), Drop::Wrong);

@@ -72,8 +72,7 @@ void BridgeOutScreenTest::eightBridgesFromTheTitleToTheTable() {
         Pump(bridge_out::kCrossMs + 16);
     }
     Pump(bridge_out::kCrossMs + 16);
-    QCOMPARE(game->scene()->call(), "All across! You did it!");
-    QVERIFY(fx.sound.played.contains("bridgewin.wav"));
+    WM_VERIFY(Called(fx, game->scene()->call(), "All across! You did it!", "bridgewin.wav"));
     QVERIFY(fx.dialogs.shown.empty());
     Pump(BridgeOutGame::kEndMs);
     QVERIFY(rolling);
@@ -95,8 +94,7 @@ void BridgeOutScreenTest::threeTrucksStoppedNameTheWords() {
         QCOMPARE(LabelText(game, "RoadLabel"), "Road: 44 m");
         if (truck == 1) {
             while (game->game().phase() == bridge_out::Phase::Ready) Pump(16);
-            QCOMPARE(game->scene()->call(), "Go!");
-            QVERIFY(fx.sound.played.contains("bridgego.wav"));
+            WM_VERIFY(Called(fx, game->scene()->call(), "Go!", "bridgego.wav"));
             // 44 metres at 7 m/s on level 10: 6286 ms, on 16 ms frames.
             Pump(6272);
             QCOMPARE(game->game().phase(), bridge_out::Phase::Driving);
@@ -111,8 +109,7 @@ void BridgeOutScreenTest::threeTrucksStoppedNameTheWords() {
         for (int i = 0; i < 300 && game->game().phase() == bridge_out::Phase::Stopped; ++i)
             Pump(16);
     }
-    QCOMPARE(game->scene()->call(), "Out of trucks!");
-    QVERIFY(fx.sound.played.contains("bridgelose.wav"));
+    WM_VERIFY(Called(fx, game->scene()->call(), "Out of trucks!", "bridgelose.wav"));
     fx.dialogs.answerYes(true);
     Pump(BridgeOutGame::kEndMs);
     QCOMPARE(LastBox(fx), "Bridge Out | Honk! All three trucks had to stop at the broken bridge. "

@@ -54,8 +54,7 @@ void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
                                            2);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump();
-    QCOMPARE(game->sky()->call(), "Get ready!");
-    QVERIFY(fx.sound.played.contains("cannonready.wav"));
+    WM_VERIFY(Called(fx, game->sky()->call(), "Get ready!", "cannonready.wav"));
     QCOMPARE(Labels(game, "Label1 LevelLabel"), Meaning() + " | Level 2");
     QVERIFY(fx.music.opened.endsWith("cannonshot.mid") && game->windowTitle() == "Cannon Shot");
     Pump(CannonShotForm::kReadyMs);
@@ -93,16 +92,14 @@ void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
         }
         QVERIFY(fx.sound.played.contains("cannonboom.wav"));
         if (w < 5) {
-            QCOMPARE(game->sky()->call(), "Well done!");
-            QVERIFY(fx.sound.played.contains("cannonword.wav"));
+            WM_VERIFY(Called(fx, game->sky()->call(), "Well done!", "cannonword.wav"));
             Pump(CannonShotForm::kWordMs);
             QCOMPARE(game->sky()->call(), QString("Word %1 of 5").arg(w + 1));
             QCOMPARE(LabelText(game, "WordLabel"), QString("Word %1 of 5").arg(w + 1));
             Pump(CannonShotForm::kReadyMs);
         }
     }
-    QCOMPARE(game->sky()->call(), "You win!");
-    QVERIFY(fx.sound.played.contains("cannonwin.wav"));
+    WM_VERIFY(Called(fx, game->sky()->call(), "You win!", "cannonwin.wav"));
     Pump(CannonShotForm::kEndMs);
     WM_CHECK_WON(fx, "Cannon Shot", QString("CAN %1").arg(score));
 }
@@ -134,8 +131,7 @@ void CannonShotScreenTest::outOfCannonballsLoses() {
         for (int t = 0; t < 200 && game->game().ball().flying; ++t) Pump(16);
     }
     QVERIFY(fx.sound.played.contains("cannonthud.wav"));
-    QCOMPARE(game->sky()->call(), "Out of cannonballs!");
-    QVERIFY(fx.sound.played.contains("cannonlose.wav"));
+    WM_VERIFY(Called(fx, game->sky()->call(), "Out of cannonballs!", "cannonlose.wav"));
     QVERIFY(game->frame().sayIt() && voice.said.back().text == "ox");  // heard once it is lost
     WM_CHECK_LOOK("Cannon_Shot_lost", game);
     bool behind = false;  // the sky plays on behind the box

@@ -1,7 +1,7 @@
 // Crunch Man on its screen: from the title through a scripted field to a win and the table,
 // to a wrong letter and to a mine, the sounds gated by SoundOn, and the long-word refusal.
-#include "game_end.h"
 #include "games/action/crunch_man/crunch_man_screen.h"
+#include "act_kit.h"
 
 namespace {
 
@@ -83,8 +83,7 @@ void CrunchManScreenTest::roadToAWinAndTheTable() {
 void CrunchManScreenTest::wrongLetterBlinksThenAsks() {
     ShellFixture fx;
     auto* game = Start(fx);
-    QVERIFY(game);
-    QVERIFY(TickUntil([&] { return CentreColumn(game) == 14; }));
+    QVERIFY(game && TickUntil([&] { return CentreColumn(game) == 14; }));
     SendKey(game, Qt::Key_Up);
     QVERIFY(TickUntil([&] { return game->dying(); }));
     QVERIFY(fx.sound.played.contains("bonk.wav") && game->round().labels[1].red);
@@ -108,8 +107,7 @@ void CrunchManScreenTest::mineExplodesThenAsksWithoutSoundThenLongWords() {
     SendKey(game, Qt::Key_Down);
     QVERIFY(TickUntil([&] { return game->dying(); }));
     Pump(50 * 20);
-    QVERIFY(!game->dying());
-    QVERIFY(fx.dialogs.last().startsWith("Oops! You lost this game!"));
+    QVERIFY(!game->dying() && fx.dialogs.last().startsWith("Oops! You lost this game!"));
     // The title has its own sound; the game's are all gated.
     for (const char* effect : {"bleep2.wav", "2.wav", "dingling.wav", "bonk.wav"})
         QVERIFY2(!fx.sound.played.contains(effect), effect);

@@ -1,7 +1,7 @@
 // Froggy on its screen: from the title across the lanes to the right slot and the table, a
 // car, a stone, a held key and the wrong slot.
-#include "game_end.h"
 #include "games/action/froggy/froggy_screen.h"
+#include "act_kit.h"
 
 namespace {
 

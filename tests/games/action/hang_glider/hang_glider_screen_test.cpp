@@ -56,8 +56,7 @@ void HangGliderScreenTest::fiveWordsWonWithTheKeys() {
                                        2);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump();
-    QCOMPARE(game->sky()->call(), "Get ready!");
-    QVERIFY(fx.sound.played.contains("gliderready.wav"));
+    WM_VERIFY(Called(fx, game->sky()->call(), "Get ready!", "gliderready.wav"));
     QCOMPARE(Labels(game, "Label1 LevelLabel"), Meaning() + " | Level 2");
     QVERIFY(fx.music.opened.endsWith("hangglider.mid") && game->windowTitle() == "Hang Glider");
     CheckLayout(game);
@@ -88,8 +87,7 @@ void HangGliderScreenTest::fiveWordsWonWithTheKeys() {
         }
         QVERIFY(fx.sound.played.contains("gliderlift.wav"));
         if (w < 5) {
-            QCOMPARE(game->sky()->call(), "Well done!");
-            QVERIFY(fx.sound.played.contains("gliderword.wav"));
+            WM_VERIFY(Called(fx, game->sky()->call(), "Well done!", "gliderword.wav"));
             Pump(HangGlider::kWordMs);
             QCOMPARE(game->sky()->call(), QString("Word %1 of 5").arg(w + 1));
             QCOMPARE(LabelText(game, "Label1"), Meaning());
@@ -97,8 +95,7 @@ void HangGliderScreenTest::fiveWordsWonWithTheKeys() {
             Pump(HangGlider::kReadyMs);
         }
     }
-    QCOMPARE(game->sky()->call(), "You win!");
-    QVERIFY(fx.sound.played.contains("gliderwin.wav"));
+    WM_VERIFY(Called(fx, game->sky()->call(), "You win!", "gliderwin.wav"));
     Pump(HangGlider::kEndMs);
     WM_CHECK_WON(fx, "Hang Glider", QString("HGL %1").arg(score));
 }
@@ -119,8 +116,7 @@ void HangGliderScreenTest::landingTooEarlyLosesAndALongClueShrinks() {
     QVERIFY2(game->sky()->pitch() > 10, "the nose goes down in a dive");
     Pump(16 * 70);  // Down still held as the flight ends
     QCOMPARE(game->game().phase(), Phase::Lost);
-    QCOMPARE(game->sky()->call(), "You landed too early!");
-    QVERIFY(fx.sound.played.contains("gliderland.wav"));
+    WM_VERIFY(Called(fx, game->sky()->call(), "You landed too early!", "gliderland.wav"));
     bool behind = false;  // the sky flies on behind the box
     WatchBehindTheBox(fx, game, behind);
     Pump(HangGlider::kEndMs);

@@ -3,7 +3,7 @@
 // try again; an escape with no points left; a list without enough different words.
 #include "look.h"
 
-#include "game_end.h"
+#include "act_kit.h"
 #include "games/action/jailbreak/jailbreak_screen.h"
 #include "platform/text.h"
 
@@ -153,8 +153,7 @@ void JailbreakScreenTest::theGuardCatchesYouAndYouTryAgain() {
     QCOMPARE(game->jail().cell, 1);
     QCOMPARE(Shared().Score, 0.0);
     Pump(2000 + 1500 * 40 + 1600);  // caught again, and this time No
-    QVERIFY(fx.dialogs.last().startsWith("The guard caught you!"));
-    QVERIFY(BackAtTitle());
+    QVERIFY(fx.dialogs.last().startsWith("The guard caught you!") && BackAtTitle());
     QCOMPARE(ReadScoreTable(fx.path("scores/Jailbreak.dat").toStdString()).score(1), 0.0);
 }
 

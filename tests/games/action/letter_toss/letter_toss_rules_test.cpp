@@ -56,8 +56,7 @@ TEST(LetterTossDraw, BasketsFollowTheLevelAndWordsDoNotComeBackTillAllHaveBeenTo
     SharedState s = ListOf({"cat", "dog", "hen"}, 2);
     ScriptedRng rng(0.0);  // always entry 1 when asked
     Room r;
-    ASSERT_TRUE(newGame(s, r, rng));
-    ASSERT_TRUE(nextWord(s, r, rng));
+    ASSERT_TRUE(newGame(s, r, rng) && nextWord(s, r, rng));
     ASSERT_TRUE(nextWord(s, r, rng));
     EXPECT_EQ(s.TheWord, "hen");  // cat and dog have had their turn
     ASSERT_TRUE(nextWord(s, r, rng));

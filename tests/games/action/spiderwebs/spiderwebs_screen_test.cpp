@@ -88,8 +88,8 @@ void SpiderScreenTest::tenDefinitionsFromTheTitleToTheTable() {
             const int wrong = WrongFly(game);
             ClickFly(game, wrong);
             QCOMPARE(LabelText(game, "ScoreLabel"), "Score: -25");
-            QCOMPARE(game->scene()->call(), "Gulp! Wrong fly, and the spider hurries!");
-            QVERIFY(fx.sound.played.contains("spidereat.wav"));
+            WM_VERIFY(Called(fx, game->scene()->call(), "Gulp! Wrong fly, and the spider hurries!",
+                             "spidereat.wav"));
             ClickFly(game, wrong);  // eaten already: nothing happens
             QCOMPARE(LabelText(game, "ScoreLabel"), "Score: -25");
             QCOMPARE(LabelText(game, "TimeLabel"), "Spider: 8.0 s");
@@ -101,8 +101,8 @@ void SpiderScreenTest::tenDefinitionsFromTheTitleToTheTable() {
             // The spider sets off after a second and a half...
             for (int i = 0; i < 100 && game->game().phase() == spiderwebs::Phase::Ready; ++i)
                 Pump(16);
-            QCOMPARE(game->scene()->call(), "Click the fly with the matching word!");
-            QVERIFY(fx.sound.played.contains("spidergo.wav"));
+            WM_VERIFY(Called(fx, game->scene()->call(), "Click the fly with the matching word!",
+                             "spidergo.wav"));
             // ... and crawls 11.5 s to its fly in the second round.
             Pump(1984);
             QCOMPARE(LabelText(game, "TimeLabel"), "Spider: 9.5 s");
@@ -118,8 +118,8 @@ void SpiderScreenTest::tenDefinitionsFromTheTitleToTheTable() {
     // Rounds 3 to 10 at their whole crawls: 220 down to 150 points.
     QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 1805");
     Pump(spiderwebs::kFreedMs + 16);
-    QCOMPARE(game->scene()->call(), "All ten done! You freed 10 of 10 flies.");
-    QVERIFY(fx.sound.played.contains("spiderwin.wav"));
+    WM_VERIFY(Called(fx, game->scene()->call(), "All ten done! You freed 10 of 10 flies.",
+                     "spiderwin.wav"));
     Pump(SpiderGame::kEndMs);
     QVERIFY(dancing);
     CheckDeclared(fx);
@@ -154,8 +154,8 @@ void SpiderScreenTest::theSpiderWinsEveryDefinition() {
         QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 0");
         Pump(spiderwebs::kCaughtMs);
     }
-    QCOMPARE(game->scene()->call(), "The spider had a feast tonight!");
-    QVERIFY(fx.sound.played.contains("spiderlose.wav"));
+    WM_VERIFY(
+        Called(fx, game->scene()->call(), "The spider had a feast tonight!", "spiderlose.wav"));
     fx.dialogs.answerYes(true);
     Pump(SpiderGame::kEndMs);
     QCOMPARE(LastBox(fx),

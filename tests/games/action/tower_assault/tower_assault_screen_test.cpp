@@ -45,8 +45,7 @@ void TowerScreenTest::tenRungsFromTheTitleToTheTable() {
     QCOMPARE(game->scene()->call(), "Get ready...");
     QVERIFY(fx.music.opened.endsWith("sounds/towerassault.mid"));
     Pump(2000);
-    QCOMPARE(game->scene()->call(), "Go!");
-    QVERIFY(fx.sound.played.contains("towergo.wav"));
+    WM_VERIFY(Called(fx, game->scene()->call(), "Go!", "towergo.wav"));
 
     for (int rung = 1; rung <= 10; ++rung) {
         QVERIFY(Drive(game, true, [&] { return game->game().rungs() == rung; }));
@@ -75,8 +74,7 @@ void TowerScreenTest::threeWrongScrollsDriveTheKnightBack() {
     // thrown again later.
     HoldKey(game, Qt::Key_Left, 33 * 16);
     for (int i = 0; i < 2000 && !game->scene()->call().startsWith("Missed"); ++i) Pump(16);
-    QCOMPARE(game->scene()->call(), "Missed! It will come again.");
-    QVERIFY(fx.sound.played.contains("towerthud.wav"));
+    WM_VERIFY(Called(fx, game->scene()->call(), "Missed! It will come again.", "towerthud.wav"));
     for (int shield = 2; shield >= 0; --shield) {
         QVERIFY(Drive(game, false, [&] { return game->game().shields() == shield; }));
         QCOMPARE(Labels(game, "ShieldsLabel ScoreLabel"),
@@ -87,8 +85,7 @@ void TowerScreenTest::threeWrongScrollsDriveTheKnightBack() {
         if (shield > 0) QCOMPARE(game->scene()->call(), QString("Not \"%1\"!").arg(caught));
     }
     QVERIFY(fx.sound.played.contains("towerclang.wav"));
-    QCOMPARE(game->scene()->call(), "The guards drove you back!");
-    QVERIFY(fx.sound.played.contains("towerlose.wav"));
+    WM_VERIFY(Called(fx, game->scene()->call(), "The guards drove you back!", "towerlose.wav"));
     const QString word = Word();
     bool behind = false;  // the scene plays on behind the box
     WatchBehindTheBox(fx, game, behind);

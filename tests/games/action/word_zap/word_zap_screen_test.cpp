@@ -1,8 +1,8 @@
 // Word Zap on its screen: from the title through a timed round of hits to the initials the game
 // writes itself and the table, and a careless round that ends below zero; the score caption
 // changes only on a hit.
-#include "game_end.h"
 #include "games/action/word_zap/word_zap_screen.h"
+#include "act_kit.h"
 
 namespace {
 

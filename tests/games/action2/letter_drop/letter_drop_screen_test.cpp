@@ -1,8 +1,8 @@
 // Letter Drop on its screen: from the title, letters steered with held keys onto their tiles, a
 // wrong landing that crumbles, the win to the table; lists of long words and of words with
 // nothing to drop refused; the close box that ends the program.
-#include "game_end.h"
 #include "games/action/letter_drop/letter_drop_screen.h"
+#include "act_kit.h"
 
 using namespace wm::letter_drop;
 
