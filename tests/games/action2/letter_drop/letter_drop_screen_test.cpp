@@ -100,15 +100,11 @@ void LetterDropScreenTest::steerEveryLetterHomeToTheTable() {
 
 void LetterDropScreenTest::longWordsAndNothingToDropAreRefused() {
     ShellFixture fx;
-    FromTitle<QWidget>(
-        fx, "Letter Drop",
-        {{"antidisestablishment", "a long word"}, {"supercalifragilistic", "another long word"}},
-        90);
-    Pump();
-    QCOMPARE(LastBox(fx),
-             "Letter Drop! | The words on this vocabulary list are too long for this "
-             "game. Please choose another list or another game.");
-    QVERIFY(BackAtTitle());
+    WM_VERIFY(Refused(fx, "Letter Drop",
+                      {{"antidisestablishment", "long"}, {"supercalifragilistic", "x"}}, 90,
+                      "The words on this vocabulary list are too long for this game. Please "
+                      "choose another list or another game.",
+                      "Letter Drop!"));
     // Marks and blanks only: nothing to drop, and one box that says so.
     fx.dialogs.shown.clear();
     OpenGame<QWidget>(fx, "Letter Drop", {{"- -", "only dashes"}, {"'-'", "marks"}}, 90, true);
