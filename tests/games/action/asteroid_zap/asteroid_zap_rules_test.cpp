@@ -89,7 +89,8 @@ TEST(AsteroidHits, OnlyTheSubsequenceRuleDecides) {
     for (const Case& c : cases) {
         Round r = Wall(c.word, c.row);
         const std::string results = Shoot(r, c.shots);
-        EXPECT_EQ(std::pair(results, r.allCleared), std::pair(std::string(c.results), c.allCleared))
+        EXPECT_EQ(std::tuple(results, r.allCleared),
+                  std::tuple(std::string(c.results), c.allCleared))
             << c.word << " " << c.row;
         if (std::string(c.results).back() == 'n') {
             EXPECT_TRUE(r.wrongShot);
@@ -122,7 +123,7 @@ TEST(AsteroidShots, ColumnsFlightAndTheThreeShotLimit) {
         r.fireWanted = true;
         fired += tick(r, 1, rng).shotFired;
     }
-    EXPECT_EQ(std::pair(fired, r.fireWanted), std::pair(3, true)) << "the fourth waits";
+    EXPECT_EQ(std::tuple(fired, r.fireWanted), std::tuple(3, true)) << "the fourth waits";
     const int column = columnAt(g, r.shipX + g.shipW / 2);
     // Shots climb 10 pixels a tick from the ship's top to the letter's bottom.
     TickEvents e;
@@ -131,7 +132,7 @@ TEST(AsteroidShots, ColumnsFlightAndTheThreeShotLimit) {
         e = tick(r, 1, rng);
         ++ticks;
     }
-    EXPECT_EQ(std::pair(e.hit, e.booms.size()), std::pair(column, 1u));
+    EXPECT_EQ(std::tuple(e.hit, e.booms.size()), std::tuple(column, 1u));
     EXPECT_GT(ticks, 20);
 }
 

@@ -188,7 +188,7 @@ TEST(BreakThruBricks, MarksInTheWordAreSpelledAlready) {
     SharedState s = ListOf({"'o-x"}, 1);
     ScriptedRng rng(0.0);
     Game g = Serving(s, rng);
-    EXPECT_EQ(std::pair(g.done(), g.nextPos()), std::pair(std::vector<bool>{1, 0, 1, 0}, 1));
+    EXPECT_EQ(std::tuple(g.done(), g.nextPos()), std::tuple(std::vector<bool>{1, 0, 1, 0}, 1));
 }
 
 TEST(BreakThruBricks, InOrderScoresByTheWordAndWrongCostsOnce) {

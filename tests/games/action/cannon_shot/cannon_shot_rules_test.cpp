@@ -40,7 +40,8 @@ Game Started(SharedState& s, Rng& rng) {
 }  // namespace
 
 TEST(CannonShotNumbers, SpeedWindBarBallsAndLetters) {
-    EXPECT_EQ(std::pair(balloonSpeed(2), balloonSpeed(20)), std::pair(0.68, 2.3));
+    EXPECT_DOUBLE_EQ(balloonSpeed(2), 0.68);
+    EXPECT_DOUBLE_EQ(balloonSpeed(20), 2.3);
     for (auto [level, wind] : {std::pair{2, 0.0}, {7, 0.0}, {8, 0.01}, {20, 0.058}})
         EXPECT_DOUBLE_EQ(maxWind(level), wind) << level;
     // The bar rises over 50 ticks, falls back over 50, and rises again.
@@ -140,7 +141,7 @@ TEST(CannonShotAim, BarrelAndBarFollowTheKeysAndTheArcIsTrue) {
     ASSERT_TRUE(g.start(s, rng));
     // Nothing turns or charges before the pause is over.
     g.tick({1, true}, rng);
-    EXPECT_EQ(std::pair(g.angle(), g.charging()), std::pair(45, false));
+    EXPECT_EQ(std::tuple(g.angle(), g.charging()), std::tuple(45, false));
     g.go();
     for (auto [turn, ticks, angle] : {std::tuple{1, 10, 55}, {1, 100, 80}, {-1, 100, 10}}) {
         for (int t = 0; t < ticks; ++t) g.tick({turn, false}, rng);

@@ -59,7 +59,7 @@ TEST(FroggyLevels, StonesLeaveTheDesignedGaps) {
             if (!b.stone[c][5]) free5 += char('a' + c - 1);
             if (!b.stone[c][8]) free8 += char('a' + c - 1);
         }
-        EXPECT_EQ(std::pair(free5, free8), std::pair(r.free5, r.free8)) << r.level;
+        EXPECT_EQ(std::tuple(free5, free8), std::tuple(r.free5, r.free8)) << r.level;
     }
 }
 
@@ -72,7 +72,7 @@ TEST(FroggyHops, KeyLockMakesOnePressOneHop) {
     EXPECT_EQ(b.frogRow, 2);
     keyUp(b);
     EXPECT_EQ(keyDown(b, Key::Up).hop, Hop::Moved);
-    EXPECT_EQ(std::pair(b.frogRow, b.frogY), std::pair(3, 800 - 3 * 57));
+    EXPECT_EQ(std::tuple(b.frogRow, b.frogY), std::tuple(3, 800 - 3 * 57));
 }
 
 TEST(FroggyHops, EdgesAndStones) {
@@ -84,7 +84,7 @@ TEST(FroggyHops, EdgesAndStones) {
     hop(Key::Down);
     EXPECT_EQ(b.frogRow, 1);
     for (int n = 0; n < 12; ++n) hop(Key::Left);
-    EXPECT_EQ(std::pair(b.frogCol, b.frogX), std::pair(1, 0));
+    EXPECT_EQ(std::tuple(b.frogCol, b.frogX), std::tuple(1, 0));
     for (int n = 0; n < 3; ++n) hop(Key::Up);
     EXPECT_EQ(b.frogRow, 4);
     EXPECT_EQ(hop(Key::Up), Hop::Blocked);  // a stone in row 5, column 1
@@ -166,7 +166,7 @@ TEST(FroggyLogs, RideDrownAndTheEdge) {
     EXPECT_EQ(b.frogCol, 7) << "no column starts within half a column of 612: it stays";
     b.frogX = 574;
     logTick(b, rode);
-    EXPECT_EQ(std::pair(b.frogX, b.frogCol), std::pair(576, 10));
+    EXPECT_EQ(std::tuple(b.frogX, b.frogCol), std::tuple(576, 10));
     // Carried to the right edge, the frog stays there until its log has gone.
     b.frogX = 1210;
     b.logX[5] = 1000;
@@ -178,7 +178,7 @@ TEST(FroggyLogs, RideDrownAndTheEdge) {
         ++ticks;
         if (out == Outcome::None) EXPECT_LE(b.frogX, 1280 - 64);
     }
-    EXPECT_EQ(std::pair(out, b.frogX), std::pair(Outcome::Drowned, 1216));
+    EXPECT_EQ(std::tuple(out, b.frogX), std::tuple(Outcome::Drowned, 1216));
     // No log under the frog at all.
     Board water = Lay(1);
     water.frogRow = 12;

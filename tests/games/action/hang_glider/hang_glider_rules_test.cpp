@@ -70,7 +70,7 @@ TEST(HangGliderLetters, NextOrDecoyInDrawOrderEveryFewAndSpaced) {
     Game g;
     ASSERT_TRUE(g.start(s, rng));
     Fly(g, rng, 50);  // nothing comes while the pupil gets ready, and nothing sinks
-    EXPECT_EQ(std::pair(g.letters().size(), g.y()), std::pair(0u, 330.0));
+    EXPECT_EQ(std::tuple(g.letters().size(), g.y()), std::tuple(0u, 330.0));
     g.go();
     // Three decoys (any capital but C), then C whatever the draw says; heights from 250 to 700.
     rng.pick(2, 3).pick(1, 25).then(0.0);
@@ -80,14 +80,14 @@ TEST(HangGliderLetters, NextOrDecoyInDrawOrderEveryFewAndSpaced) {
     rng.pick(1, 3).then(0.0);
     Fly(g, rng, 1);
     ASSERT_EQ(g.letters().size(), 1u);
-    EXPECT_EQ(std::pair(g.letters()[0].x, g.letters()[0].y), std::pair(1660.0, 250.0));
+    EXPECT_EQ(std::tuple(g.letters()[0].x, g.letters()[0].y), std::tuple(1660.0, 250.0));
     // 230 units apart at 3.4 a tick: the next one 67 ticks later.
     Fly(g, rng, 66);
     EXPECT_EQ(g.letters().size(), 1u);
     Fly(g, rng, 1 + 67 * 3 + 2);
     std::string seen;
     for (const Letter& l : g.letters()) seen += l.letter;
-    EXPECT_EQ(std::pair(seen, g.letters()[1].y), std::pair(std::string("AZDCC"), 475.0));
+    EXPECT_EQ(std::tuple(seen, g.letters()[1].y), std::tuple(std::string("AZDCC"), 475.0));
     EXPECT_NEAR(g.letters()[1].x - g.letters()[0].x, 67 * 3.4, 1e-9);
 }
 
@@ -151,7 +151,7 @@ TEST(HangGliderLetters, MarksInsideStandAndLettersLeaveAtTheEdge) {
     ASSERT_EQ(Kinds(Fly(g, rng, 1)), "R");
     std::string left;
     for (const Letter& l : g.letters()) left += l.letter;
-    EXPECT_EQ(std::pair(g.done(), left), std::pair(2, std::string("QM")));  // and a decoy for O
+    EXPECT_EQ(std::tuple(g.done(), left), std::tuple(2, std::string("QM")));  // and a decoy for O
 }
 
 TEST(HangGliderEnds, FiveWordsWin) {
@@ -187,7 +187,7 @@ TEST(HangGliderEnds, TouchingTheGroundLoses) {
     const double scroll = g.scroll();
     EXPECT_TRUE(Fly(g, rng, 20, -1).empty());
     g.go();  // no flying on from the field
-    EXPECT_EQ(std::pair(g.scroll(), g.phase()), std::pair(scroll, Phase::Lost));
+    EXPECT_EQ(std::tuple(g.scroll(), g.phase()), std::tuple(scroll, Phase::Lost));
     EXPECT_EQ(lostText("ox"), "You landed too early! The word was ox.");
 
     // A wrong letter's drop can land it at once.

@@ -136,7 +136,7 @@ TEST(SpiderwebsPlay, OnlyAScoreAboveNothingGoesOnTheTable) {
     Advance(g, s, rng, 6700, 100);
     EXPECT_EQ(g.msLeft(), 1300);
     EXPECT_EQ(g.click(0), Click::Right);
-    EXPECT_EQ(std::pair(g.score(), g.onTheTable()), std::pair(1, true));
+    EXPECT_EQ(std::tuple(g.score(), g.onTheTable()), std::tuple(1, true));
 }
 
 TEST(SpiderwebsPlay, TheSpiderAtItsFlyThenTenDefinitionsEndTheGame) {

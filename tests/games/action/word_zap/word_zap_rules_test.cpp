@@ -34,7 +34,7 @@ TEST(WordZapDeal, UnusedWordsIntoUnusedSlots) {
     ASSERT_TRUE(deal(s, g, 1, one).ready);
     shown = 0;
     for (const Target& t : g.targets) shown += t.visible;
-    EXPECT_EQ(std::pair(g.definition, shown), std::pair(1, 1)) << "level 1 deals one target";
+    EXPECT_EQ(std::tuple(g.definition, shown), std::tuple(1, 1)) << "level 1 deals one target";
 
     SharedState few = List(2);
     ScriptedRng loop(0.1);
@@ -54,7 +54,7 @@ TEST(WordZapClicks, PointsForHitsMissesAndSlowHands) {
     rng.setFallback(0.5);
     g.reaction = 120;
     EXPECT_EQ(clickTarget(s, g, 1, 3, 0, 0, rng), Click::Wrong);
-    EXPECT_EQ(std::pair(g.targets[1].black, g.score), std::pair(true, -500.0));
+    EXPECT_EQ(std::tuple(g.targets[1].black, g.score), std::tuple(true, -500.0));
     EXPECT_EQ(clickTarget(s, g, 0, 3, 50, 60, rng), Click::Hit);
     // The next definition clears the black.
     EXPECT_EQ(std::tuple(g.score, g.targets[1].black, g.reaction, definitionText(s, g)),
@@ -87,7 +87,7 @@ TEST(WordZapStars, BurstArcAndAge) {
     EXPECT_FALSE(g.stars[0].alive) << "past 200 ticks";
     g.group = 16;
     burst(g, 0, 0, rng);
-    EXPECT_EQ(std::pair(g.group, g.stars[159].alive), std::pair(1, true));
+    EXPECT_EQ(std::tuple(g.group, g.stars[159].alive), std::tuple(1, true));
 }
 
 TEST(WordZapClock, TimeRunsOutAndTheStarsBringTheEnd) {

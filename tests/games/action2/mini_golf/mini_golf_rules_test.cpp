@@ -195,7 +195,7 @@ TEST(MiniGolfRules, ScoresByStrokesAndAWrongHoleCostsAThousand) {
         c.setVelocity(0, -10);
         rng.pick(2, 3);  // the bonus: Int(Rnd x Difficulty + 1) = 2
         const Step st = c.tick(s, rng);
-        EXPECT_EQ(std::pair(st.right, s.Score), std::pair(true, r.base * 3 + 200.0)) << r.strokes;
+        EXPECT_EQ(std::tuple(st.right, s.Score), std::tuple(true, r.base * 3 + 200.0)) << r.strokes;
     }
     SharedState s = List(2);
     ScriptedRng rng(0.0);
