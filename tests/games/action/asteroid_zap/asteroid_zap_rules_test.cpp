@@ -38,10 +38,8 @@ TEST(AsteroidRow, FillerKeepsTheWordInOrder) {
     rng.pick(26, 26).then(2.5 / 4);  // Z after QC: QCZAT
     rng.setFallback(0.999);          // then Zs as far right as they go
     const std::string row = buildRow("  cat ", rng);
-    EXPECT_EQ(row.substr(0, 5), "QCZAZ");
     // A filler goes after at most all but one character: the last letter stays last.
-    EXPECT_EQ(row.back(), 'T');
-    EXPECT_EQ(row.size(), 20u);
+    EXPECT_EQ(std::tuple(row.substr(0, 5), row.back(), row.size()), std::tuple("QCZAZ", 'T', 20u));
     ScriptedRng one(0.0);
     EXPECT_EQ(buildRow("abcdefghijklmnopqrs", one), "AABCDEFGHIJKLMNOPQRS")
         << "19 letters: one filler";
@@ -90,8 +88,10 @@ TEST(AsteroidHits, OnlyTheSubsequenceRuleDecides) {
     };
     for (const Case& c : cases) {
         Round r = Wall(c.word, c.row);
-        EXPECT_EQ(Shoot(r, c.shots), c.results) << c.word << " " << c.row;
-        EXPECT_EQ(r.allCleared, c.allCleared) << c.word << " " << c.row;
+        const std::string results = Shoot(r, c.shots);
+        EXPECT_EQ(std::tuple(results, r.allCleared),
+                  std::tuple(std::string(c.results), c.allCleared))
+            << c.word << " " << c.row;
         if (std::string(c.results).back() == 'n') {
             EXPECT_TRUE(r.wrongShot);
             ScriptedRng rng(0.5);
@@ -107,13 +107,14 @@ TEST(AsteroidHits, OnlyTheSubsequenceRuleDecides) {
 
 TEST(AsteroidShots, ColumnsFlightAndTheThreeShotLimit) {
     const Geometry g;
-    EXPECT_EQ(columnAt(g, 0), 0);
-    EXPECT_EQ(columnAt(g, g.boxLeft(1) - 1), 0);
-    EXPECT_EQ(columnAt(g, g.boxLeft(1)), 1);
-    EXPECT_EQ(columnAt(g, g.boxLeft(19) - 1), 18);
-    EXPECT_EQ(columnAt(g, g.boxLeft(19)), 19);
-    EXPECT_EQ(columnAt(g, g.boxLeft(19) + 1), 19);
-    EXPECT_EQ(columnAt(g, g.width), 19);
+    for (auto [x, column] : {std::pair{0, 0},
+                             {g.boxLeft(1) - 1, 0},
+                             {g.boxLeft(1), 1},
+                             {g.boxLeft(19) - 1, 18},
+                             {g.boxLeft(19), 19},
+                             {g.boxLeft(19) + 1, 19},
+                             {g.width, 19}})
+        EXPECT_EQ(columnAt(g, x), column) << x;
 
     Round r = Wall("CAT", "QCATXXXXXXXXXXXXXXXX");
     ScriptedRng rng(0.5);
@@ -122,8 +123,7 @@ TEST(AsteroidShots, ColumnsFlightAndTheThreeShotLimit) {
         r.fireWanted = true;
         fired += tick(r, 1, rng).shotFired;
     }
-    EXPECT_EQ(fired, 3);
-    EXPECT_TRUE(r.fireWanted) << "the fourth waits for a free shot";
+    EXPECT_EQ(std::tuple(fired, r.fireWanted), std::tuple(3, true)) << "the fourth waits";
     const int column = columnAt(g, r.shipX + g.shipW / 2);
     // Shots climb 10 pixels a tick from the ship's top to the letter's bottom.
     TickEvents e;
@@ -132,8 +132,7 @@ TEST(AsteroidShots, ColumnsFlightAndTheThreeShotLimit) {
         e = tick(r, 1, rng);
         ++ticks;
     }
-    EXPECT_EQ(e.hit, column);
-    EXPECT_EQ(e.booms.size(), 1u);
+    EXPECT_EQ(std::tuple(e.hit, e.booms.size()), std::tuple(column, 1u));
     EXPECT_GT(ticks, 20);
 }
 
@@ -184,8 +183,7 @@ TEST(AsteroidWall, SinksByDifficultyUntilTheShip) {
     r.rocks[5].bottom = limit - 8;
     EXPECT_EQ(tick(r, 7, rng).ending, Ending::None);
     EXPECT_EQ(tick(r, 7, rng).ending, Ending::ShipDestroyed);
-    EXPECT_TRUE(r.over);
-    EXPECT_FALSE(r.blasts.empty());
+    EXPECT_TRUE(r.over && !r.blasts.empty());
 }
 
 TEST(AsteroidShip, StaysUnderTheRow) {

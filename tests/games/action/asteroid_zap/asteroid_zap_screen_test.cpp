@@ -1,13 +1,9 @@
 // Asteroid Zap on its screen: shooting the filler away to a win and the table, a wrong letter
 // and a destroyed ship waiting for a key, the ship under the arrow keys, and long words.
-#include <QtTest>
 #include <algorithm>
 
-#include "game_end.h"
+#include "act_kit.h"
 #include "games/action/asteroid_zap/asteroid_zap_screen.h"
-
-using namespace wm;
-using namespace wm::test;
 
 namespace {
 
@@ -57,8 +53,7 @@ void AsteroidZapScreenTest::roadToAWinAndTheTable() {
     QCOMPARE(game->defText(), "a small furry pet");
     QCOMPARE(game->round().rocks[19].letter, 'T');
     QVERIFY(ShootColumn(game, 18));
-    QVERIFY(fx.sound.played.contains("shot1.wav"));
-    QVERIFY(fx.sound.played.contains("boom1.wav"));
+    QVERIFY(fx.sound.played.contains("shot1.wav") && fx.sound.played.contains("boom1.wav"));
     for (int k = 2; k < 18 && Showing<AsteroidBlast>(); ++k) QVERIFY(ShootColumn(game, k));
     QCOMPARE(fx.win.tables.size(), 1);
     // 3 letters x 500 x level 1, less the twips the wall sank, one a tick.
@@ -100,9 +95,7 @@ void AsteroidZapScreenTest::shipDestroyedAndArrowKeysThenLongWords() {
     QCOMPARE(game->defText(), "Your ship was destroyed! The word was:");
     QVERIFY(game->waitingForKey());
     SendKey(game, Qt::Key_Space);
-    QVERIFY(fx.dialogs.saw("Would you like to try again?"));
-    Pump();
-    QVERIFY(Showing<Title>() != nullptr);
+    QVERIFY(fx.dialogs.saw("Would you like to try again?") && BackAtTitle());
     fx.rng.setFallback(0.1);  // always the first, of 15 letters
     OpenGame<QWidget>(fx, "Asteroid Zap", {{"extraordinarily", "very"}, {"encyclopaedias", "x"}}, 2,
                       true);
@@ -110,8 +103,7 @@ void AsteroidZapScreenTest::shipDestroyedAndArrowKeysThenLongWords() {
     QCOMPARE(LastBox(fx),
              "Oops! | The words on this list are too long to play this game! Choose "
              "another list or another game.");
-    Pump();
-    QVERIFY(Showing<Title>() != nullptr);
+    QVERIFY(BackAtTitle());
 }
 
 QTEST_MAIN(AsteroidZapScreenTest)

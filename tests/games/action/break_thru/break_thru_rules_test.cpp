@@ -77,10 +77,9 @@ TEST(BreakThruStart, DrawsWordDecoysAndSlotsInThatOrder) {
     for (const Brick& b : g.bricks()) letters += b.letter;
     EXPECT_EQ(letters, "OXAZBA");
     // O the last of eight slots, X the first, the first decoy the fifth of the six left.
-    EXPECT_EQ(std::tuple(g.columns(), g.bricks()[0].row, g.bricks()[1].row, g.bricks()[2].row),
-              std::tuple(1, 7, 0, 4));
-    EXPECT_EQ(std::tuple(rng.draws, g.phase(), g.ballsLeft(), g.level()),
-              std::tuple(2 + 4 + 6, Phase::Ready, 3, 9));
+    EXPECT_EQ(std::tuple(g.columns(), g.bricks()[0].row, g.bricks()[1].row, g.bricks()[2].row,
+                         rng.draws, g.phase(), g.ballsLeft(), g.level()),
+              std::tuple(1, 7, 0, 4, 2 + 4 + 6, Phase::Ready, 3, 9));
     // Sixteen letters: 48 bricks in six columns of eight, no two in one slot.
     SharedState big = ListOf({"abcdefghijklmnop"}, 2);
     ASSERT_TRUE(g.start(big, rng));
@@ -189,8 +188,7 @@ TEST(BreakThruBricks, MarksInTheWordAreSpelledAlready) {
     SharedState s = ListOf({"'o-x"}, 1);
     ScriptedRng rng(0.0);
     Game g = Serving(s, rng);
-    EXPECT_EQ(g.done(), (std::vector<bool>{true, false, true, false}));
-    EXPECT_EQ(g.nextPos(), 1);
+    EXPECT_EQ(std::tuple(g.done(), g.nextPos()), std::tuple(std::vector<bool>{1, 0, 1, 0}, 1));
 }
 
 TEST(BreakThruBricks, InOrderScoresByTheWordAndWrongCostsOnce) {
@@ -219,8 +217,8 @@ TEST(BreakThruBricks, InOrderScoresByTheWordAndWrongCostsOnce) {
     Strike(g, l);
     const auto ev = Strike(g, Find(g, 'L'));
     ASSERT_EQ(ev.size(), 2u);
-    EXPECT_EQ(ev[1].kind, Event::Spelled);
-    EXPECT_EQ(std::pair(g.phase(), g.score()), std::pair(Phase::Spelled, 20));
+    EXPECT_EQ(std::tuple(ev[1].kind, g.phase(), g.score()),
+              std::tuple(Event::Spelled, Phase::Spelled, 20));
     EXPECT_EQ(g.tick({1, true}).size(), 0u);  // the ball waits for the next wall
     // The second word: a new wall, a ball 5% faster, +10 x 2 a letter.
     ASSERT_TRUE(g.nextWord(s, rng));

@@ -1,13 +1,9 @@
 // BreakThru on its screen: from the title through the chooser and the options, the paddle
 // steered with the keys, bricks broken in order and out of it, two words to the table; a game
 // lost at 1920x1080 with every ball missed, a try again, and a list whose words are too long.
-#include <QtTest>
-
-#include "game_end.h"
 #include "games/action/break_thru/break_thru_screen.h"
+#include "act_kit.h"
 
-using namespace wm;
-using namespace wm::test;
 using namespace wm::break_thru;
 
 class BreakThruScreenTest : public QObject {
@@ -118,11 +114,8 @@ void BreakThruScreenTest::outOfBallsLoses() {
     }
     for (const char* effect : {"breakthruwall.wav", "breakthrumiss.wav", "breakthrulose.wav"})
         QVERIFY2(fx.sound.played.contains(effect), effect);
-    fx.dialogs.answerYes(true);
     bool behind = false;  // the court plays on behind the box
-    fx.dialogs.whileOpen = [&](const auto&) {
-        behind = game->frame().findTimer("Timer1")->isActive();
-    };
+    WatchBehindTheBox(fx, game, behind);
     Pump(BreakThruForm::kEndMs);
     QCOMPARE(LastBox(fx),
              "Try Again? | Out of balls! The word was ox. Would you like to try again?");

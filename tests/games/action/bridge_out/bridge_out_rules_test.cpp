@@ -62,8 +62,7 @@ TEST(BridgeOutStart, ReseedsDrawsTheWordItsGapsThenFillsTheRiver) {
     ASSERT_TRUE(g.start(s, rng));
     EXPECT_EQ(std::tuple(rng.randomizeCount, rng.pending(), s.TheWord, s.TheMeaning),
               std::tuple(1, 0u, "frog", "meaning of frog"));
-    EXPECT_TRUE(g.isGap(0) && g.isGap(2));
-    EXPECT_FALSE(g.isGap(1) || g.isGap(3) || g.isGap(-1) || g.isGap(4));
+    for (int i = -1; i <= 4; ++i) EXPECT_EQ(g.isGap(i), i == 0 || i == 2) << i;
     EXPECT_EQ(std::tuple(g.gapsLeft(), g.road(), g.phase()), std::tuple(2, 58.0, Phase::Ready));
     // Nine planks over 9.6 s, lanes taking turns; the others decoys: 0.9 of 26 is X.
     ASSERT_EQ(g.river().size(), 9u);
@@ -112,8 +111,7 @@ TEST(BridgeOutDrops, WrongSplashesBackMissedIsFreeRightLocksAndTheRoadToSpareIsT
     Game g;
     ASSERT_TRUE(g.start(s, rng));
     const int f = PlankOf(g, "F"), o = PlankOf(g, "O"), x = PlankOf(g, "X");
-    ASSERT_TRUE(f && o && x);
-    ASSERT_TRUE(g.take(o));  // in the pupil's hand while the truck comes
+    ASSERT_TRUE(f && o && x && g.take(o));  // in the pupil's hand while the truck comes
     // A wrong plank: -5 x level, and back into the river where it was let go, held to it.
     ASSERT_TRUE(g.take(x));
     EXPECT_EQ(g.place(x, 0, 2000), Drop::Wrong);
@@ -222,8 +220,7 @@ TEST(BridgeOutStart, LevelHeldToTheSliderListsThatCannotBeUsedRefused) {
     for (auto [given, held] : {std::pair{0, 2}, {2, 2}, {10, 10}, {11, 10}}) {
         SharedState s = ListOf({"cat"}, given);
         Game g;
-        ASSERT_TRUE(g.start(s, rng));
-        EXPECT_EQ(g.level(), held) << given;
+        EXPECT_TRUE(g.start(s, rng) && g.level() == held) << given;
     }
     // One word only: it comes again, word after word.
     SharedState one = ListOf({"owl"}, 2);

@@ -1,16 +1,11 @@
 // Bridge Out on its screen: from the title, planks dragged out of the river into the gaps (a
 // wrong one first), eight bridges fixed and the score to the table; three trucks stopped at the
 // gap at 1920x1080, the box naming the words, a try again; a list with nothing to build.
-#include <QtTest>
-
 #include "look.h"
 
+#include "act_kit.h"
 #include "core/strings.h"
-#include "game_end.h"
 #include "games/action/bridge_out/bridge_out_screen.h"
-
-using namespace wm;
-using namespace wm::test;
 
 class BridgeOutScreenTest : public QObject {
     Q_OBJECT
@@ -46,10 +41,7 @@ void BridgeOutScreenTest::eightBridgesFromTheTitleToTheTable() {
         {"yak", "a hairy ox"},       {"emu", "a big bird"},       {"fox", "a red animal"}};
     BridgeOutGame* game = nullptr;
     bool rolling = false;  // the river flows on behind the end boxes
-    SetModalHook([&](QDialog& d) {
-        rolling = game && game->frame().findTimer("Timer1")->isActive();
-        fx.win(d);
-    });
+    WatchBehindTheWin(fx, game, rolling);
     game = FromTitle<BridgeOutGame>(fx, "Bridge Out", river, 2);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Shared().SoundOn = kTrue;
@@ -80,8 +72,7 @@ void BridgeOutScreenTest::eightBridgesFromTheTitleToTheTable() {
         Pump(bridge_out::kCrossMs + 16);
     }
     Pump(bridge_out::kCrossMs + 16);
-    QCOMPARE(game->scene()->call(), "All across! You did it!");
-    QVERIFY(fx.sound.played.contains("bridgewin.wav"));
+    WM_VERIFY(Called(fx, game->scene()->call(), "All across! You did it!", "bridgewin.wav"));
     QVERIFY(fx.dialogs.shown.empty());
     Pump(BridgeOutGame::kEndMs);
     QVERIFY(rolling);
@@ -103,8 +94,7 @@ void BridgeOutScreenTest::threeTrucksStoppedNameTheWords() {
         QCOMPARE(LabelText(game, "RoadLabel"), "Road: 44 m");
         if (truck == 1) {
             while (game->game().phase() == bridge_out::Phase::Ready) Pump(16);
-            QCOMPARE(game->scene()->call(), "Go!");
-            QVERIFY(fx.sound.played.contains("bridgego.wav"));
+            WM_VERIFY(Called(fx, game->scene()->call(), "Go!", "bridgego.wav"));
             // 44 metres at 7 m/s on level 10: 6286 ms, on 16 ms frames.
             Pump(6272);
             QCOMPARE(game->game().phase(), bridge_out::Phase::Driving);
@@ -119,8 +109,7 @@ void BridgeOutScreenTest::threeTrucksStoppedNameTheWords() {
         for (int i = 0; i < 300 && game->game().phase() == bridge_out::Phase::Stopped; ++i)
             Pump(16);
     }
-    QCOMPARE(game->scene()->call(), "Out of trucks!");
-    QVERIFY(fx.sound.played.contains("bridgelose.wav"));
+    WM_VERIFY(Called(fx, game->scene()->call(), "Out of trucks!", "bridgelose.wav"));
     fx.dialogs.answerYes(true);
     Pump(BridgeOutGame::kEndMs);
     QCOMPARE(LastBox(fx), "Bridge Out | Honk! All three trucks had to stop at the broken bridge. "

@@ -2,17 +2,13 @@
 // barrel turned, the bar charged, balloons popped in order and out of it, five words to the
 // table; a game lost at 1920x1080 with every cannonball spent, a try again, and a list whose
 // words are all too long.
-#include <QtTest>
-
 #include "look.h"
 
+#include "act_kit.h"
 #include "cannon_aim.h"
-#include "game_end.h"
 #include "games/action/cannon_shot/cannon_shot_screen.h"
 #include "platform/speech.h"
 
-using namespace wm;
-using namespace wm::test;
 using namespace wm::cannon_shot;
 
 class CannonShotScreenTest : public QObject {
@@ -35,12 +31,8 @@ bool ShootLetter(CannonShotForm* game, char letter, bool decoy = false) {
                 bs[i].x > 1100 || !PlanShot(game->game(), i, &p))
                 continue;
             const int key = p.turn > 0 ? Qt::Key_Left : Qt::Key_Right;
-            SendKey(game, key);
-            Pump(16 * p.turnTicks);
-            SendKey(game, key, QEvent::KeyRelease);
-            SendKey(game, Qt::Key_Space);
-            Pump(16 * p.charge);
-            SendKey(game, Qt::Key_Space, QEvent::KeyRelease);
+            HoldKey(game, key, 16 * p.turnTicks);
+            HoldKey(game, Qt::Key_Space, 16 * p.charge);
             for (int t = 0; t < 400 && (t == 0 || game->game().ball().flying); ++t) Pump(16);
             return !game->game().balloons()[i].shown();
         }
@@ -62,10 +54,8 @@ void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
                                            2);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump();
-    QCOMPARE(game->sky()->call(), "Get ready!");
-    QVERIFY(fx.sound.played.contains("cannonready.wav"));
-    QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
-    QCOMPARE(LabelText(game, "LevelLabel"), "Level 2");
+    WM_VERIFY(Called(fx, game->sky()->call(), "Get ready!", "cannonready.wav"));
+    QCOMPARE(Labels(game, "Label1 LevelLabel"), Meaning() + " | Level 2");
     QVERIFY(fx.music.opened.endsWith("cannonshot.mid") && game->windowTitle() == "Cannon Shot");
     Pump(CannonShotForm::kReadyMs);
     QCOMPARE(game->sky()->call(), "");
@@ -100,19 +90,16 @@ void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
                 WM_CHECK_LOOK("Cannon_Shot_play", game);
             }
         }
-        QVERIFY(fx.sound.played.contains("cannonpop.wav"));
         QVERIFY(fx.sound.played.contains("cannonboom.wav"));
         if (w < 5) {
-            QCOMPARE(game->sky()->call(), "Well done!");
-            QVERIFY(fx.sound.played.contains("cannonword.wav"));
+            WM_VERIFY(Called(fx, game->sky()->call(), "Well done!", "cannonword.wav"));
             Pump(CannonShotForm::kWordMs);
             QCOMPARE(game->sky()->call(), QString("Word %1 of 5").arg(w + 1));
             QCOMPARE(LabelText(game, "WordLabel"), QString("Word %1 of 5").arg(w + 1));
             Pump(CannonShotForm::kReadyMs);
         }
     }
-    QCOMPARE(game->sky()->call(), "You win!");
-    QVERIFY(fx.sound.played.contains("cannonwin.wav"));
+    WM_VERIFY(Called(fx, game->sky()->call(), "You win!", "cannonwin.wav"));
     Pump(CannonShotForm::kEndMs);
     WM_CHECK_WON(fx, "Cannon Shot", QString("CAN %1").arg(score));
 }
@@ -144,15 +131,11 @@ void CannonShotScreenTest::outOfCannonballsLoses() {
         for (int t = 0; t < 200 && game->game().ball().flying; ++t) Pump(16);
     }
     QVERIFY(fx.sound.played.contains("cannonthud.wav"));
-    QCOMPARE(game->sky()->call(), "Out of cannonballs!");
-    QVERIFY(fx.sound.played.contains("cannonlose.wav"));
+    WM_VERIFY(Called(fx, game->sky()->call(), "Out of cannonballs!", "cannonlose.wav"));
     QVERIFY(game->frame().sayIt() && voice.said.back().text == "ox");  // heard once it is lost
     WM_CHECK_LOOK("Cannon_Shot_lost", game);
-    fx.dialogs.answerYes(true);
     bool behind = false;  // the sky plays on behind the box
-    fx.dialogs.whileOpen = [&](const auto&) {
-        behind = game->frame().findTimer("Timer1")->isActive();
-    };
+    WatchBehindTheBox(fx, game, behind);
     Pump(CannonShotForm::kEndMs);
     QVERIFY(behind);
     QCOMPARE(LastBox(fx),

@@ -67,11 +67,11 @@ TEST(CrunchManTick, MouthAndMinesAnimateInStep) {
     const int right[] = {0, 1, 2, 3, 2, 1, 0};
     const int mines[] = {15, 16, 17, 18, 17, 16, 15};
     for (int n = 0; n < 7; ++n) {
+        // The first tick has nothing to restore.
         const TickResult t = tick(r, s, rng);
-        EXPECT_EQ(t.sprite, right[n]) << n;
-        EXPECT_EQ(t.mineSprite, mines[n]) << n;
-        EXPECT_EQ(t.chomp, n == 5) << n;
-        EXPECT_EQ(t.restoreOld, n > 0) << "the first tick has nothing to restore";
+        EXPECT_EQ(std::tuple(t.sprite, t.mineSprite, t.chomp, t.restoreOld),
+                  std::tuple(right[n], mines[n], n == 5, n > 0))
+            << n;
     }
     const std::pair<int, int> firstOpen[] = {{1, 7}, {2, 1}, {3, 10}, {4, 4}};
     for (auto [heading, holder] : firstOpen) EXPECT_EQ(spriteFor(heading, 2), holder);
@@ -124,10 +124,10 @@ TEST(CrunchManEating, SpellingOrderOnTheBoard) {
         ScriptedRng rng(0.5);
         TickResult t;
         RunUntilEvent(r, s, rng, t);
-        EXPECT_EQ(t.event, c.end) << c.word << " on " << c.row;
-        EXPECT_EQ(r.spelled, c.spelled) << c.word << " on " << c.row;
+        EXPECT_EQ(std::tuple(t.event, r.spelled, t.mine),
+                  std::tuple(c.end, c.spelled, c.end == Event::Mine))
+            << c.word << " on " << c.row;
         if (c.end == Event::WrongLetter) EXPECT_TRUE(r.labels[t.label].red);
-        EXPECT_EQ(t.mine, c.end == Event::Mine ? 1 : 0) << c.word << " on " << c.row;
     }
 }
 
@@ -141,9 +141,9 @@ TEST(CrunchManEating, OnlyTheCentreCountsAndScoresByMines) {
     // The centre starts at x 640 and reaches column 11 (x 704) on the sixteenth step of 4,
     // although the mouth's right side overlaps the cell long before.
     EXPECT_EQ(RunUntilEvent(r, s, rng, t), 16);
-    EXPECT_EQ(std::tuple(t.event, t.wipeUnder, t.points, s.Score, r.labels[0].visible),
-              std::tuple(Event::Won, true, (350 + 1) * 2, 702.0, false));
-    EXPECT_EQ(r.labels[0].left, 0);
+    EXPECT_EQ(
+        std::tuple(t.event, t.wipeUnder, t.points, s.Score, r.labels[0].visible, r.labels[0].left),
+        std::tuple(Event::Won, true, (350 + 1) * 2, 702.0, false, 0));
 }
 
 TEST(CrunchManEating, NoMinesMeansEveryLetterIsWorthNothing) {
@@ -153,9 +153,8 @@ TEST(CrunchManEating, NoMinesMeansEveryLetterIsWorthNothing) {
     ScriptedRng rng(0.99);
     TickResult t;
     RunUntilEvent(r, s, rng, t);
-    EXPECT_EQ(t.event, Event::Won);
-    EXPECT_DOUBLE_EQ(s.Score, 0);
-    EXPECT_EQ(rng.draws, 2) << "the draw is made all the same";
+    // The draw is made all the same.
+    EXPECT_EQ(std::tuple(t.event, s.Score, rng.draws), std::tuple(Event::Won, 0.0, 2));
 }
 
 TEST(CrunchManSetup, PlacesLettersOffTheMiddleRowAndMinesOffLetters) {
@@ -180,18 +179,15 @@ TEST(CrunchManSetup, PlacesLettersOffTheMiddleRowAndMinesOffLetters) {
     EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning, r.mineCount, rng.pending()),
               std::tuple("AN OX", "", 2, 0u));
     // The blank keeps N's cell with an invisible label.
-    EXPECT_FALSE(r.labels[2].visible);
-    EXPECT_EQ(r.labels[2].left, r.labels[1].left);
-    EXPECT_EQ(r.labels[1].left, 64 + (64 - 23) / 2);
-    EXPECT_EQ(r.labels[4].top, 67 + (60 - 36) / 2 + 60);
-    EXPECT_EQ(std::tuple(r.mineX[2], r.mineY[2]),
-              std::tuple(5 * 64 + (64 - 47) / 2, 67 + (60 - 47) / 2 + 600));
-    EXPECT_TRUE(r.mineCell[4][2]);
+    EXPECT_EQ(std::tuple(r.labels[2].visible, r.labels[2].left, r.labels[1].left, r.labels[4].top),
+              std::tuple(false, 64 + (64 - 23) / 2, 64 + (64 - 23) / 2, 67 + (60 - 36) / 2 + 60));
+    EXPECT_EQ(std::tuple(r.mineX[2], r.mineY[2], r.mineCell[4][2]),
+              std::tuple(5 * 64 + (64 - 47) / 2, 67 + (60 - 47) / 2 + 600, true));
 
     // Difficulty 1 draws no mines at all.
     s.Difficulty = 1;
-    rng.pick(2, 3).then(0.0).then(0.0).then(0.05).then(0.0).then(0.1).then(0.0).then(0.15).then(
-        0.0);
+    rng.pick(2, 3);
+    for (double x : {0.0, 0.05, 0.1, 0.15}) rng.then(x).then(0.0);
     ASSERT_TRUE(setupRound(s, r, Field{}, rng).ready);
     EXPECT_EQ(std::tuple(r.mineCount, rng.pending()), std::tuple(0, 0u));
 }
@@ -203,8 +199,7 @@ TEST(CrunchManSetup, OnlyLongWordsAreRefusedAfterBoundedDraws) {
     s.WordCount = 2;
     ScriptedRng rng(0.7);
     Round r;
-    const SetupResult result = setupRound(s, r, Field{}, rng);
-    EXPECT_EQ(result.message,
+    EXPECT_EQ(setupRound(s, r, Field{}, rng).message,
               "The words on this list are too long to play this game! Choose another list or "
               "another game.");
     EXPECT_EQ(rng.draws, kMaxWordDraws);
@@ -222,10 +217,9 @@ TEST(CrunchManDeath, TheLabelBlinksOrTheMineExplodesThenTheMouthSpinsAway) {
         if (!over) EXPECT_EQ(r.labels[3].visible, ticks % 2 == 0) << "the wrong letter blinks";
     }
     // 46 shrinks by 4 a tick until under 5, spinning clockwise through 2, 11, 5, 8.
-    EXPECT_EQ(ticks, 11);
-    EXPECT_EQ(std::vector<int>(pictures.begin(), pictures.begin() + 5),
-              (std::vector<int>{2, 11, 5, 8, 2}));
-    EXPECT_EQ(letter.left, 122);
+    EXPECT_EQ(
+        std::tuple(ticks, std::vector<int>(pictures.begin(), pictures.begin() + 5), letter.left),
+        std::tuple(11, std::vector<int>{2, 11, 5, 8, 2}, 122));
     for (ticks = 0; ticks < 50 && !mineDeathTick(mine, explosion, picture); ++ticks)
         explosions.push_back(explosion);
     // Seven flashes and the black frame, the last with the first of 11 spins.

@@ -1,12 +1,7 @@
 // Crunch Man on its screen: from the title through a scripted field to a win and the table,
 // to a wrong letter and to a mine, the sounds gated by SoundOn, and the long-word refusal.
-#include <QtTest>
-
-#include "game_end.h"
 #include "games/action/crunch_man/crunch_man_screen.h"
-
-using namespace wm;
-using namespace wm::test;
+#include "act_kit.h"
 
 namespace {
 
@@ -80,8 +75,7 @@ void CrunchManScreenTest::roadToAWinAndTheTable() {
     QVERIFY(fx.sound.played.contains("bleep2.wav"));
 
     QVERIFY(TickUntil([&] { return Showing<Title>() != nullptr; }));
-    QVERIFY(fx.sound.played.contains("dingling.wav"));
-    QVERIFY(fx.sound.played.contains("winner2.wav"));
+    QVERIFY(fx.sound.played.contains("dingling.wav") && fx.sound.played.contains("winner2.wav"));
     QCOMPARE(LastBox(fx), "Great job! | You chomped a score of 606! Would you like to try again?");
     QCOMPARE(TableRow(fx, "Crunch Man"), "CMN 606");
 }
@@ -89,12 +83,10 @@ void CrunchManScreenTest::roadToAWinAndTheTable() {
 void CrunchManScreenTest::wrongLetterBlinksThenAsks() {
     ShellFixture fx;
     auto* game = Start(fx);
-    QVERIFY(game);
-    QVERIFY(TickUntil([&] { return CentreColumn(game) == 14; }));
+    QVERIFY(game && TickUntil([&] { return CentreColumn(game) == 14; }));
     SendKey(game, Qt::Key_Up);
     QVERIFY(TickUntil([&] { return game->dying(); }));
-    QVERIFY(fx.sound.played.contains("bonk.wav"));
-    QVERIFY(game->round().labels[1].red);
+    QVERIFY(fx.sound.played.contains("bonk.wav") && game->round().labels[1].red);
     const int round = game->frame().round();
     fx.dialogs.answerYes();
     Pump(100 * 12);
@@ -115,20 +107,15 @@ void CrunchManScreenTest::mineExplodesThenAsksWithoutSoundThenLongWords() {
     SendKey(game, Qt::Key_Down);
     QVERIFY(TickUntil([&] { return game->dying(); }));
     Pump(50 * 20);
-    QVERIFY(!game->dying());
-    QVERIFY(fx.dialogs.last().startsWith("Oops! You lost this game!"));
+    QVERIFY(!game->dying() && fx.dialogs.last().startsWith("Oops! You lost this game!"));
     // The title has its own sound; the game's are all gated.
     for (const char* effect : {"bleep2.wav", "2.wav", "dingling.wav", "bonk.wav"})
         QVERIFY2(!fx.sound.played.contains(effect), effect);
-    Pump();
-    QVERIFY(Showing<Title>() != nullptr);  // No: back to the title
-    OpenGame<QWidget>(fx, "Crunch Man",
-                      {{"supercalifragilistic", "too long"}, {"antidisestablishment", "x"}}, 3);
-    Pump(50);
-    QVERIFY(
-        fx.dialogs.saw("The words on this list are too long to play this game! Choose another "
-                       "list or another game."));
-    QVERIFY(Showing<Title>() != nullptr);
+    QVERIFY(BackAtTitle());  // No: back to the title
+    WM_VERIFY(Refused(fx, "Crunch Man",
+                      {{"supercalifragilistic", "too long"}, {"antidisestablishment", "x"}}, 3,
+                      "The words on this list are too long to play this game! Choose another "
+                      "list or another game."));
 }
 
 QTEST_MAIN(CrunchManScreenTest)

@@ -1,13 +1,9 @@
 // Hang Glider on its screen, flown with the keys: from the title through "Get ready!", each
 // letter met by steering up to it, a wrong one, five words to the table; a game lost at
 // 1920x1080 by diving into the field, a try again, and a list whose words are all too long.
-#include <QtTest>
-
-#include "game_end.h"
 #include "games/action/hang_glider/hang_glider_screen.h"
+#include "act_kit.h"
 
-using namespace wm;
-using namespace wm::test;
 using namespace wm::hang_glider;
 
 class HangGliderScreenTest : public QObject {
@@ -29,15 +25,10 @@ bool FlyThrough(HangGlider* game, char letter, double y) {
     int held = 0;
     for (int frame = 0; frame < 120 && !through(); ++frame) {
         const double dy = y - g.y();
-        const int want = dy < -8 ? Qt::Key_Up : dy > 8 ? Qt::Key_Down : 0;
-        if (want != held) {
-            if (held) SendKey(game, held, QEvent::KeyRelease);
-            if (want) SendKey(game, want);
-            held = want;
-        }
+        Hold(game, held, dy < -8 ? Qt::Key_Up : dy > 8 ? Qt::Key_Down : 0);
         Pump(16);
     }
-    if (held) SendKey(game, held, QEvent::KeyRelease);
+    Hold(game, held, 0);
     return through();
 }
 
@@ -65,10 +56,8 @@ void HangGliderScreenTest::fiveWordsWonWithTheKeys() {
                                        2);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump();
-    QCOMPARE(game->sky()->call(), "Get ready!");
-    QVERIFY(fx.sound.played.contains("gliderready.wav"));
-    QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
-    QCOMPARE(LabelText(game, "LevelLabel"), "Level 2");
+    WM_VERIFY(Called(fx, game->sky()->call(), "Get ready!", "gliderready.wav"));
+    QCOMPARE(Labels(game, "Label1 LevelLabel"), Meaning() + " | Level 2");
     QVERIFY(fx.music.opened.endsWith("hangglider.mid") && game->windowTitle() == "Hang Glider");
     CheckLayout(game);
     Pump(HangGlider::kReadyMs);
@@ -98,17 +87,15 @@ void HangGliderScreenTest::fiveWordsWonWithTheKeys() {
         }
         QVERIFY(fx.sound.played.contains("gliderlift.wav"));
         if (w < 5) {
-            QCOMPARE(game->sky()->call(), "Well done!");
-            QVERIFY(fx.sound.played.contains("gliderword.wav"));
+            WM_VERIFY(Called(fx, game->sky()->call(), "Well done!", "gliderword.wav"));
             Pump(HangGlider::kWordMs);
             QCOMPARE(game->sky()->call(), QString("Word %1 of 5").arg(w + 1));
-            QCOMPARE(LabelText(game, "Label1"), QString::fromLatin1(Shared().TheMeaning.c_str()));
+            QCOMPARE(LabelText(game, "Label1"), Meaning());
             QVERIFY(game->findChild<QLabel*>("Label1")->isVisible());
             Pump(HangGlider::kReadyMs);
         }
     }
-    QCOMPARE(game->sky()->call(), "You win!");
-    QVERIFY(fx.sound.played.contains("gliderwin.wav"));
+    WM_VERIFY(Called(fx, game->sky()->call(), "You win!", "gliderwin.wav"));
     Pump(HangGlider::kEndMs);
     WM_CHECK_WON(fx, "Hang Glider", QString("HGL %1").arg(score));
 }
@@ -129,13 +116,9 @@ void HangGliderScreenTest::landingTooEarlyLosesAndALongClueShrinks() {
     QVERIFY2(game->sky()->pitch() > 10, "the nose goes down in a dive");
     Pump(16 * 70);  // Down still held as the flight ends
     QCOMPARE(game->game().phase(), Phase::Lost);
-    QCOMPARE(game->sky()->call(), "You landed too early!");
-    QVERIFY(fx.sound.played.contains("gliderland.wav"));
-    fx.dialogs.answerYes(true);
+    WM_VERIFY(Called(fx, game->sky()->call(), "You landed too early!", "gliderland.wav"));
     bool behind = false;  // the sky flies on behind the box
-    fx.dialogs.whileOpen = [&](const auto&) {
-        behind = game->frame().findTimer("Timer1")->isActive();
-    };
+    WatchBehindTheBox(fx, game, behind);
     Pump(HangGlider::kEndMs);
     QVERIFY(behind);
     QCOMPARE(LastBox(fx),
@@ -160,8 +143,7 @@ void HangGliderScreenTest::landingTooEarlyLosesAndALongClueShrinks() {
     game = OpenGame<HangGlider>(fx, "Hang Glider", {{"eagle", longer}, {"eagle", longer}}, 1);
     QVERIFY(game);
     Pump();
-    const QLabel* clue = game->findChild<QLabel*>("Label1");
-    QVERIFY(clue->font().pixelSize() < 30);  // 30 at this size for a short clue
+    QVERIFY(game->findChild<QLabel*>("Label1")->font().pixelSize() < 30);  // 30 for a short one
     CheckLayout(game);
 }
 

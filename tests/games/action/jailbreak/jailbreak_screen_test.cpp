@@ -1,16 +1,11 @@
 // Jailbreak on its screen: from the title through the chooser and the options to a won game and
 // the table; a click, a hint, the palette and a silent mistake; the guard at the door and a
 // try again; an escape with no points left; a list without enough different words.
-#include <QtTest>
-
 #include "look.h"
 
-#include "game_end.h"
+#include "act_kit.h"
 #include "games/action/jailbreak/jailbreak_screen.h"
 #include "platform/text.h"
-
-using namespace wm;
-using namespace wm::test;
 
 namespace {
 
@@ -132,8 +127,7 @@ void JailbreakScreenTest::locksHintsAndThePalette() {
     QCOMPARE(Shared().Score, 140.0);
     QCOMPARE(fx.sound.played.size(), sounds);
     QTest::keyClick(game->typingBox(), Qt::Key_Escape);
-    Pump();
-    QVERIFY(Showing<Title>());
+    QVERIFY(BackAtTitle());
 }
 
 void JailbreakScreenTest::theGuardCatchesYouAndYouTryAgain() {
@@ -159,9 +153,7 @@ void JailbreakScreenTest::theGuardCatchesYouAndYouTryAgain() {
     QCOMPARE(game->jail().cell, 1);
     QCOMPARE(Shared().Score, 0.0);
     Pump(2000 + 1500 * 40 + 1600);  // caught again, and this time No
-    QVERIFY(fx.dialogs.last().startsWith("The guard caught you!"));
-    Pump();
-    QVERIFY(Showing<Title>());
+    QVERIFY(fx.dialogs.last().startsWith("The guard caught you!") && BackAtTitle());
     QCOMPARE(ReadScoreTable(fx.path("scores/Jailbreak.dat").toStdString()).score(1), 0.0);
 }
 
@@ -187,17 +179,14 @@ void JailbreakScreenTest::anEscapeWithNoPointsLeftThenTooFewDifferentWords() {
     QCOMPARE(LastBox(fx),
              "Escaped! | You escaped from all three cells, but your score is -660, "
              "so it cannot go on the high score table. Would you like to try again?");
-    Pump();
-    QVERIFY(Showing<Title>());
+    QVERIFY(BackAtTitle());
     // Three spellings of one word are one word: too few for two locks.
-    FromTitle<QWidget>(fx, "Jailbreak",
-                       {{"cat", "a pet that purrs"}, {"Cat", "a pet"}, {"CAT", "meows"}}, 2);
-    Pump();
-    QCOMPARE(LastBox(fx),
-             "Jailbreak | There are not enough different words with definitions in this vocabulary "
-             "list for this many locks! Please choose another list or go back and lower the "
-             "difficulty level.");
-    QVERIFY(Showing<Title>());
+    WM_VERIFY(Refused(fx, "Jailbreak",
+                      {{"cat", "a pet that purrs"}, {"Cat", "a pet"}, {"CAT", "meows"}}, 2,
+                      "There are not enough different words with definitions in this vocabulary "
+                      "list for this many locks! Please choose another list or go back and lower "
+                      "the difficulty level.",
+                      "Jailbreak"));
 }
 
 QTEST_MAIN(JailbreakScreenTest)

@@ -56,8 +56,7 @@ TEST(LetterTossDraw, BasketsFollowTheLevelAndWordsDoNotComeBackTillAllHaveBeenTo
     SharedState s = ListOf({"cat", "dog", "hen"}, 2);
     ScriptedRng rng(0.0);  // always entry 1 when asked
     Room r;
-    ASSERT_TRUE(newGame(s, r, rng));
-    ASSERT_TRUE(nextWord(s, r, rng));
+    ASSERT_TRUE(newGame(s, r, rng) && nextWord(s, r, rng));
     ASSERT_TRUE(nextWord(s, r, rng));
     EXPECT_EQ(s.TheWord, "hen");  // cat and dog have had their turn
     ASSERT_TRUE(nextWord(s, r, rng));
@@ -133,11 +132,9 @@ TEST(LetterTossFlight, WhereATossLandsAndWhatItScores) {
         EXPECT_FALSE(toss(r, c.x, c.y, {c.fx, c.fy}));  // one ball at a time
         const Step st = Fly(s, r);
         const std::string at = std::to_string(c.fx) + "," + std::to_string(c.draught);
-        EXPECT_EQ(st.landing, c.landing) << at;
-        EXPECT_EQ(st.basket, c.basket) << at;
-        EXPECT_EQ(st.points, c.points) << at;
-        EXPECT_EQ(s.Score, 10 + c.points) << at;
-        EXPECT_FALSE(r.ball.flying);
+        EXPECT_EQ(std::tuple(st.landing, st.basket, st.points, s.Score, r.ball.flying),
+                  std::tuple(c.landing, c.basket, c.points, 10.0 + c.points, false))
+            << at;
         EXPECT_LT(r.ball.steps, 130) << at;
     }
 }
@@ -169,8 +166,8 @@ TEST(LetterTossClock, SixtySecondsThenTimeIsUp) {
 
 TEST(LetterTossView, TheRoomInPerspective) {
     const Seen hand = project({0, 0, 150}), rim = project({340, 1000, 220});
-    EXPECT_EQ(std::tuple(hand.x, hand.y), std::tuple(800.0, 850.0));
-    EXPECT_EQ(std::tuple(rim.x, rim.y, rim.scale), std::tuple(970.0, 540.0, 0.5));
+    EXPECT_EQ(std::tuple(hand.x, hand.y, rim.x, rim.y, rim.scale),
+              std::tuple(800.0, 850.0, 970.0, 540.0, 0.5));
 }
 
 // One step of the flight (16 ms; gravity 2400) against the walls, a rim and a basket's sides,
@@ -205,11 +202,8 @@ TEST(LetterTossFlight, OneStepAgainstTheBackWallARimAndABasketsSide) {
         r.ball.flying = true;
         const Step st = step(s, r);
         EXPECT_EQ(std::tuple(st.bounced, st.basket), std::tuple(c.bounced, -1)) << c.what;
-        EXPECT_NEAR(r.ball.at.x, c.wantAt.x, 1e-6) << c.what;
-        EXPECT_NEAR(r.ball.at.z, c.wantAt.z, 1e-6) << c.what;
-        EXPECT_NEAR(r.ball.at.h, c.wantAt.h, 1e-6) << c.what;
-        EXPECT_NEAR(r.ball.speed.x, c.wantSpeed.x, 1e-6) << c.what;
-        EXPECT_NEAR(r.ball.speed.z, c.wantSpeed.z, 1e-6) << c.what;
-        EXPECT_NEAR(r.ball.speed.h, c.wantSpeed.h, 1e-6) << c.what;
+        for (auto [got, want] : {std::pair{r.ball.at, c.wantAt}, {r.ball.speed, c.wantSpeed}})
+            for (auto [g, w] : {std::pair{got.x, want.x}, {got.z, want.z}, {got.h, want.h}})
+                EXPECT_NEAR(g, w, 1e-6) << c.what;
     }
 }

@@ -1,15 +1,10 @@
 // Letter Toss on its screen: from the title through tosses flicked with the mouse to the time-up
 // and the table; a miss on the floor, a flick too weak to throw, a silent game with no points and
 // a try again, the last ball in the air when the clock runs out; a list it cannot use.
-#include <QtTest>
-
 #include "look.h"
 
-#include "game_end.h"
+#include "act_kit.h"
 #include "games/action/letter_toss/letter_toss_screen.h"
-
-using namespace wm;
-using namespace wm::test;
 
 namespace {
 
@@ -49,10 +44,7 @@ void LetterTossScreenTest::roadFromTitleThroughSixtySecondsToTheTable() {
     Road fx(0, {"LTS"});
     LetterTossGame* game = nullptr;
     bool fanTurning = false;  // behind the end boxes
-    SetModalHook([&](QDialog& d) {
-        fanTurning = game && game->frame().findTimer("Anim")->isActive();
-        fx.win(d);
-    });
+    WatchBehindTheWin(fx, game, fanTurning, "Anim");
     game = FromTitle<LetterTossGame>(fx, "Letter Toss", kFour, 3);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     // The generator's middle value: cloud, its basket the middle one of three, no draught.
@@ -141,14 +133,12 @@ void LetterTossScreenTest::missesNoPointsTryAgainTheLastBallInTheAirAndTooFewDef
     Pump(1800);
     WM_CHECK_WON(fx, "Letter Toss", "ZZZ 150");
     // Two definitions differing in case and blanks are one: too few for three baskets.
-    OpenGame<QWidget>(fx, "Letter Toss", {{"cat", "a pet"}, {"kitten", "A pet "}, {"dog", "barks"}},
-                      3);
-    Pump();
-    QCOMPARE(LastBox(fx),
-             "Letter Toss | There are not enough different words and definitions in this "
-             "vocabulary list for this many baskets! Please choose another list or go back and "
-             "lower the difficulty level.");
-    QVERIFY(Showing<Title>());
+    WM_VERIFY(Refused(fx, "Letter Toss", {{"cat", "a pet"}, {"kitten", "A pet "}, {"dog", "barks"}},
+                      3,
+                      "There are not enough different words and definitions in this vocabulary "
+                      "list for this many baskets! Please choose another list or go back and "
+                      "lower the difficulty level.",
+                      "Letter Toss"));
 }
 
 QTEST_MAIN(LetterTossScreenTest)

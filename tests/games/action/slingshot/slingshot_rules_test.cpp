@@ -69,16 +69,11 @@ TEST(SlingshotDraws, WordThenThreeOtherWordsThenTheRightSlot) {
     rng.pick(3, 8).pick(2, 8).pick(7, 8).pick(1, 8).pick(8, 8).pick(3, 4);
     Game g;
     ASSERT_EQ(g.start(s, rng), "");
-    EXPECT_EQ(rng.randomizeCount, 1);
-    EXPECT_EQ(rng.pending(), 0u);
-    EXPECT_EQ(s.TheWord, "owl");
-    EXPECT_EQ(s.TheMeaning, "meaning of owl");
-    EXPECT_EQ(g.rightSlot(), 2);
+    EXPECT_EQ(std::tuple(rng.randomizeCount, rng.pending(), s.TheWord, s.TheMeaning, g.rightSlot()),
+              std::tuple(1, 0u, "owl", "meaning of owl", 2));
     EXPECT_EQ((std::vector<std::string>{g.word(0), g.word(1), g.word(2), g.word(3)}),
               (std::vector<std::string>{"fox", "cat", "owl", "yak"}));
-    EXPECT_EQ(g.definition(), 1);
-    EXPECT_EQ(g.stonesLeft(), 3);
-    EXPECT_EQ(s.Score, 0);
+    EXPECT_EQ(std::tuple(g.definition(), g.stonesLeft(), s.Score), std::tuple(1, 3, 0));
 }
 
 TEST(SlingshotDraws, NoDefinitionTwiceUntilTheListRunsOut) {
@@ -210,14 +205,12 @@ TEST(SlingshotScore, RightIsAHundredALevelWrongCostsFifty) {
         ASSERT_EQ(g.level(), r.level);
         const int wrong = (g.rightSlot() + 1) % kTargets;
         EXPECT_EQ(shootAt(g, wrong), Shot::Wrong) << r.difficulty;
-        EXPECT_EQ(g.lastHit(), wrong);
-        EXPECT_EQ(g.score(), -50);
-        EXPECT_EQ(g.stonesLeft(), 2);
+        EXPECT_EQ(std::tuple(g.lastHit(), g.score(), g.stonesLeft()), std::tuple(wrong, -50, 2));
         EXPECT_EQ(shootAt(g, wrong), Shot::Wrong);
         EXPECT_EQ(g.score(), -100);
         EXPECT_EQ(shootAt(g, g.rightSlot()), Shot::Right);
-        EXPECT_EQ(g.score(), -100 + 100 * r.level);
-        EXPECT_EQ(g.phase(), Phase::Solved);
+        EXPECT_EQ(std::tuple(g.score(), g.phase()),
+                  std::tuple(-100 + 100 * r.level, Phase::Solved));
         EXPECT_TRUE(g.gone(g.rightSlot()));
         EXPECT_EQ(g.stonesLeft(), 1);  // the right stone is not spent
         EXPECT_FALSE(g.fire(pullTowards(g.target(0))));
@@ -231,8 +224,7 @@ TEST(SlingshotScore, RightIsAHundredALevelWrongCostsFifty) {
         EXPECT_EQ(shootAt(g, (g.rightSlot() + 1) % kTargets), Shot::Wrong);
         EXPECT_EQ(g.phase(), Phase::Aiming);
         EXPECT_EQ(miss(g), Shot::Miss);
-        EXPECT_EQ(g.phase(), Phase::Revealed);
-        EXPECT_EQ(g.stonesLeft(), 0);
+        EXPECT_EQ(std::tuple(g.phase(), g.stonesLeft()), std::tuple(Phase::Revealed, 0));
         EXPECT_FALSE(g.fire(pullTowards(g.target(0))));
         EXPECT_EQ(g.troubleWords(), (std::vector<std::string>{first, s.TheWord}));
     }

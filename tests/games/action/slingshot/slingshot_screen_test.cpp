@@ -2,17 +2,13 @@
 // wrong target and the right ones, ten definitions won to the table; a game of misses at
 // 1920x1080, the answer flashing after three stones, the words shown in the loss box, a try
 // again.
-#include <QtTest>
-
 #include "look.h"
 
 #include <cmath>
 
-#include "game_end.h"
+#include "act_kit.h"
 #include "games/action/slingshot/slingshot_screen.h"
 
-using namespace wm;
-using namespace wm::test;
 using namespace wm::slingshot;
 
 class SlingShotScreenTest : public QObject {
@@ -61,8 +57,7 @@ void SlingShotScreenTest::aGameWonFromTheTitleToTheTable() {
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump(0);
     const Game& g = game->game();
-    QCOMPARE(game->field()->call(), "Ready...");
-    QVERIFY(fx.sound.played.contains("slingready.wav"));
+    WM_VERIFY(Called(fx, game->field()->call(), "Ready...", "slingready.wav"));
     QCOMPARE(Labels(game, "Label1 RoundLabel ScoreLabel StonesLabel"),
              Meaning() + " | Definition 1 of 10 | Score: 0 | 3 stones left");
     // No stone before the game is ready.
@@ -101,8 +96,7 @@ void SlingShotScreenTest::aGameWonFromTheTitleToTheTable() {
     Pump(SlingShot::kSolvedMs);
     QCOMPARE(game->field()->call(), "Well shot!");
     QVERIFY(g.gone(g.rightSlot()));  // the last right target stays knocked off
-    QVERIFY(fx.sound.played.contains("slingwin.wav"));
-    QVERIFY(fx.dialogs.shown.empty());
+    QVERIFY(fx.sound.played.contains("slingwin.wav") && fx.dialogs.shown.empty());
     Pump(SlingShot::kEndMs);
     WM_CHECK_WON(fx, "Slingshot", "SLG 950");
 }
@@ -139,8 +133,7 @@ void SlingShotScreenTest::aGameOfMissesShowsTheWordsAndTriesAgain() {
         }
         Pump(SlingField::kFlashMs);
     }
-    QCOMPARE(game->field()->call(), "Out of luck!");
-    QVERIFY(fx.sound.played.contains("slinglose.wav"));
+    WM_VERIFY(Called(fx, game->field()->call(), "Out of luck!", "slinglose.wav"));
     fx.dialogs.answerYes(true);
     Pump(SlingShot::kEndMs);
     QCOMPARE(LastBox(fx), "Slingshot | No points this time! The words to practise: " +

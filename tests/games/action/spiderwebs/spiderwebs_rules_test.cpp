@@ -109,16 +109,14 @@ TEST(SpiderwebsPlay, WrongFlyHurriesTheSpiderThenTheRightOneIsFreed) {
     EXPECT_EQ(g.click(2), Click::Wrong);
     EXPECT_EQ(g.msLeft(), 4925);  // 100 ms half as fast again, then twice as fast
     EXPECT_EQ(g.click(0), Click::Right);
-    EXPECT_EQ(g.lastPoints(), 98);
-    EXPECT_EQ(g.score(), -50 + 98);
-    EXPECT_EQ(g.freed(), 1);
+    EXPECT_EQ(std::tuple(g.lastPoints(), g.score(), g.freed()), std::tuple(98, -50 + 98, 1));
     EXPECT_EQ(g.click(0), Click::Ignored);
     // The fly buzzes away, then the next definition: the spider's pace back to its own.
     rng.pick(2, 4).pick(1, 3).pick(1, 4).pick(3, 4);
     EXPECT_TRUE(Advance(g, s, rng, 1799, 1799).empty());
     EXPECT_EQ(Advance(g, s, rng, 1, 1), std::vector<Event>{Event::NextRound});
-    EXPECT_EQ(std::tuple(g.round(), g.lastPoints(), s.TheWord), std::tuple(2, 0, "bee"));
-    EXPECT_FALSE(g.flies()[1].eaten);
+    EXPECT_EQ(std::tuple(g.round(), g.lastPoints(), s.TheWord, g.flies()[1].eaten),
+              std::tuple(2, 0, "bee", false));
     // A click before the spider sets off gets the whole crawl: 11.5 s.
     EXPECT_EQ(g.click(0), Click::Right);
     EXPECT_EQ(g.lastPoints(), 230);
@@ -138,8 +136,7 @@ TEST(SpiderwebsPlay, OnlyAScoreAboveNothingGoesOnTheTable) {
     Advance(g, s, rng, 6700, 100);
     EXPECT_EQ(g.msLeft(), 1300);
     EXPECT_EQ(g.click(0), Click::Right);
-    EXPECT_EQ(g.score(), 1);
-    EXPECT_TRUE(g.onTheTable());
+    EXPECT_EQ(std::tuple(g.score(), g.onTheTable()), std::tuple(1, true));
 }
 
 TEST(SpiderwebsPlay, TheSpiderAtItsFlyThenTenDefinitionsEndTheGame) {

@@ -2,14 +2,9 @@
 // ten definitions and the score to the table; twelve flies with long words, the spider winning
 // every definition, the word shown each time, no points and a try again; a list with too few
 // words for the web.
-#include <QtTest>
-
-#include "core/strings.h"
-#include "game_end.h"
 #include "games/action/spiderwebs/spiderwebs_screen.h"
-
-using namespace wm;
-using namespace wm::test;
+#include "act_kit.h"
+#include "core/strings.h"
 
 class SpiderScreenTest : public QObject {
     Q_OBJECT
@@ -77,10 +72,7 @@ void SpiderScreenTest::tenDefinitionsFromTheTitleToTheTable() {
                      {"worm", "it wriggles"}, {"gnat", "a very small fly"}};
     SpiderGame* game = nullptr;
     bool dancing = false;  // the fireflies behind the end boxes
-    SetModalHook([&](QDialog& d) {
-        dancing = game && game->frame().findTimer("Timer1")->isActive();
-        fx.win(d);
-    });
+    WatchBehindTheWin(fx, game, dancing);
     game = FromTitle<SpiderGame>(fx, "Spiderwebs", bugs, 3);
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Shared().SoundOn = kTrue;
@@ -96,8 +88,8 @@ void SpiderScreenTest::tenDefinitionsFromTheTitleToTheTable() {
             const int wrong = WrongFly(game);
             ClickFly(game, wrong);
             QCOMPARE(LabelText(game, "ScoreLabel"), "Score: -25");
-            QCOMPARE(game->scene()->call(), "Gulp! Wrong fly, and the spider hurries!");
-            QVERIFY(fx.sound.played.contains("spidereat.wav"));
+            WM_VERIFY(Called(fx, game->scene()->call(), "Gulp! Wrong fly, and the spider hurries!",
+                             "spidereat.wav"));
             ClickFly(game, wrong);  // eaten already: nothing happens
             QCOMPARE(LabelText(game, "ScoreLabel"), "Score: -25");
             QCOMPARE(LabelText(game, "TimeLabel"), "Spider: 8.0 s");
@@ -109,8 +101,8 @@ void SpiderScreenTest::tenDefinitionsFromTheTitleToTheTable() {
             // The spider sets off after a second and a half...
             for (int i = 0; i < 100 && game->game().phase() == spiderwebs::Phase::Ready; ++i)
                 Pump(16);
-            QCOMPARE(game->scene()->call(), "Click the fly with the matching word!");
-            QVERIFY(fx.sound.played.contains("spidergo.wav"));
+            WM_VERIFY(Called(fx, game->scene()->call(), "Click the fly with the matching word!",
+                             "spidergo.wav"));
             // ... and crawls 11.5 s to its fly in the second round.
             Pump(1984);
             QCOMPARE(LabelText(game, "TimeLabel"), "Spider: 9.5 s");
@@ -126,8 +118,8 @@ void SpiderScreenTest::tenDefinitionsFromTheTitleToTheTable() {
     // Rounds 3 to 10 at their whole crawls: 220 down to 150 points.
     QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 1805");
     Pump(spiderwebs::kFreedMs + 16);
-    QCOMPARE(game->scene()->call(), "All ten done! You freed 10 of 10 flies.");
-    QVERIFY(fx.sound.played.contains("spiderwin.wav"));
+    WM_VERIFY(Called(fx, game->scene()->call(), "All ten done! You freed 10 of 10 flies.",
+                     "spiderwin.wav"));
     Pump(SpiderGame::kEndMs);
     QVERIFY(dancing);
     CheckDeclared(fx);
@@ -162,8 +154,8 @@ void SpiderScreenTest::theSpiderWinsEveryDefinition() {
         QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 0");
         Pump(spiderwebs::kCaughtMs);
     }
-    QCOMPARE(game->scene()->call(), "The spider had a feast tonight!");
-    QVERIFY(fx.sound.played.contains("spiderlose.wav"));
+    WM_VERIFY(
+        Called(fx, game->scene()->call(), "The spider had a feast tonight!", "spiderlose.wav"));
     fx.dialogs.answerYes(true);
     Pump(SpiderGame::kEndMs);
     QCOMPARE(LastBox(fx),

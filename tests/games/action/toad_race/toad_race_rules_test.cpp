@@ -51,8 +51,7 @@ TEST(ToadRaceStart, ReseedsDrawsTheWordThenEachToadsFirstWait) {
               std::tuple(1, 0u, "owl", "meaning of owl"));
     EXPECT_EQ(std::tuple(r.nextHop(1), r.nextHop(2), r.nextHop(3)), std::tuple(4320, 5400, 5940));
     // Nothing moves and nothing is typed before "Go!".
-    EXPECT_EQ(r.phase(), Phase::Ready);
-    EXPECT_TRUE(r.advance(10000, rng).empty());
+    EXPECT_TRUE(r.phase() == Phase::Ready && r.advance(10000, rng).empty());
     EXPECT_EQ(r.submit(s, "owl", rng), Typed::Ignored);
     EXPECT_EQ(r.pad(0), 0);
 }
@@ -62,8 +61,7 @@ TEST(ToadRaceStart, LevelHeldToTheSliderAndEmptyListsRefused) {
     for (auto [given, held] : {std::pair{0, 1}, {1, 1}, {10, 10}, {15, 10}}) {
         SharedState s = ListOf({"cat"}, given);
         Race r;
-        ASSERT_TRUE(r.start(s, rng));
-        EXPECT_EQ(r.level(), held) << given;
+        EXPECT_TRUE(r.start(s, rng) && r.level() == held) << given;
     }
     SharedState none = ListOf({}, 5);
     const int before = rng.draws;
@@ -96,8 +94,8 @@ TEST(ToadRaceWords, NoRepeatsUntilTheListRunsOut) {
         ASSERT_EQ(r.submit(s, s.TheWord, rng), Typed::Hop);
         next.push_back(s.TheWord);
     }
-    EXPECT_EQ(next, (std::vector<std::string>{"cat", "dog", "owl", "bee"}));
-    EXPECT_EQ(r.pad(0), 7);
+    EXPECT_EQ(std::tuple(next, r.pad(0)),
+              std::tuple(std::vector<std::string>{"cat", "dog", "owl", "bee"}, 7));
 }
 
 TEST(ToadRaceWords, TwoWordsTakeTurns) {

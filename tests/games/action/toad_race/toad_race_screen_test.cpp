@@ -1,13 +1,8 @@
 // Toad Race on its screen: from the title through "Ready... Go!", wrong and right words, the
 // palette, a race won to the table; a race lost to a computer toad at 1920x1080, the box naming
 // the winner and the word, a try again; a list with no words.
-#include <QtTest>
-
-#include "game_end.h"
 #include "games/action/toad_race/toad_race_screen.h"
-
-using namespace wm;
-using namespace wm::test;
+#include "act_kit.h"
 
 class ToadRaceScreenTest : public QObject {
     Q_OBJECT
@@ -38,8 +33,7 @@ void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Shared().SoundOn = kTrue;
     Pump();
-    QCOMPARE(game->pond()->call(), "Ready...");
-    QVERIFY(fx.sound.played.contains("toadready.wav"));
+    WM_VERIFY(Called(fx, game->pond()->call(), "Ready...", "toadready.wav"));
     QLineEdit* box = game->typingBox();
     // No false starts: nothing can be typed before "Go!".
     Enter(box, "frog");
@@ -90,8 +84,7 @@ void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
     }
     // The winner's moment, then the table.
     Pump(Pond::kHopMs);
-    QCOMPARE(game->pond()->call(), "You win!");
-    QVERIFY(fx.sound.played.contains("toadwin.wav"));
+    WM_VERIFY(Called(fx, game->pond()->call(), "You win!", "toadwin.wav"));
     Pump(400);
     QCOMPARE(fx.win.congratulations.size(), 0);
     Pump(ToadRace::kCheerMs - 400);
@@ -121,8 +114,7 @@ void ToadRaceScreenTest::aRaceLostNamesTheWinnerAndTheWord() {
     Pump(120);
     QCOMPARE(game->race().phase(), toad_race::Phase::Lost);
     Pump(Pond::kHopMs);
-    QCOMPARE(game->pond()->call(), "Ruby wins!");
-    QVERIFY(fx.sound.played.contains("toadlose.wav"));
+    WM_VERIFY(Called(fx, game->pond()->call(), "Ruby wins!", "toadlose.wav"));
     Pump(400);
     QVERIFY(fx.dialogs.shown.empty());
     fx.dialogs.answerYes(true);

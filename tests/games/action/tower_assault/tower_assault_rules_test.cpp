@@ -48,9 +48,8 @@ TEST(TowerStart, DrawsADefinedWordAndRefusesListsItCannotPlay) {
     rng.pick(1, 5).pick(2, 5);
     Game g;
     ASSERT_EQ(g.start(s, rng), Start::Ok);
-    EXPECT_EQ(rng.randomizeCount, 1);
-    EXPECT_EQ(s.TheWord, "dog");
-    EXPECT_EQ(s.TheMeaning, "meaning of dog");
+    EXPECT_EQ(std::tuple(rng.randomizeCount, s.TheWord, s.TheMeaning),
+              std::tuple(1, "dog", "meaning of dog"));
 
     SharedState bare = ListOf({"cat", "dog"}, 1, true);
     EXPECT_EQ(Game().start(bare, rng), Start::NoDefinitions);
@@ -148,15 +147,13 @@ TEST(TowerEndings, TenRungsClimbWithoutRepeatedWordsAndFasterScrolls) {
         const auto ev = CatchOne(g, s, rng, true);
         ASSERT_TRUE(Has(ev, Event::Caught)) << rung;
         score += 50 * rung;
-        EXPECT_EQ(g.score(), score);
-        EXPECT_EQ(g.lastPoints(), 50 * rung);
+        EXPECT_EQ(std::tuple(g.score(), g.lastPoints()), std::tuple(score, 50 * rung));
         EXPECT_TRUE(g.scrolls().empty());
         if (rung == 10) break;
         EXPECT_EQ(g.phase(), Phase::Built);
         EXPECT_EQ(Until(g, s, rng, Event::NextWord), 94);
     }
-    EXPECT_EQ(g.phase(), Phase::Won);
-    EXPECT_EQ(g.score(), 2750);
+    EXPECT_EQ(std::tuple(g.phase(), g.score()), std::tuple(Phase::Won, 2750));
     std::sort(words.begin(), words.end());
     EXPECT_EQ(std::unique(words.begin(), words.end()), words.end());
     EXPECT_TRUE(g.tick(s, rng, 1).empty());

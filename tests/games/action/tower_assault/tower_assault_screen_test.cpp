@@ -1,14 +1,9 @@
 // Tower Assault on its screen: from the title, the knight steered with held arrow keys under
 // ten right scrolls, the ladder and the score to the table; three wrong scrolls caught at
 // 1920x1080, the box naming the word, a try again; a list with one word only refused.
-#include <QtTest>
-
-#include "game_end.h"
 #include "games/action/tower_assault/tower_assault_screen.h"
+#include "act_kit.h"
 #include "tower_steer.h"
-
-using namespace wm;
-using namespace wm::test;
 
 class TowerScreenTest : public QObject {
     Q_OBJECT
@@ -23,18 +18,12 @@ namespace {
 template <class Done>
 bool Drive(TowerGame* game, bool catchRight, Done done, int frames = 4000) {
     int held = 0;
-    for (int i = 0; i < frames; ++i) {
-        if (done()) break;
+    for (int i = 0; i < frames && !done(); ++i) {
         const int dir = TowerSteer(game->game(), catchRight);
-        const int key = dir < 0 ? Qt::Key_Left : dir > 0 ? Qt::Key_Right : 0;
-        if (key != held) {
-            if (held) SendKey(game, held, QEvent::KeyRelease);
-            if (key) SendKey(game, key);
-            held = key;
-        }
+        Hold(game, held, dir < 0 ? Qt::Key_Left : dir > 0 ? Qt::Key_Right : 0);
         Pump(16);
     }
-    if (held) SendKey(game, held, QEvent::KeyRelease);
+    Hold(game, held, 0);
     return done();
 }
 
@@ -56,8 +45,7 @@ void TowerScreenTest::tenRungsFromTheTitleToTheTable() {
     QCOMPARE(game->scene()->call(), "Get ready...");
     QVERIFY(fx.music.opened.endsWith("sounds/towerassault.mid"));
     Pump(2000);
-    QCOMPARE(game->scene()->call(), "Go!");
-    QVERIFY(fx.sound.played.contains("towergo.wav"));
+    WM_VERIFY(Called(fx, game->scene()->call(), "Go!", "towergo.wav"));
 
     for (int rung = 1; rung <= 10; ++rung) {
         QVERIFY(Drive(game, true, [&] { return game->game().rungs() == rung; }));
@@ -86,8 +74,7 @@ void TowerScreenTest::threeWrongScrollsDriveTheKnightBack() {
     // thrown again later.
     HoldKey(game, Qt::Key_Left, 33 * 16);
     for (int i = 0; i < 2000 && !game->scene()->call().startsWith("Missed"); ++i) Pump(16);
-    QCOMPARE(game->scene()->call(), "Missed! It will come again.");
-    QVERIFY(fx.sound.played.contains("towerthud.wav"));
+    WM_VERIFY(Called(fx, game->scene()->call(), "Missed! It will come again.", "towerthud.wav"));
     for (int shield = 2; shield >= 0; --shield) {
         QVERIFY(Drive(game, false, [&] { return game->game().shields() == shield; }));
         QCOMPARE(Labels(game, "ShieldsLabel ScoreLabel"),
@@ -98,14 +85,10 @@ void TowerScreenTest::threeWrongScrollsDriveTheKnightBack() {
         if (shield > 0) QCOMPARE(game->scene()->call(), QString("Not \"%1\"!").arg(caught));
     }
     QVERIFY(fx.sound.played.contains("towerclang.wav"));
-    QCOMPARE(game->scene()->call(), "The guards drove you back!");
-    QVERIFY(fx.sound.played.contains("towerlose.wav"));
+    WM_VERIFY(Called(fx, game->scene()->call(), "The guards drove you back!", "towerlose.wav"));
     const QString word = Word();
-    fx.dialogs.answerYes(true);
     bool behind = false;  // the scene plays on behind the box
-    fx.dialogs.whileOpen = [&](const auto&) {
-        behind = game->frame().findTimer("Timer1")->isActive();
-    };
+    WatchBehindTheBox(fx, game, behind);
     Pump(TowerGame::kEndMs);
     QCOMPARE(LastBox(fx), "Tower Assault | The guards drove you back! The word was \"" + word +
                               "\". Would you like to try again?");

@@ -1,12 +1,7 @@
 // Basketball on its screen: from the title, ten good shots to the table; and a wild shot, a shot
 // at a scrambled word and eight more wild ones to the no-score ending, with the sound off.
-#include <QtTest>
-
-#include "game_end.h"
 #include "games/action/basketball/basketball_screen.h"
-
-using namespace wm;
-using namespace wm::test;
+#include "act_kit.h"
 
 namespace {
 const char* kBegin = "Drag ball over net to begin...";

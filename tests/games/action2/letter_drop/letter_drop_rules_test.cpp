@@ -121,8 +121,7 @@ TEST(LetterDropRules, KeysMoveByTheStepAndStopAtTheEdges) {
     const int step = 90 / 2 + 70;
     g.place(1000, kTopY);
     g.tick(s, {false, true, false}, rng);
-    EXPECT_EQ(g.x(), 1000 + step);
-    EXPECT_EQ(g.y(), kTopY + 90);
+    EXPECT_EQ(std::tuple(g.x(), g.y()), std::tuple(1000 + step, kTopY + 90));
     g.tick(s, {false, false, true}, rng);
     EXPECT_EQ(g.y(), kTopY + 90 + 3 * 90);  // the fall and twice more with Down held
     g.place(step - 1, kTopY);

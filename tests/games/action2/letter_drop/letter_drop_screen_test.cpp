@@ -1,13 +1,9 @@
 // Letter Drop on its screen: from the title, letters steered with held keys onto their tiles, a
 // wrong landing that crumbles, the win to the table; lists of long words and of words with
 // nothing to drop refused; the close box that ends the program.
-#include <QtTest>
-
-#include "game_end.h"
 #include "games/action/letter_drop/letter_drop_screen.h"
+#include "act_kit.h"
 
-using namespace wm;
-using namespace wm::test;
 using namespace wm::letter_drop;
 
 class LetterDropScreenTest : public QObject {
@@ -104,16 +100,11 @@ void LetterDropScreenTest::steerEveryLetterHomeToTheTable() {
 
 void LetterDropScreenTest::longWordsAndNothingToDropAreRefused() {
     ShellFixture fx;
-    FromTitle<QWidget>(
-        fx, "Letter Drop",
-        {{"antidisestablishment", "a long word"}, {"supercalifragilistic", "another long word"}},
-        90);
-    Pump();
-    QCOMPARE(LastBox(fx),
-             "Letter Drop! | The words on this vocabulary list are too long for this "
-             "game. Please choose another list or another game.");
-    Pump();
-    QVERIFY(Showing<Title>());
+    WM_VERIFY(Refused(fx, "Letter Drop",
+                      {{"antidisestablishment", "long"}, {"supercalifragilistic", "x"}}, 90,
+                      "The words on this vocabulary list are too long for this game. Please "
+                      "choose another list or another game.",
+                      "Letter Drop!"));
     // Marks and blanks only: nothing to drop, and one box that says so.
     fx.dialogs.shown.clear();
     OpenGame<QWidget>(fx, "Letter Drop", {{"- -", "only dashes"}, {"'-'", "marks"}}, 90, true);
@@ -122,8 +113,7 @@ void LetterDropScreenTest::longWordsAndNothingToDropAreRefused() {
              QStringList{"The words on this vocabulary list are either too long for this game or "
                          "have no letters to drop. Please choose another list or another game."});
     QCOMPARE(fx.dialogs.shown.back().title, "Letter Drop!");
-    Pump();
-    QVERIFY(Showing<Title>());
+    QVERIFY(BackAtTitle());
 }
 
 void LetterDropScreenTest::closingTheScreenEndsTheProgram() {

@@ -3,18 +3,14 @@
 #include <gtest/gtest.h>
 
 #include "games/action/mini_golf/mini_golf_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::mini_golf;
 
 namespace {
 SharedState List(int difficulty) {
-    SharedState s;
-    s.Words = {"", "apple", "pear", "plum", "fig", "lime"};
-    s.Meanings = {"", "red fruit", "green fruit", "purple fruit", "sweet fruit", "sour fruit"};
-    s.WordCount = 5;
-    s.Difficulty = difficulty;
-    return s;
+    return test::ListOf({"apple", "pear", "plum", "fig", "lime"}, difficulty);
 }
 
 // A course with the ball resting at (x, y), moving at (vx, vy) before friction.
@@ -89,14 +85,11 @@ TEST(MiniGolfRules, SwingIsClampedAndFliesAwayFromThePull) {
     c.setup(s, rng);
     const int bx = int(c.ballX()), by = int(c.ballY());
     c.swing(bx + 4000, by - 6000);
-    EXPECT_EQ(c.vx(), -800);
-    EXPECT_EQ(c.vy(), 1000);  // 1200 clamped
-    EXPECT_EQ(c.strokes(), 1);
+    EXPECT_EQ(std::tuple(c.vx(), c.vy(), c.strokes()), std::tuple(-800, 1000, 1));  // 1200 clamped
     EXPECT_FALSE(c.canSwing(bx, by));  // not while the ball moves
     c.setup(s, rng);
     c.swing(bx - 5001 * 5, by + 5);
-    EXPECT_EQ(c.vx(), 1000);
-    EXPECT_EQ(c.vy(), -1);
+    EXPECT_EQ(std::tuple(c.vx(), c.vy()), std::tuple(1000, -1));
 }
 
 TEST(MiniGolfRules, SwingStartsOnlyCloseToTheBall) {
@@ -115,8 +108,7 @@ TEST(MiniGolfRules, FrictionStopsTheBall) {
     ScriptedRng rng(0.5);
     Course c = Rolling(s, rng, kFieldW / 2.0, 0.8 * kFieldH, 1.0, 0.5);
     const Step st = c.tick(s, rng);
-    EXPECT_TRUE(st.stopped);
-    EXPECT_FALSE(c.moving());
+    EXPECT_TRUE(st.stopped && !c.moving());
     c = Rolling(s, rng, kFieldW / 2.0, 0.8 * kFieldH, 100, 0);
     c.tick(s, rng);
     EXPECT_DOUBLE_EQ(c.vx(), 98);
@@ -203,8 +195,7 @@ TEST(MiniGolfRules, ScoresByStrokesAndAWrongHoleCostsAThousand) {
         c.setVelocity(0, -10);
         rng.pick(2, 3);  // the bonus: Int(Rnd x Difficulty + 1) = 2
         const Step st = c.tick(s, rng);
-        EXPECT_TRUE(st.right);
-        EXPECT_EQ(s.Score, r.base * 3 + 200) << r.strokes;
+        EXPECT_EQ(std::tuple(st.right, s.Score), std::tuple(true, r.base * 3 + 200.0)) << r.strokes;
     }
     SharedState s = List(2);
     ScriptedRng rng(0.0);
@@ -215,13 +206,9 @@ TEST(MiniGolfRules, ScoresByStrokesAndAWrongHoleCostsAThousand) {
     c.placeBall(c.holeX(2), c.holeY(2));
     c.setVelocity(0, 5);
     const Step st = c.tick(s, rng);
-    EXPECT_EQ(st.hole, 2);
-    EXPECT_FALSE(st.right);
-    EXPECT_EQ(s.Score, -1000);
-    EXPECT_TRUE(c.waiting());
+    EXPECT_EQ(std::tuple(st.hole, st.right, s.Score, c.waiting()),
+              std::tuple(2, false, -1000, true));
     EXPECT_FALSE(c.canSwing(int(c.ballX()), int(c.ballY())));
     c.nextWord(s, rng);
-    EXPECT_FALSE(c.waiting());
-    EXPECT_EQ(s.Score, -1000);
-    EXPECT_EQ(c.strokes(), 0);
+    EXPECT_EQ(std::tuple(c.waiting(), s.Score, c.strokes()), std::tuple(false, -1000, 0));
 }

@@ -1,15 +1,11 @@
 // Mini Golf on its screen: from the title, a putt into the right hole, the clock to the table;
 // and a putt into a wrong hole, the label's hint, the score caption that waits for the right
 // hole, and the ending that never reaches the table.
-#include <QtTest>
-
 #include <cmath>
 
-#include "game_end.h"
+#include "act_kit.h"
 #include "games/action/mini_golf/mini_golf_screen.h"
 
-using namespace wm;
-using namespace wm::test;
 using namespace wm::mini_golf;
 
 class MiniGolfScreenTest : public QObject {
@@ -39,8 +35,7 @@ void Putt(MiniGolf* g, int hole) {
     QVERIFY(g->lineShown());
     QTest::mouseRelease(g->field(), Qt::LeftButton, {},
                         OnField(g, c.ballX() - dx / dist * v0 * 5, c.ballY() - dy / dist * v0 * 5));
-    QVERIFY(!g->lineShown());
-    QVERIFY(c.moving());
+    QVERIFY(!g->lineShown() && c.moving());
 }
 
 void RollToRest(MiniGolf* g) {
@@ -115,8 +110,7 @@ void MiniGolfScreenTest::wrongHoleEndsBelowZeroWithoutTheTable() {
     Pump(1000);
     QCOMPARE(g->timeLabel()->text(), QString("Time: %1").arg(g->course().seconds()));
     QTest::mouseClick(g->oopsLabel(), Qt::LeftButton);
-    QVERIFY(!g->oopsLabel()->isVisible());
-    QVERIFY(g->ballShown());
+    QVERIFY(!g->oopsLabel()->isVisible() && g->ballShown());
     // One stroke into the right hole: 500 at level 1 and a bonus of 100, after the 1000 lost.
     Putt(g, g->course().rightHole());
     RollToRest(g);
@@ -127,8 +121,7 @@ void MiniGolfScreenTest::wrongHoleEndsBelowZeroWithoutTheTable() {
     QCOMPARE(LastBox(fx),
              "Not so great... | Oops! You scored -400! Try to be more careful next "
              "time! Would you like to try again?");
-    QVERIFY(fx.win.tables.isEmpty());
-    QVERIFY(!fx.read("scores/Mini Golf.dat").contains("400"));
+    QVERIFY(fx.win.tables.isEmpty() && !fx.read("scores/Mini Golf.dat").contains("400"));
     QVERIFY(Showing<Title>());
 }
 
