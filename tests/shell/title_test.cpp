@@ -178,6 +178,7 @@ private slots:
     void screensAndBoxesLookAsKept() {
         ShellFixture fx;
         WM_CHECK_LOOK("Shell_Title", OpenTitle());
+        Shared().CurrentGame = "Word Search";  // its options frame shows, relabelled
         for (const char* name : {"GameOptions", "QuizOptions", "FlashCardOptions"}) {
             QWidget* screen = OpenScreen(name, CurrentScreen());
             Pump();

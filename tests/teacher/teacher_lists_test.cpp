@@ -137,6 +137,7 @@ private slots:
         f.dialogs.answerInput("  Garden Birds ");
         m->renameList();
         QCOMPARE(m->caption(), "Garden Birds");
+        QCOMPARE(f.dialogs.last(), "List name changed successfully.");
         // Quit with No leaves the file alone; Quit with Yes and no words refuses.
         f.dialogs.answerYes();
         m->quitScreen();
@@ -200,12 +201,12 @@ private slots:
         d.deleteClicked();
         QVERIFY(d.asking());
         QCOMPARE(answers(), (QList<bool>{false, false, true, true}));
-        d.answer(false);
+        d.findChild<QPushButton*>("No")->click();
         QVERIFY(!d.asking());
         QCOMPARE(answers(), notAsking);
         QCOMPARE(f.lists(), f.crlf(kTwoLists));
         d.deleteClicked();
-        d.answer(true);
+        d.findChild<QPushButton*>("Yes")->click();
         QCOMPARE(f.dialogs.last(), "The list was successfully deleted.");
         // The separator behind the first list stays at the head, as it always has, and the readers
         // take it for a list's name until the next save heals the file.

@@ -71,6 +71,7 @@ private slots:
         QVERIFY(f.exists("folders.lok"));
         f.dialogs.answerYes();
         c.save();
+        QCOMPARE(c.result(), int(QDialog::Accepted));
         QVERIFY(!f.exists("folders.lok"));
         // Blank lines are dropped; a category is only its "^" line and the names under it.
         QCOMPARE(f.read("folders.dat"), f.crlf({"^Zoo", "Birds", "^Art", "Colours"}));
@@ -177,13 +178,15 @@ private slots:
         TeacherFixture f;
         services().speech = &voice;
         OpenScreen("Title");
-        SpeechOptions box;
-        QVERIFY(box.speechOn()->isChecked());  // the factory file has no speech lines
-        box.rate()->setValue(-6);
-        box.tryIt()->click();
-        QCOMPARE(voice.said.value(0).rate, -6);
-        box.speechOn()->setChecked(false);
-        box.save();
+        f.then<SpeechOptions>([&](SpeechOptions& box) {
+            QVERIFY(box.speechOn()->isChecked());  // the factory file has no speech lines
+            box.rate()->setValue(-6);
+            box.tryIt()->click();
+            QCOMPARE(voice.said.value(0).rate, -6);
+            box.speechOn()->setChecked(false);
+            box.save();
+        });
+        Manager().command("Speech Options");
         QCOMPARE(f.read("wmdata.dat"),
                  f.crlf({"Wordmere settings", "Version 1.01", "Sound On", "mapleton", "listpath",
                          "folderpath", "Speech Off", "-6"}));

@@ -135,7 +135,9 @@ private slots:
         QFile::remove(f.path("wmdata.dat"));
         PasswordForm gate;
         gate.confirm();
-        QVERIFY(f.box(2).startsWith("File Error: ") && f.box(2).contains("wmdata.dat"));
+        QCOMPARE(f.box(2), "File Error: The file " + f.path("wmdata.dat") +
+                               " could not be read or written. Check that it is there and not "
+                               "read-only, then try again.");
         QCOMPARE(f.dialogs.last(), "Incorrect Password.");
         QCOMPARE(gate.result(), int(QDialog::Rejected));
     }
