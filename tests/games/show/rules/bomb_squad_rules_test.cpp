@@ -31,14 +31,15 @@ TEST(BombSquadDeal, CertainBadWireAndCoins) {
 
 TEST(BombSquadDeal, LevelsAndTheUnboundedDeal) {
     // Wires and seconds of each level, held to 1..10: the first bomb's, then the second's.
-    const int table[][5] = {{0, 2, 30, 2, 30},  {1, 2, 30, 2, 30},  {2, 3, 30, 3, 40},
-                            {3, 4, 25, 4, 40},  {4, 5, 25, 5, 45},  {5, 6, 20, 6, 40},
-                            {6, 7, 20, 7, 40},  {7, 8, 20, 8, 35},  {8, 8, 15, 8, 25},
-                            {9, 8, 10, 8, 20},  {10, 8, 8, 8, 15},  {11, 8, 8, 8, 15}};
+    const int table[][5] = {{0, 2, 30, 2, 30}, {1, 2, 30, 2, 30}, {2, 3, 30, 3, 40},
+                            {3, 4, 25, 4, 40}, {4, 5, 25, 5, 45}, {5, 6, 20, 6, 40},
+                            {6, 7, 20, 7, 40}, {7, 8, 20, 8, 35}, {8, 8, 15, 8, 25},
+                            {9, 8, 10, 8, 20}, {10, 8, 8, 8, 15}, {11, 8, 8, 8, 15}};
     for (auto [lv, w1, s1, w2, s2] : table) {
         const auto one = bombsquad::level(lv), two = bombsquad2::level(lv);
         EXPECT_EQ(std::tuple(one.wires, one.seconds, two.wires, two.seconds),
-                  std::tuple(w1, s1, w2, s2)) << lv;
+                  std::tuple(w1, s1, w2, s2))
+            << lv;
     }
     // Eight wires from six words cannot be dealt: the deal ends instead of spinning for ever,
     // the second bomb's with two definitions left without a wire.
