@@ -3,7 +3,7 @@
 // to the out-of-coins box; the machine laid out whole at both screen sizes; a list it cannot use.
 #include "games/show/slot_machine/slot_machine_screen.h"
 #include "look.h"
-#include "screen_kit.h"
+#include "shrink_gss_kit.h"
 
 using namespace wm::slot_machine;
 
@@ -17,12 +17,6 @@ const std::vector<std::pair<std::string, std::string>> kWords = {
     {"extraordinarily", "far more than usual"},
     {"owl", "a night bird"},
     {"responsibility", "a duty that you are trusted to do well"}};
-
-SlotMachine* Open(ShellFixture& fx, int level) {
-    WriteOneList(fx, "Words", kWords);
-    return qobject_cast<SlotMachine*>(
-        ContinueWithList(ChooserFor("Slot Machine", level, false), "Words"));
-}
 
 bool onAnswer(const SlotMachine* game, int reel) {
     const Reel& r = game->game().reel(reel);
@@ -47,10 +41,7 @@ private slots:
     void tenJackpotsToTheTable() {
         Road road(7, {"ACE"});
         road.dialogs.answerYes(false);
-        WriteOneList(road, "Words", kWords);
-        QPointer<SlotMachine> game =
-            qobject_cast<SlotMachine*>(PlayFromTitle("Slot Machine", "Words", 1));
-        QVERIFY(game);
+        WM_OPEN(game, road, QPointer(PlayOn<SlotMachine>(road, "Slot Machine", kWords, 1)));
         Pump();
         SharedState& s = Shared();
         QCOMPARE(game->scene()->bannerText(), QString("Get ready!"));
@@ -114,16 +105,13 @@ private slots:
         Pump(2700);
         QVERIFY(road.win.tables.isEmpty());
         Pump(200);
-        QCOMPARE(TableRow(road, "Slot Machine"), "ACE 405");
-        WM_VERIFY(WonBox(road, 405));
-        QVERIFY(BackAtTitle());
+        WM_CHECK_WON(road, "Slot Machine", "ACE 405");
     }
 
     void outOfCoins() {
         Road road(3);
         road.dialogs.answerYes(false);
-        QPointer<SlotMachine> game = Open(road, 20);
-        QVERIFY(game);
+        WM_OPEN(game, road, QPointer(OpenGame<SlotMachine>(road, "Slot Machine", kWords, 20)));
         Pump(1500);
         for (int pull = 1; pull <= 20; ++pull) {
             QTest::keyClick(game, Qt::Key_Space);
@@ -153,8 +141,7 @@ private slots:
         Road road(5);
         for (QSize screen : {QSize(1280, 800), QSize(1920, 1080)}) {
             ScreenMetrics::overrideScreenSize(screen);
-            QPointer<SlotMachine> game = Open(road, 9);
-            QVERIFY(game);
+            WM_OPEN(game, road, QPointer(OpenGame<SlotMachine>(road, "Slot Machine", kWords, 9)));
             for (int i = 0; i < 30 && Shared().TheWord != "characteristic"; ++i) {
                 TriggerMenu(game, "RS");
                 Pump(1500);
