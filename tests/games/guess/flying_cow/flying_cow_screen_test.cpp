@@ -137,8 +137,7 @@ private slots:
         QVERIFY(TriggerMenu(game, "FLang"));
         QCOMPARE(boxes(game), "...\u00e9_....");
         QCOMPARE(LabelText(game, "Label2"), "Tried: e \u00e9");
-        QVERIFY(TriggerMenu(game, "Return"));
-        QVERIFY(BackAtTitle());
+        QVERIFY(TriggerMenu(game, "Return") && BackAtTitle());
         WM_VERIFY(
             Refused(fx, "Flying Cow",
                     {{std::string(60, 'a'), "far too long"}, {"- -", "nothing to guess"}}, 4,

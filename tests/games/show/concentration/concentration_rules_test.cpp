@@ -22,10 +22,9 @@ TEST(ConcentrationDeal, DrawsThenShufflesInAFixedOrder) {
     SharedState s = listOf({"apple", "brick", "cloud", "drum", "eagle"});
     s.Meanings[4] = "  MEANING of brick ";  // the same definition as brick's
     ScriptedRng rng;
-    rng.pick(2, 5);  // brick
-    rng.pick(2, 5);  // brick again: draw another
-    rng.pick(4, 5);  // drum, whose definition is brick's: draw another
-    rng.then(1.0);   // past the end of the list: eagle, the last word
+    // Brick; brick again: draw another; drum, whose definition is brick's: draw another; past the
+    // end of the list: eagle, the last word.
+    rng.pick(2, 5).pick(2, 5).pick(4, 5).then(1.0);
     // [w2 m2 w5 m5]: 4 swaps with 1, 3 with itself, 2 with 1.
     rng.pick(1, 4).pick(3, 3).pick(1, 2);
     const Game g = deal(s, 2, rng);

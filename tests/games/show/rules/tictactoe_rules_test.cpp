@@ -43,8 +43,7 @@ TEST(TicTacToeOpponent, RandomSquareOnlyWhenNoLineHelps) {
 
     b = boardOf("XOXXO.OXO");  // every line is mixed: nothing to win, block or build
     ScriptedRng draws;
-    draws.pick(1, 3).pick(1, 3);  // (1,1) taken: drawn again
-    draws.pick(2, 3).pick(3, 3);
+    draws.pick(1, 3).pick(1, 3).pick(2, 3).pick(3, 3);  // (1,1) taken: drawn again
     EXPECT_EQ(computerChoice(b, 3, draws), (Square{2, 3}));
     EXPECT_EQ(draws.draws, 4);
     // Draws stuck on a taken square: bounded, then the first free square from the top left.

@@ -97,8 +97,7 @@ private slots:
             fx.dialogs.last(),
             "Oops! You haven't earned any disks to drop into the Pachinko board! Would you like "
             "to give it another try?");
-        QVERIFY(fx.dialogs.texts().filter("First, let's see").isEmpty());
-        QVERIFY(BackAtTitle());
+        QVERIFY(fx.dialogs.texts().filter("First, let's see").isEmpty() && BackAtTitle());
     }
 };
 

@@ -82,9 +82,9 @@ TEST(NewGame, RoundDrawsInDesignedOrder) {
     round.scatter = true;
     round.lastBlack = 3;
     ScriptedRng rng;
-    rng.pick(2, 3);                                              // the word: "horse"
-    rng.pick(5, 5).pick(1, 5).pick(4, 5).pick(2, 5).pick(3, 5);  // "ehsor"
-    rng.then(0.0).then(0.5).then(0.0).then(0.5).then(0.0);       // tops, none rolled again
+    // The word "horse", scrambled "ehsor".
+    rng.pick(2, 3).pick(5, 5).pick(1, 5).pick(4, 5).pick(2, 5).pick(3, 5);
+    rng.then(0.0).then(0.5).then(0.0).then(0.5).then(0.0);  // tops, none rolled again
 
     NewGame game = newGame(s, round, kScreen, rng);
     ASSERT_TRUE(game.ready && game.startFlicker);
