@@ -4,16 +4,13 @@
 
 #include "games/guess/bugspray/bugspray_screen.h"
 #include "guess_road.h"
-#include "screen_kit.h"
 
 class BugSprayScreenTest : public QObject {
     Q_OBJECT
 private slots:
     void winAtTheEasiestLevel() {
         Road fx(0, {"BUG"});
-        WriteOneList(fx, "Bugs", {{"Ant", "a tiny worker"}});
-        auto* game = qobject_cast<BugSprayForm*>(PlayFromTitle("Bug Spray", "Bugs", 1));
-        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        WM_OPEN(game, fx, PlayOn<BugSprayForm>(fx, "Bug Spray", {{"Ant", "a tiny worker"}}, 1));
         Shared().SoundOn = kTrue;
         QVERIFY(TriggerMenu(game, "RS"));
         QVERIFY(fx.sound.played.contains("bugintro.wav"));
@@ -35,21 +32,18 @@ private slots:
 
         fx.dialogs.answerYes(false);
         Keys(game, "nT");
-        QVERIFY(fx.sound.played.contains("bugbye.wav"));
-        QVERIFY(game->bugPlayer()->isPlaying());  // the win clip, waited for
+        // The win clip, waited for.
+        QVERIFY(fx.sound.played.contains("bugbye.wav") && game->bugPlayer()->isPlaying());
         FinishClips(game);
         // The stake Int(0.5 * 1000 + 1) x 1 x 3 = 1503, kept whole.
-        WM_VERIFY(WonBox(fx, 1503));
         QVERIFY(!fx.dialogs.saw("Would you like to raise the difficulty level a bit?"));
-        QCOMPARE(TableRow(fx, "Bug Spray"), "BUG 1503");
-        QVERIFY(BackAtTitle());
+        WM_CHECK_WON(fx, "Bug Spray", "BUG 1503");
         QVERIFY(fx.music.opened.isEmpty());
     }
 
     void loseAtTheHardestLevel() {
         ShellFixture fx;
-        auto* game = OpenGame<BugSprayForm>(fx, "Bug Spray", {{"moth", "flies at night"}}, 3);
-        QVERIFY(game);
+        WM_OPEN(game, fx, OpenGame<BugSprayForm>(fx, "Bug Spray", {{"moth", "flies at night"}}, 3));
         FinishClips(game);
         // Miss 4 at level 3: spray7 + bug5, spray8 + bug6, spray9, spray10 + bug7. A group waits
         // for both of its clips.
@@ -71,8 +65,7 @@ private slots:
         Keys(game, "e");
         FinishClips(game);
         fx.dialogs.answerYes(false);
-        Keys(game, "f");
-        Keys(game, "g");
+        Keys(game, "fg");
         QVERIFY(fx.dialogs.shown.empty());  // the end clips play first
         FinishClips(game);
         WM_VERIFY(Box(fx,
@@ -84,12 +77,10 @@ private slots:
 
     void silentWithSoundOff() {
         ShellFixture fx;
-        auto* game = OpenGame<BugSprayForm>(fx, "Bug Spray", {{"bee", ""}}, 2, false, false,
-                                            /*wordsOnly=*/true);
-        QVERIFY(game);
+        WM_OPEN(game, fx,
+                OpenGame<BugSprayForm>(fx, "Bug Spray", {{"bee", ""}}, 2, false, false, true));
         // A words-only list loses only the hint.
-        QVERIFY(!game->hintButton()->isVisible());
-        QVERIFY(game->solveButton()->isVisible());
+        QVERIFY(!game->hintButton()->isVisible() && game->solveButton()->isVisible());
         FinishClips(game);
         Keys(game, "bz");
         FinishClips(game);

@@ -1,10 +1,19 @@
-// Helpers for the letter-guessing screens: play a clip to its end on demand.
+// Helpers for the letter-guessing screens: the letter boxes read back, a clip played to its end
+// on demand.
 #pragma once
 
 #include "platform/movie.h"
-#include "screen_kit.h"
+#include "shrink_gss_kit.h"
 
 namespace wm::test {
+
+// The first `letters` boxes as the pupil sees them: "_" hidden, "." empty, else the letter.
+inline QString BoxesText(const QVector<QLabel*>& boxes, std::size_t letters) {
+    QString out;
+    for (std::size_t i = 0; i < letters; ++i)
+        out += !boxes[i]->isVisible() ? "_" : boxes[i]->text().isEmpty() ? "." : boxes[i]->text();
+    return out;
+}
 
 // Plays every clip of the named players to its end, chained clips included.
 inline int FinishClips(QWidget* screen, QStringList players = {"MovieBoxFront", "MovieBox"}) {

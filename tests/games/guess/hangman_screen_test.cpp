@@ -5,27 +5,17 @@
 #include "games/guess/hangman/hangman_screen.h"
 #include "games/guess/hangman/hangman_rules.h"
 #include "guess_road.h"
-#include "screen_kit.h"
 
-namespace {
-QString boxes(GuessScreen* game) {
-    QString out;
-    for (int i = 0; i < int(game->round().boxes.size()); ++i) {
-        QLabel* l = game->boxes()[i];
-        out += !l->isVisible() ? "_" : l->text().isEmpty() ? "." : l->text();
-    }
-    return out;
+static QString boxes(GuessScreen* game) {
+    return BoxesText(game->boxes(), game->round().boxes.size());
 }
-}  // namespace
 
 class HangManScreenTest : public QObject {
     Q_OBJECT
 private slots:
     void winThenLoseAtTheHardestLevel() {
         Road fx(0, {"ASS"});
-        WriteOneList(fx, "Treats", {{"ice-cream", "a cold treat"}});
-        auto* game = qobject_cast<HangMan*>(PlayFromTitle("HangMan", "Treats", 2));
-        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        WM_OPEN(game, fx, PlayOn<HangMan>(fx, "HangMan", {{"ice-cream", "a cold treat"}}, 2));
         Shared().SoundOn = kTrue;
         // "Please Wait..." holds the keys until the first tick of a round.
         QVERIFY(TriggerMenu(game, "RS"));
@@ -33,8 +23,7 @@ private slots:
         Keys(game, "i");
         QCOMPARE(LabelText(game, "Label2"), "");
         Pump(20);
-        QVERIFY(!game->waiting());
-        QVERIFY(fx.music.opened.endsWith("sounds/hangman.mid"));
+        QVERIFY(!game->waiting() && fx.music.opened.endsWith("sounds/hangman.mid"));
         QCOMPARE(boxes(game), "...-.....");
         // The stake: Int(0.5 * 1000 + 1) x difficulty 2 x 9 letters.
         QCOMPARE(Shared().Score, 501.0 * 2 * 9);
@@ -76,15 +65,13 @@ private slots:
                       "Oops! Your guy was hanged! The word you were looking for was \"ice-cream\". "
                       "Would you like to give it another try?",
                       "Try Again?"));
-        QVERIFY(BackAtTitle());
-        QVERIFY(fx.music.closes > 0);
+        QVERIFY(BackAtTitle() && fx.music.closes > 0);
     }
 
     void solveAndThePalette() {
         Road fx(0);
         SetModalHook(PaletteThen(0xC9, fx.win));  // the capital: case does not matter
-        auto* game = OpenGame<HangMan>(fx, "HangMan", {{"caf\xE9 noir", "black coffee"}}, 1);
-        QVERIFY(game);
+        WM_OPEN(game, fx, OpenGame<HangMan>(fx, "HangMan", {{"caf\xE9 noir", "black coffee"}}, 1));
         Pump(20);
         QCOMPARE(boxes(game), "...._....");
         QVERIFY(TriggerMenu(game, "FLang"));
@@ -101,14 +88,12 @@ private slots:
         game->solveButton()->click();
         QCOMPARE(boxes(game), "caf\u00e9_noir");
         FinishClips(game);
-        QVERIFY(fx.dialogs.last().startsWith("You got a high score of "));
-        QVERIFY(BackAtTitle());
+        QVERIFY(fx.dialogs.last().startsWith("You got a high score of ") && BackAtTitle());
     }
 
     void silentWithoutSound() {
         ShellFixture fx;
-        auto* game = OpenGame<HangMan>(fx, "HangMan", {{"owl", "hoots"}}, 1, false, false);
-        QVERIFY(game);
+        WM_OPEN(game, fx, OpenGame<HangMan>(fx, "HangMan", {{"owl", "hoots"}}, 1, false, false));
         Pump(20);
         QVERIFY(fx.music.opened.isEmpty());
         // Escape leaves for the title.

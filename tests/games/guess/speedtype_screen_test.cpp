@@ -3,8 +3,7 @@
 
 #include "games/guess/speedtype/speedtype_screen.h"
 #include "core/clock.h"
-#include "core/score_table.h"
-#include "screen_kit.h"
+#include "shrink_gss_kit.h"
 
 namespace {
 constexpr double kSecond = 1.0 / 86400;
@@ -35,9 +34,7 @@ private slots:
         Road fx(0, {"ABC", "DEF", "GHI"});
         FixedClock clock(0.5);
         SetClock(&clock);
-        WriteOneList(fx, "Pets", {{"cat", "a pet that purrs"}});
-        auto* game = qobject_cast<SpeedType*>(PlayFromTitle("Speed Type", "Pets", 1));
-        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        WM_OPEN(game, fx, PlayOn<SpeedType>(fx, "Speed Type", {{"cat", "a pet that purrs"}}, 1));
         Shared().SoundOn = kTrue;
         Pump();
         // Keys before the go are lost.
@@ -82,9 +79,7 @@ private slots:
         QCOMPARE(TableRow(fx, "Speed Type", 1), "GHI 0.3858");
         // The moved entry passes through a whole number on the table's walk, as designed.
         QCOMPARE(TableRow(fx, "Speed Type", 2), "ABC 1");
-        QCOMPARE(QString::fromStdString(
-                     ReadScoreTable(ScoreFilePath(Shared().AppPath, "Speed Type")).scoreText(3)),
-                 "0");
+        QCOMPARE(TableRow(fx, "Speed Type", 3), "--- 0");
         QVERIFY(Showing<Title>());
         SetClock(nullptr);
     }
@@ -94,8 +89,7 @@ private slots:
         FixedClock clock(0.5);
         SetClock(&clock);
         SetModalHook(PaletteThen(0xE9, fx.win));
-        auto* game = OpenGame<SpeedType>(fx, "Speed Type", {{"caf\xE9", "coffee"}}, 1);
-        QVERIFY(game);
+        WM_OPEN(game, fx, OpenGame<SpeedType>(fx, "Speed Type", {{"caf\xE9", "coffee"}}, 1));
         Pump();
         toGo(game);
         // A wrong word with Enter loses.
@@ -120,8 +114,7 @@ private slots:
         fx.dialogs.answerYes(false);
         QTest::keyClicks(game, "xy");
         QCOMPARE(fx.dialogs.shown.back().title, "You lose!");
-        QVERIFY(fx.sound.played.isEmpty());
-        QVERIFY(BackAtTitle());
+        QVERIFY(fx.sound.played.isEmpty() && BackAtTitle());
         SetClock(nullptr);
     }
 };

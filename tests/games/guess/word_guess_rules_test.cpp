@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "core/rng.h"
-#include "core/shared_state.h"
 #include "games/guess/bugspray/bugspray_rules.h"
 #include "games/guess/common/word_guess.h"
 #include "games/guess/hangman/hangman_rules.h"
@@ -65,8 +64,7 @@ TEST(WordGuess, KeysOnBlanksHyphensRepeatsAndAccents) {
     // Windows-1252: 0xE9 is e acute, 0xC9 its capital.
     GuessRound cafe = started("Caf\xE9");
     std::vector<KeyResult> results;
-    for (char c : std::string("e\xC9\xE9"
-                              "c"))
+    for (char c : std::string("e\311\351c"))  // e, É, é (0xC9, 0xE9 in octal), c
         results.push_back(pressKey(cafe, c));
     EXPECT_EQ(results,
               (std::vector{KeyResult::Miss, KeyResult::Hit, KeyResult::Repeat, KeyResult::Hit}));
@@ -84,39 +82,33 @@ TEST(WordGuess, HintCostsARandomPartAndCanGoBelowZero) {
     GuessRound lost;
     lost.PickedIndex = 5;  // past the meanings: no meaning rather than a fault
     EXPECT_EQ(hintText(s, lost), "Definition: \"\"");
-    struct Row {
-        double score, rnd, after;
-    };
     // Int(Rnd x Score + 1) off the score; at 0 the draw is 1.
-    for (const Row r : {Row{100, 0.999, 0}, Row{0, 0.5, -1}, Row{10, 0.0, 9}, Row{10, 0.55, 4}}) {
+    for (auto [score, rnd, after] :
+         {std::array{100.0, 0.999, 0.0}, {0, 0.5, -1}, {10, 0, 9}, {10, 0.55, 4}}) {
         ScriptedRng rng;
-        rng.then(r.rnd);
-        s.Score = r.score;
+        rng.then(rnd);
+        s.Score = score;
         payForHint(s, rng);
-        EXPECT_DOUBLE_EQ(s.Score, r.after) << r.score << " " << r.rnd;
+        EXPECT_DOUBLE_EQ(s.Score, after) << score << " " << rnd;
     }
 }
 
 TEST(WordGuess, SolveIgnoresCaseAndOuterBlanksButNotInnerOnes) {
     GuessRound r;
     r.word = "Ice Cream";
-    struct Case {
-        std::optional<std::string> answer;
-        SolveResult want;
-    };
-    for (const Case& c : std::vector<Case>{{std::nullopt, SolveResult::Nothing},
-                                           {"", SolveResult::Nothing},
-                                           {"  ice cream ", SolveResult::Won},
-                                           {"ICE CREAM", SolveResult::Won},
-                                           {"icecream", SolveResult::Miss},
-                                           {"ice  cream", SolveResult::Miss}})
-        EXPECT_EQ(solve(r, c.answer), c.want) << c.answer.value_or("<cancel>");
+    using Case = std::pair<std::optional<std::string>, SolveResult>;
+    for (const auto& [answer, want] : {Case{std::nullopt, SolveResult::Nothing},
+                                       {"", SolveResult::Nothing},
+                                       {"  ice cream ", SolveResult::Won},
+                                       {"ICE CREAM", SolveResult::Won},
+                                       {"icecream", SolveResult::Miss},
+                                       {"ice  cream", SolveResult::Miss}})
+        EXPECT_EQ(solve(r, answer), want) << answer.value_or("<cancel>");
 }
 
 TEST(WordGuess, MissesAllowedAndEveryMissReseeds) {
-    EXPECT_EQ(missesAllowed(1), 14);
-    EXPECT_EQ(missesAllowed(2), 10);
-    EXPECT_EQ(missesAllowed(3), 6);
+    EXPECT_EQ(std::tuple(missesAllowed(1), missesAllowed(2), missesAllowed(3)),
+              std::tuple(14, 10, 6));
     GuessRound r;
     ScriptedRng rng;
     EXPECT_EQ(addMiss(r, rng), 1);
@@ -139,12 +131,8 @@ std::string joined(const bugspray::Step& step) {
 }  // namespace
 
 TEST(HangmanSteps, ClipsByDifficultyAndTheLastStep) {
-    struct Case {
-        int difficulty, misses;
-        const char* clips;
-        bool lost;
-    };
-    for (const Case& c : std::vector<Case>{
+    using Case = std::tuple<int, int, const char*, bool>;  // level, misses, the clips, lost
+    for (const auto& [level, misses, clips, lost] : std::vector<Case>{
              {1, 13, "hang13", false},
              {1, 14, "hang14,hangend", true},
              {2, 2, "hang3,hang4,hang5", false},
@@ -154,9 +142,9 @@ TEST(HangmanSteps, ClipsByDifficultyAndTheLastStep) {
              {3, 7, "", false},               // no step past the end
              {2, 0, "", false},
          }) {
-        auto step = hangman::wrongGuessStep(c.difficulty, c.misses);
-        EXPECT_EQ(joined(step.clips), c.clips) << c.difficulty << "/" << c.misses;
-        EXPECT_EQ(step.lost, c.lost) << c.difficulty << "/" << c.misses;
+        auto step = hangman::wrongGuessStep(level, misses);
+        EXPECT_EQ(std::tuple(joined(step.clips), step.lost), std::tuple(clips, lost))
+            << level << "/" << misses;
     }
     // Every level ends on the last gallows picture and uses each of the fourteen once.
     for (int d = 1; d <= 3; ++d) {
@@ -225,9 +213,8 @@ TEST(SpeedType, ReadySetGoThenStop) {
     EXPECT_EQ(tick(r, 0.25), Tick::Set);
     EXPECT_EQ(r.call, "Set...");
     EXPECT_EQ(tick(r, 0.5), Tick::Go);
-    EXPECT_EQ(r.call, "Type this word:");
-    EXPECT_FALSE(r.WaitingForGo);
-    EXPECT_DOUBLE_EQ(r.StartTime, 0.5);
+    EXPECT_EQ(std::tuple(r.call, r.WaitingForGo, r.StartTime),
+              std::tuple("Type this word:", false, 0.5));
     EXPECT_EQ(tick(r, 0.75), Tick::Stop);
 }
 
@@ -250,11 +237,8 @@ TEST(SpeedType, TypingBackspaceAndEnter) {
 }
 
 TEST(SpeedType, FiguresAndTheTimePerLetterAreCutFromTheirTexts) {
-    struct Case {
-        double t;
-        const char *m, *s, *sd;
-    };
-    for (const Case& c : std::vector<Case>{
+    using Case = std::tuple<double, const char*, const char*, const char*>;  // T, m:s.decimals
+    for (const auto& [t, m, sec, sd] : std::vector<Case>{
              {0, "00", "00", ""},  // T = 0: nothing from the third character on
              {0.578125, "00", "00", "578"},
              {1.15625, "00", "1", "562"},  // kept: the first decimal is skipped
@@ -265,18 +249,18 @@ TEST(SpeedType, FiguresAndTheTimePerLetterAreCutFromTheirTexts) {
              {75.5, "01", "15", "5"},
              {75.123456, "01", "15", "123"},
          }) {
-        auto f = figures(c.t);
+        auto f = figures(t);
         EXPECT_EQ(f.minutes + ":" + f.seconds + "." + f.decimals,
-                  std::string(c.m) + ":" + c.s + "." + c.sd)
-            << c.t;
+                  std::string(m) + ":" + sec + "." + sd)
+            << t;
     }
     SpeedRound r;
     r.StartTime = r.EndTime = 0.5;
     EXPECT_EQ(timePerLetter(elapsed(r), "cat"), "0");  // same clock second: a score of 0
     // Two seconds of a 100000-a-day clock over four letters: 0.5787037...
     EXPECT_EQ(timePerLetter(2.0 / 86400 * 100000, "fish"), "0.5787");
-    EXPECT_EQ(timePerLetter(25.0, "ab"), "12.5");
-    EXPECT_EQ(timePerLetter(123.4567, "a"), "123.45");
+    EXPECT_EQ(std::tuple(timePerLetter(25.0, "ab"), timePerLetter(123.4567, "a")),
+              std::tuple("12.5", "123.45"));
     EXPECT_EQ(wonText("0.5787"),
               "Congratulations! Your time was 0.5787 seconds per letter! Would you like to try "
               "again?");

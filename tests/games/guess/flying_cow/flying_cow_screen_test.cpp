@@ -2,22 +2,18 @@
 // the table and back; a loss at the top level with the word shown and a new game; the palette,
 // a words-only list, silence without sound, and a list it cannot play.
 #include "games/guess/flying_cow/flying_cow_screen.h"
+#include "../guess_road.h"
 #include "look.h"
-#include "screen_kit.h"
 
 namespace {
-const Pairs kFarm{
-    {"moo", "what a cow says"}, {"barn", "a house for animals"},
-    {"hay-loft", "where the dry grass is kept"}, {"cow", "it gives milk"},
-    {"milk", "a white drink"}};
+const Pairs kFarm{{"moo", "what a cow says"},
+                  {"barn", "a house for animals"},
+                  {"hay-loft", "where the dry grass is kept"},
+                  {"cow", "it gives milk"},
+                  {"milk", "a white drink"}};
 
 QString boxes(CowForm* game) {
-    QString out;
-    for (int i = 0; i < int(game->game().word().size()); ++i) {
-        QLabel* l = game->boxes()[i];
-        out += !l->isVisible() ? "_" : l->text().isEmpty() ? "." : l->text();
-    }
-    return out;
+    return BoxesText(game->boxes(), game->game().word().size());
 }
 // Past the pause before a word.
 void Ready(CowForm* game) {
@@ -31,10 +27,8 @@ class FlyingCowScreenTest : public QObject {
 private slots:
     void fiveWordsFromTheTitleToTheTable() {
         Road fx(0);
-        WriteOneList(fx, "Farm", kFarm);
         for (int k = 1; k <= 5; ++k) fx.rng.pick(k, 5);
-        auto* game = qobject_cast<CowForm*>(PlayFromTitle("Flying Cow", "Farm", 4));
-        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        WM_OPEN(game, fx, PlayOn<CowForm>(fx, "Flying Cow", kFarm, 4));
         QVERIFY(fx.music.opened.endsWith("sounds/cowtune.mid"));
         // The saucer arrives first; keys wait for it.
         QCOMPARE(LabelText(game, "ReadyLabel"), "Get ready!");
@@ -43,8 +37,7 @@ private slots:
         Ready(game);
         QCOMPARE(boxes(game), "...");
         QCOMPARE(game->findChild<QLabel*>("LetterLabel0"), game->boxes()[0]);
-        QCOMPARE(LabelText(game, "WordLabel"), "Word 1 of 5");
-        QCOMPARE(LabelText(game, "MissLabel"), "Misses left: 7");
+        QCOMPARE(Labels(game, "WordLabel MissLabel"), "Word 1 of 5 | Misses left: 7");
 
         // A miss lifts the cow a rung; a letter that fills two blanks brings it down again.
         Keys(game, "x");
@@ -67,8 +60,8 @@ private slots:
         Keys(game, "m");
         QCOMPARE(fx.sound.played.last(), "cowmoo.wav");
         QCOMPARE(game->phase(), CowForm::Phase::Won);
-        QCOMPARE(LabelText(game, "MeaningLabel"), "Meaning: what a cow says");
-        QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 260");  // (3 x 10 + 7 x 5) x 4
+        // (3 x 10 + 7 x 5) x 4 points.
+        QCOMPARE(Labels(game, "MeaningLabel ScoreLabel"), "Meaning: what a cow says | Score: 260");
         Keys(game, "b");  // the word is done: no key counts until the next one
         for (int step : {1500, 1000, 800}) Pump(step);
         QCOMPARE(LabelText(game, "ReadyLabel"), "Word 2 of 5");
@@ -96,16 +89,14 @@ private slots:
         Keys(game, "milk");
         QCOMPARE(fx.win.congratulations.size(), 0);  // the last word's happy ending plays first
         Pump(3300);
-        WM_VERIFY(WonBox(fx, 1410));
-        QCOMPARE(TableRow(fx, "Flying Cow"), "ZZZ 1410");
-        QVERIFY(BackAtTitle());
+        WM_CHECK_WON(fx, "Flying Cow", "ZZZ 1410");
         QVERIFY(fx.music.closes > 0);
     }
 
     void beamedUpAtTheTopLevel() {
         ShellFixture fx;
-        auto* game = OpenGame<CowForm>(fx, "Flying Cow", {{"owl", "it hoots at night"}}, 9, true);
-        QVERIFY(game);
+        WM_OPEN(game, fx,
+                OpenGame<CowForm>(fx, "Flying Cow", {{"owl", "it hoots at night"}}, 9, true));
         game->resize(1920, 1080);
         Ready(game);
         QCOMPARE(LabelText(game, "MissLabel"), "Misses left: 2");
@@ -134,9 +125,8 @@ private slots:
     void paletteWordsOnlySilenceAndAListWithNothingToPlay() {
         Road fx(0);
         SetModalHook(PaletteThen(0xC9, fx.win));  // the capital: case does not matter
-        auto* game =
-            OpenGame<CowForm>(fx, "Flying Cow", {{"caf\xE9 noir", ""}}, 1, false, false, true);
-        QVERIFY(game);
+        WM_OPEN(game, fx,
+                OpenGame<CowForm>(fx, "Flying Cow", {{"caf\xE9 noir", ""}}, 1, false, false, true));
         Ready(game);
         QVERIFY(!game->hintButton()->isEnabled());
         game->hintButton()->click();
@@ -147,8 +137,7 @@ private slots:
         QVERIFY(TriggerMenu(game, "FLang"));
         QCOMPARE(boxes(game), "...\u00e9_....");
         QCOMPARE(LabelText(game, "Label2"), "Tried: e \u00e9");
-        QVERIFY(TriggerMenu(game, "Return"));
-        QVERIFY(BackAtTitle());
+        QVERIFY(TriggerMenu(game, "Return") && BackAtTitle());
         WM_VERIFY(
             Refused(fx, "Flying Cow",
                     {{std::string(60, 'a'), "far too long"}, {"- -", "nothing to guess"}}, 4,

@@ -5,7 +5,6 @@
 #include <set>
 
 #include "core/rng.h"
-#include "core/shared_state.h"
 #include "games/guess/freeze_it/freeze_it_rules.h"
 #include "word_lists.h"
 
@@ -26,10 +25,9 @@ std::string shown(const Game& g) {
 TEST(FreezeIt, PaceAndPointsByLevel) {
     const int interval[] = {1500, 1200, 900, 600, 300};
     for (int level = 1; level <= 5; ++level) EXPECT_EQ(thawInterval(level), interval[level - 1]);
-    struct {
-        int hidden, level, points;
-    } cases[] = {{6, 3, 370}, {0, 1, 10}, {1, 1, 30}, {4, 5, 410}, {14, 2, 570}};
-    for (auto c : cases) EXPECT_EQ(pointsFor(c.hidden, c.level), c.points) << c.hidden;
+    for (auto [hidden, level, points] :
+         {std::array{6, 3, 370}, {0, 1, 10}, {1, 1, 30}, {4, 5, 410}, {14, 2, 570}})
+        EXPECT_EQ(pointsFor(hidden, level), points) << hidden;
 }
 
 TEST(FreezeIt, StartReseedsDrawsAndShowsBlanksHyphensApostrophes) {
@@ -79,10 +77,9 @@ TEST(FreezeIt, ThawTakesTheDrawnHiddenBlockUntilTheWordMelts) {
 TEST(FreezeIt, FreezeStopsTheThawAndAnswersAreChecked) {
     SharedState s = ListOf({"caf\xE9"}, 3);
     ScriptedRng rng;
-    rng.pick(1, 1);
+    rng.pick(1, 1).pick(1, 4);
     Game g;
     ASSERT_TRUE(g.start(s, rng));
-    rng.pick(1, 4);
     g.thaw(rng);
     ASSERT_TRUE(g.freeze());
     EXPECT_FALSE(g.freeze());
@@ -135,26 +132,23 @@ TEST(FreezeIt, TenWordsWithoutRepeatsWhileTheListLasts) {
 }
 
 TEST(FreezeIt, ShortListStartsOverButNotWithTheWordJustPlayed) {
-    struct Row {
-        std::vector<std::string> words;
-        double first;  // the fallback draw: 0.0 word 1, 0.99 the last
-        const char* order;
-        std::vector<int> picks = {};  // draws made before the fallback, of the list's words
-    };
+    // The words; the fallback draw (0.0 word 1, 0.99 the last); the order played; the draws made
+    // before the fallback, of the list's words.
+    using Row = std::tuple<std::vector<std::string>, double, const char*, std::vector<int>>;
     const Row rows[] = {
-        {{"owl", "- -", "bat"}, 0.0, "owl bat owl bat owl"},  // a word without letters never
-        {{"owl", "bat"}, 0.99, "bat owl bat owl bat"},        // just played, whichever it was
-        {{"  owl "}, 0.5, "owl owl owl owl owl"},             // one word, again and again
-        {{"owl", "- -"}, 0.5, "owl owl owl owl owl"},         // the only word with letters
+        {{"owl", "- -", "bat"}, 0.0, "owl bat owl bat owl", {}},  // a word without letters never
+        {{"owl", "bat"}, 0.99, "bat owl bat owl bat", {}},        // just played, whichever it was
+        {{"  owl "}, 0.5, "owl owl owl owl owl", {}},             // one word, again and again
+        {{"owl", "- -"}, 0.5, "owl owl owl owl owl", {}},         // the only word with letters
         // The fourth draw says the word just played: the next free one comes instead.
         {{"owl", "bat", "cat"}, 0.0, "owl bat cat owl bat", {1, 2, 3, 3}},
         // Draws stuck on a used word: the walk takes the next free one along, not one further.
-        {{"ant", "bee", "cat", "dog"}, 0.0, "ant bee cat dog ant"},
+        {{"ant", "bee", "cat", "dog"}, 0.0, "ant bee cat dog ant", {}},
     };
-    for (const Row& r : rows) {
-        SharedState s = ListOf(r.words, 3);
-        ScriptedRng rng(r.first);
-        for (int k : r.picks) rng.pick(k, int(r.words.size()));
+    for (const auto& [words, first, want, picks] : rows) {
+        SharedState s = ListOf(words, 3);
+        ScriptedRng rng(first);
+        for (int k : picks) rng.pick(k, int(words.size()));
         Game g;
         ASSERT_TRUE(g.start(s, rng));
         std::string order = g.word();
@@ -162,7 +156,7 @@ TEST(FreezeIt, ShortListStartsOverButNotWithTheWordJustPlayed) {
             ASSERT_TRUE(g.nextWord(s, rng));
             order += " " + g.word();
         }
-        EXPECT_EQ(order, r.order) << r.words.size();
+        EXPECT_EQ(order, want) << words.size();
     }
 }
 

@@ -4,17 +4,17 @@
 #include "games/guess/freeze_it/freeze_it_screen.h"
 #include "look.h"
 #include "platform/speech.h"
-#include "screen_kit.h"
+#include "shrink_gss_kit.h"
 
 using namespace wm::freeze_it;
 
 namespace {
 const Pairs kWinter{
-    {"snow", "white flakes that fall in winter"}, {"frost", "thin ice on a cold morning"},
-    {"igloo", "a house made of snow blocks"}, {"sled", "you ride it down a snowy hill"},
-    {"mitten", "a warm glove without fingers"}, {"scarf", "you wrap it round your neck"},
+    {"snow", "white flakes that fall in winter"},     {"frost", "thin ice on a cold morning"},
+    {"igloo", "a house made of snow blocks"},         {"sled", "you ride it down a snowy hill"},
+    {"mitten", "a warm glove without fingers"},       {"scarf", "you wrap it round your neck"},
     {"penguin", "a bird that swims but never flies"}, {"icicle", "ice hanging from a roof"},
-    {"blizzard", "a storm of wind and snow"}, {"cocoa", "a hot chocolate drink"}};
+    {"blizzard", "a storm of wind and snow"},         {"cocoa", "a hot chocolate drink"}};
 
 // Moves the clock until the ice thaws (the pause before a word is over).
 bool UntilThawing(QPointer<FreezeIt> game) {
@@ -38,11 +38,9 @@ private slots:
         RecordingSpeech voice;  // outlives the screen
         Road fx(0, {"ICE"});
         services().speech = &voice;
-        WriteOneList(fx, "Winter", kWinter);
         SetModalHook(PaletteThen(0xE9, fx.win));
         fx.dialogs.answerYes(false);
-        QPointer<FreezeIt> game = qobject_cast<FreezeIt*>(PlayFromTitle("Freeze-It", "Winter", 3));
-        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        WM_OPEN(game, fx, QPointer(PlayOn<FreezeIt>(fx, "Freeze-It", kWinter, 3)));
         QCOMPARE(game->focusPolicy(), Qt::StrongFocus);  // the keys go to the game
         Pump();
         SharedState& s = Shared();
@@ -70,8 +68,7 @@ private slots:
         QCOMPARE(game->game().hidden(), n - 1);
         QTest::keyClicks(game->answerBox(), "ab");           // put away unchecked: gone next time
         QTest::keyClick(game->answerBox(), Qt::Key_Escape);  // closes the box, not the game
-        QVERIFY(!game->answerBox()->isVisible());
-        QVERIFY(!game->scene()->isFrozen());
+        QVERIFY(!game->answerBox()->isVisible() && !game->scene()->isFrozen());
         QCOMPARE(CurrentScreen(), game.data());
 
         // A letter typed straight away freezes the ice and starts the answer; a wrong one costs
@@ -84,7 +81,7 @@ private slots:
         QCOMPARE(fx.sound.played.last(), QString("freeze-wrong.wav"));
         Pump(900);
         QCOMPARE(game->game().hidden(), n - 2);
-        WM_CHECK_LOOK("Freeze-It_play", game);  // two letters out of the ice, the miss told
+        WM_CHECK_LOOK("Freeze-It_play", game);   // two letters out of the ice, the miss told
         QVERIFY(TriggerMenu(game, "mnuSayIt"));  // the clue may be heard, not the word
 
         // The palette puts its letter into the answer box.
@@ -129,17 +126,15 @@ private slots:
         QCOMPARE(fx.sound.played.last(), QString("freeze-win.wav"));
         QVERIFY(fx.win.tables.isEmpty());
         Pump(2400);
-        QCOMPARE(TableRow(fx, "freeze it"), QString("ICE %1").arg(expected));
-        WM_VERIFY(WonBox(fx, expected));
-        QVERIFY(BackAtTitle());
+        WM_CHECK_WON(fx, "freeze it", QString("ICE %1").arg(expected));
     }
 
     void noPointsNoTableAndAListWithNoLettersRefused() {
         Road fx(0);
         fx.dialogs.answerYes(false);
-        QPointer<FreezeIt> game = OpenGame<FreezeIt>(
-            fx, "Freeze-It", {{"ice", ""}, {"hail", ""}, {"sleet", ""}}, 5, false, true, true);
-        QVERIFY(game);
+        const Pairs words{{"ice", ""}, {"hail", ""}, {"sleet", ""}};
+        WM_OPEN(game, fx,
+                QPointer(OpenGame<FreezeIt>(fx, "Freeze-It", words, 5, false, true, true)));
         QVERIFY(UntilThawing(game));
         QVERIFY(!game->clue()->isVisible());       // no meaning on a words-only list
         const int hidden = game->game().hidden();  // level 5 thaws a block every 300 ms

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "core/rng.h"
-#include "core/shared_state.h"
 #include "games/guess/princess/princess_rules.h"
 #include "word_lists.h"
 
@@ -41,16 +40,14 @@ TEST(PrincessRules, PointsTextsAndWhatCanBePlayed) {
     EXPECT_EQ(std::tuple(wordPoints(5, true), wordPoints(5, false), wordPoints(14, false)),
               std::tuple(100, 50, 140));
     EXPECT_EQ(lostText("moat"), "The dragon woke up! The word was moat.");
-    struct Row {
-        std::string word;
-        bool ok;
-    } rows[] = {{"a", true},
-                {std::string(24, 'x'), true},
-                {std::string(25, 'x'), false},
-                {std::string(24, 'x') + " -'", true},  // blanks take no stone
-                {"- '", false},
-                {"", false}};
-    for (const auto& r : rows) EXPECT_EQ(playable(r.word), r.ok) << r.word;
+    for (const auto& [word, ok] : std::vector<std::pair<std::string, bool>>{
+             {"a", true},
+             {std::string(24, 'x'), true},
+             {std::string(25, 'x'), false},
+             {std::string(24, 'x') + " -'", true},  // blanks take no stone
+             {"- '", false},
+             {"", false}})
+        EXPECT_EQ(playable(word), ok) << word;
 }
 
 TEST(PrincessRules, DrawsWithoutRepeatsAndEndsTheUnluckyRun) {

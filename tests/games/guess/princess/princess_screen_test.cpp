@@ -2,7 +2,7 @@
 // table and back, clicking and typing; the dragon woken by the eighth splash with the word
 // shown and a new game; the clue, silence and a list it cannot play.
 #include "games/guess/princess/princess_screen.h"
-#include "screen_kit.h"
+#include "shrink_gss_kit.h"
 
 namespace {
 // Clicks the first stone still in the water that carries `letter`, where the pupil sees it.
@@ -19,8 +19,7 @@ void Ready(frmPrincess* game, int ms) {
     QCOMPARE(game->phase(), frmPrincess::Phase::Play);
 }
 QString Hud(QWidget* game) {
-    return LabelText(game, "WordLabel") + " | " + LabelText(game, "ScoreLabel") + " | " +
-           LabelText(game, "MeterLabel");
+    return Labels(game, "WordLabel ScoreLabel MeterLabel");
 }
 }  // namespace
 
@@ -29,12 +28,10 @@ class PrincessScreenTest : public QObject {
 private slots:
     void twoWordsFromTheTitleToTheTable() {
         Road fx(0);
-        WriteOneList(
-            fx, "Castle",
-            {{"owl", "it hoots"}, {"moat", "water round a castle"}, {"king", "he wears a crown"}});
         fx.rng.pick(1, 3);
-        auto* game = qobject_cast<frmPrincess*>(PlayFromTitle("Princess", "Castle", 2));
-        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        const Pairs castle{
+            {"owl", "it hoots"}, {"moat", "water round a castle"}, {"king", "he wears a crown"}};
+        WM_OPEN(game, fx, PlayOn<frmPrincess>(fx, "Princess", castle, 2));
         QVERIFY(fx.music.opened.endsWith("sounds/princess.mid"));
         QCOMPARE(LabelText(game, "ReadyLabel"), "Get ready!");
         Click(game, 'w');  // the stones wait for the pause
@@ -82,16 +79,13 @@ private slots:
         Pump(3900);
         QVERIFY(fx.win.congratulations.isEmpty());  // she is still on her way in
         Pump(200);
-        WM_VERIFY(WonBox(fx, 120));
-        QCOMPARE(TableRow(fx, "Princess"), "ZZZ 120");
-        QVERIFY(BackAtTitle());
+        WM_CHECK_WON(fx, "Princess", "ZZZ 120");
     }
 
     void theEighthSplashWakesTheDragon() {
         ShellFixture fx;
-        auto* game =
-            OpenGame<frmPrincess>(fx, "Princess", {{"owl", "it hoots at night"}}, 15, true);
-        QVERIFY(game);
+        WM_OPEN(game, fx,
+                OpenGame<frmPrincess>(fx, "Princess", {{"owl", "it hoots at night"}}, 15, true));
         game->resize(1920, 1080);
         Ready(game, 1650);
         QCOMPARE(LabelText(game, "MeaningLabel"), "Meaning: it hoots at night");
@@ -121,26 +115,25 @@ private slots:
     }
 
     void clueSilenceAndAListItCannotPlay() {
-        struct Row {
-            bool option, sound, wordsOnly;
-            const char* meaning;
-            const char* woken;  // once the dragon wakes, a list's meaning is shown
-        } rows[] = {{true, false, true, "Click the stones in the right order to spell the word!",
-                     "Click the stones in the right order to spell the word!"},
-                    {false, false, false, "Click the stones in the right order to spell the word!",
-                     "Meaning: a strong animal"}};
-        for (const Row& r : rows) {
+        // The option, the sound, a words-only list; the meaning shown, and once the dragon wakes
+        // (then a list's meaning is shown).
+        const std::tuple<bool, bool, bool, const char*, const char*> rows[] = {
+            {true, false, true, "Click the stones in the right order to spell the word!",
+             "Click the stones in the right order to spell the word!"},
+            {false, false, false, "Click the stones in the right order to spell the word!",
+             "Meaning: a strong animal"}};
+        for (auto [option, sound, wordsOnly, meaning, woken] : rows) {
             ShellFixture fx;
-            auto* game = OpenGame<frmPrincess>(fx, "Princess", {{"ox", "a strong animal"}}, 5,
-                                               r.option, r.sound, r.wordsOnly);
-            QVERIFY(game);
+            WM_OPEN(game, fx,
+                    OpenGame<frmPrincess>(fx, "Princess", {{"ox", "a strong animal"}}, 5, option,
+                                          sound, wordsOnly));
             Ready(game, 1650);
-            QCOMPARE(LabelText(game, "MeaningLabel"), r.meaning);
+            QCOMPARE(LabelText(game, "MeaningLabel"), meaning);
             Click(game, 'x');
             QCOMPARE(game->game().splashes(), 1);
             for (int i = 0; i < 7; ++i) Click(game, 'x');  // no splash nor roar is heard
             QCOMPARE(game->phase(), frmPrincess::Phase::Woken);
-            QCOMPARE(LabelText(game, "MeaningLabel"), r.woken);
+            QCOMPARE(LabelText(game, "MeaningLabel"), woken);
             QVERIFY(fx.sound.played.isEmpty());
         }
         ShellFixture fx;

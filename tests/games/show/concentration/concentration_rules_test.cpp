@@ -22,10 +22,9 @@ TEST(ConcentrationDeal, DrawsThenShufflesInAFixedOrder) {
     SharedState s = listOf({"apple", "brick", "cloud", "drum", "eagle"});
     s.Meanings[4] = "  MEANING of brick ";  // the same definition as brick's
     ScriptedRng rng;
-    rng.pick(2, 5);  // brick
-    rng.pick(2, 5);  // brick again: draw another
-    rng.pick(4, 5);  // drum, whose definition is brick's: draw another
-    rng.then(1.0);   // past the end of the list: eagle, the last word
+    // Brick; brick again: draw another; drum, whose definition is brick's: draw another; past the
+    // end of the list: eagle, the last word.
+    rng.pick(2, 5).pick(2, 5).pick(4, 5).then(1.0);
     // [w2 m2 w5 m5]: 4 swaps with 1, 3 with itself, 2 with 1.
     rng.pick(1, 4).pick(3, 3).pick(1, 2);
     const Game g = deal(s, 2, rng);
@@ -34,9 +33,10 @@ TEST(ConcentrationDeal, DrawsThenShufflesInAFixedOrder) {
     const std::vector<std::pair<int, bool>> want{{2, true}, {5, true}, {5, false}, {2, false}};
     ASSERT_EQ(g.cards.size(), want.size());
     for (std::size_t i = 0; i < want.size(); ++i) {
-        EXPECT_EQ(g.cards[i].entry, want[i].first) << i;
-        EXPECT_EQ(g.cards[i].meaning, want[i].second) << i;
-        EXPECT_FALSE(g.cards[i].up || g.cards[i].matched);
+        const Card& c = g.cards[i];  // face down, not found
+        EXPECT_EQ(std::tuple(c.entry, c.meaning, c.up || c.matched),
+                  std::tuple(want[i].first, want[i].second, false))
+            << i;
     }
     EXPECT_EQ(std::tuple(g.level, g.score, g.seconds), std::tuple(2, 0.0, 0));
 }
@@ -51,8 +51,7 @@ TEST(ConcentrationDeal, AmbiguousAndShortListsEndInsteadOfSpinning) {
     rng.pick(1, 3).pick(2, 3).pick(3, 3);
     const Game g = deal(s, 2, rng);
     EXPECT_FALSE(g.ready());
-    EXPECT_EQ(rng.draws, kMaxDraws);  // the draws stop at the bound
-    EXPECT_EQ(kMaxDraws, 20000);
+    EXPECT_EQ(rng.draws, 20000);  // the draws stop at the bound
     ScriptedRng none;
     EXPECT_FALSE(deal(listOf({"apple"}), 2, none).ready());
     EXPECT_EQ(none.draws, 0);  // too short a list: not a single draw
@@ -70,12 +69,7 @@ TEST(ConcentrationDeal, AmbiguousAndShortListsEndInsteadOfSpinning) {
 
 TEST(ConcentrationPlay, ScoresMissesAndTheThirdClick) {
     Game g = table(3, {{1, false}, {1, true}, {2, false}, {2, true}, {3, false}, {3, true}});
-    struct Step {
-        int card;
-        Flip flip;
-        double score;
-        std::vector<int> turnedDown;
-    };
+    using Step = std::tuple<int, Flip, double, std::vector<int>>;  // card, flip, score, turned down
     const Step steps[] = {
         {0, Flip::First, 0, {}},          {0, Flip::Nothing, 0, {}},  // already up
         {2, Flip::Miss, 0, {}},                                       // -30, but never below zero
@@ -88,11 +82,10 @@ TEST(ConcentrationPlay, ScoresMissesAndTheThirdClick) {
         {0, Flip::First, 240, {3, 0}},  // a click on one of the pair: back down, then up again
         {1, Flip::Match, 540, {}},
     };
-    for (const Step& st : steps) {
-        const ClickResult r = click(g, st.card);
-        EXPECT_EQ(r.flip, st.flip) << st.card << " at " << st.score;
-        EXPECT_EQ(g.score, st.score) << st.card;
-        EXPECT_EQ(r.turnedDown, st.turnedDown) << st.card;
+    for (const auto& [card, flip, score, turnedDown] : steps) {
+        const ClickResult r = click(g, card);
+        EXPECT_EQ(std::tuple(r.flip, g.score, r.turnedDown), std::tuple(flip, score, turnedDown))
+            << card << " at " << score;
     }
     EXPECT_EQ(g.pairsFound, 2);
     EXPECT_TRUE(g.cards[0].matched && g.cards[1].matched && g.cards[4].up);
@@ -134,19 +127,17 @@ TEST(ConcentrationPlay, TurnBackAndBonusBoundaries) {
 }
 
 TEST(ConcentrationTable, GridFitsTheCardsToTheScreen) {
-    struct Row {
-        int cards;
-        double w, h;
-        int columns, rows;
-    };
-    const Row rows[] = {{4, 1240, 560, 2, 2},  {6, 1240, 560, 3, 2},  {12, 1240, 560, 4, 3},
-                        {16, 1240, 560, 4, 4}, {16, 1860, 800, 6, 3}, {20, 1240, 560, 5, 4},
-                        {20, 560, 1240, 3, 7}, {1, 100, 100, 1, 1},
-                        {2, 300, 200, 1, 2},  // a tie: the fewer columns
-                        {2, 3 + 1.5e-9, 2, 1, 2}};  // as good as a tie
-    for (const Row& r : rows) {
-        const Grid gr = grid(r.cards, r.w, r.h);
-        EXPECT_EQ(gr.columns, r.columns) << r.cards << " in " << r.w << "x" << r.h;
-        EXPECT_EQ(gr.rows, r.rows) << r.cards << " in " << r.w << "x" << r.h;
+    // Cards, the room's width and height, the columns and rows.
+    const std::tuple<int, double, double, int, int> table[] = {
+        {4, 1240, 560, 2, 2},    {6, 1240, 560, 3, 2},
+        {12, 1240, 560, 4, 3},   {16, 1240, 560, 4, 4},
+        {16, 1860, 800, 6, 3},   {20, 1240, 560, 5, 4},
+        {20, 560, 1240, 3, 7},   {1, 100, 100, 1, 1},
+        {2, 300, 200, 1, 2},        // a tie: the fewer columns
+        {2, 3 + 1.5e-9, 2, 1, 2}};  // as good as a tie
+    for (auto [cards, w, h, columns, rows] : table) {
+        const Grid gr = grid(cards, w, h);
+        EXPECT_EQ(std::tuple(gr.columns, gr.rows), std::tuple(columns, rows))
+            << cards << " in " << w << "x" << h;
     }
 }

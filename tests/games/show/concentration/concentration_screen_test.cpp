@@ -3,31 +3,21 @@
 // refused.
 #include "games/show/concentration/concentration_screen.h"
 #include "look.h"
-#include "screen_kit.h"
+#include "shrink_gss_kit.h"
 
 using concentration::Face;
 
 namespace {
 const Pairs kAnimals{
-    {"otter", "a playful swimmer with thick fur"}, {"heron", "a tall bird that wades"},
+    {"otter", "a playful swimmer with thick fur"},        {"heron", "a tall bird that wades"},
     {"badger", "it digs burrows and has a striped face"}, {"newt", "a small lizard-like swimmer"},
-    {"moth", "it flies at night toward lights"}, {"hare", "a fast animal with long ears"}};
+    {"moth", "it flies at night toward lights"},          {"hare", "a fast animal with long ears"}};
 
-// Entries 1, 2, 3 drawn; each shuffle step swaps a card with itself: w1 m1 w2 m2 w3 m3.
-void pinDeal(ShellFixture& fx, int level = 3) {
+// Entries 1, 2, 3... drawn; each shuffle step swaps a card with itself: w1 m1 w2 m2 w3 m3...
+Concentration* startGame(ShellFixture& fx, int level, const Pairs& words = kAnimals) {
     for (int k = 1; k <= level; ++k) fx.rng.pick(k, 6);
     for (int i = 2 * level; i >= 2; --i) fx.rng.pick(i, i);
-}
-
-Concentration* startGame(ShellFixture& fx, int level, bool sound = true,
-                         decltype(kAnimals) words = kAnimals) {
-    WriteOneList(fx, "Animals", words);
-    pinDeal(fx, level);
-    QWidget* shown =
-        sound ? PlayFromTitle("Concentration", "Animals", level)
-              : ContinueWithList(ChooserFor("Concentration", level, true, false), "Animals");
-    Pump();
-    return qobject_cast<Concentration*>(shown);
+    return StartFromTitle<Concentration>(fx, "Concentration", words, level);
 }
 
 void clickCard(Concentration* g, int i) {
@@ -41,14 +31,12 @@ private slots:
     void fromTheTitleThroughAWinToTheTable() {
         Road fx(0, {"CAT"});
         Shared().Score = 99;
-        auto* g = startGame(fx, 3);
-        QVERIFY2(g, qPrintable(fx.dialogs.texts().join(" | ")));
+        WM_OPEN(g, fx, startGame(fx, 3));
         QCOMPARE(Shared().Score, 0.0);  // every game starts from nothing, with a fresh shuffle
         QCOMPARE(fx.rng.randomizeCount, 1);
         QCOMPARE(g->game().cards.size(), std::size_t(6));
-        QCOMPARE(g->ScoreLabel->text(), "Score: 0");
-        QCOMPARE(g->PairsLabel->text(), "Pairs: 0 of 3");
-        QCOMPARE(g->ClockLabel->text(), "Time: 0:00");
+        QCOMPARE(Labels(g, "ScoreLabel PairsLabel ClockLabel"),
+                 "Score: 0 | Pairs: 0 of 3 | Time: 0:00");
         QVERIFY(fx.music.opened.endsWith("sounds/concentration.mid"));
         QCOMPARE(g->windowTitle(), "Concentration");
         for (int i = 0; i < 6; ++i) {
@@ -85,13 +73,11 @@ private slots:
         QCOMPARE(g->shownFace(1), Face::Back);  // the back shows until half the turn is done
         QCOMPARE(g->shownFace(0), Face::Word);  // and both turn green once it is over
         QCOMPARE(fx.sound.played.last(), "conc-match.wav");
-        QCOMPARE(g->ScoreLabel->text(), "Score: 300");
-        QCOMPARE(g->PairsLabel->text(), "Pairs: 1 of 3");
+        QCOMPARE(Labels(g, "ScoreLabel PairsLabel"), "Score: 300 | Pairs: 1 of 3");
         Pump(200);
         QCOMPARE(g->shownFace(1), Face::Meaning);
         Pump(60);  // the turn's last moment
-        QCOMPARE(g->shownFace(0), Face::Found);
-        QCOMPARE(g->shownFace(1), Face::Found);
+        QCOMPARE(std::pair(g->shownFace(0), g->shownFace(1)), std::pair(Face::Found, Face::Found));
         QVERIFY(g->frame().findTimer("Timer3")->isActive());  // the found pair swells, then rests
         Pump(340);
         QVERIFY(!g->frame().findTimer("Timer3")->isActive());
@@ -116,14 +102,12 @@ private slots:
         clickCard(g, 2);
         clickCard(g, 3);
         const double score = 570 + 300 + (300 - seconds) * 3;
-        QCOMPARE(g->ScoreLabel->text(), QString("Score: %1").arg(score));
-        QCOMPARE(g->PairsLabel->text(), "Pairs: 3 of 3");
-        Pump(
-            2000);  // the screen is gone by now: the score above holds the seconds of the last pair
+        QCOMPARE(Labels(g, "ScoreLabel PairsLabel"),
+                 QString("Score: %1 | Pairs: 3 of 3").arg(score));
+        // The screen is gone by now: the score above holds the seconds of the last pair.
+        Pump(2000);
         QVERIFY(fx.sound.played.contains("conc-win.wav"));
-        QCOMPARE(TableRow(fx, "Concentration"), QString("CAT %1").arg(score));
-        WM_VERIFY(WonBox(fx, score));
-        QVERIFY(BackAtTitle());
+        WM_CHECK_WON(fx, "Concentration", QString("CAT %1").arg(score));
     }
 
     void longDefinitionInThePanelAndSharedDefinitionsRefused() {
@@ -136,14 +120,12 @@ private slots:
         auto words = kAnimals;
         words[0].second = long_;
         ShellFixture fx;
-        auto* g = startGame(fx, 10 - 4, true, words);  // six pairs
-        QVERIFY(g);
+        WM_OPEN(g, fx, startGame(fx, 10 - 4, words));  // six pairs
         const auto& cards = g->game().cards;
         int def = -1, word = -1;
         for (int i = 0; i < int(cards.size()); ++i)
             if (cards[i].entry == 1) (cards[i].meaning ? def : word) = i;
-        QVERIFY(g->cardText(def).cramped);
-        QVERIFY(!g->cardText(word).cramped);
+        QVERIFY(g->cardText(def).cramped && !g->cardText(word).cramped);
         clickCard(g, def);
         QVERIFY(g->DefPanel->isVisible());
         QCOMPARE(g->DefPanel->text().toStdString(), long_);

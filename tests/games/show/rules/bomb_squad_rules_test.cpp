@@ -13,11 +13,11 @@ TEST(BombSquadDeal, CertainBadWireAndCoins) {
     s.Meanings[1] = std::string(51, 'm');  // over 50 letters: the small font
     s.Meanings[5] = std::string(50, 'm');
     ScriptedRng rng;
-    rng.pick(2, 3);                        // wire 2 is bad for certain
-    rng.pick(1, 6).pick(2, 2);             // wire 1: apple, coin says good
-    rng.pick(2, 6).pick(2, 2);             // wire 2: brick, good by coin but bad for certain...
-    rng.pick(2, 6).pick(1, 6).pick(3, 6);  // ...its definition: brick, apple used; cloud
-    rng.pick(4, 6).pick(1, 2).pick(4, 6).pick(5, 6);  // wire 3: drum, bad: eagle's meaning
+    // Wire 2 is bad for certain. Wire 1: apple, the coin says good. Wire 2: brick, good by the
+    // coin but bad for certain; its definition: brick, apple used; cloud. Wire 3: drum, bad:
+    // eagle's meaning.
+    rng.pick(2, 3).pick(1, 6).pick(2, 2).pick(2, 6).pick(2, 2).pick(2, 6).pick(1, 6).pick(3, 6);
+    rng.pick(4, 6).pick(1, 2).pick(4, 6).pick(5, 6);
     auto d = bombsquad::deal(s, 2, rng);
     ASSERT_TRUE(d.ready);
     EXPECT_EQ(d.secondsLeft, 30);
@@ -31,14 +31,15 @@ TEST(BombSquadDeal, CertainBadWireAndCoins) {
 
 TEST(BombSquadDeal, LevelsAndTheUnboundedDeal) {
     // Wires and seconds of each level, held to 1..10: the first bomb's, then the second's.
-    const int table[][5] = {{0, 2, 30, 2, 30},  {1, 2, 30, 2, 30},  {2, 3, 30, 3, 40},
-                            {3, 4, 25, 4, 40},  {4, 5, 25, 5, 45},  {5, 6, 20, 6, 40},
-                            {6, 7, 20, 7, 40},  {7, 8, 20, 8, 35},  {8, 8, 15, 8, 25},
-                            {9, 8, 10, 8, 20},  {10, 8, 8, 8, 15},  {11, 8, 8, 8, 15}};
+    const int table[][5] = {{0, 2, 30, 2, 30}, {1, 2, 30, 2, 30}, {2, 3, 30, 3, 40},
+                            {3, 4, 25, 4, 40}, {4, 5, 25, 5, 45}, {5, 6, 20, 6, 40},
+                            {6, 7, 20, 7, 40}, {7, 8, 20, 8, 35}, {8, 8, 15, 8, 25},
+                            {9, 8, 10, 8, 20}, {10, 8, 8, 8, 15}, {11, 8, 8, 8, 15}};
     for (auto [lv, w1, s1, w2, s2] : table) {
         const auto one = bombsquad::level(lv), two = bombsquad2::level(lv);
         EXPECT_EQ(std::tuple(one.wires, one.seconds, two.wires, two.seconds),
-                  std::tuple(w1, s1, w2, s2)) << lv;
+                  std::tuple(w1, s1, w2, s2))
+            << lv;
     }
     // Eight wires from six words cannot be dealt: the deal ends instead of spinning for ever,
     // the second bomb's with two definitions left without a wire.
@@ -95,9 +96,9 @@ TEST(BombSquadClock, RunsOutAndPicksTheLoserText) {
 TEST(BombSquad2, ShuffledDefinitionsAndCarriedWires) {
     SharedState s = sixWords();
     ScriptedRng rng;
-    rng.pick(5, 6).pick(3, 3);                        // eagle's meaning on DefLabel 2
-    rng.pick(5, 6).pick(2, 6).pick(3, 3).pick(1, 3);  // brick; slot 2 taken, slot 0
-    rng.pick(6, 6).pick(1, 3).pick(2, 3);             // frost on slot 1
+    // Eagle's meaning on DefLabel 2; brick, slot 2 taken, slot 0; frost on slot 1.
+    rng.pick(5, 6).pick(3, 3).pick(5, 6).pick(2, 6).pick(3, 3).pick(1, 3);
+    rng.pick(6, 6).pick(1, 3).pick(2, 3);
     auto b = bombsquad2::deal(s, 2, rng);
     ASSERT_TRUE(b.ready);
     EXPECT_EQ(b.words, (std::vector<int>{5, 2, 6}));

@@ -39,23 +39,18 @@ TEST(PachinkoFall, SpeedsUpToThePinRadiusThenStrikesTheFirstPin) {
 }
 
 TEST(PachinkoFall, MiddlePinsSendTheDiskAwayAndDeadCentreTossesACoin) {
-    struct Case {
-        int x;
-        double coin;
-        int sign;
-    };
     const int px = pins()[4].x;  // a middle pin of the top row
-    const Case cases[] = {
-        {px - 20 - 5, 0.0, -1}, {px - 20 + 5, 0.0, 1}, {px - 20, 0.25, -1}, {px - 20, 0.4, -1},
-        {px - 20, 0.75, 1}};  // the coin Int(Rnd x 2 + 1): 1 sends it left
-    for (const auto& c : cases) {
+    // Where the disk drops off the pin, the coin Int(Rnd x 2 + 1) (1 sends it left), which way.
+    const std::tuple<int, double, int> cases[] = {
+        {-25, 0.0, -1}, {-15, 0.0, 1}, {-20, 0.25, -1}, {-20, 0.4, -1}, {-20, 0.75, 1}};
+    for (auto [off, coin, sign] : cases) {
+        const int x = px + off;
         // Nothing is drawn before the strike: the size, then the coin (dead centre only).
         ScriptedRng rng(0.0);
-        if (c.x == px - 20) rng.then(0.0).then(c.coin);
-        Disk d = dropDisk(c.x);
+        if (off == -20) rng.then(0.0).then(coin);
+        Disk d = dropDisk(x);
         ASSERT_GT(fallToFirstTouch(d, rng), 0);
-        EXPECT_EQ(d.dx, c.sign * 11) << c.x << " coin " << c.coin;
-        EXPECT_EQ(d.dy, 3);
+        EXPECT_EQ(std::tuple(d.dx, d.dy), std::tuple(sign * 11, 3)) << x << " coin " << coin;
     }
 }
 
@@ -78,17 +73,17 @@ TEST(PachinkoSlots, ValuesRichestAtTheEdgesTheDropZoneAndTheSlotUnderTheCentre) 
     auto v = scrambleValues(rng);
     EXPECT_EQ(v, (std::array<int, 10>{6000, 15 * 399, 15 * 250, 15 * 110, 15 * 21, 15 * 31,
                                       15 * 110, 15 * 250, 15 * 399, 6000}));
-    EXPECT_TRUE(inDropZone(100, -40));
-    EXPECT_FALSE(inDropZone(100, 300)) << "among the pins";
-    EXPECT_FALSE(inDropZone(-30, -40)) << "outside the walls";
-    EXPECT_FALSE(inDropZone(kBoardWidth - kDiskSize + 1, -40));
+    // Above the pins, then among them, outside the walls, past the right wall.
+    EXPECT_EQ(std::tuple(inDropZone(100, -40), inDropZone(100, 300), inDropZone(-30, -40),
+                         inDropZone(kBoardWidth - kDiskSize + 1, -40)),
+              std::tuple(true, false, false, false));
     EXPECT_EQ(kScoreStart, std::string("Score: 00000000"));  // before the first disk
-    EXPECT_EQ(scoreLine(1234), "Score: 1234");               // after: no leading zeros
-    EXPECT_EQ(scoreLine(15), "Score: 15");
+    // After: no leading zeros.
+    EXPECT_EQ(std::tuple(scoreLine(1234), scoreLine(15)), std::tuple("Score: 1234", "Score: 15"));
     // The disk scores in the slot under its centre.
     Disk d;
-    for (const auto& [x, slot] : {std::pair{60 - 20, 1}, {60 - 21, 0}, {-30, 0}, {599, 9},
-                                  {540 - 20, 9}, {540 - 21, 8}}) {
+    for (const auto& [x, slot] :
+         {std::pair{60 - 20, 1}, {60 - 21, 0}, {-30, 0}, {599, 9}, {540 - 20, 9}, {540 - 21, 8}}) {
         d.x = x;
         EXPECT_EQ(slotOf(d), slot) << x;
     }
@@ -138,21 +133,16 @@ TEST(PachinkoFall, EdgesOfTheDiskAndItsSidesMeetThePins) {
     for (const Pin& q : pins())
         if (q.row == p.row && q.last) last = &q;
     ASSERT_NE(last, nullptr);
-    struct Side {
-        const Pin* pin;
-        int dx, want;
-    };
-    for (const Side& c : {Side{&p, 3, -4}, Side{&p, -3, 4}, Side{last, 3, -5}}) {
+    for (auto [pin, dx, want] : {std::tuple{&p, 3, -4}, {&p, -3, 4}, {last, 3, -5}}) {
         ScriptedRng rng;
         Disk d;
-        d.dx = c.dx;
+        d.dx = dx;
         d.dy = 1;
         // After this tick's move the disk's centre is level with the pin, 22 pixels off it.
-        const int cx = c.dx > 0 ? c.pin->x - 22 : c.pin->x + 22;
-        d.x = cx - 20 - c.dx;
-        d.y = c.pin->y - 20 - 1;
+        const int cx = dx > 0 ? pin->x - 22 : pin->x + 22;
+        d.x = cx - 20 - dx;
+        d.y = pin->y - 20 - 1;
         step(d, rng);
-        EXPECT_TRUE(d.touched);
-        EXPECT_EQ(d.dx, c.want) << c.pin->x << " " << c.dx;
+        EXPECT_EQ(std::tuple(d.touched, d.dx), std::tuple(true, want)) << pin->x << " " << dx;
     }
 }

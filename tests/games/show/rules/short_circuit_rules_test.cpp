@@ -72,24 +72,19 @@ TEST(ShortCircuitPlay, ClicksOnlyCountInTheColumnInPlay) {
 }
 
 TEST(ShortCircuitScore, SpeedBandsAndTheHiddenMeaningBonus) {
-    struct Case {
-        int halfSeconds;
-        bool meaning;
-        double want;
-    };
-    // A four-letter word at level 2, the roll giving 1: (500 + 1) * 2 = 1002 on top.
-    const Case cases[] = {
-        {3, true, 4000 + 1002},        {4, true, 2000 + 1002}, {7, true, 2000 + 1002},
-        {8, true, 800 + 1002},         {15, true, 800 + 1002}, {16, true, 400 + 1002},
-        {3, false, 5 * (4000 + 1002)},
-    };
-    for (const auto& c : cases) {
+    // Half seconds taken, the meaning shown, the score: a four-letter word at level 2, the roll
+    // giving 1: (500 + 1) * 2 = 1002 on top.
+    const std::tuple<int, bool, int> cases[] = {
+        {3, true, 4000 + 1002},       {4, true, 2000 + 1002}, {7, true, 2000 + 1002},
+        {8, true, 800 + 1002},        {15, true, 800 + 1002}, {16, true, 400 + 1002},
+        {3, false, 5 * (4000 + 1002)}};
+    for (auto [halfSeconds, meaning, want] : cases) {
         Circuit circuit;
         circuit.word = "WIRE";
-        circuit.halfSeconds = c.halfSeconds;
+        circuit.halfSeconds = halfSeconds;
         ScriptedRng rng;
         rng.pick(1, 2);
-        EXPECT_EQ(winScore(circuit, 2, c.meaning, rng), c.want) << c.halfSeconds;
+        EXPECT_EQ(winScore(circuit, 2, meaning, rng), want) << halfSeconds;
     }
     EXPECT_EQ(shortedText("BULB"),
               "Oops! You short-circuited the connection! The word you were trying to spell was "

@@ -19,24 +19,19 @@ Board boardOf(const char* rows) {
 }  // namespace
 
 TEST(TicTacToeOpponent, ChoosesSquareInThePreferredOrder) {
-    struct Case {
-        const char* board;
-        Square want;
-        const char* why;
-    };
-    const Case cases[] = {
-        {".........", {2, 2}, "the centre first"},
-        {"X........", {2, 2}, "the centre even before a block"},
-        {"OO.XXO.X.", {1, 3}, "completes its own row before blocking"},
-        {"XX..O....", {1, 3}, "blocks two player marks"},
-        {"X.X.O....", {1, 2}, "blocks with the gap in the middle"},
-        {"X...O...X", {2, 3}, "builds on its row, rows walked first, last free square"},
-        {"XO..X...O", {3, 2}, "builds on a begun line rather than choosing at random"},
-    };
-    for (const auto& c : cases) {
+    using Case = std::tuple<const char*, Square, const char*>;  // the board, the choice, why
+    for (const auto& [board, want, why] : std::vector<Case>{
+             {".........", {2, 2}, "the centre first"},
+             {"X........", {2, 2}, "the centre even before a block"},
+             {"OO.XXO.X.", {1, 3}, "completes its own row before blocking"},
+             {"XX..O....", {1, 3}, "blocks two player marks"},
+             {"X.X.O....", {1, 2}, "blocks with the gap in the middle"},
+             {"X...O...X", {2, 3}, "builds on its row, rows walked first, last free square"},
+             {"XO..X...O", {3, 2}, "builds on a begun line rather than choosing at random"},
+         }) {
         ScriptedRng rng(0.0);
-        EXPECT_EQ(computerChoice(boardOf(c.board), 4, rng), c.want) << c.why << " " << c.board;
-        EXPECT_EQ(rng.draws, 0) << "no random draw needed: " << c.why;
+        EXPECT_EQ(computerChoice(boardOf(board), 4, rng), want) << why << " " << board;
+        EXPECT_EQ(rng.draws, 0) << "no random draw needed: " << why;
     }
 }
 
@@ -48,8 +43,7 @@ TEST(TicTacToeOpponent, RandomSquareOnlyWhenNoLineHelps) {
 
     b = boardOf("XOXXO.OXO");  // every line is mixed: nothing to win, block or build
     ScriptedRng draws;
-    draws.pick(1, 3).pick(1, 3);  // (1,1) taken: drawn again
-    draws.pick(2, 3).pick(3, 3);
+    draws.pick(1, 3).pick(1, 3).pick(2, 3).pick(3, 3);  // (1,1) taken: drawn again
     EXPECT_EQ(computerChoice(b, 3, draws), (Square{2, 3}));
     EXPECT_EQ(draws.draws, 4);
     // Draws stuck on a taken square: bounded, then the first free square from the top left.
@@ -67,32 +61,22 @@ TEST(TicTacToeOpponent, MissesOnceInDifficulty) {
     for (int level : {2, 6}) {
         ScriptedRng rng;
         rng.pick(1, level).pick(2, level).pick(level, level);
-        EXPECT_FALSE(computerHits(level, rng));
-        EXPECT_TRUE(computerHits(level, rng));
-        EXPECT_TRUE(computerHits(level, rng));
+        for (bool hits : {false, true, true}) EXPECT_EQ(computerHits(level, rng), hits) << level;
     }
 }
 
 TEST(TicTacToeBoard, VerdictsAndWinningLineEnds) {
-    struct Case {
-        const char* board;
-        int winner;
-        bool tie;
-        Square from, to;
-    };
-    const Case cases[] = {
-        {"XXX.O.O..", Player, false, {1, 1}, {1, 3}},
-        {"X.O.XO..O", Computer, false, {1, 3}, {3, 3}},
-        {"O.X.X.X.O", Player, false, {1, 3}, {3, 1}},
-        {"XOXXOOOXX", Empty, true, {}, {}},
-        {"XO.......", Empty, false, {}, {}},
-    };
-    for (const auto& c : cases) {
-        Verdict v = checkBoard(boardOf(c.board));
-        EXPECT_EQ(v.winner, c.winner) << c.board;
-        EXPECT_EQ(v.tie, c.tie) << c.board;
-        EXPECT_EQ(v.from, c.from) << c.board;
-        EXPECT_EQ(v.to, c.to) << c.board;
+    using Case = std::tuple<const char*, int, bool, Square, Square>;  // board, winner, tie, line
+    for (const auto& [board, winner, tie, from, to] : std::vector<Case>{
+             {"XXX.O.O..", Player, false, {1, 1}, {1, 3}},
+             {"X.O.XO..O", Computer, false, {1, 3}, {3, 3}},
+             {"O.X.X.X.O", Player, false, {1, 3}, {3, 1}},
+             {"XOXXOOOXX", Empty, true, {}, {}},
+             {"XO.......", Empty, false, {}, {}},
+         }) {
+        Verdict v = checkBoard(boardOf(board));
+        EXPECT_EQ(std::tuple(v.winner, v.tie, v.from, v.to), std::tuple(winner, tie, from, to))
+            << board;
     }
 }
 

@@ -2,26 +2,20 @@
 // each to its own loser's box, the labels standing through the blast; the beeps turning high
 // under ten seconds; Restart's box.
 
-#include <cmath>
-
 #include "games/show/bomb_squad2/bomb_squad2_screen.h"
 #include "platform/movie.h"
-#include "screen_kit.h"
+#include "shrink_gss_kit.h"
 
 namespace {
-const Pairs kWeather{
-    {"breeze", "a gentle wind"}, {"drizzle", "very light rain"},
-    {"hail", "balls of ice falling from clouds"}, {"fog", "a cloud at ground level"},
-    {"sleet", "rain and snow together"}, {"gust", "a sudden strong wind"},
-    {"thunder", "the sound after lightning"}, {"frost", "ice crystals on cold ground"}};
+const Pairs kWeather{{"breeze", "a gentle wind"},
+                     {"drizzle", "very light rain"},
+                     {"hail", "balls of ice falling from clouds"},
+                     {"fog", "a cloud at ground level"},
+                     {"sleet", "rain and snow together"},
+                     {"gust", "a sudden strong wind"},
+                     {"thunder", "the sound after lightning"},
+                     {"frost", "ice crystals on cold ground"}};
 
-BombSquad2* startGame(ShellFixture& fx, int level) {
-    WriteOneList(fx, "Weather", kWeather);
-    for (int i = 1; i <= 400; ++i) fx.rng.then(std::fmod(i * 0.6180339887, 1.0));
-    auto* game = qobject_cast<BombSquad2*>(PlayFromTitle("Bomb Squad 2", "Weather", level));
-    Pump();
-    return game;
-}
 void clickOn(BombSquad2* game, QLabel* label) {
     QTest::mouseClick(game, Qt::LeftButton, {}, label->geometry().center());
 }
@@ -37,8 +31,7 @@ private slots:
     void wireEveryWordToTheTable() {
         Road fx(0, {"JOY"});
         Shared().Score = 5000;
-        auto* game = startGame(fx, 3);
-        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        WM_OPEN(game, fx, StartFromTitle<BombSquad2>(fx, "Bomb Squad 2", kWeather, 3, 400));
         const int n = int(game->board().words.size());
         QCOMPARE(n, 4);
         QCOMPARE(game->timeLabel()->text(), "40");
@@ -70,8 +63,7 @@ private slots:
 
     void wrongDefinitionAndTimeOut() {
         ShellFixture fx;
-        auto* game = startGame(fx, 10);
-        QVERIFY(game);
+        WM_OPEN(game, fx, StartFromTitle<BombSquad2>(fx, "Bomb Squad 2", kWeather, 10, 400));
         QCOMPARE(game->timeLabel()->text(), "15");
         Pump(5000);
         QCOMPARE(fx.sound.played.count("spacebeep.wav"), 5);  // 14 .. 10 left
@@ -80,8 +72,7 @@ private slots:
         clickOn(game, game->wordLabels()[0]);
         fx.dialogs.answerYes(true);
         clickOn(game, game->defLabels()[(defOf(game, 0) + 1) % 8]);
-        QVERIFY(game->exploding());
-        QVERIFY(game->bombMovie()->isVisible());
+        QVERIFY(game->exploding() && game->bombMovie()->isVisible());
         QVERIFY(!game->timeLabel()->isVisible());
         Pump(2000);
         QCOMPARE(

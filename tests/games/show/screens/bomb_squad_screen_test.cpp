@@ -1,29 +1,19 @@
 // Bomb Squad on its screen: from the title to a defused bomb and the table; the wrong wire and
 // the clock running out, each to its own loser's box.
 
-#include <cmath>
-
 #include "games/show/bomb_squad/bomb_squad_screen.h"
 #include "platform/movie.h"
-#include "screen_kit.h"
+#include "shrink_gss_kit.h"
 
 namespace {
 const Pairs kWords{
-    {"volcano", "a mountain that can erupt"}, {"glacier", "a river of ice"},
+    {"volcano", "a mountain that can erupt"},     {"glacier", "a river of ice"},
     {"canyon", "a deep valley with steep sides"}, {"delta", "land at the mouth of a river"},
-    {"island", "land with water all around"}, {"desert", "a very dry place"},
-    {"mesa", "a hill with a flat top"}, {"fjord", "a narrow inlet of the sea"},
-    {"lagoon", "a pool cut off from the sea"}, {"plateau", "high flat land"},
-    {"strait", "a narrow channel of water"}, {"tundra", "a cold plain without trees"}};
+    {"island", "land with water all around"},     {"desert", "a very dry place"},
+    {"mesa", "a hill with a flat top"},           {"fjord", "a narrow inlet of the sea"},
+    {"lagoon", "a pool cut off from the sea"},    {"plateau", "high flat land"},
+    {"strait", "a narrow channel of water"},      {"tundra", "a cold plain without trees"}};
 
-BombSquad* startGame(ShellFixture& fx, int level) {
-    WriteOneList(fx, "Landforms", kWords);
-    // Spread draws, so that each deal finds its fresh words quickly and the same way every run.
-    for (int i = 1; i <= 400; ++i) fx.rng.then(std::fmod(i * 0.6180339887, 1.0));
-    auto* game = qobject_cast<BombSquad*>(PlayFromTitle("Bomb Squad", "Landforms", level));
-    Pump();
-    return game;
-}
 void clickAt(QWidget* w, QPoint p) {
     QTest::mouseClick(w, Qt::LeftButton, {}, p);
 }
@@ -36,8 +26,7 @@ private slots:
     void defuseFromTheTitleToTheTable() {
         Road fx(0, {"BOB"});
         fx.rng.setFallback(0.3);
-        auto* game = startGame(fx, 4);
-        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        WM_OPEN(game, fx, StartFromTitle<BombSquad>(fx, "Bomb Squad", kWords, 4, 400));
         const auto& deal = game->deal();
         QCOMPARE(int(deal.wires.size()), 5);
         QCOMPARE(game->timeLabel()->text(), "25");
@@ -68,16 +57,13 @@ private slots:
         // (500 + 23 seconds + a roll of 1..4) times 4.
         const double score = Shared().Score;
         QVERIFY(score >= 524 * 4 && score <= 527 * 4 && int(score) % 4 == 0);
-        QCOMPARE(TableRow(fx, "Bomb Squad"), QString("BOB %1").arg(score));
-        WM_VERIFY(WonBox(fx, score));
-        QVERIFY(BackAtTitle());
+        WM_CHECK_WON(fx, "Bomb Squad", QString("BOB %1").arg(score));
     }
 
     void lossesByWireAndByClock() {
         ShellFixture fx;
         fx.rng.setFallback(0.3);
-        auto* game = startGame(fx, 2);
-        QVERIFY(game);
+        WM_OPEN(game, fx, StartFromTitle<BombSquad>(fx, "Bomb Squad", kWords, 2, 400));
         Shared().Score = 777;  // a lost game keeps the score it had
         int good = -1;
         for (int i = 0; i < int(game->deal().wires.size()); ++i)
@@ -85,8 +71,7 @@ private slots:
         if (good < 0) QSKIP("the fallback dealt only bad wires");
         fx.dialogs.answerYes(true);
         clickAt(game, game->wireMiddle(good));
-        QVERIFY(game->exploding());
-        QVERIFY(game->bombMovie()->isVisible());
+        QVERIFY(game->exploding() && game->bombMovie()->isVisible());
         QVERIFY(!game->timeLabel()->isVisible());
         QCOMPARE(fx.sound.played.count("2.wav"), 1);
         Pump(1900);

@@ -1,24 +1,16 @@
 // Pachinko on its screen: five questions, the board, locking the values, a disk released
 // outside the zone and picked up again, drops to the table; and five wrong answers.
 
-#include <cmath>
-
 #include "games/show/pachinko/pachinko_screen.h"
-#include "screen_kit.h"
+#include "shrink_gss_kit.h"
 
 namespace {
-const Pairs kPlanets{
-    {"mercury", "the planet nearest the sun"}, {"venus", "the hottest planet"},
-    {"earth", "the planet we live on"}, {"mars", "the red planet"},
-    {"jupiter", "the largest planet"}};
+const Pairs kPlanets{{"mercury", "the planet nearest the sun"},
+                     {"venus", "the hottest planet"},
+                     {"earth", "the planet we live on"},
+                     {"mars", "the red planet"},
+                     {"jupiter", "the largest planet"}};
 
-Plachinko* startGame(ShellFixture& fx) {
-    WriteOneList(fx, "Planets", kPlanets);
-    for (int i = 1; i <= 300; ++i) fx.rng.then(std::fmod(i * 0.6180339887, 1.0));
-    auto* game = qobject_cast<Plachinko*>(PlayFromTitle("Pachinko", "Planets", 1));
-    Pump();
-    return game;
-}
 void answerAll(Plachinko* game, const std::vector<bool>& right, QStringList* asked = nullptr) {
     for (bool r : right) {
         QVERIFY(game->questionFrame()->isVisible());
@@ -35,8 +27,7 @@ class PachinkoScreenTest : public QObject {
 private slots:
     void earnDropAndScore() {
         Road fx(0, {"SUN"});
-        auto* game = startGame(fx);
-        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        WM_OPEN(game, fx, StartFromTitle<Plachinko>(fx, "Pachinko", kPlanets, 1, 300));
         QVERIFY(fx.dialogs.texts().first().startsWith("Welcome to PACHINKO!"));
         QStringList asked;
         answerAll(game, {true, false, true, true, false}, &asked);
@@ -48,8 +39,7 @@ private slots:
         QVERIFY(
             fx.dialogs.saw("First, let's see what point values you can win. Click OK to set the "
                            "point values at the bottom of the board..."));
-        QVERIFY(!game->questionFrame()->isVisible());
-        QVERIFY(game->lockLabel()->isVisible());
+        QVERIFY(!game->questionFrame()->isVisible() && game->lockLabel()->isVisible());
         Pump(100);
         const auto spinning = game->slotValues();
         QVERIFY(spinning[0] > spinning[4]);
@@ -95,23 +85,19 @@ private slots:
             if (fx.sound.played[i] == "bleep2.wav")
                 QVERIFY(fx.sound.modes[i] == SoundMode::NoInterrupt);
         QCOMPARE(fx.sound.played.count("dingling.wav"), 3);
-        QCOMPARE(TableRow(fx, "Pachinko"), QString("SUN %1").arg(expected));
-        WM_VERIFY(WonBox(fx, expected));
-        QVERIFY(BackAtTitle());
+        WM_CHECK_WON(fx, "Pachinko", QString("SUN %1").arg(expected));
     }
 
     void fiveWrongAnswersEndBeforeTheBoard() {
         ShellFixture fx;
-        auto* game = startGame(fx);
-        QVERIFY(game);
+        WM_OPEN(game, fx, StartFromTitle<Plachinko>(fx, "Pachinko", kPlanets, 1, 300));
         fx.dialogs.answerYes(false);
         answerAll(game, {false, false, false, false, false});
         QCOMPARE(
             fx.dialogs.last(),
             "Oops! You haven't earned any disks to drop into the Pachinko board! Would you like "
             "to give it another try?");
-        QVERIFY(fx.dialogs.texts().filter("First, let's see").isEmpty());
-        QVERIFY(BackAtTitle());
+        QVERIFY(fx.dialogs.texts().filter("First, let's see").isEmpty() && BackAtTitle());
     }
 };
 

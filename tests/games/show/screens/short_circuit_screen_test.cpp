@@ -1,25 +1,17 @@
 // Short Circuit on its screen: spelling to a lit bulb and the table, a short circuit, clicks
 // outside the column in play.
 
-#include <cmath>
-
 #include "games/show/short_circuit/short_circuit_screen.h"
-#include "screen_kit.h"
+#include "shrink_gss_kit.h"
 
 namespace {
-ShortCircuit* startGame(ShellFixture& fx, int level, const Pairs& words) {
-    WriteOneList(fx, "Circuits", words);
-    for (int i = 1; i <= 400; ++i) fx.rng.then(std::fmod(i * 0.6180339887, 1.0));
-    auto* game = qobject_cast<ShortCircuit*>(PlayFromTitle("Short Circuit", "Circuits", level));
-    Pump();
-    return game;
-}
 void clickLetter(ShortCircuit* game, int column, int row) {
     QTest::mouseClick(game, Qt::LeftButton, {}, game->letter(column, row)->geometry().center());
 }
-const Pairs kWords{
-    {"volt", "a unit of electric push"}, {"electricity", "energy carried by moving charges"},
-    {"wire", "a thin metal thread that carries current"}, {"switch", "turns a circuit on and off"}};
+const Pairs kWords{{"volt", "a unit of electric push"},
+                   {"electricity", "energy carried by moving charges"},
+                   {"wire", "a thin metal thread that carries current"},
+                   {"switch", "turns a circuit on and off"}};
 }  // namespace
 
 class ShortCircuitScreenTest : public QObject {
@@ -27,15 +19,13 @@ class ShortCircuitScreenTest : public QObject {
 private slots:
     void spellToTheLightAndTheTable() {
         Road fx(0, {"AMP"});
-        auto* game = startGame(fx, 5, kWords);
-        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        WM_OPEN(game, fx, StartFromTitle<ShortCircuit>(fx, "Short Circuit", kWords, 5, 400));
         const auto& c = game->circuit();
         QVERIFY(c.word != "ELECTRICITY");
         QCOMPARE(game->directions()->text().toStdString(), shortcircuit::directions(Shared()));
         QCOMPARE(c.rows, 5);
         for (int col = 0; col < int(c.word.size()); ++col) {
-            QVERIFY(game->letter(col, 4)->isVisible());
-            QVERIFY(!game->letter(col, 5)->isVisible());
+            QVERIFY(game->letter(col, 4)->isVisible() && !game->letter(col, 5)->isVisible());
             QCOMPARE(game->letter(col, c.rightRow[col])->text(), QString(QChar(c.word[col])));
         }
         // A click in a later column is ignored.
@@ -46,10 +36,9 @@ private slots:
         fx.dialogs.answerYes(false);
         for (int col = 0; col < int(c.word.size()); ++col) {
             clickLetter(game, col, c.rightRow[col]);
-            if (col == 1) {
+            if (col == 1)
                 for (int r = 0; r < c.rows; ++r)
                     QCOMPARE(game->letter(0, r)->isVisible(), r == c.rightRow[0]);
-            }
         }
         QVERIFY(game->lit());
         QCOMPARE(fx.sound.played.count("laser.wav"), 1);
@@ -68,8 +57,7 @@ private slots:
 
     void wrongLetterShortsTheCircuit() {
         ShellFixture fx;
-        auto* game = startGame(fx, 2, kWords);
-        QVERIFY(game);
+        WM_OPEN(game, fx, StartFromTitle<ShortCircuit>(fx, "Short Circuit", kWords, 2, 400));
         const auto& c = game->circuit();
         QCOMPARE(c.rightRow[0], 0);  // at level 2 the right letter is on top
         const std::string word = c.word;
@@ -85,8 +73,7 @@ private slots:
         clickLetter(game, 0, 1);
         QCOMPARE(looks.size(), 4);
         QVERIFY(looks[0] != looks[1]);
-        QCOMPARE(looks[0], looks[2]);
-        QCOMPARE(looks[1], looks[3]);
+        QCOMPARE(looks.mid(2), looks.mid(0, 2));
         QCOMPARE(fx.sound.played.mid(fx.sound.played.size() - 2),
                  QStringList({"zap.wav", "loser3.wav"}));
         QCOMPARE(fx.dialogs.last(),

@@ -3,7 +3,7 @@
 // to the out-of-coins box; the machine laid out whole at both screen sizes; a list it cannot use.
 #include "games/show/slot_machine/slot_machine_screen.h"
 #include "look.h"
-#include "screen_kit.h"
+#include "shrink_gss_kit.h"
 
 using namespace wm::slot_machine;
 
@@ -17,12 +17,6 @@ const std::vector<std::pair<std::string, std::string>> kWords = {
     {"extraordinarily", "far more than usual"},
     {"owl", "a night bird"},
     {"responsibility", "a duty that you are trusted to do well"}};
-
-SlotMachine* Open(ShellFixture& fx, int level) {
-    WriteOneList(fx, "Words", kWords);
-    return qobject_cast<SlotMachine*>(
-        ContinueWithList(ChooserFor("Slot Machine", level, false), "Words"));
-}
 
 bool onAnswer(const SlotMachine* game, int reel) {
     const Reel& r = game->game().reel(reel);
@@ -47,10 +41,7 @@ private slots:
     void tenJackpotsToTheTable() {
         Road road(7, {"ACE"});
         road.dialogs.answerYes(false);
-        WriteOneList(road, "Words", kWords);
-        QPointer<SlotMachine> game =
-            qobject_cast<SlotMachine*>(PlayFromTitle("Slot Machine", "Words", 1));
-        QVERIFY(game);
+        WM_OPEN(game, road, QPointer(PlayOn<SlotMachine>(road, "Slot Machine", kWords, 1)));
         Pump();
         SharedState& s = Shared();
         QCOMPARE(game->scene()->bannerText(), QString("Get ready!"));
@@ -67,9 +58,8 @@ private slots:
         // The first pull: two reels right, one wrong.
         QTest::keyClick(game, Qt::Key_Space);
         QCOMPARE(road.sound.played.last(), QString("slot-pull.wav"));
-        QCOMPARE(LabelText(game, "Label2"), QString("Coins: 95"));
-        QCOMPARE(LabelText(game, "Label4"),
-                 QString("Press STOP (or 1, 2, 3) when the right word is in the window!"));
+        QCOMPARE(Labels(game, "Label2 Label4"),
+                 "Coins: 95 | Press STOP (or 1, 2, 3) when the right word is in the window!");
         StopOn(game, 0, true);
         QCOMPARE(road.sound.played.last(), QString("slot-ding.wav"));
         QCOMPARE(LabelText(game, "Label2"), QString("Coins: 100"));
@@ -79,8 +69,7 @@ private slots:
         StopOn(game, 1, false, true);
         QCOMPARE(road.sound.played.last(), QString("slot-stop.wav"));
         StopOn(game, 2, true);
-        QCOMPARE(LabelText(game, "Label2"), QString("Coins: 105"));
-        QCOMPARE(LabelText(game, "Label4"), pullText);
+        QCOMPARE(Labels(game, "Label2 Label4"), "Coins: 105 | " + pullText);
 
         // The second pull, on the handle: all three roll again; three right stops, the jackpot.
         QTest::mouseClick(game, Qt::LeftButton, {}, game->scene()->leverRect().center());
@@ -114,16 +103,13 @@ private slots:
         Pump(2700);
         QVERIFY(road.win.tables.isEmpty());
         Pump(200);
-        QCOMPARE(TableRow(road, "Slot Machine"), "ACE 405");
-        WM_VERIFY(WonBox(road, 405));
-        QVERIFY(BackAtTitle());
+        WM_CHECK_WON(road, "Slot Machine", "ACE 405");
     }
 
     void outOfCoins() {
         Road road(3);
         road.dialogs.answerYes(false);
-        QPointer<SlotMachine> game = Open(road, 20);
-        QVERIFY(game);
+        WM_OPEN(game, road, QPointer(OpenGame<SlotMachine>(road, "Slot Machine", kWords, 20)));
         Pump(1500);
         for (int pull = 1; pull <= 20; ++pull) {
             QTest::keyClick(game, Qt::Key_Space);
@@ -153,8 +139,7 @@ private slots:
         Road road(5);
         for (QSize screen : {QSize(1280, 800), QSize(1920, 1080)}) {
             ScreenMetrics::overrideScreenSize(screen);
-            QPointer<SlotMachine> game = Open(road, 9);
-            QVERIFY(game);
+            WM_OPEN(game, road, QPointer(OpenGame<SlotMachine>(road, "Slot Machine", kWords, 9)));
             for (int i = 0; i < 30 && Shared().TheWord != "characteristic"; ++i) {
                 TriggerMenu(game, "RS");
                 Pump(1500);

@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "core/rng.h"
-#include "core/shared_state.h"
 #include "games/show/spell_crush/spell_crush_rules.h"
 #include "word_lists.h"
 
@@ -20,14 +19,12 @@ TEST(Deal, DrawsInTheDesignedOrderAndMisspellsOneWord) {
     // The wrong place, then four numbers: 5, 2, 2 again (drawn again), 6, 1.
     rng.pick(2, 4).pick(5, 6).pick(2, 6).pick(2, 6).pick(6, 6).pick(1, 6);
     deal(s, g, rng);
-    EXPECT_EQ(rng.randomizeCount, 1);
-    EXPECT_EQ(g.WrongWordPos, 2);
+    EXPECT_EQ(std::tuple(rng.randomizeCount, g.WrongWordPos), std::tuple(1, 2));
     EXPECT_EQ((std::array<int, 4>{g.DealWords[1], g.DealWords[2], g.DealWords[3], g.DealWords[4]}),
               (std::array<int, 4>{5, 2, 6, 1}));
     // "fish" went through Spell Crush's rules: the "f" of rule 1.
     EXPECT_EQ(g.shown, (std::array<std::string, 4>{"frog", "phish", "lion", "cat"}));
-    EXPECT_EQ(std::pair(g.DealTime, g.ClickedWord), std::pair(42, -1));
-    EXPECT_EQ(rng.pending(), 0u);
+    EXPECT_EQ(std::tuple(g.DealTime, g.ClickedWord, rng.pending()), std::tuple(42, -1, 0u));
 }
 
 TEST(Deal, NeverDealsTheEmptyEntryPastTheLimitAndNeverHangs) {

@@ -2,7 +2,7 @@
 // while the safe travels, silence with the sound off, and the game that scores nothing.
 
 #include "games/show/spell_crush/spell_crush_screen.h"
-#include "screen_kit.h"
+#include "shrink_gss_kit.h"
 
 namespace {
 
@@ -22,8 +22,8 @@ class SpellCrushScreenTest : public QObject {
 private slots:
     void fromTheTitleToAWin() {
         Road fx(0, {"SAM"});
-        auto* game = qobject_cast<SpellCrushGame*>(PlayFromTitle("Spell Crush", "Human Body (", 5));
-        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        WM_OPEN(game, fx,
+                qobject_cast<SpellCrushGame*>(PlayFromTitle("Spell Crush", "Human Body (", 5)));
         Pump();
         QCOMPARE(LabelText(game, "Label1") + " | " + LabelText(game, "Label2"),
                  "Directions: Click on the word that is misspelled. | Time: 60");
@@ -39,11 +39,9 @@ private slots:
         game->clickWord(WrongIndex(game));
         QVERIFY(game->busy());
         LetTheSafeFinish(game);
-        QVERIFY(!game->busy());
-        QVERIFY(Shared().Score > 0);
-        QVERIFY(fx.sound.played.contains("squeaky.wav"));
-        QVERIFY(fx.sound.played.contains("glassbk.wav"));
-        QVERIFY(fx.sound.played.contains("fall.wav"));
+        QVERIFY(!game->busy() && Shared().Score > 0);
+        for (const char* s : {"squeaky.wav", "glassbk.wav", "fall.wav"})
+            QVERIFY2(fx.sound.played.contains(s), s);
         const QString score = QString::number(Shared().Score);
         QCOMPARE(LabelText(game, "Label3"), "Score: " + score);
 
@@ -60,9 +58,9 @@ private slots:
 
     void nothingScoredEndsWithAdvice() {
         ShellFixture fx;
-        auto* game = qobject_cast<SpellCrushGame*>(
-            ContinueWithList(ChooserFor("Spell Crush", 5, true, false), "Human Body ("));
-        QVERIFY(game);
+        WM_OPEN(game, fx,
+                qobject_cast<SpellCrushGame*>(
+                    ContinueWithList(ChooserFor("Spell Crush", 5, true, false), "Human Body (")));
         Pump();
         const int wrong = (WrongIndex(game) + 1) % 4;
         game->clickWord(wrong);

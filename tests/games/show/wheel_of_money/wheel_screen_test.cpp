@@ -5,7 +5,7 @@
 #include "core/strings.h"
 #include "games/show/wheel_of_money/wheel_screen.h"
 #include "platform/movie.h"
-#include "screen_kit.h"
+#include "shrink_gss_kit.h"
 
 namespace {
 
@@ -68,12 +68,11 @@ class WheelScreenTest : public QObject {
 private slots:
     void tenSpinsThroughEveryMiniGameToTheTable() {
         Road fx(11, {"TV!"});  // the letter games need draws that differ
-        auto* game =
-            qobject_cast<GameShowForm*>(PlayFromTitle("Wheel of Money", "Human Body (", 4));
-        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        WM_OPEN(game, fx,
+                qobject_cast<GameShowForm*>(PlayFromTitle("Wheel of Money", "Human Body (", 4)));
         Pump(200);
-        QVERIFY(game->movieScreen()->isVisible());  // the intro plays first
-        QVERIFY(!game->command()->isEnabled());
+        // The intro plays first.
+        QVERIFY(game->movieScreen()->isVisible() && !game->command()->isEnabled());
         UntilButton(game);
         QVERIFY(!game->movieScreen()->isVisible());
         QCOMPARE(game->command()->text(), "Click here to go to the wheel...");
@@ -92,8 +91,7 @@ private slots:
             QCOMPARE(Shared().Score, total);
         }
         QCOMPARE(game->command()->text(), "Click here to continue...");
-        QVERIFY(fx.sound.played.contains("beep.wav"));
-        QVERIFY(fx.sound.played.contains("cheer.wav"));
+        for (const char* s : {"beep.wav", "cheer.wav"}) QVERIFY2(fx.sound.played.contains(s), s);
 
         fx.dialogs.answerYes(false);
         game->clickCommand();
@@ -105,9 +103,9 @@ private slots:
 
     void aGameInTheRedEndsWithAdvice() {
         ShellFixture fx;
-        auto* game = qobject_cast<GameShowForm*>(
-            ContinueWithList(ChooserFor("Wheel of Money", 2, true), "Human Body ("));
-        QVERIFY(game);
+        WM_OPEN(game, fx,
+                qobject_cast<GameShowForm*>(
+                    ContinueWithList(ChooserFor("Wheel of Money", 2, true), "Human Body (")));
         Pump();
         fx.rng.setFallback(0.1);
         for (int i = 0; i < 10; ++i) {

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "core/rng.h"
-#include "core/shared_state.h"
 #include "games/study/flash_cards/flash_card_rules.h"
 #include "word_lists.h"
 
@@ -37,17 +36,16 @@ TEST(FlashCardRules, AlphabeticalWalkWithButtonsAndScrollBar) {
     const char* expected[] = {"ant", "bee", "Cat", "dog", "eel"};
     for (int i = 1; i <= 5; ++i) {
         nextCard(deck, s, rng);
-        EXPECT_EQ(std::tuple(s.WordIndex, s.TheWord), std::tuple(i, expected[i - 1]));
-        EXPECT_EQ(deck.view.previousShown, i > 1);
-        EXPECT_EQ(deck.view.nextShown, i < 5);
-        EXPECT_EQ(deck.view.position, "Card number " + std::to_string(i) + " out of 5");
+        const CardView& v = deck.view;
+        EXPECT_EQ(std::tuple(s.WordIndex, s.TheWord, v.previousShown, v.nextShown, v.position),
+                  std::tuple(i, expected[i - 1], i > 1, i < 5,
+                             "Card number " + std::to_string(i) + " out of 5"));
     }
     EXPECT_EQ(s.TheMeaning, "slippery");
     for (int i = 4; i >= 1; --i) {
         previousCard(deck, s);
-        EXPECT_EQ(s.TheWord, expected[i - 1]);
-        EXPECT_EQ(deck.view.previousShown, i > 1);
-        EXPECT_TRUE(deck.view.nextShown);
+        EXPECT_EQ(std::tuple(s.TheWord, deck.view.previousShown, deck.view.nextShown),
+                  std::tuple(expected[i - 1], i > 1, true));
     }
     scrollTo(deck, s, 3);
     EXPECT_EQ(std::tuple(s.TheWord, deck.view.previousShown), std::tuple("Cat", true));
@@ -57,27 +55,25 @@ TEST(FlashCardRules, AlphabeticalWalkWithButtonsAndScrollBar) {
 }
 
 TEST(FlashCardRules, FromALetterStepsByTwoAndRunsPastTheEnd) {
-    struct Row {
-        const char* letter;
-        std::vector<std::string> shown;  // words of the first cards; "" past the end
-    } rows[] = {
+    // The letter, the words of the first cards ("" past the end).
+    const std::pair<const char*, std::vector<std::string>> rows[] = {
         {"a", {"ant", "Cat", "eel"}},
         {"c", {"Cat", "eel"}},
         {"D", {"dog", ""}},  // the last letter but one: the step passes WordCount
         {"e", {"eel"}},
     };
-    for (const Row& r : rows) {
-        SCOPED_TRACE(r.letter);
-        SharedState s = List(kAnimals, 3, r.letter);
+    for (const auto& [letter, shown] : rows) {
+        SCOPED_TRACE(letter);
+        SharedState s = List(kAnimals, 3, letter);
         ScriptedRng rng;
         Deck deck;
         EXPECT_EQ(setup(deck, s), "");
-        for (std::size_t i = 0; i < r.shown.size(); ++i) {
+        for (const std::string& word : shown) {
             nextCard(deck, s, rng);
-            EXPECT_EQ(s.TheWord, r.shown[i]);
+            EXPECT_EQ(s.TheWord, word);
         }
         EXPECT_FALSE(deck.view.nextShown);
-        if (r.shown.back().empty())  // past the end both faces read the end text
+        if (shown.back().empty())  // past the end both faces read the end text
             EXPECT_EQ(reveal(s).word + "|" + reveal(s).meaning,
                       "That's the end of the list!|That's the end of the list!");
     }
@@ -104,7 +100,8 @@ TEST(FlashCardRules, TwinWordsShowTheFirstRowsMeaning) {
     ScriptedRng rng;
     Deck deck;
     setup(deck, s);
-    EXPECT_EQ(deck.Alphabetize, (std::vector<std::string>{"ace", "bat", "Bat"}));  // twins keep their order
+    // Twins keep their order.
+    EXPECT_EQ(deck.Alphabetize, (std::vector<std::string>{"ace", "bat", "Bat"}));
     nextCard(deck, s, rng);
     nextCard(deck, s, rng);
     EXPECT_EQ(s.TheMeaning, "flies at night");
@@ -122,9 +119,10 @@ TEST(FlashCardRules, RandomCardsRepeatAndNeverShowPrevious) {
         {"dog", "barks"}, {"dog", "barks"}, {"Cat", "purrs"}, {"bee", "buzzes"}};
     for (const auto& [w, m] : rows) {
         nextCard(deck, s, rng);
-        EXPECT_EQ(s.TheWord, w);  // the list's own row, not the sorted entry
-        EXPECT_EQ(std::tuple(s.TheMeaning, deck.view.previousShown, deck.view.position.empty()),
-                  std::tuple(m, false, true));
+        // The list's own row, not the sorted entry.
+        EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning, deck.view.previousShown,
+                             deck.view.position.empty()),
+                  std::tuple(w, m, false, true));
     }
     // The last row drawn hides Next for good.
     EXPECT_FALSE(deck.view.nextShown);

@@ -3,35 +3,28 @@
 // the sound gated by SoundOn.
 
 #include "games/study/flash_cards/flash_card_form.h"
-#include "screen_kit.h"
 #include "shell/flash_card_options.h"
+#include "shrink_gss_kit.h"
 
 namespace {
 
-const Pairs kAnimals{
-    {"eel", "a long slippery fish"}, {"Cat", "a pet that purrs"}, {"ant", "a tiny insect"},
-    {"dog", "a pet that barks"}, {"bee", "it buzzes and makes honey"}};
+const Pairs kAnimals{{"eel", "a long slippery fish"},
+                     {"Cat", "a pet that purrs"},
+                     {"ant", "a tiny insect"},
+                     {"dog", "a pet that barks"},
+                     {"bee", "it buzzes and makes honey"}};
 
 FlashCardForm* OpenCards(ShellFixture& fx, int mode, const char* letter = "A", bool sound = true) {
-    WriteOneList(fx, "Animals", kAnimals);
     Shared().FlashCardMode = short(mode);
     Shared().StartLetter = letter;
     Shared().ListChanged = kTrue;
-    auto* cards = qobject_cast<FlashCardForm*>(
-        ContinueWithList(ChooserFor("Flash Cards", 0, true, sound), "Animals ("));
+    auto* cards = OpenGame<FlashCardForm>(fx, "Flash Cards", kAnimals, 0, true, sound);
     Pump();
     return cards;
 }
 
 QString word(FlashCardForm* f) {
     return f->TheWord->text();
-}
-
-// Opens the cover and lets it run to its end.
-void Uncover(FlashCardForm* f) {
-    f->Gimme->click();
-    f->MovieBox->advance(5);
-    Pump(60);
 }
 
 }  // namespace
@@ -52,15 +45,13 @@ private slots:
         game->SoundONOp->setChecked(true);
         game->continueOn();
         Pump();
-        auto* cards =
-            qobject_cast<FlashCardForm*>(ContinueWithList(Showing<ChooseList>(), "Animals ("));
-        QVERIFY(cards);
+        WM_OPEN(cards, fx,
+                qobject_cast<FlashCardForm*>(ContinueWithList(Showing<ChooseList>(), "Animals (")));
         Pump();
 
         QCOMPARE(cards->total_->text(), "Total cards available in this set: 5");
-        QCOMPARE(word(cards), "Cat");
-        QCOMPARE(cards->TheDefinition->text(), "a pet that purrs");
-        QCOMPARE(cards->Label1->text(), "Card number 3 out of 5");
+        QCOMPARE(Labels(cards, "TheWord TheDefinition Label1"),
+                 "Cat | a pet that purrs | Card number 3 out of 5");
         QCOMPARE(cards->Gimme->text(), "Show the Word");
         QCOMPARE(cards->coverState(), FlashCardForm::Cover::Covering);
         QCOMPARE(fx.sound.played.count("pageturn.wav"), 1);
@@ -84,7 +75,9 @@ private slots:
         cards->nextCard();
         cards->nextCard();
         QCOMPARE(word(cards), "");
-        Uncover(cards);
+        cards->Gimme->click();  // the cover opened and run to its end
+        cards->MovieBox->advance(5);
+        Pump(60);
         QCOMPARE(word(cards), "That's the end of the list!");
         QCOMPARE(cards->TheDefinition->text(), "That's the end of the list!");
     }
@@ -92,8 +85,7 @@ private slots:
     void alphabeticalWithButtonsAndScrollBar() {
         {
             ShellFixture fx;
-            auto* cards = OpenCards(fx, 1, "A", false);
-            QVERIFY(cards);
+            WM_OPEN(cards, fx, OpenCards(fx, 1, "A", false));
             QTest::mouseClick(cards->Label2, Qt::LeftButton);
             QCOMPARE(word(cards), "bee");
             cards->CardScroll->setValue(4);
@@ -104,8 +96,7 @@ private slots:
         }
         // A letter no word starts with: told so, and the cards run one by one from the start.
         ShellFixture fx2;
-        auto* cards = OpenCards(fx2, 3, "z");
-        QVERIFY(cards);
+        WM_OPEN(cards, fx2, OpenCards(fx2, 3, "z"));
         QCOMPARE(fx2.dialogs.shown.back().text,
                  "No words in this list start with z! Starting at beginning of list instead...");
         cards->nextCard();

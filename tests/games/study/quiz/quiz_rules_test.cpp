@@ -7,7 +7,6 @@
 #include <set>
 
 #include "core/rng.h"
-#include "core/shared_state.h"
 #include "games/study/quiz/quiz_rules.h"
 #include "word_lists.h"
 
@@ -32,14 +31,9 @@ SharedState List(int words, int difficulty, int length, int type = 1) {
 TEST(QuizRules, ChoicesFollowTheDrawAndSkipTakenRows) {
     SharedState s = List(5, 3, 5);
     ScriptedRng rng(0.5);
-    rng.pick(2, 5)   // the question: row 2
-        .pick(2, 3)  // the right answer is choice 2
-        .pick(2, 5)
-        .pick(4, 5)  // choice 1: row 2 is the question's, row 4
-        .pick(4, 5)
-        .pick(1, 5)  // choice 2 (the right one) takes row 1
-        .pick(1, 5)
-        .pick(5, 5);  // choice 3: row 5
+    // The question row 2, the right answer choice 2; choice 1: row 2 is the question's, row 4;
+    // choice 2 (the right one) takes row 1; choice 3: row 5.
+    rng.pick(2, 5).pick(2, 3).pick(2, 5).pick(4, 5).pick(4, 5).pick(1, 5).pick(1, 5).pick(5, 5);
     QuizRun run;
     startRun(run, s, rng);
     EXPECT_EQ(rng.pending(), 0u);
@@ -117,18 +111,14 @@ TEST(QuizRules, KindsByQuizType) {
     EXPECT_EQ(run.QuestionKind, 2);  // a meanings quiz asks a meaning from its first question
     s.QuizType = 3;
     rng.then(0.2).then(0.7).then(0.49).then(0.5);
-    EXPECT_EQ(chooseKind(s, rng), 1);
-    EXPECT_EQ(chooseKind(s, rng), 2);
-    EXPECT_EQ(chooseKind(s, rng), 1);
-    EXPECT_EQ(chooseKind(s, rng), 2);
+    for (int kind : {1, 2, 1, 2}) EXPECT_EQ(chooseKind(s, rng), kind);
     // Reached without the options screen: words, ten questions.
     s.QuizType = 0;
     s.QuizLength = 0;
     EXPECT_EQ(std::tuple(quizType(s), quizLength(s)), std::tuple(1, 10));
     s.QuizType = 4;
-    EXPECT_EQ(quizType(s), 1);
     s.QuizLength = 1;  // the shortest quiz the options allow
-    EXPECT_EQ(quizLength(s), 1);
+    EXPECT_EQ(std::tuple(quizType(s), quizLength(s)), std::tuple(1, 1));
     // The directions: a word to choose for kind 2, a meaning for the others.
     EXPECT_STREQ(directions(2),
                  "Directions:  Click the word that BEST matches the meaning shown below.");
@@ -157,10 +147,7 @@ TEST(QuizRules, AnswersCountAndChoicesPastTheLevelStayEmpty) {
 }
 
 TEST(QuizRules, VerdictLinesAtTheirBoundaries) {
-    struct Row {
-        int right, wrong, percent;
-        const char* line;
-    } rows[] = {
+    const std::tuple<int, int, int, const char*> rows[] = {
         {0, 3, 0, "Oops! Keep studying!!"},
         {40, 60, 40, "Oops! Keep studying!!"},
         {41, 59, 41, "Looks like you could use a little more work."},
@@ -170,11 +157,11 @@ TEST(QuizRules, VerdictLinesAtTheirBoundaries) {
         {3, 0, 100, "Perfect Score!!!"},
         {2, 1, 66, "Looks like you could use a little more work."},  // 66.67 is cut, not rounded
     };
-    for (const Row& r : rows) {
-        const Verdict v = verdict(r.right, r.wrong);
-        EXPECT_EQ(v.percent, r.percent) << r.right << "/" << r.wrong;
-        EXPECT_EQ(v.line, r.line) << r.right << "/" << r.wrong;
-        EXPECT_EQ(v.percentText, std::to_string(r.percent) + "%");
+    for (auto [right, wrong, percent, line] : rows) {
+        const Verdict v = verdict(right, wrong);
+        EXPECT_EQ(std::tuple(v.percent, v.line, v.percentText),
+                  std::tuple(percent, line, std::to_string(percent) + "%"))
+            << right << "/" << wrong;
     }
     EXPECT_EQ(verdict(2, 1).outOf, "You got 2 out of 3 correct.");
     EXPECT_EQ(verdict(0, 0).percent, 0);  // no questions answered

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "core/rng.h"
-#include "core/shared_state.h"
 #include "word_lists.h"
 
 using namespace wm;
@@ -83,9 +82,9 @@ TEST(NewGame, RoundDrawsInDesignedOrder) {
     round.scatter = true;
     round.lastBlack = 3;
     ScriptedRng rng;
-    rng.pick(2, 3);                                              // the word: "horse"
-    rng.pick(5, 5).pick(1, 5).pick(4, 5).pick(2, 5).pick(3, 5);  // "ehsor"
-    rng.then(0.0).then(0.5).then(0.0).then(0.5).then(0.0);       // tops, none rolled again
+    // The word "horse", scrambled "ehsor".
+    rng.pick(2, 3).pick(5, 5).pick(1, 5).pick(4, 5).pick(2, 5).pick(3, 5);
+    rng.then(0.0).then(0.5).then(0.0).then(0.5).then(0.0);  // tops, none rolled again
 
     NewGame game = newGame(s, round, kScreen, rng);
     ASSERT_TRUE(game.ready && game.startFlicker);
@@ -94,8 +93,7 @@ TEST(NewGame, RoundDrawsInDesignedOrder) {
     EXPECT_EQ(round.black, std::vector<bool>(5, false));
     ASSERT_EQ(round.layout.boxes.size(), 5u);
     EXPECT_EQ(round.layout.boxes[1].top - round.layout.boxes[0].top, 3675);
-    EXPECT_EQ(rng.randomizeCount, 1);
-    EXPECT_EQ(rng.draws, 11);
+    EXPECT_EQ(std::tuple(rng.randomizeCount, rng.draws), std::tuple(1, 11));
 
     s.Difficulty = 1;
     EXPECT_FALSE(newGame(s, round, kScreen, rng).startFlicker);
@@ -109,18 +107,14 @@ TEST(NewGame, OnlyLongWordsEndOnTheMessage) {
     EXPECT_FALSE(game.ready);
     EXPECT_EQ(game.message, "The words on this list are too long to use for this activity.");
     // First pick, then past WordCount x 2 = 4 attempts.
-    EXPECT_EQ(round.attempts, 5);
-    EXPECT_EQ(rng.draws, 6);
+    EXPECT_EQ(std::tuple(round.attempts, rng.draws), std::tuple(5, 6));
     EXPECT_TRUE(round.scrambled.empty());
 }
 
 TEST(NewGame, WordsWithAStarArePickedAgainOrEndOnTheirMessage) {
-    struct Case {
-        std::vector<std::string> words;
-        std::vector<int> picks;  // 1-based; a first pick and at most WordCount x 2 more
-        bool ready;
-        std::string word;  // the word played, or the message
-    };
+    // The words; the picks, 1-based (a first pick and at most WordCount x 2 more); whether a word
+    // is played; the word played, or the message.
+    using Case = std::tuple<std::vector<std::string>, std::vector<int>, bool, std::string>;
     const std::string tooLong(21, 'x');
     const std::string star =
         "The words on this list contain \"*\" and cannot be used for this activity.";
@@ -135,21 +129,18 @@ TEST(NewGame, WordsWithAStarArePickedAgainOrEndOnTheirMessage) {
         {{std::string(20, 'y'), tooLong}, {2, 1}, true, std::string(20, 'y')},  // 20 still fits
         {{std::string(19, 'y') + "*", "a*b"}, {2, 2, 2, 2, 2, 1}, false, star},
     };
-    for (const Case& c : cases) {
-        SharedState s = test::ListOf(c.words);
+    for (const auto& [words, picks, ready, word] : cases) {
+        SharedState s = test::ListOf(words);
         ScrambleState round;
         ScriptedRng rng;
-        for (int k : c.picks) rng.pick(k, static_cast<int>(c.words.size()));
+        for (int k : picks) rng.pick(k, static_cast<int>(words.size()));
         rng.setFallback(0.0);
         NewGame game = newGame(s, round, kScreen, rng);
-        EXPECT_EQ(game.ready, c.ready) << c.words[0];
-        if (c.ready) {
-            EXPECT_EQ(s.TheWord, c.word);
-            EXPECT_EQ(round.scrambled.find('*'), std::string::npos);
-        } else {
-            EXPECT_EQ(game.message, c.word) << c.words[0];
-            EXPECT_TRUE(round.scrambled.empty());
-        }
+        // Nothing is scrambled for a refused list, and no star for a played one.
+        EXPECT_EQ(std::tuple(game.ready, ready ? s.TheWord : game.message, round.scrambled.empty()),
+                  std::tuple(ready, word, !ready))
+            << words[0];
+        EXPECT_EQ(round.scrambled.find('*'), std::string::npos);
     }
 }
 
@@ -193,22 +184,18 @@ TEST(Flicker, OnlyTheLetterBlackedLastComesBack) {
 }
 
 TEST(Score, FactorsAtEachDifficulty) {
-    struct Case {
-        bool scatter;
-        int difficulty;
-        double expected;
-    };
-    // Base Int(0.5 x 500 + 100) = 350 a letter, 5 letters; scatter Int(0.55 x 10 + 10) = 15.
-    const Case cases[] = {
+    // Scatter, difficulty, score: a base of Int(0.5 x 500 + 100) = 350 a letter, 5 letters; scatter
+    // Int(0.55 x 10 + 10) = 15.
+    const std::tuple<bool, int, double> cases[] = {
         {false, 1, 1750}, {false, 2, 2625},  {false, 3, 2975},
         {true, 1, 2625},  {true, 2, 3937.5}, {true, 3, 4462.5},
     };
-    for (const Case& c : cases) {
+    for (auto [scatter, difficulty, expected] : cases) {
         ScriptedRng rng;
         rng.then(0.5).then(0.55);
-        double score = rightAnswerScore(5, c.scatter, c.difficulty, 0.25, rng);
-        EXPECT_DOUBLE_EQ(score, c.expected - 2.5) << c.scatter << " " << c.difficulty;
-        EXPECT_EQ(rng.draws, c.scatter ? 2 : 1);
+        double score = rightAnswerScore(5, scatter, difficulty, 0.25, rng);
+        EXPECT_DOUBLE_EQ(score, expected - 2.5) << scatter << " " << difficulty;
+        EXPECT_EQ(rng.draws, scatter ? 2 : 1);
     }
 
     ScriptedRng top(0.999999);
@@ -245,4 +232,3 @@ TEST(Guess, HintCostsNothingOnceRight) {
     EXPECT_EQ(giveUpText("Cat"),
               "Oops! The scrambled word was \"Cat\". Would you like to try again?");
 }
-

@@ -3,7 +3,7 @@
 
 #include "games/study/scramble/scramble_screen.h"
 #include "core/clock.h"
-#include "screen_kit.h"
+#include "shrink_gss_kit.h"
 
 class ScrambleScreenTest : public QObject {
     Q_OBJECT
@@ -23,9 +23,8 @@ private slots:
         options->SpeedBar->setValue(2);
         QTest::mouseClick(options->Command1, Qt::LeftButton);
         Pump();
-        auto* game =
-            qobject_cast<Scramble*>(ContinueWithList(Showing<ChooseList>(), "Human Body ("));
-        QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
+        WM_OPEN(game, fx,
+                qobject_cast<Scramble*>(ContinueWithList(Showing<ChooseList>(), "Human Body (")));
         Pump();
         const SharedState& s = Shared();
         QVERIFY(game->round().scatter);
@@ -38,31 +37,25 @@ private slots:
             return t.toLower();
         };
         QCOMPARE(sorted(tiles), sorted(word));
-        QTest::keyClicks(game->guessBox(), word.toUpper());
-        QTest::keyClick(game->guessBox(), Qt::Key_Return);
-        QVERIFY(fx.sound.played.contains("applause.wav"));
-        QVERIFY(s.Score > 0);
-        WM_VERIFY(WonBox(fx, s.Score));
-        QCOMPARE(TableRow(fx, "Scramble"), "ABC " + QString::number(s.Score));
-        QVERIFY(BackAtTitle());
+        Enter(game->guessBox(), word.toUpper());
+        QVERIFY(fx.sound.played.contains("applause.wav") && s.Score > 0);
+        WM_CHECK_WON(fx, "Scramble", "ABC " + QString::number(s.Score));
     }
 
     void wrongGuessAsksAgainAndHintCosts() {
         Road fx(2);
         fx.writeLines("thelists.new", {"Foxes", "fox", "a wild dog with a bushy tail"});
-        auto* game =
-            qobject_cast<Scramble*>(ContinueWithList(ChooserFor("Scramble", 1, true), "Foxes"));
-        QVERIFY(game);
+        WM_OPEN(
+            game, fx,
+            qobject_cast<Scramble*>(ContinueWithList(ChooserFor("Scramble", 1, true), "Foxes")));
         Pump();
         Button(game, "Command3")->click();
-        QCOMPARE(fx.dialogs.last(), "This word means \"a wild dog with a bushy tail\"");
-        QCOMPARE(fx.dialogs.shown.back().title, "Hint");
+        QCOMPARE(LastBox(fx), "Hint | This word means \"a wild dog with a bushy tail\"");
         QCOMPARE(Shared().Score, -1000.0);
         Button(game, "Command1")->click();  // nothing typed: no guess
         QCOMPARE(fx.dialogs.shown.size(), std::size_t(1));
         fx.dialogs.answerYes(true).answerYes(false);
-        QTest::keyClicks(game->guessBox(), "dog");
-        QTest::keyClick(game->guessBox(), Qt::Key_Return);
+        Enter(game->guessBox(), "dog");
         QCOMPARE(fx.sound.played.last(), "fall.wav");
         QCOMPARE(fx.dialogs.last(),
                  "Oops! The scrambled word was \"fox\". Would you like to try again?");
@@ -72,8 +65,7 @@ private slots:
         Button(game, "Command2")->click();  // Give Up
         QCOMPARE(fx.dialogs.last(),
                  "Oops! The scrambled word was \"fox\". Would you like to try again?");
-        QVERIFY(BackAtTitle());
-        QVERIFY(fx.win.tables.isEmpty());
+        QVERIFY(BackAtTitle() && fx.win.tables.isEmpty());
     }
 };
 
