@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/movie.h"
-#include "shrink_gss_kit.h"
+#include "game_open.h"
 
 namespace wm::test {
 

@@ -3,7 +3,7 @@
 
 #include "games/guess/speedtype/speedtype_screen.h"
 #include "core/clock.h"
-#include "shrink_gss_kit.h"
+#include "game_open.h"
 
 namespace {
 constexpr double kSecond = 1.0 / 86400;

@@ -4,7 +4,7 @@
 #include "games/guess/freeze_it/freeze_it_screen.h"
 #include "look.h"
 #include "platform/speech.h"
-#include "shrink_gss_kit.h"
+#include "game_open.h"
 
 using namespace wm::freeze_it;
 

@@ -2,7 +2,7 @@
 // table and back, clicking and typing; the dragon woken by the eighth splash with the word
 // shown and a new game; the clue, silence and a list it cannot play.
 #include "games/guess/princess/princess_screen.h"
-#include "shrink_gss_kit.h"
+#include "game_open.h"
 
 namespace {
 // Clicks the first stone still in the water that carries `letter`, where the pupil sees it.

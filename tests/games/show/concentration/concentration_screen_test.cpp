@@ -3,7 +3,7 @@
 // refused.
 #include "games/show/concentration/concentration_screen.h"
 #include "look.h"
-#include "shrink_gss_kit.h"
+#include "game_open.h"
 
 using concentration::Face;
 

@@ -4,7 +4,7 @@
 
 #include "games/show/bomb_squad2/bomb_squad2_screen.h"
 #include "platform/movie.h"
-#include "shrink_gss_kit.h"
+#include "game_open.h"
 
 namespace {
 const Pairs kWeather{{"breeze", "a gentle wind"},

@@ -3,7 +3,7 @@
 
 #include "games/show/bomb_squad/bomb_squad_screen.h"
 #include "platform/movie.h"
-#include "shrink_gss_kit.h"
+#include "game_open.h"
 
 namespace {
 const Pairs kWords{

@@ -2,7 +2,7 @@
 // outside the zone and picked up again, drops to the table; and five wrong answers.
 
 #include "games/show/pachinko/pachinko_screen.h"
-#include "shrink_gss_kit.h"
+#include "game_open.h"
 
 namespace {
 const Pairs kPlanets{{"mercury", "the planet nearest the sun"},

@@ -2,7 +2,7 @@
 // outside the column in play.
 
 #include "games/show/short_circuit/short_circuit_screen.h"
-#include "shrink_gss_kit.h"
+#include "game_open.h"
 
 namespace {
 void clickLetter(ShortCircuit* game, int column, int row) {

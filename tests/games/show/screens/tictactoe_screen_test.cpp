@@ -3,7 +3,7 @@
 // box follows the computer's line.
 
 #include "games/show/tictactoe/tictactoe_screen.h"
-#include "shrink_gss_kit.h"
+#include "game_open.h"
 
 namespace {
 const Pairs kAnimals{{"otter", "a river animal that loves to play"},

@@ -3,7 +3,7 @@
 // to the out-of-coins box; the machine laid out whole at both screen sizes; a list it cannot use.
 #include "games/show/slot_machine/slot_machine_screen.h"
 #include "look.h"
-#include "shrink_gss_kit.h"
+#include "game_open.h"
 
 using namespace wm::slot_machine;
 

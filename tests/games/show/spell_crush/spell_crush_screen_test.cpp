@@ -2,7 +2,7 @@
 // while the safe travels, silence with the sound off, and the game that scores nothing.
 
 #include "games/show/spell_crush/spell_crush_screen.h"
-#include "shrink_gss_kit.h"
+#include "game_open.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include "core/strings.h"
 #include "games/show/wheel_of_money/wheel_screen.h"
 #include "platform/movie.h"
-#include "shrink_gss_kit.h"
+#include "game_open.h"
 
 namespace {
 

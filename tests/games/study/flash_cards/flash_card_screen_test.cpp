@@ -4,7 +4,7 @@
 
 #include "games/study/flash_cards/flash_card_form.h"
 #include "shell/flash_card_options.h"
-#include "shrink_gss_kit.h"
+#include "game_open.h"
 
 namespace {
 

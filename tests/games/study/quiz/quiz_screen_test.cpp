@@ -5,7 +5,7 @@
 #include "games/study/quiz/quiz_screen.h"
 #include "games/study/quiz/quiz_results.h"
 #include "shell/quiz_options.h"
-#include "shrink_gss_kit.h"
+#include "game_open.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include "games/study/scramble/scramble_screen.h"
 #include "core/clock.h"
-#include "shrink_gss_kit.h"
+#include "game_open.h"
 
 class ScrambleScreenTest : public QObject {
     Q_OBJECT
