@@ -12,30 +12,26 @@ using namespace wm;
 namespace fs = std::filesystem;
 
 TEST(AppFolders, BesideTheProgramUnlessInstalled) {
-    struct Case {
-        const char* besideProgram;  // a file in usr/bin, or ""
-        bool packaged;              // usr/share/wordmere/wmdata.new is there
-        const char* variable;
-        const char* data;  // "" = the program's folder
-    };
-    const Case cases[] = {
+    // A file in usr/bin (or ""), whether usr/share/wordmere/wmdata.new is there, the variable,
+    // and the data folder ("": the program's).
+    const std::tuple<std::string, bool, const char*, std::string> cases[] = {
         {"wmdata.new", true, "", ""},
         {"wmdata.dat", true, "/srv/x", ""},
         {"", false, "/srv/x", ""},
         {"", true, "", "/var/lib/wordmere"},
         {"", true, "/srv/class 2", "/srv/class 2"},
     };
-    for (const Case& c : cases) {
+    for (const auto& [besideProgram, packaged, variable, data] : cases) {
         test::TempFolder root;
         fs::create_directories(root.file("usr/bin"));
         fs::create_directories(root.file("usr/share/wordmere"));
-        if (*c.besideProgram) root.write(std::string("usr/bin/") + c.besideProgram, "x");
-        if (c.packaged) root.write("usr/share/wordmere/wmdata.new", "x");
-        const AppFolders got = ChooseAppFolders(root.file("usr/bin"), c.variable);
-        const bool installed = *c.data != 0;
-        EXPECT_EQ(got.installed, installed);
-        EXPECT_EQ(got.assets, root.file(installed ? "usr/share/wordmere" : "usr/bin"));
-        EXPECT_EQ(got.data, installed ? c.data : root.file("usr/bin"));
+        if (!besideProgram.empty()) root.write("usr/bin/" + besideProgram, "x");
+        if (packaged) root.write("usr/share/wordmere/wmdata.new", "x");
+        const AppFolders got = ChooseAppFolders(root.file("usr/bin"), variable);
+        const bool installed = !data.empty();
+        EXPECT_EQ(std::tuple(got.installed, got.assets, got.data),
+                  std::tuple(installed, root.file(installed ? "usr/share/wordmere" : "usr/bin"),
+                             installed ? data : root.file("usr/bin")));
     }
 }
 
@@ -46,10 +42,9 @@ TEST(AppFolders, SeedingFillsOnlyWhatIsMissing) {
     data.write("thelists.dat", "the teacher's");
     data.write("wmdata.new", "a waiting factory file");  // the title's first-run rename takes it
     SeedDataFolder({assets.path(), data.path(), true});
-    EXPECT_EQ(data.read("thelists.dat"), "the teacher's");
-    EXPECT_FALSE(data.exists("wmdata.dat"));
-    EXPECT_EQ(data.read("flcodelist.dat"), "factory flcodelist.dat");
-    EXPECT_TRUE(DirExists(data.file("scores")));
+    EXPECT_EQ(std::tuple(data.read("thelists.dat"), data.exists("wmdata.dat"),
+                         data.read("flcodelist.dat"), DirExists(data.file("scores"))),
+              std::tuple("the teacher's", false, "factory flcodelist.dat", true));
     fs::remove(data.file("wmdata.new"));
     SeedDataFolder({assets.path(), data.path(), true});
     EXPECT_EQ(data.read("wmdata.dat"), "factory wmdata.new");
@@ -57,16 +52,13 @@ TEST(AppFolders, SeedingFillsOnlyWhatIsMissing) {
     // A data folder that cannot be made is named, with what to do.
     data.write("blocker", "a file, not a folder");
     const std::string blocked = data.file("blocker") + "/wordmere";
-    try {
-        SeedDataFolder({assets.path(), blocked, true});
-        ADD_FAILURE() << "no refusal";
-    } catch (const FileError& e) {
-        const std::string start = "The data folder " + blocked + " cannot be made (";
-        EXPECT_EQ(std::string(e.what()).substr(0, start.size()), start);
-        EXPECT_NE(std::string(e.what()).find("). Ask the person who looks after this computer to "
-                                             "make it, writable for you."),
-                  std::string::npos);
-    }
+    const std::string refusal = test::FileFailure([&] {
+                                    SeedDataFolder({assets.path(), blocked, true});
+                                }).second;
+    EXPECT_EQ(refusal.rfind("The data folder " + blocked + " cannot be made (", 0), 0u) << refusal;
+    EXPECT_NE(refusal.find("). Ask the person who looks after this computer to make it, writable "
+                           "for you."),
+              std::string::npos);
 
     // A build's folder is the program's own: nothing to seed.
     SeedDataFolder({assets.path(), data.file("build"), false});

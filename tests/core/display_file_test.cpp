@@ -16,41 +16,34 @@ TEST(DisplayFile, HiddenGamesRoundTripByExactName) {
     EXPECT_EQ(dir.read("wmgdisplay.dat"),
               "*****\r\n0.75\r\n5\r\n3\r\n1.01\r\n1.01\r\n*****\r\nQuiz\r\nBomb Squad 2\r\n");
     auto back = ReadDisplaySettings(dir.file("wmgdisplay.dat"));
-    EXPECT_EQ(back.scale, 0.75);
-    EXPECT_EQ(back.hidden, s.hidden);
-    EXPECT_TRUE(back.isHidden("Quiz"));
-    EXPECT_FALSE(back.isHidden("quiz"));
+    EXPECT_EQ(std::tuple(back.scale, back.hidden, back.isHidden("Quiz"), back.isHidden("quiz")),
+              std::tuple(0.75, s.hidden, true, false));
 }
 
 TEST(DisplayFile, MissingOrMalformedReadsAsLargeIcons) {
     TempFolder dir;
-    auto missing = ReadDisplaySettings(dir.file("none.dat"));
-    EXPECT_EQ(missing.columns, 4);
+    EXPECT_EQ(ReadDisplaySettings(dir.file("none.dat")).columns, 4);
     dir.writeLines("bad.dat", {"*****", "zero", "-3", "0", "x", "y", "*****", "Froggy"});
     auto bad = ReadDisplaySettings(dir.file("bad.dat"));
-    EXPECT_EQ(bad.columns, 4);
-    EXPECT_EQ(bad.scale, 1.0);
-    EXPECT_EQ(bad.hidden, std::vector<std::string>{"Froggy"});
+    EXPECT_EQ(std::tuple(bad.columns, bad.scale, bad.hidden),
+              std::tuple(4, 1.0, std::vector<std::string>{"Froggy"}));
     dir.write("garbage.dat", std::string("\x01\xff\x00\x7f", 4));
     EXPECT_EQ(ReadDisplaySettings(dir.file("garbage.dat")).rows, 3);
 }
 
 // Scale and spacing are kept only inside their bounds; one number out keeps the whole preset.
 TEST(DisplayFile, ScaleAndSpacingBounds) {
-    struct Case {
-        const char *scale, *h, *v;
-        bool taken;
-    };
-    const Case cases[] = {{"4", "4", "4", true},      {"0.06", "1", "1", true},
-                          {"4.01", "1.1", "1.1", false}, {"0.05", "1.1", "1.1", false},
-                          {"0.5", "0.99", "1.1", false}, {"0.5", "1.1", "4.01", false},
-                          {"0.5", "4.01", "1.1", false}, {"0.5", "1.1", "0.99", false}};
+    // Scale, horizontal and vertical spacing, and whether they are taken.
+    const std::tuple<std::string, std::string, std::string, bool> cases[] = {
+        {"4", "4", "4", true},         {"0.06", "1", "1", true},      {"4.01", "1.1", "1.1", false},
+        {"0.05", "1.1", "1.1", false}, {"0.5", "0.99", "1.1", false}, {"0.5", "1.1", "4.01", false},
+        {"0.5", "4.01", "1.1", false}, {"0.5", "1.1", "0.99", false}};
     TempFolder dir;
-    for (const Case& c : cases) {
-        dir.writeLines("d.dat", {"*****", c.scale, "6", "5", c.h, c.v, "*****"});
+    for (const auto& [scale, h, v, taken] : cases) {
+        dir.writeLines("d.dat", {"*****", scale, "6", "5", h, v, "*****"});
         const DisplaySettings s = ReadDisplaySettings(dir.file("d.dat"));
-        EXPECT_EQ(s.columns, c.taken ? 6 : 4) << c.scale << " " << c.h << " " << c.v;
-        EXPECT_EQ(s.hspace, c.taken ? Val(c.h) : 1.01) << c.scale << " " << c.h << " " << c.v;
+        EXPECT_EQ(std::tuple(s.columns, s.hspace), std::tuple(taken ? 6 : 4, taken ? Val(h) : 1.01))
+            << scale << " " << h << " " << v;
     }
 }
 
@@ -60,11 +53,10 @@ TEST(LanguageCodes, ThreeLinesALanguageAndAnUnfinishedOneDropped) {
                                       "French two", "G", "German one"});
     auto codes = ReadLanguageCodes(dir.file("flcodelist.dat"));
     ASSERT_EQ(codes.size(), 2u);
-    EXPECT_EQ(codes[1].code, "F");
-    EXPECT_EQ(codes[1].first, "French one");
-    EXPECT_EQ(codes[1].second, "French two");
-    ASSERT_NE(FindLanguage(codes, "S"), nullptr);
-    EXPECT_EQ(FindLanguage(codes, "G"), nullptr);
+    EXPECT_EQ(std::tuple(codes[1].code, codes[1].first, codes[1].second),
+              std::tuple("F", "French one", "French two"));
+    EXPECT_EQ(std::tuple(FindLanguage(codes, "S"), FindLanguage(codes, "G")),
+              std::tuple(&codes[0], nullptr));
     EXPECT_TRUE(ReadLanguageCodes(dir.file("none.dat")).empty());
     // At most a hundred languages are read.
     std::vector<std::string> many;

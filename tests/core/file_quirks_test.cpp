@@ -12,14 +12,7 @@ using namespace wm;
 using wm::test::TempFolder;
 
 TEST(DisplayFile, ThePresetsAreTheseNumbersOnDisk) {
-    struct Case {
-        DisplaySettings preset;
-        double scale;
-        int columns, rows;
-        double h, v;
-        const char* bytes;
-    };
-    const Case cases[] = {
+    const std::tuple<DisplaySettings, double, int, int, double, double, const char*> cases[] = {
         {DisplaySettings::LargeIcons(), 1.0, 4, 3, 1.01, 1.01,
          "*****\r\n1\r\n4\r\n3\r\n1.01\r\n1.01\r\n*****\r\n"},
         {DisplaySettings::MediumIcons(), 0.75, 5, 3, 1.01, 1.01,
@@ -28,15 +21,12 @@ TEST(DisplayFile, ThePresetsAreTheseNumbersOnDisk) {
          "*****\r\n0.5\r\n6\r\n5\r\n1.1\r\n1.2\r\n*****\r\n"},
     };
     TempFolder dir;
-    for (const Case& c : cases) {
-        EXPECT_EQ(c.preset.scale, c.scale);
-        EXPECT_EQ(c.preset.columns, c.columns);
-        EXPECT_EQ(c.preset.rows, c.rows);
-        EXPECT_EQ(c.preset.hspace, c.h);
-        EXPECT_EQ(c.preset.vspace, c.v);
-        EXPECT_TRUE(c.preset.hidden.empty());
-        WriteDisplaySettings(dir.file("d.dat"), c.preset);
-        EXPECT_EQ(dir.read("d.dat"), c.bytes) << c.columns;
+    for (const auto& [preset, scale, columns, rows, h, v, bytes] : cases) {
+        EXPECT_EQ(std::tuple(preset.scale, preset.columns, preset.rows, preset.hspace,
+                             preset.vspace, preset.hidden.empty()),
+                  std::tuple(scale, columns, rows, h, v, true));
+        WriteDisplaySettings(dir.file("d.dat"), preset);
+        EXPECT_EQ(dir.read("d.dat"), bytes) << columns;
     }
 }
 
@@ -44,16 +34,13 @@ TEST(ScoreTable, SmallestFirstTiesGoBelowTheEqualScore) {
     ScoreTable t = ScoreTable::Fresh();
     const char* scores[] = {"12.5   ", "20     ", "20     ", "31     "};
     for (int r = 1; r <= 4; ++r) t.Scores[r] = scores[r - 1];
-    struct Case {
-        double score;
-        int rank;
-    };
     // A tie does not pass the score it equals; the first free rank (a 0) takes anything.
-    const Case cases[] = {{12.4, 1}, {12.5, 2}, {20, 4}, {20.01, 4}, {31, 5}, {99, 5}};
-    for (const Case& c : cases) EXPECT_EQ(FindRankSmallestFirst(t, c.score), c.rank) << c.score;
+    const std::pair<double, int> cases[] = {{12.4, 1},  {12.5, 2}, {20, 4},
+                                            {20.01, 4}, {31, 5},   {99, 5}};
+    for (const auto& [score, rank] : cases)
+        EXPECT_EQ(FindRankSmallestFirst(t, score), rank) << score;
     ScoreTable full = t;
     for (int r = 5; r <= kRanks; ++r) full.Scores[r] = "40     ";
-    EXPECT_EQ(FindRankSmallestFirst(full, 40), 0);
-    EXPECT_EQ(FindRankSmallestFirst(full, 39), 5);
+    EXPECT_EQ(std::tuple(FindRankSmallestFirst(full, 40), FindRankSmallestFirst(full, 39)),
+              std::tuple(0, 5));
 }
-

@@ -15,6 +15,7 @@
 #include "temp_folder.h"
 
 using namespace wm;
+using wm::test::FileFailure;
 using wm::test::TempFolder;
 
 namespace {
@@ -42,6 +43,8 @@ TEST(LineFile, RoundTripIsByteForByte) {
     WriteLinesAtomic(dir.file("a.dat"), {"new"});
     EXPECT_EQ(dir.read("a.dat"), "new\r\n");
     EXPECT_EQ(FilesIn(dir), std::vector<std::string>{"a.dat"});
+    WriteLinesAtomic(dir.file("l.dat"), {std::string(200000, 'x')});  // very long lines survive
+    EXPECT_EQ(ReadLines(dir.file("l.dat")).at(0).size(), 200000u);
 }
 
 TEST(LineFile, ReadsAnyLineEndAndALastLineWithoutOne) {
@@ -53,23 +56,10 @@ TEST(LineFile, ReadsAnyLineEndAndALastLineWithoutOne) {
     EXPECT_TRUE(ReadLines(dir.file("b.dat")).empty());
     dir.write("c.dat", "\r\n\r\n");
     EXPECT_EQ(ReadLines(dir.file("c.dat")), (std::vector<std::string>{"", ""}));
-}
-
-TEST(LineFile, VeryLongLinesSurvive) {
-    TempFolder dir;
-    WriteLinesAtomic(dir.file("l.dat"), {std::string(200000, 'x')});
-    EXPECT_EQ(ReadLines(dir.file("l.dat")).at(0).size(), 200000u);
-}
-
-TEST(LineFile, MissingFileNamesItself) {
-    TempFolder dir;
-    try {
-        ReadLines(dir.file("nothere.dat"));
-        FAIL() << "no error";
-    } catch (const FileError& e) {
-        EXPECT_EQ(e.path(), dir.file("nothere.dat"));
-        EXPECT_NE(std::string(e.what()).find("nothere.dat"), std::string::npos);
-    }
+    // A missing file names itself.
+    const auto [path, message] = FileFailure([&] { ReadLines(dir.file("nothere.dat")); });
+    EXPECT_EQ(path, dir.file("nothere.dat"));
+    EXPECT_NE(message.find("nothere.dat"), std::string::npos);
 }
 
 TEST(LineFile, FailedWriteKeepsTheOldFileAndLeavesNoTemporary) {
@@ -82,36 +72,24 @@ TEST(LineFile, FailedWriteKeepsTheOldFileAndLeavesNoTemporary) {
     small.rlim_cur = 64;
     auto* oldHandler = std::signal(SIGXFSZ, SIG_IGN);
     ::setrlimit(RLIMIT_FSIZE, &small);
-    std::string message;
-    try {
-        WriteLinesAtomic(dir.file("a.dat"), {std::string(1000, 'x')});
-    } catch (const FileError& e) {
-        message = e.what();
-    }
+    const auto tooLarge =
+        FileFailure([&] { WriteLinesAtomic(dir.file("a.dat"), {std::string(1000, 'x')}); });
     ::setrlimit(RLIMIT_FSIZE, &before);
     std::signal(SIGXFSZ, oldHandler);
-    EXPECT_EQ(message, "The file " + dir.file("a.dat") + " cannot be written: File too large");
+    EXPECT_EQ(tooLarge.second,
+              "The file " + dir.file("a.dat") + " cannot be written: File too large");
     EXPECT_EQ(dir.read("a.dat"), "keep\r\n");
     EXPECT_EQ(FilesIn(dir), std::vector<std::string>{"a.dat"});
     // A folder standing at the name: all is written, and the rename fails.
     std::filesystem::create_directories(dir.file("b.dat/inside"));
-    try {
-        WriteLinesAtomic(dir.file("b.dat"), {"x"});
-        ADD_FAILURE() << "no error";
-    } catch (const FileError& e) {
-        EXPECT_EQ(std::string(e.what()).rfind(
-                      "The file " + dir.file("b.dat") + " cannot be replaced: ", 0),
-                  0u)
-            << e.what();
-    }
+    const std::string replaced =
+        FileFailure([&] { WriteLinesAtomic(dir.file("b.dat"), {"x"}); }).second;
+    EXPECT_EQ(replaced.rfind("The file " + dir.file("b.dat") + " cannot be replaced: ", 0), 0u)
+        << replaced;
     EXPECT_EQ(FilesIn(dir), (std::vector<std::string>{"a.dat", "b.dat"}));
     // A folder that is not there names the file.
-    try {
-        WriteLinesAtomic(dir.file("gone/b.dat"), {"x"});
-        FAIL() << "no error";
-    } catch (const FileError& e) {
-        EXPECT_EQ(e.path(), dir.file("gone/b.dat"));
-    }
+    EXPECT_EQ(FileFailure([&] { WriteLinesAtomic(dir.file("gone/b.dat"), {"x"}); }).first,
+              dir.file("gone/b.dat"));
 }
 
 TEST(LineFile, RewriteKeepsPermissionsAndGroup) {
@@ -125,9 +103,8 @@ TEST(LineFile, RewriteKeepsPermissionsAndGroup) {
     WriteLinesAtomic(path, {"new"});
     struct stat st {};
     ASSERT_EQ(::stat(path.c_str(), &st), 0);
-    EXPECT_EQ(st.st_mode & 07777, 0664u);
-    EXPECT_EQ(st.st_gid, group);
-    EXPECT_EQ(st.st_uid, ::geteuid());
+    EXPECT_EQ(std::tuple(st.st_mode & 07777, st.st_gid, st.st_uid),
+              std::tuple(0664u, group, ::geteuid()));
     // A read-only file stays read-only for those it was read-only for.
     ASSERT_EQ(::chmod(path.c_str(), 0440), 0);
     AppendLinesAtomic(path, {"more"});
@@ -142,7 +119,7 @@ TEST(LineFile, RewriteKeepsPermissionsAndGroup) {
     EXPECT_EQ(st.st_mode & 07777, 0640u);
 }
 
-TEST(LineFile, RewriteThroughALinkReplacesTheFileItPointsAt) {
+TEST(LineFile, RewriteFollowsALinkAndAppendEndsTheLastLine) {
     TempFolder dir;
     std::filesystem::create_directory(dir.file("shared"));
     dir.write("shared/thelists.dat", "old\r\n");
@@ -150,6 +127,12 @@ TEST(LineFile, RewriteThroughALinkReplacesTheFileItPointsAt) {
     WriteLinesAtomic(dir.file("thelists.dat"), {"new"});
     EXPECT_TRUE(std::filesystem::is_symlink(dir.file("thelists.dat")));
     EXPECT_EQ(dir.read("shared/thelists.dat"), "new\r\n");
+    // An append ends an unfinished last line first, and makes a file that is not there.
+    dir.write("a.dat", "one\r\ntwo");
+    AppendLinesAtomic(dir.file("a.dat"), {"three"});
+    EXPECT_EQ(dir.read("a.dat"), "one\r\ntwo\r\nthree\r\n");
+    AppendLinesAtomic(dir.file("new.dat"), {"x"});
+    EXPECT_EQ(dir.read("new.dat"), "x\r\n");
 }
 
 // Two installations save the one shared list file at the same moment, over and over, while a
@@ -202,16 +185,6 @@ TEST(LineFile, TwoWritersAtOnceNeverTearTheFile) {
     }
     EXPECT_EQ(FilesIn(dir), std::vector<std::string>{"thelists.dat"});
 }
-
-TEST(LineFile, AppendAddsAnEndToAnUnfinishedLastLine) {
-    TempFolder dir;
-    dir.write("a.dat", "one\r\ntwo");
-    AppendLinesAtomic(dir.file("a.dat"), {"three"});
-    EXPECT_EQ(dir.read("a.dat"), "one\r\ntwo\r\nthree\r\n");
-    AppendLinesAtomic(dir.file("new.dat"), {"x"});
-    EXPECT_EQ(dir.read("new.dat"), "x\r\n");
-}
-
 
 // A save killed half-way leaves its hidden temporary. A save removes those over an hour old and
 // leaves younger ones (another installation's save may be under way) and any other file.

@@ -24,48 +24,36 @@ struct ListFileTest : ::testing::Test {
     }
 };
 
-const Lines kTwoLists = {"Animals",
-                         "cat",
-                         "a pet that purrs",
-                         "dog",
-                         "a pet that barks",
-                         "<New List>",
-                         "[S]Colours",
-                         "red",
-                         "rojo",
-                         "green",
-                         "verde"};
+const Lines kTwoLists = Lines({"Animals", "cat", "a pet that purrs", "dog", "a pet that barks",
+                               "<New List>", "[S]Colours", "red", "rojo", "green", "verde"});
 
 }  // namespace
 
 TEST_F(ListFileTest, NamesAndExistence) {
     dir.writeLines("thelists.dat", kTwoLists);
     EXPECT_EQ(ListNames(path), (Lines{"Animals", "[S]Colours"}));
-    EXPECT_TRUE(NameExists(path, "  ANIMALS "));
-    EXPECT_TRUE(NameExists(path, "colours"));
-    EXPECT_FALSE(NameExists(path, "cat"));
+    EXPECT_EQ(std::tuple(NameExists(path, "  ANIMALS "), NameExists(path, "colours"),
+                         NameExists(path, "cat")),
+              std::tuple(true, true, false));
     // "[S]a" is a plain name of four characters after a separator...
     dir.writeLines("thelists.dat", {"X", "w", "d", "<New List>", "[S]a", "w", "d", "<New List>",
                                     "[S]ab", "w", "d"});
-    EXPECT_TRUE(NameExists(path, "[S]a"));
-    EXPECT_FALSE(NameExists(path, "a"));
-    EXPECT_TRUE(NameExists(path, "ab"));  // five characters: the language mark comes off
+    // "[S]ab" has five characters: the language mark comes off.
+    EXPECT_EQ(std::tuple(NameExists(path, "[S]a"), NameExists(path, "a"), NameExists(path, "ab")),
+              std::tuple(true, false, true));
     // ...but the first line is stripped without the length test.
     dir.writeLines("thelists.dat", {"[S]a", "w", "d"});
     EXPECT_TRUE(NameExists(path, "a"));
     dir.writeLines("thelists.dat", {});
     EXPECT_FALSE(NameExists(path, ""));  // an empty file holds no name, not even a blank one
-    EXPECT_EQ(PlainName("[S]a"), "[S]a");
-    EXPECT_EQ(PlainName("[S]ab"), "ab");
+    EXPECT_EQ(std::tuple(PlainName("[S]a"), PlainName("[S]ab")), std::tuple("[S]a", "ab"));
 }
 
 TEST_F(ListFileTest, LoadsARecordUpToTheSeparator) {
     dir.writeLines("thelists.dat", kTwoLists);
     load("Animals");
-    EXPECT_EQ(state.WordCount, 2);
-    EXPECT_EQ(state.Words[2], "dog");
-    EXPECT_EQ(state.Meanings[1], "a pet that purrs");
-    EXPECT_EQ(state.WordsOnly, kFalse);
+    EXPECT_EQ(std::tuple(state.WordCount, state.Words[2], state.Meanings[1], state.WordsOnly),
+              std::tuple(2, "dog", "a pet that purrs", kFalse));
     dir.writeLines("thelists.dat", {"  Animals  ", "cat", "a pet"});  // spaces round the name
     load("Animals");
     EXPECT_EQ(state.WordCount, 1);
@@ -74,16 +62,14 @@ TEST_F(ListFileTest, LoadsARecordUpToTheSeparator) {
 TEST_F(ListFileTest, LastRecordWithoutSeparatorLoadsAllPairs) {
     dir.writeLines("thelists.dat", kTwoLists);
     load("Colours", {{"S", "Colours"}}, {[](const std::string&) { return std::string("E"); }, {}});
-    EXPECT_EQ(state.WordCount, 2);
-    EXPECT_EQ(state.Words[1], "red");
-    EXPECT_EQ(state.ListLanguage, "E");
     // Played from the English side: the meanings are the Spanish ones.
-    EXPECT_EQ(state.WordsLanguage, "");
-    EXPECT_EQ(state.MeaningsLanguage, "S");
+    EXPECT_EQ(std::tuple(state.WordCount, state.Words[1], state.ListLanguage, state.WordsLanguage,
+                         state.MeaningsLanguage),
+              std::tuple(2, "red", "E", "", "S"));
     // A plain list after it is English on both sides, though ListLanguage stays as it was.
     load("Animals", {{"S", "Colours"}});
-    EXPECT_EQ(state.ListLanguage, "E");
-    EXPECT_EQ(state.WordsLanguage + state.MeaningsLanguage, "");
+    EXPECT_EQ(std::tuple(state.ListLanguage, state.WordsLanguage + state.MeaningsLanguage),
+              std::tuple("E", ""));
 }
 
 TEST_F(ListFileTest, ForeignListPlayedTheOtherWaySwapsColumns) {
@@ -95,27 +81,21 @@ TEST_F(ListFileTest, ForeignListPlayedTheOtherWaySwapsColumns) {
               return code;
           },
           {}});
-    EXPECT_EQ(askedFor, "S");
-    EXPECT_EQ(state.Words[1], "rojo");
-    EXPECT_EQ(state.Meanings[2], "green");
-    EXPECT_EQ(state.WordsLanguage, "S");
-    EXPECT_EQ(state.MeaningsLanguage, "");
+    EXPECT_EQ(std::tuple(askedFor, state.Words[1], state.Meanings[2], state.WordsLanguage,
+                         state.MeaningsLanguage),
+              std::tuple("S", "rojo", "green", "S", ""));
 }
 
 TEST_F(ListFileTest, WordsOnlyIsDecidedByTheFirstDefinition) {
     dir.writeLines("thelists.dat", {"Spelling", "necessary", "-----", "rhythm", "-----"});
     load("Spelling");
-    EXPECT_EQ(state.WordsOnly, kTrue);
-    EXPECT_EQ(state.WordCount, 2);
-}
-
-TEST_F(ListFileTest, BlankPairsAreOverwrittenByTheNext) {
+    EXPECT_EQ(std::tuple(state.WordsOnly, state.WordCount), std::tuple(kTrue, 2));
+    // A blank pair is overwritten by the next.
     dir.writeLines("thelists.dat",
                    {"L", "a", "alpha", "b", "  ", "c", "gamma", "<New List>", "M", "x", "y"});
     load("L");
-    EXPECT_EQ(state.WordCount, 2);
-    EXPECT_EQ(state.Words[2], "c");
-    EXPECT_EQ(state.Meanings[2], "gamma");
+    EXPECT_EQ(std::tuple(state.WordCount, state.Words[2], state.Meanings[2]),
+              std::tuple(2, "c", "gamma"));
 }
 
 TEST_F(ListFileTest, ScanDoesNotStepByRecords) {
@@ -125,10 +105,8 @@ TEST_F(ListFileTest, ScanDoesNotStepByRecords) {
                                     "a star", "<New List>", "Planets", "mars", "red planet"});
     load("Planets");
     // The pairs are read one line out of step, until a separator lands on a definition.
-    EXPECT_EQ(state.Words[1], "a word that is also a name");
-    EXPECT_EQ(state.Meanings[1], "sun");
-    EXPECT_EQ(state.Meanings[2], "<New List>");
-    EXPECT_EQ(state.WordCount, 2);
+    EXPECT_EQ(std::tuple(state.Words[1], state.Meanings[1], state.Meanings[2], state.WordCount),
+              std::tuple("a word that is also a name", "sun", "<New List>", 2));
 }
 
 TEST_F(ListFileTest, OverTheLimitStopsAt1001AndSaysSo) {
@@ -143,8 +121,7 @@ TEST_F(ListFileTest, OverTheLimitStopsAt1001AndSaysSo) {
     EXPECT_EQ(said,
               "There are over 1000 words on this list. The current size limit per list is 1000. "
               "Only the first 1000 will be used.");
-    EXPECT_EQ(state.WordCount, 1001);
-    EXPECT_EQ(state.Words[1000], "w1000");
+    EXPECT_EQ(std::tuple(state.WordCount, state.Words[1000]), std::tuple(1001, "w1000"));
     // Entry 1001 is there to read, and empty.
     ASSERT_GE(state.Words.size(), 1002u);
     ASSERT_GE(state.Meanings.size(), 1002u);
@@ -171,23 +148,17 @@ TEST_F(ListFileTest, OddLineCountAndMissingNamesAreSafe) {
     EXPECT_EQ(state.WordCount, 0);
 }
 
-TEST(ListFileEdits, DeletingTheFirstListLeavesASeparatorOnTop) {
+TEST(ListFileEdits, DeletingTakesASeparatorButTheFirstListsAndLeavesNoListsLast) {
     Lines lines = kTwoLists;
     ASSERT_TRUE(DeleteListLines(lines, "Animals"));
     EXPECT_EQ(lines, (Lines{"<New List>", "[S]Colours", "red", "rojo", "green", "verde"}));
     // The editors' save heals it.
     CleanHead(lines, true);
     EXPECT_EQ(lines.front(), "[S]Colours");
-}
-
-TEST(ListFileEdits, DeletingALaterListTakesItsSeparator) {
-    Lines lines = kTwoLists;
+    lines = kTwoLists;
     ASSERT_TRUE(DeleteListLines(lines, "Colours"));
     EXPECT_EQ(lines, (Lines{"Animals", "cat", "a pet that purrs", "dog", "a pet that barks"}));
-}
-
-TEST(ListFileEdits, DeletingTheOnlyListLeavesNoLists) {
-    Lines lines = {"Animals", "cat", "a pet"};
+    lines = {"Animals", "cat", "a pet"};
     ASSERT_TRUE(DeleteListLines(lines, "Animals"));
     EXPECT_EQ(lines, (Lines{"No Lists"}));
     EXPECT_TRUE(IsEmptyStore(lines));

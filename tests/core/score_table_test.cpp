@@ -24,10 +24,9 @@ ScoreTable tableOf(std::initializer_list<std::pair<const char*, const char*>> en
 TEST(ScoreTable, FreshRecordIs510BytesOfPaddedText) {
     std::string bytes = ScoreTable::Fresh().toBytes();
     ASSERT_EQ(bytes.size(), 510u);
-    EXPECT_EQ(bytes.substr(0, 3), "   ");
-    EXPECT_EQ(bytes.substr(3, 3), "---");
-    EXPECT_EQ(bytes.substr(153, 7), "       ");
-    EXPECT_EQ(bytes.substr(160, 7), "0      ");
+    EXPECT_EQ(std::tuple(bytes.substr(0, 3), bytes.substr(3, 3), bytes.substr(153, 7),
+                         bytes.substr(160, 7)),
+              std::tuple("   ", "---", "       ", "0      "));
     EXPECT_EQ(ScoreTable::fromBytes(bytes).toBytes(), bytes);
 }
 
@@ -36,9 +35,8 @@ TEST(ScoreTable, WrongSizedFilesReadAsFarAsTheyGo) {
     std::string bytes = full.toBytes();
     // Cut inside the score area: rank 1's score survives, later ones are fresh.
     ScoreTable cut = ScoreTable::fromBytes(bytes.substr(0, 170));
-    EXPECT_EQ(cut.initials(2), "DEF");
-    EXPECT_EQ(cut.scoreText(1), "900");
-    EXPECT_EQ(cut.scoreText(2), "0");
+    EXPECT_EQ(std::tuple(cut.initials(2), cut.scoreText(1), cut.scoreText(2)),
+              std::tuple("DEF", "900", "0"));
     EXPECT_EQ(ScoreTable::fromBytes("").toBytes(), ScoreTable::Fresh().toBytes());
     EXPECT_EQ(ScoreTable::fromBytes(bytes + "trailing junk").toBytes(), bytes);
     std::string zeros(510, '\0');
@@ -47,11 +45,10 @@ TEST(ScoreTable, WrongSizedFilesReadAsFarAsTheyGo) {
 
 TEST(ScoreTable, RankSearchHighestFirst) {
     ScoreTable t = tableOf({{"A", "900"}, {"B", "500"}, {"C", "100"}});
-    EXPECT_EQ(FindRank(t, 1000), 1);
-    EXPECT_EQ(FindRank(t, 600), 2);
-    EXPECT_EQ(FindRank(t, 500), 3);                  // a tie does not pass
-    EXPECT_EQ(FindRank(t, 50), 4);                   // first free rank
-    EXPECT_EQ(FindRank(ScoreTable::Fresh(), 0), 1);  // a score of 0 still takes a free rank
+    // A tie does not pass; then the first free rank, which even a score of 0 takes.
+    EXPECT_EQ(std::tuple(FindRank(t, 1000), FindRank(t, 600), FindRank(t, 500), FindRank(t, 50),
+                         FindRank(ScoreTable::Fresh(), 0)),
+              std::tuple(1, 2, 3, 4, 1));
     ScoreTable full = ScoreTable::Fresh();
     for (int r = 1; r <= kRanks; ++r) full.Scores[r] = "5000   ";
     EXPECT_EQ(FindRank(full, 10), 0);
@@ -59,9 +56,9 @@ TEST(ScoreTable, RankSearchHighestFirst) {
 
 TEST(ScoreTable, RankSearchSmallestFirst) {
     ScoreTable t = tableOf({{"A", "0.12"}, {"B", "0.5"}});
-    EXPECT_EQ(FindRankSmallestFirst(t, 0.1), 1);
-    EXPECT_EQ(FindRankSmallestFirst(t, 0.3), 2);
-    EXPECT_EQ(FindRankSmallestFirst(t, 0.9), 3);
+    EXPECT_EQ(std::tuple(FindRankSmallestFirst(t, 0.1), FindRankSmallestFirst(t, 0.3),
+                         FindRankSmallestFirst(t, 0.9)),
+              std::tuple(1, 2, 3));
 }
 
 TEST(ScoreTable, InsertDisplacesOneAndLosesTheNext) {
@@ -70,12 +67,10 @@ TEST(ScoreTable, InsertDisplacesOneAndLosesTheNext) {
     for (int outside : {0, 51}) InsertScore(t, outside, "OUT", "999");  // no such rank
     EXPECT_EQ(t.toBytes(), before);
     InsertScore(t, 2, "NEWX", "850");
-    EXPECT_EQ(t.initials(1), "A");
-    EXPECT_EQ(t.initials(2), "NEW");  // cut to three
-    EXPECT_EQ(t.initials(3), "B");    // the old rank 2 moves down
-    EXPECT_EQ(t.initials(4), "D");    // the old rank 3 is lost; the rest stay
-    EXPECT_EQ(t.scoreText(3), "800");
-    EXPECT_EQ(t.scoreText(4), "600");
+    // Initials cut to three; the old rank 2 moves down, the old rank 3 is lost, the rest stay.
+    EXPECT_EQ(std::tuple(t.initials(1), t.initials(2), t.initials(3), t.initials(4), t.scoreText(3),
+                         t.scoreText(4)),
+              std::tuple("A", "NEW", "B", "D", "800", "600"));
 }
 
 TEST(ScoreTable, InsertAtTheEndsAndScoreCuts) {
@@ -87,13 +82,12 @@ TEST(ScoreTable, InsertAtTheEndsAndScoreCuts) {
     // The old last entry goes to index 0, its score through a whole number like any moved one.
     t.Scores[50] = "12.7   ";
     InsertScore(t, 50, "ABC", "9");
-    EXPECT_EQ(t.initials(0), "ABC");
-    EXPECT_EQ(t.scoreText(0), "13");
+    EXPECT_EQ(std::tuple(t.initials(0), t.scoreText(0)), std::tuple("ABC", "13"));
     ScoreTable u = tableOf({{"A", "0.1234"}, {"B", "2.5"}});
     InsertScore(u, 1, "N", "0.05");
-    EXPECT_EQ(u.scoreText(1), "0.05");
-    EXPECT_EQ(u.scoreText(2), "0");  // moved scores pass through a whole number
-    EXPECT_EQ(u.initials(2), "A");
+    // Moved scores pass through a whole number.
+    EXPECT_EQ(std::tuple(u.scoreText(1), u.scoreText(2), u.initials(2)),
+              std::tuple("0.05", "0", "A"));
 }
 
 TEST(ScoreTable, FileRoundTripAndCreation) {
@@ -104,8 +98,8 @@ TEST(ScoreTable, FileRoundTripAndCreation) {
     ScoreTable t = ReadScoreTable(path);
     InsertScore(t, 1, "ABC", "4321");
     WriteScoreTable(path, t);
-    EXPECT_EQ(dir.read("scores/Scramble.dat").size(), 510u);
-    EXPECT_EQ(ReadScoreTable(path).scoreText(1), "4321");
+    EXPECT_EQ(std::tuple(dir.read("scores/Scramble.dat").size(), ReadScoreTable(path).scoreText(1)),
+              std::tuple(510u, "4321"));
     // An existing table is never replaced by a fresh one.
     EnsureScoreFile(dir.path(), "Scramble");
     EXPECT_EQ(ReadScoreTable(path).initials(1), "ABC");
@@ -118,8 +112,6 @@ TEST(ScoreTable, ThreeWinsInARow) {
         InsertScore(t, r, ini, NumText(score));
     }
     // 300 at 1; 500 at 1 pushes 300 to 2; 400 lands on 2, pushes 300 to 3 and loses the fresh 3.
-    EXPECT_EQ(t.initials(1), "BBB");
-    EXPECT_EQ(t.initials(2), "CCC");
-    EXPECT_EQ(t.initials(3), "AAA");
-    EXPECT_EQ(t.initials(4), "---");
+    EXPECT_EQ(std::tuple(t.initials(1), t.initials(2), t.initials(3), t.initials(4)),
+              std::tuple("BBB", "CCC", "AAA", "---"));
 }

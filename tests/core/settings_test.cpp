@@ -6,6 +6,7 @@
 #include "temp_folder.h"
 
 using namespace wm;
+using wm::test::FileFailure;
 using wm::test::TempFolder;
 
 namespace {
@@ -18,30 +19,22 @@ TEST(Settings, FirstRunRenamesOnlyWhenTheLiveFileIsMissing) {
     dir.writeLines("wmdata.new", kFactory);
     dir.writeLines("thelists.new", {"Animals", "cat", "a pet"});
     FirstRunRenames(dir.path());
-    EXPECT_TRUE(dir.exists("wmdata.dat"));
-    EXPECT_FALSE(dir.exists("wmdata.new"));
-    EXPECT_TRUE(dir.exists("thelists.dat"));
-    EXPECT_FALSE(dir.exists("thelists.new"));
+    EXPECT_EQ(std::tuple(dir.exists("wmdata.dat"), dir.exists("wmdata.new"),
+                         dir.exists("thelists.dat"), dir.exists("thelists.new")),
+              std::tuple(true, false, true, false));
 
     // A reinstallation delivers new factory files; the teacher's data stays.
     dir.writeLines("wmdata.new", {"x"});
     dir.writeLines("thelists.new", {"Other"});
     FirstRunRenames(dir.path());
-    EXPECT_EQ(dir.read("wmdata.new"), "x\r\n");
-    EXPECT_EQ(ReadLines(dir.file("thelists.dat")).at(0), "Animals");
+    EXPECT_EQ(std::tuple(dir.read("wmdata.new"), ReadLines(dir.file("thelists.dat")).at(0)),
+              std::tuple("x\r\n", "Animals"));
 }
 
 TEST(Settings, MissingOrShortFileIsAClearErrorNamingIt) {
     TempFolder dir;
     const std::string live = dir.file("wmdata.dat");
-    auto messageOf = [](auto&& call) {
-        try {
-            call();
-        } catch (const FileError& e) {
-            return std::string(e.what());
-        }
-        return std::string("no error");
-    };
+    auto messageOf = [](auto&& call) { return FileFailure(call).second; };
     EXPECT_EQ(messageOf([&] { FirstRunRenames(dir.path()); }),
               "The settings file wmdata.dat (or its factory copy wmdata.new) cannot be found in "
               "the folder " + dir.path() + ".");
@@ -59,15 +52,14 @@ TEST(Settings, ReadsSoundAndResolvesPathLiterals) {
     dir.writeLines("wmdata.dat", {"r0", "r1", "Sound On", "pw", "  LISTPATH ", "/net/f.dat"});
     SharedState s;
     ApplySettings(ReadSettings(dir.path()), dir.path(), s);
-    EXPECT_EQ(s.SoundDefault, kTrue);
-    EXPECT_EQ(s.ListFilePath, dir.file("thelists.dat"));
-    EXPECT_EQ(s.FolderFilePath, "/net/f.dat");
+    EXPECT_EQ(std::tuple(s.SoundDefault, s.ListFilePath, s.FolderFilePath),
+              std::tuple(kTrue, dir.file("thelists.dat"), "/net/f.dat"));
 
     // The sound line is compared exactly.
     dir.writeLines("wmdata.dat", {"r0", "r1", "sound on", "pw", "listpath", "folderpath"});
     ApplySettings(ReadSettings(dir.path()), dir.path(), s);
-    EXPECT_EQ(s.SoundDefault, kFalse);
-    EXPECT_EQ(s.FolderFilePath, dir.file("folders.dat"));
+    EXPECT_EQ(std::tuple(s.SoundDefault, s.FolderFilePath),
+              std::tuple(kFalse, dir.file("folders.dat")));
     // Settings held in memory with no sound line at all read as sound off, without reading
     // past their end.
     EXPECT_FALSE((Settings{{"r0", "r1"}}.soundOn()));
@@ -80,19 +72,18 @@ TEST(Settings, RewriteKeepsLinesPastFive) {
     lines.push_back("seventh");
     dir.writeLines("wmdata.dat", lines);
     RewriteSettingsLine(dir.path(), kPasswordLine, "newpass");
-    auto back = ReadLines(dir.file("wmdata.dat"));
-    ASSERT_EQ(back.size(), 7u);
-    EXPECT_EQ(back[3], "newpass");
-    EXPECT_EQ(back[6], "seventh");
-    EXPECT_EQ(back[0], "r0");
+    EXPECT_EQ(ReadLines(dir.file("wmdata.dat")),
+              (std::vector<std::string>{"r0", "r1", "Sound On", "newpass", "listpath", "folderpath",
+                                        "seventh"}));
     // A line past the end: the file grows with blank lines up to it.
     RewriteSettingsLine(dir.path(), 8, "ninth");
-    EXPECT_EQ(ReadLines(dir.file("wmdata.dat")).size(), 9u);
+    const std::string grown = dir.read("wmdata.dat");
+    EXPECT_EQ(grown,
+              "r0\r\nr1\r\nSound On\r\nnewpass\r\nlistpath\r\nfolderpath\r\nseventh\r\n\r\n"
+              "ninth\r\n");
     // No line before the first: the file is left as it is.
-    const std::string before = dir.read("wmdata.dat");
     RewriteSettingsLine(dir.path(), -1, "nothing");
-    EXPECT_EQ(dir.read("wmdata.dat"), before);
-    EXPECT_EQ(dir.read("wmdata.dat").substr(dir.read("wmdata.dat").size() - 11), "\r\n\r\nninth\r\n");
+    EXPECT_EQ(dir.read("wmdata.dat"), grown);
 }
 
 TEST(Settings, SpeechLinesBehindTheSixReadOldFilesAndKeepLaterLines) {
@@ -110,8 +101,7 @@ TEST(Settings, SpeechLinesBehindTheSixReadOldFilesAndKeepLaterLines) {
         lines.insert(lines.end(), extra.begin(), extra.end());
         dir.writeLines("wmdata.dat", lines);
         ApplySettings(ReadSettings(dir.path()), dir.path(), s);
-        EXPECT_EQ(s.SpeechOn, on);
-        EXPECT_EQ(s.SpeechRate, rate);
+        EXPECT_EQ(std::tuple(s.SpeechOn, s.SpeechRate), std::tuple(on, rate));
     }
     // Both lines in one rewrite, the rate held to -10..10; a later line stays, through a
     // password change too.

@@ -6,7 +6,10 @@
 #include <random>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
+
+#include "core/line_file.h"
 
 namespace wm::test {
 
@@ -44,5 +47,16 @@ public:
 private:
     std::filesystem::path path_;
 };
+
+// The path and the message of the FileError that `call` throws, or "" and "no error".
+template <class Call>
+std::pair<std::string, std::string> FileFailure(Call&& call) {
+    try {
+        call();
+    } catch (const wm::FileError& e) {
+        return {e.path(), e.what()};
+    }
+    return {"", "no error"};
+}
 
 }  // namespace wm::test

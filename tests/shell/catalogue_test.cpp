@@ -66,12 +66,8 @@ TEST(Catalogue, FirstScreenAndClampingFollowTheListFirstGames) {
 }
 
 TEST(Catalogue, OptionsRowsMatchTheOptionsTable) {
-    struct Row {
-        const char* name;
-        int min, max, start;
-        OptionFrame frame;
-    };
-    const Row rows[] = {
+    // The game, the slider's least, most and start, and the frame.
+    const std::tuple<const char*, int, int, int, OptionFrame> rows[] = {
         {"Froggy", 1, 9, 5, OptionFrame::Hidden},
         {"Tic-Tac-Toe", 2, 6, 4, OptionFrame::Hidden},
         {"Short Circuit", 2, 10, 5, OptionFrame::Shown},
@@ -93,11 +89,11 @@ TEST(Catalogue, OptionsRowsMatchTheOptionsTable) {
         {"Bomb Squad", 2, 10, 2, OptionFrame::Hidden},
         {"Bomb Squad 2", 2, 10, 2, OptionFrame::Hidden},
     };
-    for (const Row& r : rows) {
-        SCOPED_TRACE(r.name);
-        const OptionsRow& o = Get(r.name).options;
+    for (const auto& [name, min, max, start, frame] : rows) {
+        const OptionsRow& o = Get(name).options;
         EXPECT_EQ(std::tuple(o.hasDifficulty, o.min, o.max, o.start, o.frame),
-                  std::tuple(true, r.min, r.max, r.start, r.frame));
+                  std::tuple(true, min, max, start, frame))
+            << name;
     }
 
     // Only two games relabel the frame or the easy end of the slider.
@@ -214,18 +210,9 @@ TEST(Catalogue, HowToTextsBeginAsGivenAndStayReadable) {
 using W = WordsOnlyRule;
 using C = CountRule;
 
-struct Row {
-    const char* game;
-    W wordsOnly;
-    std::string wordsOnlyText;  // empty where the list plays as it is
-    bool keep;
-    C count;
-    int minimum;
-    std::string countText;
-    const char* opens;
-};
-
-const Row kRows[] = {
+// The game; the words-only rule, its message ("" where the list plays as it is) and whether a
+// warning keeps the option; the count rule, its minimum and message; the screen that opens.
+const std::tuple<const char*, W, std::string, bool, C, int, std::string, const char*> kRows[] = {
     {"Pachinko", W::Refuse, kM1, false, C::Below, 5, N(5), "Plachinko"},
     {"Froggy", W::Refuse, kM1, false, C::Below, 4, N(4), "FroggyForm"},
     {"Slingshot", W::Refuse, kM1, false, C::Below, 4, N(4), "SlingShot"},
@@ -272,20 +259,16 @@ const Row kRows[] = {
 
 TEST(EligibilityRows, EveryGameHasItsRow) {
     std::set<std::string> seen;
-    for (const Row& row : kRows) {
-        SCOPED_TRACE(row.game);
-        const GameCard* card = FindCard(row.game);
-        ASSERT_NE(card, nullptr);
-        seen.insert(card->name);
-        const EligibilityRow& e = card->eligibility;
-        EXPECT_EQ(e.wordsOnly, row.wordsOnly);
-        if (row.wordsOnly != W::Allowed) EXPECT_EQ(e.wordsOnlyText, row.wordsOnlyText);
-        if (row.wordsOnly == W::Warn || row.wordsOnly == W::WarnIfOption)
-            EXPECT_EQ(e.keepOption, row.keep);
-        EXPECT_EQ(e.count, row.count);
-        if (row.count == C::Below) EXPECT_EQ(e.minWords, row.minimum);
-        if (row.count != C::None) EXPECT_EQ(e.countText, row.countText);
-        EXPECT_EQ(e.opens, row.opens);
+    for (const auto& [game, wordsOnly, wordsOnlyText, keep, count, minimum, countText, opens] :
+         kRows) {
+        SCOPED_TRACE(game);
+        const EligibilityRow& e = Get(game).eligibility;
+        seen.insert(Get(game).name);
+        EXPECT_EQ(std::tuple(e.wordsOnly, e.count, e.opens), std::tuple(wordsOnly, count, opens));
+        if (wordsOnly != W::Allowed) EXPECT_EQ(e.wordsOnlyText, wordsOnlyText);
+        if (wordsOnly == W::Warn || wordsOnly == W::WarnIfOption) EXPECT_EQ(e.keepOption, keep);
+        if (count == C::Below) EXPECT_EQ(e.minWords, minimum);
+        if (count != C::None) EXPECT_EQ(e.countText, countText);
     }
     EXPECT_EQ(seen.size(), 42u);
     EXPECT_EQ(Catalogue().size(), 42u);

@@ -7,6 +7,7 @@
 #include "chooser_texts.h"
 #include "core/line_file.h"
 #include "game_road.h"
+#include "platform/text.h"
 #include "shell/lang_choose.h"
 
 using namespace wm;
@@ -63,69 +64,61 @@ private slots:
     }
 
     void wordsOnlyListsAreRefusedOrWarned() {
-        // One game for each way of meeting a words-only list, the option on.
-        const struct {
-            const char* game;
-            QString message;
-            bool optionAfter;
-            QString opens;
-        } rows[] = {{"Pachinko", kM1, true, "ChooseList"},
-                    {"Word Zap", kM1, true, "ChooseList"},  // the option on
-                    {"Word Search", kSearch, false, "WordSearchForm"},
-                    // Kept by the chooser, then inverted by the game as it loads.
-                    {"Scramble", kW2, false, "Scramble"},
-                    {"Hang Glider", "", true, "HangGlider"}};
-        for (const auto& r : rows) {
+        // One game for each way of meeting a words-only list, the option on: the message, the
+        // option after, and the screen that opens.
+        const std::tuple<const char*, QString, bool, QString> rows[] = {
+            {"Pachinko", kM1, true, "ChooseList"},
+            {"Word Zap", kM1, true, "ChooseList"},  // the option on
+            {"Word Search", kSearch, false, "WordSearchForm"},
+            // Kept by the chooser, then inverted by the game as it loads.
+            {"Scramble", kW2, false, "Scramble"},
+            {"Hang Glider", "", true, "HangGlider"}};
+        for (const auto& [game, message, optionAfter, opens] : rows) {
             ShellFixture fx;
-            ChooseList* chooser = OpenChooser(fx, r.game);
+            ChooseList* chooser = OpenChooser(fx, game);
             Shared().GameOptionOn = kTrue;
             QVERIFY(chooser->lists()->isVisible());
             QVERIFY(SelectList(chooser, "Tricky Spelling Words (") >= 0);
             chooser->continueOn();
-            QCOMPARE(fx.dialogs.texts().value(0), r.message);
-            QCOMPARE(Shared().GameOptionOn == kTrue, r.optionAfter);
-            QCOMPARE(CurrentScreen()->objectName(), r.opens);
+            QCOMPARE(std::tuple(fx.dialogs.texts().value(0), Shared().GameOptionOn == kTrue,
+                                CurrentScreen()->objectName()),
+                     std::tuple(message, optionAfter, opens));
         }
     }
 
     void countBoundaries() {
         // Each side of a fixed minimum and of the difficulty (7) as the minimum.
-        const struct {
-            const char* game;
-            int minimum;
-            QString message;
-        } rows[] = {{"Pachinko", 5, QString::fromStdString(N(5))},
-                    {"Basketball", 10, kE1},
-                    {"Quiz", 7, kE1},
-                    {"Concentration", 7, kE2}};
-        for (const auto& r : rows) {
-            for (int words : {r.minimum, r.minimum - 1}) {
+        const std::tuple<const char*, int, QString> rows[] = {
+            {"Pachinko", 5, QString::fromStdString(N(5))},
+            {"Basketball", 10, kE1},
+            {"Quiz", 7, kE1},
+            {"Concentration", 7, kE2}};
+        for (const auto& [game, minimum, message] : rows) {
+            for (int words : {minimum, minimum - 1}) {
                 ShellFixture fx;
-                ChooseList* chooser = OpenChooser(fx, r.game, ListOf("Sized", words));
+                ChooseList* chooser = OpenChooser(fx, game, ListOf("Sized", words));
                 Shared().Difficulty = 7;
                 QVERIFY(SelectList(chooser, "Sized (") >= 0);
                 chooser->continueOn();
-                QCOMPARE(Shared().WordCount, words);
-                const bool refused = words < r.minimum;
-                QCOMPARE(fx.dialogs.texts().contains(r.message), refused);
-                QCOMPARE(CurrentScreen() == chooser, refused);
+                const bool refused = words < minimum;
+                QCOMPARE(std::tuple(int(Shared().WordCount), fx.dialogs.texts().contains(message),
+                                    CurrentScreen() == chooser),
+                         std::tuple(words, refused, refused));
             }
         }
     }
 
     void foreignListPlayedThroughTheChooser() {
         // "[F]Odd" has the marker on its word lines: after a swap it stands on the meaning side.
-        const struct {
-            bool secondOption;
-            QString language, word1, meaning1;
-            bool wordsOnly;
-        } rows[] = {{false, "E", "dog", "perro", false},
-                    {true, "S", "perro", "dog", false},
-                    {false, "E", "-----", "chat", false},
-                    {true, "F", "chat", "-----", true}};
-        for (const auto& r : rows) {
+        // The side picked, then the language, the first word and meaning, and words-only.
+        const std::tuple<bool, QString, QString, QString, bool> rows[] = {
+            {false, "E", "dog", "perro", false},
+            {true, "S", "perro", "dog", false},
+            {false, "E", "-----", "chat", false},
+            {true, "F", "chat", "-----", true}};
+        for (const auto& [secondOption, language, word1, meaning1, wordsOnly] : rows) {
             ShellFixture fx;
-            const bool odd = r.word1 == "-----" || r.meaning1 == "-----";
+            const bool odd = word1 == "-----" || meaning1 == "-----";
             ChooseList* chooser = OpenChooser(
                 fx, "Hang Glider", {"<New List>", "[F]Odd", "-----", "chat", "-----", "chien"});
             QString asked;
@@ -133,7 +126,7 @@ private slots:
                 auto* box = dynamic_cast<LangChoose*>(&d);
                 QVERIFY(box);
                 asked = box->Option1->text() + " | " + box->Option2->text();
-                (r.secondOption ? box->Option2 : box->Option1)->setChecked(true);
+                (secondOption ? box->Option2 : box->Option1)->setChecked(true);
             });
             // The box shows the plain name; the code goes to the foreign table.
             QVERIFY(SelectList(chooser, odd ? "Odd (2 words)" : "Spanish Animals (") >= 0);
@@ -142,11 +135,10 @@ private slots:
                      QString("%1 - English words, %1 meanings | %1 - %1 words, English meanings")
                          .arg(odd ? "French" : "Spanish"));
             const SharedState& s = Shared();
-            QCOMPARE(QString::fromStdString(s.CurrentListName), odd ? "Odd" : "Spanish Animals");
-            QCOMPARE(QString::fromStdString(s.ListLanguage), r.language);
-            QCOMPARE(QString::fromLatin1(s.Words[1].c_str()), r.word1);
-            QCOMPARE(QString::fromLatin1(s.Meanings[1].c_str()), r.meaning1);
-            QCOMPARE(s.WordsOnly == kTrue, r.wordsOnly);
+            QCOMPARE(
+                std::tuple(toQ(s.CurrentListName), toQ(s.ListLanguage), toQ(s.Words[1]),
+                           toQ(s.Meanings[1]), s.WordsOnly == kTrue),
+                std::tuple(odd ? "Odd" : "Spanish Animals", language, word1, meaning1, wordsOnly));
         }
     }
 

@@ -7,6 +7,7 @@
 #include "core/score_table.h"
 #include "game_road.h"
 #include "platform/speech.h"
+#include "platform/text.h"
 #include "shell/game_frame.h"
 #include "shell/game_registry.h"
 
@@ -64,10 +65,10 @@ private slots:
                               "High Scores=HS", "How To Play=mnuHowTo", "Quit=Return"}));
         Shared().HowToText = "Play nicely.";
         QVERIFY(TriggerMenu(game, "mnuHowTo"));
-        QCOMPARE(fx->dialogs.last(), "Play nicely.");
-        QCOMPARE(fx->dialogs.shown.back().title, "How To Play");
+        QCOMPARE(std::tuple(fx->dialogs.shown.back().title, fx->dialogs.last()),
+                 std::tuple("How To Play", "Play nicely."));
         QVERIFY(TriggerMenu(game, "RS"));
-        QVERIFY(game->starts == 1 && game->frame.round() == 1);
+        QCOMPARE(std::tuple(game->starts, game->frame.round()), std::tuple(1, 1));
     }
 
     void paletteMovesCurrentGameToTheKey() {
@@ -180,13 +181,10 @@ private slots:
         auto animationEnd = game->frame.later([&] { ++ended; });
         auto current = game->frame.later([&] { ended += 10; });
         animationEnd();
-        QCOMPARE(ended, 1);
         game->frame.newGame();  // Restart while an animation of round 1 still plays
         current();
         QCOMPARE(ended, 1);
-        auto fresh = game->frame.later([&] { ended += 100; });
-        fresh();
-        QCOMPARE(ended, 101);
+        game->frame.later([&] { ended += 100; })();
         game->frame.quit();
         game->frame.later([&] { ended = -1; })();
         QCOMPARE(ended, 101);
@@ -194,8 +192,8 @@ private slots:
 
     void refusalTellsThenLeaves() {
         game->frame.refuse("This list cannot be used for this game.");
-        QCOMPARE(fx->dialogs.last(), "This list cannot be used for this game.");
-        QCOMPARE(fx->dialogs.shown.back().title, "Tiny");
+        QCOMPARE(std::tuple(fx->dialogs.shown.back().title, fx->dialogs.last()),
+                 std::tuple("Tiny", "This list cannot be used for this game."));
         QCOMPARE(CurrentScreen(), game);  // it leaves from the event loop, not inside the caller
         Pump();
         QVERIFY(Showing<Title>() != nullptr);
@@ -226,46 +224,38 @@ private slots:
     void wonGameTextsAndOffers() {
         const QString raise = "Would you like to raise the difficulty level a bit?";
         const QString placed = "You got a high score of 1234! Would you like to try again?";
-        const struct {
-            bool placed, money;
-            QList<bool> answers;
-            QStringList texts;
-            int difficulty;
-            bool onTitle;
-        } rows[] = {
+        const QString money =
+            "You won a cash and prize total of $1234! Would you like to try again?";
+        // Placed in the table, the money texts, the answers, the questions, the difficulty after,
+        // and whether the title is back. Not placed: no offer to raise.
+        const std::tuple<bool, bool, QList<bool>, QStringList, int, bool> rows[] = {
             {true, false, {true, true}, {placed, raise}, 3, false},  // again, raised
             {true, false, {true, false}, {placed, raise}, 2, false},
             {true, false, {false}, {placed}, 2, true},
-            // Not placed: no offer to raise.
             {false,
              false,
              {true},
              {"Congratulations! You scored 1234! Would you like to try again?"},
              2,
              false},
-            {true,
-             true,
-             {true, true},
-             {"You won a cash and prize total of $1234! Would you like to try again?", raise},
-             3,
-             false}};
-        for (const auto& r : rows) {
+            {true, true, {true, true}, {money, raise}, 3, false}};
+        for (const auto& [isPlaced, isMoney, answers, texts, difficulty, onTitle] : rows) {
             init();
             SharedState& s = Shared();
             s.CurrentGame = "Scramble";
             s.Difficulty = 2;
             s.MaxDifficulty = 3;
-            if (!r.placed) {
+            if (!isPlaced) {
                 ScoreTable full = ScoreTable::Fresh();
                 for (int rank = 1; rank <= 50; ++rank) InsertScore(full, rank, "TOP", "99999");
                 WriteScoreTable(fx->path("scores/Scramble.dat").toStdString(), full);
             }
             WinDriver driver({"ass"});
             SetModalHook(std::ref(driver));
-            for (bool a : r.answers) fx->dialogs.answerYes(a);
+            for (bool a : answers) fx->dialogs.answerYes(a);
             s.Score = 1234.75;  // made whole before the table is searched
             EndTexts end;
-            if (r.money)
+            if (isMoney)
                 end.placed =
                     "You won a cash and prize total of ${score}! Would you like to try again?";
             game->frame.wonGame(end);
@@ -274,18 +264,15 @@ private slots:
                 asked << shown.text;
                 QCOMPARE(shown.title, "Great job!");
             }
-            QCOMPARE(asked, r.texts);
-            QCOMPARE(int(s.Difficulty), r.difficulty);
-            QCOMPARE(s.Score, 1234.0);
-            QCOMPARE(driver.congratulations.size(), r.placed ? 1 : 0);
-            QCOMPARE(game->starts, r.onTitle ? 0 : 1);  // read before the screen may be deleted
+            // The game's starts are read before the screen may be deleted.
+            QCOMPARE(std::tuple(asked, int(s.Difficulty), s.Score, driver.congratulations.size(),
+                                game->starts),
+                     std::tuple(texts, difficulty, 1234.0, isPlaced ? 1 : 0, onTitle ? 0 : 1));
             Pump();
-            QCOMPARE(Showing<Title>() != nullptr, r.onTitle);
-            if (r.placed) {
-                const ScoreTable t = ReadScoreTable(fx->path("scores/Scramble.dat").toStdString());
-                QCOMPARE(QString::fromStdString(t.initials(1)), "WIN");
-                QCOMPARE(t.score(1), 1234.0);
-            }
+            QCOMPARE(Showing<Title>() != nullptr, onTitle);
+            const ScoreTable t = ReadScoreTable(fx->path("scores/Scramble.dat").toStdString());
+            if (isPlaced)
+                QCOMPARE(std::tuple(toQ(t.initials(1)), t.score(1)), std::tuple("WIN", 1234.0));
         }
     }
 
@@ -300,10 +287,9 @@ private slots:
         now = Spoken("dog", ListSide::Meaning);
         QVERIFY(TriggerMenu(game, "mnuSayIt"));
         QCOMPARE(voice.said.size(), 2);
-        QCOMPARE(voice.said[0].text, "perro");
-        QCOMPARE(voice.said[0].locale.language(), QLocale::Spanish);
-        QCOMPARE(voice.said[0].rate, -4);
-        QCOMPARE(voice.said[1].locale.language(), QLocale::English);
+        QCOMPARE(std::tuple(voice.said[0].text, voice.said[0].locale.language(), voice.said[0].rate,
+                            voice.said[1].locale.language()),
+                 std::tuple("perro", QLocale::Spanish, -4, QLocale::English));
 
         // Greyed, saying why, and silent; the engine that comes up late brings the entry back.
         now = Spoken("perro");

@@ -9,6 +9,7 @@
 #include "core/display_file.h"
 #include "core/game_names.h"
 #include "look.h"
+#include "platform/text.h"
 #include "shell/about_form.h"
 #include "shell/black_back.h"
 #include "shell/enter_initials_form.h"
@@ -51,9 +52,9 @@ private slots:
             const QLatin1String game(name.data(), int(name.size()));
             QCOMPARE(fx.read(QString("scores/%1.dat").arg(game)).size(), 510);
         }
-        QCOMPARE(Shared().VisibleGameCount, 42);
-        QCOMPARE(Shared().SoundDefault, kTrue);
-        QVERIFY(fx.dialogs.shown.empty());
+        QCOMPARE(
+            std::tuple(Shared().VisibleGameCount, Shared().SoundDefault, fx.dialogs.shown.size()),
+            std::tuple(42, kTrue, size_t(0)));
         Pump();  // the sound waits for a short timer, on the test clock
         QCOMPARE(fx.sound.played, QStringList{"ufofly.wav"});
 
@@ -68,28 +69,27 @@ private slots:
     void listsAndSoundLineAtStart() {
         // No lists: an empty first line or the store's own "No Lists". Only "Sound On" is on.
         const QStringList animals{"Animals", "cat", "a pet"};
-        const struct {
-            QStringList lists;
-            QString sound;
-            bool noLists;
-        } rows[] = {{animals, "Sound On", false},
-                    {QStringList{""} + animals, "Sound On", true},
-                    {{"No Lists"}, "Sound On", true},
-                    {animals, "Sound Off", false},
-                    {animals, "sound on", false}};
-        for (const auto& r : rows) {
+        const std::tuple<QStringList, QString, bool> rows[] = {
+            {animals, "Sound On", false},
+            {QStringList{""} + animals, "Sound On", true},
+            {{"No Lists"}, "Sound On", true},
+            {animals, "Sound Off", false},
+            {animals, "sound on", false}};
+        for (const auto& [lists, sound, noLists] : rows) {
             ShellFixture fx;
-            fx.writeLines("thelists.new", r.lists);
-            fx.writeLines("wmdata.new", {"r0", "r1", r.sound, "mapleton", "listpath", "folder"});
+            fx.writeLines("thelists.new", lists);
+            fx.writeLines("wmdata.new", {"r0", "r1", sound, "mapleton", "listpath", "folder"});
             Title* title = OpenTitle();
             QVERIFY(title && title->startedOk());
-            QCOMPARE(title->noListsLabel()->isVisible(), r.noLists);
-            QCOMPARE(title->noListsLabel()->text(), "No Lists Available!");
-            QVERIFY(title->buttons().first()->isVisible());  // the buttons stay
-            QCOMPARE(fx.dialogs.texts().join('|'),
-                     r.noLists ? "There are no vocabulary lists available to play with!" : "");
-            const bool on = r.sound == "Sound On";
-            QCOMPARE(Shared().SoundDefault, on ? kTrue : kFalse);
+            const bool on = sound == "Sound On";
+            // The buttons stay.
+            QCOMPARE(
+                std::tuple(title->noListsLabel()->isVisible(), title->noListsLabel()->text(),
+                           title->buttons().first()->isVisible(), fx.dialogs.texts().join('|'),
+                           Shared().SoundDefault),
+                std::tuple(noLists, "No Lists Available!", true,
+                           noLists ? "There are no vocabulary lists available to play with!" : "",
+                           on ? kTrue : kFalse));
             Pump(50);
             QCOMPARE(fx.sound.played, on ? QStringList{"ufofly.wav"} : QStringList{});
         }
@@ -102,35 +102,34 @@ private slots:
         WriteDisplaySettings(fx.path("wmgdisplay.dat").toStdString(), d);
         Title* title = OpenTitle();
         QVERIFY(title);
-        QCOMPARE(Shared().VisibleGameCount, 40);
-        QCOMPARE(QString::fromStdString(Shared().VisibleGames[2]), "Word Zap");
+        QCOMPARE(
+            std::tuple(Shared().VisibleGameCount, toQ(Shared().VisibleGames[2]), title->pageSize()),
+            std::tuple(40, "Word Zap", 15));
         QVERIFY(!fx.exists("scores/Quiz.dat") && !fx.exists("scores/Froggy.dat"));
         QVERIFY(fx.exists("scores/Pachinko.dat"));
-        QCOMPARE(title->pageSize(), 15);
         for (auto* b : title->buttons()) QVERIFY(b->text() != "Quiz" && b->text() != "Froggy");
     }
 
     void pagesAtTheEdge() {
         // Twelve a page: More shows exactly while games remain past the page. None shown: no error.
-        const struct {
-            int shown, pages, onLastPage;
-        } rows[] = {{12, 1, 12}, {13, 2, 1}, {24, 2, 12}, {1, 1, 1}, {0, 1, 0}};
-        for (const auto& r : rows) {
+        // Games shown, pages, and buttons on the last page.
+        const std::tuple<int, int, int> rows[] = {
+            {12, 1, 12}, {13, 2, 1}, {24, 2, 12}, {1, 1, 1}, {0, 1, 0}};
+        for (const auto& [shown, pages, onLastPage] : rows) {
             ShellFixture fx;
             DisplaySettings d = DisplaySettings::LargeIcons();
-            d.hidden.assign(kGameNames.begin() + r.shown, kGameNames.end());
+            d.hidden.assign(kGameNames.begin() + shown, kGameNames.end());
             WriteDisplaySettings(fx.path("wmgdisplay.dat").toStdString(), d);
             Title* title = OpenTitle();
             QVERIFY(title && title->startedOk());
-            QCOMPARE(Shared().VisibleGameCount, r.shown);
+            QCOMPARE(Shared().VisibleGameCount, shown);
             int seen = 1;
-            for (; title->moreButton()->isVisible() && seen <= r.pages; ++seen)
+            for (; title->moreButton()->isVisible() && seen <= pages; ++seen)
                 QTest::mouseClick(title->moreButton(), Qt::LeftButton);
-            QCOMPARE(seen, r.pages);
             int visible = 0;
             for (auto* b : title->buttons()) visible += b->isVisible() ? 1 : 0;
-            QCOMPARE(visible, r.onLastPage);
-            QCOMPARE(title->backButton()->isVisible(), r.pages > 1);
+            QCOMPARE(std::tuple(seen, visible, title->backButton()->isVisible()),
+                     std::tuple(pages, onLastPage, pages > 1));
         }
     }
 
@@ -227,15 +226,13 @@ private slots:
 
     void rankLinesAndTheTablesOfGamesWithout() {
         // Initials start at column 13 and the score at column 27, whatever the rank's width.
-        const struct {
-            int rank;
-            QString initials, score, line;
-        } rows[] = {{1, "ABC", "12345", "#1          ABC           12345"},
-                    {50, "Z", "7", "#50         Z             7"},
-                    {9, "   ", " ", "#9          ---           -------"},
-                    {10, " AB", "  0   ", "#10         AB            0"}};
-        for (const auto& r : rows)
-            QCOMPARE(HighScoreForm::RankLine(r.rank, r.initials, r.score), r.line);
+        const std::tuple<int, QString, QString, QString> rows[] = {
+            {1, "ABC", "12345", "#1          ABC           12345"},
+            {50, "Z", "7", "#50         Z             7"},
+            {9, "   ", " ", "#9          ---           -------"},
+            {10, " AB", "  0   ", "#10         AB            0"}};
+        for (const auto& [rank, initials, score, line] : rows)
+            QCOMPARE(HighScoreForm::RankLine(rank, initials, score), line);
 
         QString fresh;
         for (int r = 1; r <= 50; ++r)
@@ -312,10 +309,8 @@ private slots:
         QVERIFY(at > 0 && at < 0.1);
         movie.stop();
         movie.stop();
-        QVERIFY(!movie.isPlaying());
-        QCOMPARE(loops, 1);
-        QCOMPARE(finished.count(), 3);
-        QCOMPARE(movie.position(), at);
+        QCOMPARE(std::tuple(movie.isPlaying(), loops, finished.count(), movie.position()),
+                 std::tuple(false, 1, 3, at));
 
         // With nothing loaded a waiting screen still goes on, on the next tick of the clock.
         Movie empty;

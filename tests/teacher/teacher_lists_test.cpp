@@ -39,8 +39,8 @@ private slots:
         c.foreign()->setChecked(foreign);
         c.languages()->setCurrentIndex(language);
         c.confirm();
-        QCOMPARE(f.dialogs.texts(), QStringList{message});
-        QCOMPARE(c.result(), int(QDialog::Rejected));
+        QCOMPARE(std::tuple(f.dialogs.texts(), c.result()),
+                 std::tuple(QStringList{message}, int(QDialog::Rejected)));
     }
 
     void createListKinds() {
@@ -55,15 +55,13 @@ private slots:
         QVERIFY(!c.languages()->isHidden());
         f.dialogs.answerYes();
         c.wordsOnly()->setChecked(true);
-        QVERIFY(!c.foreign()->isChecked());
-        QVERIFY(c.languages()->isHidden());
+        QVERIFY(!c.foreign()->isChecked() && c.languages()->isHidden());
         // A leading "[" is refused only by a rename, not here.
         c.name()->setText("[x] odd");
         c.confirm();
-        QCOMPARE(c.result(), int(QDialog::Accepted));
-        QCOMPARE(Shared().NewListName, "[x] odd");
-        QCOMPARE(Shared().WordsOnly, kTrue);
-        QCOMPARE(Shared().ListLanguage, "");
+        QCOMPARE(std::tuple(c.result(), toQ(Shared().NewListName), Shared().WordsOnly,
+                            toQ(Shared().ListLanguage)),
+                 std::tuple(int(QDialog::Accepted), "[x] odd", kTrue, ""));
 
         CreateList foreign;
         foreign.name()->setText("Verbs");
@@ -71,8 +69,7 @@ private slots:
         foreign.languages()->setCurrentIndex(1);
         foreign.confirm();
         QVERIFY(f.dialogs.last().startsWith("Tip: When creating your Foreign Language list"));
-        QVERIFY(!Shared().ListLanguage.empty());
-        QCOMPARE(Shared().WordsOnly, kFalse);
+        QVERIFY(!Shared().ListLanguage.empty() && Shared().WordsOnly == kFalse);
     }
 
     void newListMessages() {
@@ -97,17 +94,16 @@ private slots:
         // Edit takes the pair back into the boxes; delete asks first.
         m->words()->setCurrentRow(0);
         m->editWord();
-        QCOMPARE(m->word()->text(), "owl");
-        QCOMPARE(m->meaning()->text(), "wise bird");
-        QCOMPARE(m->words()->count(), 1);
+        QCOMPARE(std::tuple(m->word()->text(), m->meaning()->text(), m->words()->count()),
+                 std::tuple("owl", "wise bird", 1));
         m->words()->setCurrentRow(0);
         m->deleteWord();  // No
         QVERIFY(f.box().startsWith("Confirm Delete: "));
         QCOMPARE(m->words()->count(), 1);
         f.dialogs.answerYes();
         m->deleteWord();
-        QCOMPARE(m->words()->count(), 0);
-        QCOMPARE(m->totalText(), "Total words in this list: 0");
+        QCOMPARE(std::tuple(m->words()->count(), m->totalText()),
+                 std::tuple(0, "Total words in this list: 0"));
         // Save and Quit adds the pending pair first.
         f.dialogs.answerYes();
         m->saveAndQuit();
@@ -132,8 +128,8 @@ private slots:
         const std::size_t boxes = f.dialogs.shown.size();
         f.dialogs.answerInput(std::nullopt);  // Cancel: nothing changes and nothing is said
         m->renameList();
-        QCOMPARE(m->caption(), "Birds");
-        QCOMPARE(f.dialogs.shown.size(), boxes + 1);  // the question alone
+        QCOMPARE(std::tuple(m->caption(), f.dialogs.shown.size()),
+                 std::tuple("Birds", boxes + 1));  // the question alone
         f.dialogs.answerInput("  Garden Birds ");
         m->renameList();
         QCOMPARE(m->caption(), "Garden Birds");
@@ -199,28 +195,25 @@ private slots:
         QCOMPARE(f.dialogs.last(), "You need to choose a list!");
         d.lists()->setCurrentRow(RowOf(d.lists(), "Animals"));
         d.deleteClicked();
-        QVERIFY(d.asking());
-        QCOMPARE(answers(), (QList<bool>{false, false, true, true}));
+        QCOMPARE(std::tuple(d.asking(), answers()),
+                 std::tuple(true, QList<bool>{false, false, true, true}));
         d.findChild<QPushButton*>("No")->click();
-        QVERIFY(!d.asking());
-        QCOMPARE(answers(), notAsking);
-        QCOMPARE(f.lists(), f.crlf(kTwoLists));
+        QCOMPARE(std::tuple(d.asking(), answers(), f.lists()),
+                 std::tuple(false, notAsking, f.crlf(kTwoLists)));
         d.deleteClicked();
         d.findChild<QPushButton*>("Yes")->click();
         QCOMPARE(f.dialogs.last(), "The list was successfully deleted.");
         // The separator behind the first list stays at the head, as it always has, and the readers
         // take it for a list's name until the next save heals the file.
-        QCOMPARE(f.lists(), f.crlf({"<New List>", "[S]Colours", "red", "rojo"}));
-        QCOMPARE(d.lists()->count(), 1);
-        QCOMPARE(d.lists()->item(0)->text(), "<New List>");
+        QCOMPARE(std::tuple(f.lists(), d.lists()->count(), d.lists()->item(0)->text()),
+                 std::tuple(f.crlf({"<New List>", "[S]Colours", "red", "rojo"}), 1, "<New List>"));
 
         f.writeLines("thelists.dat", {"Animals", "cat", "a pet"});
         DeleteList only;
         only.lists()->setCurrentRow(0);
         only.deleteClicked();
         only.answer(true);
-        QCOMPARE(f.lists(), f.crlf({"No Lists"}));
-        QCOMPARE(only.lists()->count(), 0);
+        QCOMPARE(std::tuple(f.lists(), only.lists()->count()), std::tuple(f.crlf({"No Lists"}), 0));
     }
 
     void deleteCleansCategoriesUnlessLocked() {
@@ -236,8 +229,9 @@ private slots:
         d.lists()->setCurrentRow(RowOf(d.lists(), "Animals"));
         d.deleteClicked();
         d.answer(true);
-        QCOMPARE(f.read("folders.lok"), f.crlf({"^Zoo", "Animals", "^Farm", "Animals"}));
-        QCOMPARE(f.lists(), f.crlf({"<New List>", "Fish", "cod", "c"}));
+        QCOMPARE(std::tuple(f.read("folders.lok"), f.lists()),
+                 std::tuple(f.crlf({"^Zoo", "Animals", "^Farm", "Animals"}),
+                            f.crlf({"<New List>", "Fish", "cod", "c"})));
     }
 
     void mergeWordsOnlyWithNormal() {
@@ -329,8 +323,8 @@ private slots:
         edit->select(0);
         f.dialogs.answerYes();
         edit->deleteWord();
-        QCOMPARE(edit->words()->count(), 0);
-        QCOMPARE(edit->totalText(), "Total Words In This List: 0");
+        QCOMPARE(std::tuple(edit->words()->count(), edit->totalText()),
+                 std::tuple(0, "Total Words In This List: 0"));
         // A click on the definition is Edit Word: nothing is left to choose.
         QTest::mouseRelease(edit->findChild<QWidget*>("DefLabel"), Qt::LeftButton);
         QCOMPARE(f.dialogs.last(), "You need to choose a word to edit from the list below.");

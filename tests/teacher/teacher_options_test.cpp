@@ -42,10 +42,9 @@ private slots:
         TeacherFixture f(kLists);
         f.writeLines("folders.dat", {"^Zoo", "Animals", "", "^Home"});
         Categories c;
-        QVERIFY(f.exists("folders.lok"));
-        QVERIFY(!f.exists("folders.dat"));
-        QCOMPARE(c.lists()->count(), 3);
-        QCOMPARE(c.categories()->count(), 2);
+        QCOMPARE(std::tuple(f.exists("folders.lok"), f.exists("folders.dat"), c.lists()->count(),
+                            c.categories()->count()),
+                 std::tuple(true, false, 3, 2));
         // A tick with no category chosen is refused and undone.
         c.setTicked("Birds", true);
         QCOMPARE(f.dialogs.last(), "You must first highlight a category to add these lists to.");
@@ -102,8 +101,7 @@ private slots:
         m.command("List Categories");  // No: the lock stands
         QVERIFY(f.dialogs.last().startsWith(
             "The categories list is currently being edited by another user."));
-        QVERIFY(f.exists("folders.lok"));
-        QVERIFY(!f.opened.contains("Categories"));
+        QVERIFY(f.exists("folders.lok") && !f.opened.contains("Categories"));
         f.dialogs.answerYes();
         m.command("List Categories");  // Yes, then No to the second question
         QCOMPARE(f.dialogs.last(),
@@ -118,8 +116,7 @@ private slots:
             c.reject();
         });
         m.command("List Categories");
-        QVERIFY(f.exists("folders.dat"));
-        QVERIFY(!f.exists("folders.lok"));
+        QVERIFY(f.exists("folders.dat") && !f.exists("folders.lok"));
     }
 
     void visibilityCountsFromTheNextStart() {
@@ -141,17 +138,17 @@ private slots:
         auto* m = qobject_cast<Manager*>(OpenScreen("Manager", CurrentScreen()));
         m->command("Show/Hide Games");
         const DisplaySettings d = ReadDisplaySettings(f.path("wmgdisplay.dat").toStdString());
-        QCOMPARE(d.scale, DisplaySettings::SmallIcons().scale);
         const auto& names = Shared().GameNames;
-        QCOMPARE(d.hidden, (std::vector<std::string>{names[1], names[3]}));
-        QCOMPARE(Shared().VisibleGameCount, shown);  // not before the next start
+        // The count changes not before the next start.
+        QCOMPARE(std::tuple(d.scale, d.hidden, Shared().VisibleGameCount),
+                 std::tuple(0.5, std::vector<std::string>{names[1], names[3]}, shown));
         m->quit();
         QCOMPARE(Shared().VisibleGameCount, shown - 2);
         // The box reads back what it wrote.
         EnableDisable again;
-        QVERIFY(again.option(2)->isChecked());
-        QCOMPARE(again.games()->item(0)->checkState(), Qt::Unchecked);
-        QCOMPARE(again.games()->item(1)->checkState(), Qt::Checked);
+        QCOMPARE(std::tuple(again.option(2)->isChecked(), again.games()->item(0)->checkState(),
+                            again.games()->item(1)->checkState()),
+                 std::tuple(true, Qt::Unchecked, Qt::Checked));
     }
 
     void soundDefaultCountsFromTheNextStart() {
@@ -162,9 +159,10 @@ private slots:
         QVERIFY(box.on()->isChecked());
         box.off()->setChecked(true);
         box.save();
-        QCOMPARE(f.read("wmdata.dat"), f.crlf({"Wordmere settings", "Version 1.01", "Sound Off",
-                                               "mapleton", "listpath", "folderpath"}));
-        QCOMPARE(Shared().SoundDefault, kTrue);
+        QCOMPARE(std::tuple(f.read("wmdata.dat"), Shared().SoundDefault),
+                 std::tuple(f.crlf({"Wordmere settings", "Version 1.01", "Sound Off", "mapleton",
+                                    "listpath", "folderpath"}),
+                            kTrue));
         OpenScreen("Title", CurrentScreen());
         QCOMPARE(Shared().SoundDefault, kFalse);
         // Any other text leaves both buttons clear.

@@ -11,14 +11,16 @@ using namespace wm::test;
 
 namespace {
 
-void pressTitleEntry(Title* title, const QString& text) {
+// Through the gate from the title's toolbar, typing `password`.
+void enterGate(TeacherFixture& f, Title* title, const QString& password) {
+    f.then<PasswordForm>([password](PasswordForm& p) {
+        p.box()->setText(password);
+        p.confirm();
+    });
     for (QAction* a : title->findChild<QToolBar*>("Toolbar1")->actions()) {
-        if (a->text() == text) {
-            a->trigger();
-            return;
-        }
+        if (a->text() == "Teacher Management") return a->trigger();
     }
-    QFAIL(qPrintable("no toolbar entry " + text));
+    QFAIL("no toolbar entry Teacher Management");
 }
 
 void typePair(MakeNewList* m, const QString& w, const QString& d) {
@@ -35,11 +37,7 @@ private slots:
     void wholeRoadFromTheTitle() {
         TeacherFixture f;
         auto* title = qobject_cast<Title*>(OpenScreen("Title"));
-        f.then<PasswordForm>([](PasswordForm& p) {
-            p.box()->setText("MapleTon");
-            p.confirm();
-        });
-        pressTitleEntry(title, "Teacher Management");
+        enterGate(f, title, "MapleTon");
         // The factory password is still set: the alert comes first.
         QCOMPARE(f.dialogs.shown.front().title, "Password Alert");
         auto* manager = Showing<Manager>();
@@ -64,8 +62,8 @@ private slots:
                  "same as the definition for \"apple\".");
         make->meaning()->setText("a small stone fruit");
         make->meaningEntered();
-        QCOMPARE(make->totalText(), "Total words in this list: 3");
-        QCOMPARE(make->numberText(), "Word Number: 4");
+        QCOMPARE(std::tuple(make->totalText(), make->numberText()),
+                 std::tuple("Total words in this list: 3", "Word Number: 4"));
         f.dialogs.answerYes();
         make->saveAndQuit();
         QCOMPARE(f.dialogs.shown.back().title, "Confirm Save");
@@ -82,8 +80,8 @@ private slots:
         });
         manager->command("View / Edit Vocabulary List");
         auto* edit = Showing<EditList>();
-        QCOMPARE(edit->totalText(), "Total Words In This List: 3");
-        QCOMPARE(edit->definition(), "a red fruit");
+        QCOMPARE(std::tuple(edit->totalText(), edit->definition()),
+                 std::tuple("Total Words In This List: 3", "a red fruit"));
         f.then<WordBox>([](WordBox& a) {
             QCOMPARE(a.objectName(), "AddWord");
             a.word()->setText("date");
@@ -93,13 +91,14 @@ private slots:
         edit->addWord();
         f.dialogs.answerInput("Fruits");
         edit->renameList();
-        QCOMPARE(f.dialogs.last(), "List name changed successfully.");
-        QCOMPARE(edit->caption(), "Fruits");
+        QCOMPARE(std::tuple(f.dialogs.last(), edit->caption()),
+                 std::tuple("List name changed successfully.", "Fruits"));
         edit->select(RowOf(edit->words(), "Banana"));
         f.dialogs.answerYes();
         edit->deleteWord();
-        QCOMPARE(f.dialogs.shown.back().text, "Are you sure you want to delete the word Banana");
-        QCOMPARE(edit->totalText(), "Total Words In This List: 3");
+        QCOMPARE(std::tuple(f.dialogs.shown.back().text, edit->totalText()),
+                 std::tuple("Are you sure you want to delete the word Banana",
+                            "Total Words In This List: 3"));
         // The rename is only written by the save.
         QVERIFY(f.lists().contains("Fruit\r\n"));
         f.dialogs.answerYes();
@@ -115,19 +114,10 @@ private slots:
         TeacherFixture f;
         RewriteSettingsLine(f.dir.path().toStdString(), kPasswordLine, "Secret");
         auto* title = qobject_cast<Title*>(OpenScreen("Title"));
-        f.then<PasswordForm>([](PasswordForm& p) {
-            p.box()->setText("mapleton");
-            p.confirm();
-        });
-        pressTitleEntry(title, "Teacher Management");
-        QCOMPARE(f.dialogs.texts(), QStringList{"Incorrect Password."});
-        QCOMPARE(Showing<Title>(), title);
-        QVERIFY(title->isVisible());
-        f.then<PasswordForm>([](PasswordForm& p) {
-            p.box()->setText("sECRET");
-            p.confirm();
-        });
-        pressTitleEntry(title, "Teacher Management");
+        enterGate(f, title, "mapleton");
+        QCOMPARE(std::tuple(f.dialogs.texts(), Showing<Title>(), title->isVisible()),
+                 std::tuple(QStringList{"Incorrect Password."}, title, true));
+        enterGate(f, title, "sECRET");
         QVERIFY(Showing<Manager>());
         QCOMPARE(f.dialogs.texts().size(), 1);  // no alert for a password of the teacher's own
 
@@ -138,8 +128,8 @@ private slots:
         QCOMPARE(f.box(2), "File Error: The file " + f.path("wmdata.dat") +
                                " could not be read or written. Check that it is there and not "
                                "read-only, then try again.");
-        QCOMPARE(f.dialogs.last(), "Incorrect Password.");
-        QCOMPARE(gate.result(), int(QDialog::Rejected));
+        QCOMPARE(std::tuple(f.dialogs.last(), gate.result()),
+                 std::tuple("Incorrect Password.", int(QDialog::Rejected)));
     }
 
     void changePasswordChecks_data() {
@@ -179,10 +169,9 @@ private slots:
         ChangePassword box;
         for (int i = 0; i < 3; ++i) box.field(i)->setText(typed[i]);
         box.confirm();
-        QCOMPARE(f.dialogs.last(), refusal);
-        QCOMPARE(box.success()->isHidden(), !refusal.isEmpty());
-        QCOMPARE(box.field(0)->isHidden(), refusal.isEmpty());
-        QCOMPARE(box.findChild<QWidget*>("Command1")->isHidden(), refusal.isEmpty());
+        QCOMPARE(std::tuple(f.dialogs.last(), box.success()->isHidden(), box.field(0)->isHidden(),
+                            box.findChild<QWidget*>("Command1")->isHidden()),
+                 std::tuple(refusal, !refusal.isEmpty(), refusal.isEmpty(), refusal.isEmpty()));
         QCOMPARE(f.read("wmdata.dat"), f.crlf({"Wordmere settings", "Version 1.01", "Sound On",
                                                after, "listpath", "folderpath"}));
     }
@@ -222,24 +211,23 @@ private slots:
         m.command("Clear High Scores");
         QVERIFY(f.box(2).startsWith("Are you sure?: "));
         QCOMPARE(f.dialogs.last(), "High Scores Cleared");
-        QVERIFY(!f.exists("scores/Hangman.dat"));
-        QVERIFY(!f.exists("scores/Quiz.dat"));
+        QVERIFY(!f.exists("scores/Hangman.dat") && !f.exists("scores/Quiz.dat"));
 
         QDir(f.dir.path()).mkpath("shared");
         f.writeLines("shared/thelists.dat", {"Planets", "Mars", "the red planet"});
         f.dialogs.answerYes().answerYes();
         f.dialogs.fileAnswers.push_back(f.path("shared/thelists.dat"));
         m.command("Link to Alternate Vocabulary List File");
-        QCOMPARE(f.dialogs.last(), "Link successful.");
         QVERIFY(f.box(2).startsWith("Use this file?: "));
-        QCOMPARE(Shared().ListFilePath, f.path("shared/thelists.dat").toStdString());
+        QCOMPARE(std::tuple(f.dialogs.last(), toQ(Shared().ListFilePath)),
+                 std::tuple("Link successful.", f.path("shared/thelists.dat")));
         QVERIFY(f.read("wmdata.dat")
                     .endsWith("\r\n" + f.path("shared/thelists.dat").toLatin1() +
                               "\r\nfolderpath\r\n"));
         // The editors now read the linked file; the backup still goes to the program's folder.
         EditChooseList choose;
-        QCOMPARE(choose.lists()->count(), 1);
-        QCOMPARE(choose.lists()->item(0)->text(), "Planets");
+        QCOMPARE(std::tuple(choose.lists()->count(), choose.lists()->item(0)->text()),
+                 std::tuple(1, "Planets"));
         f.dialogs.answerYes();
         m.command("Backup Lists");
         QCOMPARE(f.read("thelists.bak"), f.crlf({"Planets", "Mars", "the red planet"}));

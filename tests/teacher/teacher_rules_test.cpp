@@ -11,21 +11,22 @@ using Lines = std::vector<std::string>;
 
 TEST(PairCheck, WordThenDefinitionCaseBlindAndSkippingTheEditedLine) {
     const std::vector<WordPair> pairs = {{"cat", "a pet"}, {"dog", "a loyal pet"}};
-    EXPECT_EQ(CheckPair(pairs, "CAT", "new", false).clash, Clash::Word);
     const PairCheck d = CheckPair(pairs, "owl", "A LOYAL PET", false);
-    EXPECT_EQ(d.clash, Clash::Definition);
+    EXPECT_EQ(std::tuple(CheckPair(pairs, "CAT", "new", false).clash, d.clash),
+              std::tuple(Clash::Word, Clash::Definition));
     EXPECT_NE(d.message.find("the definition for \"dog\"."), std::string::npos);
-    // Words-only lists share the marker as every definition.
-    EXPECT_EQ(CheckPair({{"cat", "-----"}}, "owl", "-----", true).clash, Clash::None);
-    // Editing a line is measured against the others only.
-    EXPECT_EQ(CheckPair(pairs, "Cat", "a pet", false, 0).clash, Clash::None);
-    EXPECT_EQ(CheckPair(pairs, "dog", "a pet", false, 0).clash, Clash::Word);
+    // Words-only lists share the marker as every definition; editing a line is measured against
+    // the others only.
+    EXPECT_EQ(std::tuple(CheckPair({{"cat", "-----"}}, "owl", "-----", true).clash,
+                         CheckPair(pairs, "Cat", "a pet", false, 0).clash,
+                         CheckPair(pairs, "dog", "a pet", false, 0).clash),
+              std::tuple(Clash::None, Clash::None, Clash::Word));
 }
 
 TEST(Rename, RefusalsInOrder) {
     auto taken = [](const std::string& n) { return n == "Animals"; };
-    EXPECT_EQ(RenameRefusal("Fruit", "  ", taken), "You did not change the list name.");
-    EXPECT_EQ(RenameRefusal("Fruit", " Fruit ", taken), "You did not change the list name.");
+    for (const char* same : {"  ", " Fruit "})
+        EXPECT_EQ(RenameRefusal("Fruit", same, taken), "You did not change the list name.");
     EXPECT_EQ(RenameRefusal("Fruit", "^x", taken),
               "You cannot use this character ^ as the first character in a list name.");
     EXPECT_EQ(RenameRefusal("Fruit", "[x", taken),
@@ -37,10 +38,9 @@ TEST(Rename, RefusalsInOrder) {
 
 TEST(NewListSave, FirstListHasNoSeparatorAndHeadIsCleaned) {
     const std::vector<WordPair> pairs = {{"cat", "a pet"}};
-    EXPECT_EQ(SaveNewList({"No Lists"}, NewListRecord("Pets", pairs, true)),
-              (Lines{"Pets", "cat", "a pet"}));
-    EXPECT_EQ(SaveNewList({""}, NewListRecord("Pets", pairs, true)),
-              (Lines{"Pets", "cat", "a pet"}));
+    for (const Lines& empty : {Lines{"No Lists"}, Lines{""}})
+        EXPECT_EQ(SaveNewList(empty, NewListRecord("Pets", pairs, true)),
+                  (Lines{"Pets", "cat", "a pet"}));
     // A file left beginning with a separator by a delete heals here.
     EXPECT_EQ(SaveNewList({"<New List>", "A", "x", "y"}, NewListRecord("Pets", pairs, false)),
               (Lines{"A", "x", "y", "<New List>", "Pets", "cat", "a pet"}));
@@ -50,8 +50,7 @@ TEST(EditedListSave, MovesToTheEndAndKeepsTheGivenOrder) {
     const Lines data = {"Pets", "dog", "d", "cat", "c", "<New List>", "Birds", "owl", "o"};
     std::vector<WordPair> pairs = {{"dog", "d"}, {"Cat", "c"}, {"ant", "a"}};
     SortLikeListBox(pairs);
-    EXPECT_EQ(pairs.front().first, "ant");
-    EXPECT_EQ(pairs[1].first, "Cat");
+    EXPECT_EQ(std::tuple(pairs[0].first, pairs[1].first), std::tuple("ant", "Cat"));
     // Words the same but for capitals keep the order they were added in.
     std::vector<WordPair> twins = {{"cat", "1"}, {"Cat", "2"}, {"CAT", "3"}, {"ant", "a"}};
     SortLikeListBox(twins);
@@ -69,12 +68,11 @@ TEST(ReadRecord, FindsByPlainNameAndDropsACutPair) {
                         "b",          "c",   "<New List>", "Last",       "x"};
     std::string stored;
     auto colours = ReadRecord(data, "Colours", &stored);
-    EXPECT_EQ(stored, "[S]Colours");
-    ASSERT_EQ(colours.size(), 1u);
-    EXPECT_EQ(ReadRecord(data, "Odd", nullptr).size(), 1u);
-    EXPECT_TRUE(ReadRecord(data, "Last", nullptr).empty());
-    EXPECT_TRUE(ReadRecord(data, "Nothing", nullptr).empty());
-    EXPECT_EQ(RecordLines(data, "Odd"), (Lines{"a", "b", "c"}));
-    EXPECT_EQ(RecordLines(data, "Last"), (Lines{"x"}));
-    EXPECT_TRUE(RecordLines(data, "Nothing").empty());
+    EXPECT_EQ(std::tuple(stored, colours.size(), ReadRecord(data, "Odd", nullptr).size(),
+                         ReadRecord(data, "Last", nullptr).size(),
+                         ReadRecord(data, "Nothing", nullptr).size()),
+              std::tuple("[S]Colours", 1u, 1u, 0u, 0u));
+    EXPECT_EQ(std::tuple(RecordLines(data, "Odd"), RecordLines(data, "Last"),
+                         RecordLines(data, "Nothing")),
+              std::tuple(Lines{"a", "b", "c"}, Lines{"x"}, Lines{}));
 }

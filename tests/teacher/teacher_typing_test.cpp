@@ -159,8 +159,8 @@ private slots:
         create.name()->setFocus();
         Type(&create, "Birds");
         Enter(&create);
-        QCOMPARE(create.result(), int(QDialog::Accepted));
-        QCOMPARE(Shared().NewListName, "Birds");
+        QCOMPARE(std::tuple(create.result(), toQ(Shared().NewListName)),
+                 std::tuple(int(QDialog::Accepted), "Birds"));
 
         MakeNewList* m = OpenMaker("Birds");
         QCOMPARE(Focused(m), m->word());
@@ -174,16 +174,16 @@ private slots:
                  (QStringList{"You need to type a word!", "You need to type a definition!"}));
         Type(m, "a wise bird");
         Enter(m);
-        QCOMPARE(m->words()->count(), 1);
-        QCOMPARE(Focused(m), m->word());
-        QVERIFY(m->word()->text().isEmpty() && m->meaning()->text().isEmpty());
+        QCOMPARE(
+            std::tuple(m->words()->count(), Focused(m), m->word()->text() + m->meaning()->text()),
+            std::tuple(1, m->word(), ""));
         // With the definition already there, Enter in the word adds the pair.
         m->meaning()->setText("lays eggs");
         m->word()->setFocus();
         Type(m, "hen");
         Enter(m);
-        QCOMPARE(m->words()->count(), 2);
-        QCOMPARE(m->totalText(), "Total words in this list: 2");
+        QCOMPARE(std::tuple(m->words()->count(), m->totalText()),
+                 std::tuple(2, "Total words in this list: 2"));
     }
 
     void textTheFileCannotHold_data() {
@@ -219,8 +219,8 @@ private slots:
             m->word()->setText(where == "new word" ? typed : "owl");
             m->meaning()->setText(where == "new word" ? "a bird" : typed);
             m->addWord();
-            QCOMPARE(m->words()->count(), 0);
-            QCOMPARE(Focused(m), where == "new word" ? m->word() : m->meaning());
+            QCOMPARE(std::tuple(m->words()->count(), Focused(m)),
+                     std::tuple(0, where == "new word" ? m->word() : m->meaning()));
         } else if (where == "edit box") {
             EditList* edit = OpenEditor("Animals");
             edit->select(0);
@@ -233,8 +233,8 @@ private slots:
                 box.reject();
             });
             edit->editWord();
-            QCOMPARE(edit->words()->count(), 2);
-            QCOMPARE(edit->words()->item(0)->text(), "cat");
+            QCOMPARE(std::tuple(edit->words()->count(), edit->words()->item(0)->text()),
+                     std::tuple(2, "cat"));
         } else if (where == "edit rename") {
             EditList* e = OpenEditor("Animals");
             f.dialogs.answerInput(typed);
@@ -299,8 +299,8 @@ private slots:
         CreateList create;
         create.name()->setText(cafe);
         create.confirm();
-        QCOMPARE(create.result(), int(QDialog::Accepted));
-        QCOMPARE(Shared().NewListName, "caf\xE9");
+        QCOMPARE(std::tuple(create.result(), Shared().NewListName),
+                 std::tuple(int(QDialog::Accepted), "caf\xE9"));
 
         MakeNewList* m = OpenMaker(toQ(Shared().NewListName));
         m->word()->setText(creme);
@@ -325,19 +325,18 @@ private slots:
         });
         box.foreign();
         const QString first = box.word()->text().mid(3);
-        QCOMPARE(first.size(), 1);
-        QCOMPARE(Shared().CurrentGame, "addword");
+        QCOMPARE(std::tuple(first.size(), toQ(Shared().CurrentGame)), std::tuple(1, "addword"));
         f.then<FLForm>([](FLForm& fl) {
             fl.pickCell(1);
             fl.insert(1);
         });
         box.foreign();
-        QCOMPARE(box.meaning()->text().size(), 1);
-        QVERIFY(box.meaning()->text() != first);
+        const QString second = box.meaning()->text();
+        QVERIFY(second.size() == 1 && second != first);
         f.then<FLForm>([](FLForm& fl) { fl.reject(); });
         box.foreign();
-        QCOMPARE(box.word()->text(), "caf" + first);
-        QCOMPARE(box.meaning()->text().size(), 1);
+        QCOMPARE(std::tuple(box.word()->text(), box.meaning()->text()),
+                 std::tuple("caf" + first, second));
     }
 
     // The settings may name a category file of another name. Readers then read its .lok name (kept
@@ -354,9 +353,9 @@ private slots:
             "settings file to match), then try again. The file has not been changed.";
         Manager m;
         m.command("List Categories");
-        QCOMPARE(f.dialogs.texts(), QStringList{refusal});
-        QCOMPARE(f.dialogs.shown.back().title, "Categories");
-        QVERIFY(!f.opened.contains("Categories"));
+        QCOMPARE(std::tuple(f.dialogs.texts(), f.dialogs.shown.back().title,
+                            f.opened.contains("Categories")),
+                 std::tuple(QStringList{refusal}, "Categories", false));
         // Opened all the same, the box holds nothing and its save writes nothing.
         {
             Categories c;
@@ -365,8 +364,7 @@ private slots:
             f.dialogs.answerYes();
             c.save();
         }
-        QCOMPARE(f.read("cats.dat"), before);
-        QVERIFY(!f.exists("cats.lok"));
+        QCOMPARE(std::tuple(f.read("cats.dat"), f.exists("cats.lok")), std::tuple(before, false));
     }
 };
 
