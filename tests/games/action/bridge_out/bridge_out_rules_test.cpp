@@ -223,8 +223,7 @@ TEST(BridgeOutStart, LevelHeldToTheSliderListsThatCannotBeUsedRefused) {
     EXPECT_FALSE(Game().start(empty, rng));
     // Blanks, hyphens and apostrophes stay planks: the gaps fall on letters only.
     SharedState marks = ListOf({"a-b c'd"}, 2);
-    ScriptedRng last;
-    last.pick(1, 1).pick(4, 4).pick(3, 3);
+    auto last = ScriptedRng().pick(1, 1).pick(4, 4).pick(3, 3);
     ASSERT_TRUE(g.start(marks, last));
     for (int i = 0; i < 7; ++i) EXPECT_EQ(g.isGap(i), i == 4 || i == 6) << i;
 }

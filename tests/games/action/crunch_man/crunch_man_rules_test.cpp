@@ -153,17 +153,17 @@ TEST(CrunchManSetup, PlacesLettersOffTheMiddleRowAndMinesOffLetters) {
     s.Meanings = {"", "long"};  // none for "an ox": no meaning, no fault
     s.WordCount = 3;            // one more than the list holds: that draw is made again
     s.Difficulty = 2;
-    ScriptedRng rng;
-    rng.pick(3, 3).pick(1, 3).pick(2, 3);  // past the list, the long word, then "an ox"
-    rng.then(0.0).then(5.5 / 11);          // A in the middle row: drawn again
-    rng.then(0.0).then(0.0);               // A at (0, 0)
-    rng.then(0.0).then(0.0);               // N on A's cell: drawn again
-    rng.then(1.0 / 20).then(0.0);          // N at (1, 0)
-    rng.then(2.0 / 20).then(0.0);          // O at (2, 0)
-    rng.then(3.0 / 20).then(1.0 / 11);     // X at (3, 1)
-    rng.then(2.0 / 20).then(0.0);          // a mine on O: drawn again
-    rng.then(4.0 / 20).then(2.0 / 11);     // mine 1 at (4, 2)
-    rng.then(5.0 / 20).then(10.0 / 11);    // mine 2 at (5, 10)
+    // Past the list, the long word, then "an ox".
+    auto rng = ScriptedRng().pick(3, 3).pick(1, 3).pick(2, 3);
+    rng.then(0.0).then(5.5 / 11);        // A in the middle row: drawn again
+    rng.then(0.0).then(0.0);             // A at (0, 0)
+    rng.then(0.0).then(0.0);             // N on A's cell: drawn again
+    rng.then(1.0 / 20).then(0.0);        // N at (1, 0)
+    rng.then(2.0 / 20).then(0.0);        // O at (2, 0)
+    rng.then(3.0 / 20).then(1.0 / 11);   // X at (3, 1)
+    rng.then(2.0 / 20).then(0.0);        // a mine on O: drawn again
+    rng.then(4.0 / 20).then(2.0 / 11);   // mine 1 at (4, 2)
+    rng.then(5.0 / 20).then(10.0 / 11);  // mine 2 at (5, 10)
     Round r;
     ASSERT_TRUE(setupRound(s, r, Field{}, rng).ready);
     EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning, r.mineCount, rng.pending()),

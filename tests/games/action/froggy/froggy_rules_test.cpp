@@ -198,9 +198,8 @@ TEST(FroggyScore, BonusRunsDownAndIsReadAtTheWin) {
 TEST(FroggySetup, FourDifferentWordsOrARefusal) {
     SharedState s = test::PairsList(
         {{"ant", "m1"}, {"bee", "m2"}, {"cat", "m3"}, {"dog", "m4"}, {"ant", "m5"}}, 2);
-    ScriptedRng rng;
-    rng.pick(3, 5).pick(2, 4);             // the word "cat" in slot 2
-    rng.pick(3, 5).pick(1, 5).pick(5, 5);  // cat again, ant, ant again (placed)
+    auto rng = ScriptedRng().pick(3, 5).pick(2, 4);  // the word "cat" in slot 2
+    rng.pick(3, 5).pick(1, 5).pick(5, 5);            // cat again, ant, ant again (placed)
     rng.pick(2, 5).pick(4, 5);
     Board b;
     ASSERT_TRUE(setup(s, b, 1280, 800, rng).ready);

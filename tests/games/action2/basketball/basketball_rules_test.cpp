@@ -25,8 +25,7 @@ TEST(BasketballRules, PaceFollowsTheLevel) {
 TEST(BasketballRules, WordsOfThirtyOneCharactersAreNeverDrawn) {
     SharedState s = List(5);
     s.Score = 50;
-    ScriptedRng rng;
-    rng.pick(2, 4).pick(2, 4).pick(3, 4);
+    auto rng = ScriptedRng().pick(2, 4).pick(2, 4).pick(3, 4);
     Game g;
     ASSERT_TRUE(g.setup(s, rng));
     EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning, s.Score, g.shotsLeft()),
@@ -44,8 +43,7 @@ TEST(BasketballRules, WordsOfThirtyOneCharactersAreNeverDrawn) {
 
 TEST(BasketballRules, AboutOneWordInFourIsTheRightOne) {
     SharedState s = List(5);
-    ScriptedRng rng;
-    rng.pick(1, 4);  // TheWord: dribble
+    auto rng = ScriptedRng().pick(1, 4);  // TheWord: dribble
     Game g;
     ASSERT_TRUE(g.setup(s, rng));
     rng.pick(3, 4).pick(2, 4);  // hoop, and the draw of four that is not 3
@@ -58,8 +56,7 @@ TEST(BasketballRules, AboutOneWordInFourIsTheRightOne) {
 
 TEST(BasketballRules, LettersRevealOneByOneOverRandomCapitals) {
     SharedState s = List(5);
-    ScriptedRng rng;
-    rng.pick(3, 4);
+    auto rng = ScriptedRng().pick(3, 4);
     Game g;
     ASSERT_TRUE(g.setup(s, rng));
     rng.pick(3, 4).pick(1, 4);
@@ -101,8 +98,7 @@ TEST(BasketballRules, PointsDependOnHowManyWordsWereShown) {
     for (const Row r : {Row{1, 0.5, 1500}, Row{1, 0.9999, 2997}, Row{2, 0.5, 750}, Row{3, 0.5, 12},
                         Row{6, 0.9, 12}}) {
         SharedState s = List(3);
-        ScriptedRng rng;
-        rng.pick(3, 4);
+        auto rng = ScriptedRng().pick(3, 4);
         Game g;
         ASSERT_TRUE(g.setup(s, rng));
         for (int i = 0; i < r.shown; ++i) {
@@ -119,8 +115,7 @@ TEST(BasketballRules, PointsDependOnHowManyWordsWereShown) {
 
 TEST(BasketballRules, AHalfShownCaptionOrAnotherWordIsAMiss) {
     SharedState s = List(3);
-    ScriptedRng rng;
-    rng.pick(3, 4);
+    auto rng = ScriptedRng().pick(3, 4);
     Game g;
     ASSERT_TRUE(g.setup(s, rng));
     for (const char* caption : {"hQoP", "HOOP", "court", "Drag ball over net to begin...", ""}) {

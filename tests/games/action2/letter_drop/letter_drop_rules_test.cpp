@@ -26,8 +26,7 @@ int Target(const Game& g) {
 
 TEST(LetterDropRules, WordChoiceUpperCasesAndSetsTheTiles) {
     SharedState s = ListOf({"abcdefghijklmnop", "rock'n roll"}, 90);
-    ScriptedRng rng(0.5);
-    rng.pick(1, 2).pick(2, 2).pick(1, 11);  // a long word is passed over
+    auto rng = ScriptedRng(0.5).pick(1, 2).pick(2, 2).pick(1, 11);  // a long word is passed over
     Game g;
     ASSERT_EQ(g.setup(s, rng), Setup::Ready);
     EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning, s.GameSpeed, s.Score, rng.randomizeCount),
@@ -56,8 +55,7 @@ TEST(LetterDropRules, FourteenLettersFillEveryTileAndFifteenAreRefused) {
 TEST(LetterDropRules, AWordWithNothingToDropIsPassedOverForAnother) {
     // Hyphens, apostrophes and blanks stand on their tiles: such a word is no game.
     SharedState s = ListOf({"- -", "a-b"}, 90);
-    ScriptedRng rng(0.2);
-    rng.pick(1, 2).pick(2, 2);
+    auto rng = ScriptedRng(0.2).pick(1, 2).pick(2, 2);
     Game g;
     ASSERT_EQ(g.setup(s, rng), Setup::Ready);
     EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning, g.lettersLeft(), g.tileShows(1)),
@@ -73,8 +71,7 @@ TEST(LetterDropRules, AWordWithNothingToDropIsPassedOverForAnother) {
 
     // Long words and letterless ones: the letterless are what the pupil could have had.
     SharedState mixed = ListOf({"ABCDEFGHIJKLMNOP", "--"}, 90);
-    ScriptedRng r3(0.0);
-    r3.pick(1, 2).pick(2, 2).pick(1, 2).pick(1, 2);
+    auto r3 = ScriptedRng(0.0).pick(1, 2).pick(2, 2).pick(1, 2).pick(1, 2);
     EXPECT_EQ(g.setup(mixed, r3), Setup::NoLetters);
 }
 
@@ -173,8 +170,7 @@ TEST(LetterDropRules, FourMissesTurnTheHintOnAndOneRightLandingTurnsItOff) {
 
 TEST(LetterDropRules, TheStarStartsOneTimeInFiftyAndLeavesPastTheRightEdge) {
     Star star;
-    ScriptedRng rng;
-    rng.then(10.0 / 500);  // Int(Rnd x 500 + 1) = 11: no star
+    auto rng = ScriptedRng().then(10.0 / 500);  // Int(Rnd x 500 + 1) = 11: no star
     star.tick(rng);
     EXPECT_FALSE(star.flying());
     rng.then(8.5 / 500).pick(1, 2).then(0.9);  // 9: a star from the left, low in the sky

@@ -48,8 +48,7 @@ TEST(MiniGolfRules, LevelTable) {
 TEST(MiniGolfRules, SetupLaysOutTheCourseAndTheWord) {
     SharedState s = List(8);
     s.Score = 77;
-    ScriptedRng rng;
-    rng.pick(2, 5).pick(4, 5);  // the word, the right hole
+    auto rng = ScriptedRng().pick(2, 5).pick(4, 5);  // the word, the right hole
     rng.pick(2, 5).pick(1, 5).pick(1, 5).pick(3, 5).pick(5, 5).pick(4, 5);  // repeats drawn again
     rng.pick(1, 3);                                                         // block pattern 1
     Course c;
@@ -198,8 +197,8 @@ TEST(MiniGolfRules, ScoresByStrokesAndAWrongHoleCostsAThousand) {
         EXPECT_EQ(std::tuple(st.right, s.Score), std::tuple(true, r.base * 3 + 200.0)) << r.strokes;
     }
     SharedState s = List(2);
-    ScriptedRng rng(0.0);
-    rng.pick(1, 5).pick(1, 3).pick(2, 5).pick(3, 5);  // apple in hole 1, pear and plum beside
+    // Apple in hole 1, pear and plum beside.
+    auto rng = ScriptedRng(0.0).pick(1, 5).pick(1, 3).pick(2, 5).pick(3, 5);
     Course c;
     c.setup(s, rng);
     ASSERT_EQ(c.caption(2), "pear");
