@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "games/action/asteroid_zap/asteroid_zap_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::asteroid;
@@ -48,12 +49,9 @@ TEST(AsteroidRow, FillerKeepsTheWordInOrder) {
 }
 
 TEST(AsteroidRow, WordsOf15OrMoreAreNeverChosen) {
-    SharedState s;
-    s.Words = {"", std::string(15, 'a'), std::string(14, 'b')};
-    s.Meanings = {"", "", "fourteen"};
-    s.WordCount = 2;
-    ScriptedRng rng;
-    rng.pick(1, 2).pick(1, 2).pick(2, 2);
+    SharedState s =
+        test::PairsList({{std::string(15, 'a'), ""}, {std::string(14, 'b'), "fourteen"}});
+    auto rng = ScriptedRng().pick(1, 2).pick(1, 2).pick(2, 2);
     EXPECT_EQ(chooseWord(s, rng), 2);
     EXPECT_EQ(s.TheMeaning, "fourteen");
     s.WordCount = 1;
@@ -65,34 +63,24 @@ TEST(AsteroidRow, WordsOf15OrMoreAreNeverChosen) {
 }
 
 TEST(AsteroidHits, OnlyTheSubsequenceRuleDecides) {
-    struct Case {
-        const char* word;
-        const char* row;
-        std::vector<int> shots;
-        const char* results;
-        bool allCleared;
-    };
-    const Case cases[] = {
-        // Filler away one by one until only the word stands.
+    // Filler away one by one until only the word stands; a doubled letter may go once when
+    // another copy can take its place.
+    const std::tuple<const char*, const char*, std::vector<int>, std::string, bool> cases[] = {
         {"CAT", "QCZATXXXXXXXXXXXXXXX", {0, 2}, "yy", false},
         {"CAT",
          "QCATXXXXXXXXXXXXXXXX",
          {0, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19},
-         "yyyyyyyyyyyyyyyyy",
+         std::string(17, 'y'),
          true},
         {"CAT", "CATXXXXXXXXXXXXXXXXX", {1}, "n", false},
-        // A doubled letter may go once when another copy can take its place.
         {"BOOK", "BOOOKXXXXXXXXXXXXXXX", {1}, "y", false},
         {"BOOK", "BOOOKXXXXXXXXXXXXXXX", {1, 2}, "yn", false},
-        {"ICE AGE", "ICE AGEXXXXXXXXXXXXX", {3}, "n", false},
-    };
-    for (const Case& c : cases) {
-        Round r = Wall(c.word, c.row);
-        const std::string results = Shoot(r, c.shots);
-        EXPECT_EQ(std::tuple(results, r.allCleared),
-                  std::tuple(std::string(c.results), c.allCleared))
-            << c.word << " " << c.row;
-        if (std::string(c.results).back() == 'n') {
+        {"ICE AGE", "ICE AGEXXXXXXXXXXXXX", {3}, "n", false}};
+    for (const auto& [word, row, shots, results, allCleared] : cases) {
+        Round r = Wall(word, row);
+        EXPECT_EQ(std::tuple(Shoot(r, shots), r.allCleared), std::tuple(results, allCleared))
+            << word << " " << row;
+        if (results.back() == 'n') {
             EXPECT_TRUE(r.wrongShot);
             ScriptedRng rng(0.5);
             EXPECT_EQ(tick(r, 1, rng).ending, Ending::WrongLetter) << "the next tick ends it";
@@ -107,14 +95,11 @@ TEST(AsteroidHits, OnlyTheSubsequenceRuleDecides) {
 
 TEST(AsteroidShots, ColumnsFlightAndTheThreeShotLimit) {
     const Geometry g;
-    for (auto [x, column] : {std::pair{0, 0},
-                             {g.boxLeft(1) - 1, 0},
-                             {g.boxLeft(1), 1},
-                             {g.boxLeft(19) - 1, 18},
-                             {g.boxLeft(19), 19},
-                             {g.boxLeft(19) + 1, 19},
-                             {g.width, 19}})
-        EXPECT_EQ(columnAt(g, x), column) << x;
+    std::vector<int> columns;
+    for (int x : {0, g.boxLeft(1) - 1, g.boxLeft(1), g.boxLeft(19) - 1, g.boxLeft(19),
+                  g.boxLeft(19) + 1, g.width})
+        columns.push_back(columnAt(g, x));
+    EXPECT_EQ(columns, (std::vector<int>{0, 0, 1, 18, 19, 19, 19}));
 
     Round r = Wall("CAT", "QCATXXXXXXXXXXXXXXXX");
     ScriptedRng rng(0.5);
@@ -128,10 +113,7 @@ TEST(AsteroidShots, ColumnsFlightAndTheThreeShotLimit) {
     // Shots climb 10 pixels a tick from the ship's top to the letter's bottom.
     TickEvents e;
     int ticks = 0;
-    while (e.hit < 0 && ticks < 200) {
-        e = tick(r, 1, rng);
-        ++ticks;
-    }
+    for (; e.hit < 0 && ticks < 200; ++ticks) e = tick(r, 1, rng);
     EXPECT_EQ(std::tuple(e.hit, e.booms.size()), std::tuple(column, 1u));
     EXPECT_GT(ticks, 20);
 }

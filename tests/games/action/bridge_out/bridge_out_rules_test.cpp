@@ -3,15 +3,14 @@
 // spare, the truck stopped at the gap, eight words won and three trucks lost.
 #include <gtest/gtest.h>
 
-#include "core/rng.h"
-#include "core/shared_state.h"
+#include "act_rules_kit.h"
 #include "core/strings.h"
 #include "games/action/bridge_out/bridge_out_rules.h"
-#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::bridge_out;
 using wm::test::ListOf;
+using Begun = test::Begun<Game>;
 
 namespace {
 
@@ -43,23 +42,17 @@ TEST(BridgeOutNumbers, PaceRoadGapsAndLetters) {
         EXPECT_DOUBLE_EQ(roadLength(gaps), road) << gaps;
     for (auto [letters, gaps] : {std::pair{0, 1}, {1, 1}, {3, 1}, {4, 2}, {5, 2}, {14, 7}})
         EXPECT_EQ(gapCount(letters), gaps) << letters;
-    for (auto [word, fits] : {std::pair{"a", true},
-                              {"ice cream", true},
-                              {"abcdefghijklmnop", true},
-                              {"abcdefghijklmnopq", false},
-                              {"", false},
-                              {"- -", false}})
-        EXPECT_EQ(fitsBridge(word), fits) << word;
+    const std::pair<const char*, bool> fits[] = {
+        {"a", true}, {"ice cream", true}, {"abcdefghijklmnop", true}, {"abcdefghijklmnopq", false},
+        {"", false}, {"- -", false}};
+    for (auto [word, fit] : fits) EXPECT_EQ(fitsBridge(word), fit) << word;
 }
 
 TEST(BridgeOutStart, ReseedsDrawsTheWordItsGapsThenFillsTheRiver) {
-    SharedState s = ListOf({"cat", "frog", "owl"}, 6);
-    ScriptedRng rng(0.9);
     // frog; gaps: the third of f,r,o,g (o), then the first of f,r,g (f); the first plank:
     // share 0.9 would be a decoy, but no missing letter is afloat yet: of F,O,F,O the second.
-    rng.pick(2, 3).pick(3, 4).pick(1, 3).then(0.9).then(0.3);
-    Game g;
-    ASSERT_TRUE(g.start(s, rng));
+    auto [s, rng, g] = Begun(ListOf({"cat", "frog", "owl"}, 6),
+                             ScriptedRng(0.9).pick(2, 3).pick(3, 4).pick(1, 3).then(0.9).then(0.3));
     EXPECT_EQ(std::tuple(rng.randomizeCount, rng.pending(), s.TheWord, s.TheMeaning),
               std::tuple(1, 0u, "frog", "meaning of frog"));
     for (int i = -1; i <= 4; ++i) EXPECT_EQ(g.isGap(i), i == 0 || i == 2) << i;
@@ -76,11 +69,10 @@ TEST(BridgeOutStart, ReseedsDrawsTheWordItsGapsThenFillsTheRiver) {
 
 TEST(BridgeOutRiver, RightLettersAtMostTwiceAfloatAndDecoysNoGapWants) {
     SharedState s = ListOf({"zb"}, 2);  // one gap: z or b
-    ScriptedRng rng;
     // Gap "z"; first plank Z (forced); then a share under a half each time: a second Z, then
-    // no third: a decoy from 0.0, A.
+    // no third: a decoy from 0.0, A. Later decoys from Z, which the gap wants: round to A.
+    ScriptedRng rng(0.99);
     rng.pick(1, 1).pick(1, 2).then(0.9).then(0.0).then(0.1).then(0.0).then(0.1).then(0.0);
-    rng.setFallback(0.99);  // decoys from Z, which the gap wants: round to A
     Game g;
     ASSERT_TRUE(g.start(s, rng));
     ASSERT_GE(g.river().size(), 3u);
@@ -103,13 +95,10 @@ TEST(BridgeOutRiver, RightLettersAtMostTwiceAfloatAndDecoysNoGapWants) {
 }
 
 TEST(BridgeOutDrops, WrongSplashesBackMissedIsFreeRightLocksAndTheRoadToSpareIsTheBonus) {
-    SharedState s = ListOf({"frog", "owl"}, 6);
-    ScriptedRng rng;
     // frog with gaps o and f; F and O afloat first, then decoys.
-    rng.pick(1, 2).pick(3, 4).pick(1, 3).then(0.0).then(0.0).then(0.0).then(0.99);
-    rng.setFallback(0.9);
-    Game g;
-    ASSERT_TRUE(g.start(s, rng));
+    auto [s, rng, g] =
+        Begun(ListOf({"frog", "owl"}, 6),
+              ScriptedRng(0.9).pick(1, 2).pick(3, 4).pick(1, 3).then(0).then(0).then(0).then(0.99));
     const int f = PlankOf(g, "F"), o = PlankOf(g, "O"), x = PlankOf(g, "X");
     ASSERT_TRUE(f && o && x && g.take(o));  // in the pupil's hand while the truck comes
     // A wrong plank: -5 x level, and back into the river where it was let go, held to it.
@@ -148,10 +137,7 @@ TEST(BridgeOutDrops, WrongSplashesBackMissedIsFreeRightLocksAndTheRoadToSpareIsT
 }
 
 TEST(BridgeOutEndings, ATruckStoppedAtTheGapThreeTimesIsTheLoss) {
-    SharedState s = ListOf({"cat", "dog", "owl"}, 10);
-    ScriptedRng rng(0.5);
-    Game g;
-    ASSERT_TRUE(g.start(s, rng));
+    auto [s, rng, g] = Begun(ListOf({"cat", "dog", "owl"}, 10), 0.5);
     std::vector<std::string> words;
     for (int truck = 1; truck <= 3; ++truck) {
         words.push_back(g.word());
@@ -182,11 +168,9 @@ TEST(BridgeOutEndings, ATruckStoppedAtTheGapThreeTimesIsTheLoss) {
 }
 
 TEST(BridgeOutEndings, EightBridgesWinWithoutRepeatsWhileTheListLasts) {
-    SharedState s =
-        ListOf({"cat", "dog", "owl", "abcdefghijklmnopq", "- -", "bee", "ant", "elk", "yak"}, 2);
-    ScriptedRng rng(0.5);
-    Game g;
-    ASSERT_TRUE(g.start(s, rng));
+    auto [s, rng, g] = Begun(
+        ListOf({"cat", "dog", "owl", "abcdefghijklmnopq", "- -", "bee", "ant", "elk", "yak"}, 2),
+        0.5);
     std::vector<std::string> played;
     for (int word = 1; word <= 8; ++word) {
         played.push_back(g.word());
@@ -239,8 +223,7 @@ TEST(BridgeOutStart, LevelHeldToTheSliderListsThatCannotBeUsedRefused) {
     EXPECT_FALSE(Game().start(empty, rng));
     // Blanks, hyphens and apostrophes stay planks: the gaps fall on letters only.
     SharedState marks = ListOf({"a-b c'd"}, 2);
-    ScriptedRng last;
-    last.pick(1, 1).pick(4, 4).pick(3, 3);
+    auto last = ScriptedRng().pick(1, 1).pick(4, 4).pick(3, 3);
     ASSERT_TRUE(g.start(marks, last));
     for (int i = 0; i < 7; ++i) EXPECT_EQ(g.isGap(i), i == 4 || i == 6) << i;
 }

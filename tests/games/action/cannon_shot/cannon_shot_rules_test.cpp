@@ -2,15 +2,16 @@
 // the barrel and the bar, the ball's arc, letters popped in order and out of it, and the ends.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 
+#include "act_rules_kit.h"
 #include "cannon_aim.h"
-#include "core/shared_state.h"
-#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::cannon_shot;
 using wm::test::ListOf;
+using Begun = test::Begun<Game>;
 
 namespace {
 
@@ -30,13 +31,6 @@ std::vector<Event> Shoot(Game& g, int i, Rng& rng) {
     return test::PlayShot(g, plan, rng);
 }
 
-Game Started(SharedState& s, Rng& rng) {
-    Game g;
-    EXPECT_TRUE(g.start(s, rng));
-    g.go();
-    return g;
-}
-
 }  // namespace
 
 TEST(CannonShotNumbers, SpeedWindBarBallsAndLetters) {
@@ -53,12 +47,11 @@ TEST(CannonShotNumbers, SpeedWindBarBallsAndLetters) {
 }
 
 TEST(CannonShotStart, DrawsWordWindDecoysOrderAndHeightsInThatOrder) {
-    SharedState s = ListOf({"pneumonoultramicroscopic", "ox", "ice-cream"}, 9);
-    ScriptedRng rng(0.5);
     // The long word is drawn and left out; then the wind, four decoys, the shuffle, heights.
-    rng.pick(1, 3).pick(2, 3).then(1.0).then(0.0).then(0.0).then(0.999).then(0.05);
-    Game g;
-    ASSERT_TRUE(g.start(s, rng));
+    auto [s, rng, g] =
+        Begun(ListOf({"pneumonoultramicroscopic", "ox", "ice-cream"}, 9),
+              ScriptedRng(0.5).pick(1, 3).pick(2, 3).then(1).then(0).then(0).then(0.999).then(0.05),
+              false);
     EXPECT_EQ(std::tuple(rng.randomizeCount, s.TheWord, s.TheMeaning),
               std::tuple(1, "ox", "meaning of ox"));
     EXPECT_DOUBLE_EQ(g.wind(), 0.014);
@@ -102,9 +95,7 @@ TEST(CannonShotStart, LevelHeldAndListsThatCannotPlayRefused) {
 }
 
 TEST(CannonShotWords, NoRepeatsInAGameAndTheDrawIsBounded) {
-    SharedState s = ListOf({"a", "b", "c"}, 2);
-    ScriptedRng rng(0.0);  // always entry 1
-    Game g = Started(s, rng);
+    auto [s, rng, g] = Begun(ListOf({"a", "b", "c"}, 2), 0.0);  // always entry 1
     std::vector<std::string> played{s.TheWord};
     for (int w = 2; w <= 5; ++w) {
         const int before = rng.draws;
@@ -122,10 +113,7 @@ TEST(CannonShotWords, NoRepeatsInAGameAndTheDrawIsBounded) {
 
     // Two words that fit: once both have come, the one just played waits a turn.
     for (int last : {1, 2}) {  // whichever entry it was
-        SharedState two = ListOf({"a", "b"}, 2);
-        ScriptedRng r2(0.0);
-        r2.pick(3 - last, 2);
-        Game t = Started(two, r2);
+        auto [two, r2, t] = Begun(ListOf({"a", "b"}, 2), ScriptedRng().pick(3 - last, 2));
         r2.pick(last, 2);
         ASSERT_TRUE(t.nextWord(two, r2));
         r2.pick(last, 2);
@@ -135,10 +123,7 @@ TEST(CannonShotWords, NoRepeatsInAGameAndTheDrawIsBounded) {
 }
 
 TEST(CannonShotAim, BarrelAndBarFollowTheKeysAndTheArcIsTrue) {
-    SharedState s = ListOf({"q"}, 2);
-    ScriptedRng rng(0.0);  // balloons high, out of the way
-    Game g;
-    ASSERT_TRUE(g.start(s, rng));
+    auto [s, rng, g] = Begun(ListOf({"q"}, 2), 0.0, false);  // balloons high, out of the way
     // Nothing turns or charges before the pause is over.
     g.tick({1, true}, rng);
     EXPECT_EQ(std::tuple(g.angle(), g.charging()), std::tuple(45, false));
@@ -176,9 +161,7 @@ TEST(CannonShotAim, BarrelAndBarFollowTheKeysAndTheArcIsTrue) {
     ASSERT_EQ(ev.at(0).kind, Event::Landed);
     EXPECT_NEAR(ev[0].x, x0 + v * t, 25);
     // The wind pushes by wind x t^2 / 2.
-    SharedState windy = ListOf({"q"}, 20);
-    ScriptedRng r2(1.0);
-    Game w = Started(windy, r2);
+    auto [windy, r2, w] = Begun(ListOf({"q"}, 20), 1.0);
     EXPECT_DOUBLE_EQ(w.wind(), 0.058);
     w.fire(80, 0.2);
     const double wx0 = w.ball().x;
@@ -187,9 +170,7 @@ TEST(CannonShotAim, BarrelAndBarFollowTheKeysAndTheArcIsTrue) {
 }
 
 TEST(CannonShotPops, InOrderFillsTheBlanksWrongCostsAndComesRoundAgain) {
-    SharedState s = ListOf({"all", "ox", "ax", "by", "we"}, 4);
-    ScriptedRng rng(0.0);
-    Game g = Started(s, rng);
+    auto [s, rng, g] = Begun(ListOf({"all", "ox", "ax", "by", "we"}, 4), 0.0);
     ASSERT_EQ(s.TheWord, "all");
     // An L before the A: wrong, -5 x level (never below nothing), out until it comes round.
     const int l = Find(g, 'L');
@@ -220,9 +201,7 @@ TEST(CannonShotPops, InOrderFillsTheBlanksWrongCostsAndComesRoundAgain) {
 
 TEST(CannonShotEnd, OutOfBallsLosesWhenTheLastLands) {
     // Seven balls for a two-letter word; the last one lands: lost, not before.
-    SharedState one = ListOf({"ox"}, 2);
-    ScriptedRng rng(0.0);
-    Game l = Started(one, rng);
+    auto [one, rng, l] = Begun(ListOf({"ox"}, 2), 0.0);
     std::vector<Event> ev;
     for (int b = 0; b < 7; ++b) {
         EXPECT_EQ(l.phase(), Phase::Aiming) << b;
@@ -239,24 +218,20 @@ TEST(CannonShotEnd, OutOfBallsLosesWhenTheLastLands) {
 }
 TEST(CannonShotAim, APathMeetsABalloonWhereItComesNearest) {
     // (segment a..b, point c) -> distance, and how far along the nearest point lies
-    struct Row {
-        double ax, ay, bx, by, cx, cy, distance, along;
-    } rows[] = {{0, 0, 10, 0, 4, 3, 3, 0.4},  {0, 0, 10, 0, -3, 4, 5, 0},
-                {0, 0, 10, 0, 16, -8, 10, 1}, {0, 0, 0, 10, 2, 7, 2, 0.7},
-                {2, 2, 2, 2, 5, 6, 5, 0},     {0, 0, 8, 6, 5, 5, 1, 0.7},
-                {2, 1, 12, 1, 6, 4, 3, 0.4},  {1, 2, 1, 12, 4, 6, 3, 0.4}};
-    for (const Row& r : rows) {
-        double along = -1;
-        EXPECT_NEAR(segmentDistance(r.ax, r.ay, r.bx, r.by, r.cx, r.cy, &along), r.distance, 1e-9)
-            << r.cx << "," << r.cy;
-        EXPECT_NEAR(along, r.along, 1e-9) << r.cx << "," << r.cy;
+    const std::array<double, 8> rows[] = {
+        {0, 0, 10, 0, 4, 3, 3, 0.4}, {0, 0, 10, 0, -3, 4, 5, 0}, {0, 0, 10, 0, 16, -8, 10, 1},
+        {0, 0, 0, 10, 2, 7, 2, 0.7}, {2, 2, 2, 2, 5, 6, 5, 0},   {0, 0, 8, 6, 5, 5, 1, 0.7},
+        {2, 1, 12, 1, 6, 4, 3, 0.4}, {1, 2, 1, 12, 4, 6, 3, 0.4}};
+    for (auto [ax, ay, bx, by, cx, cy, distance, along] : rows) {
+        double at = -1;
+        EXPECT_NEAR(segmentDistance(ax, ay, bx, by, cx, cy, &at), distance, 1e-9)
+            << cx << "," << cy;
+        EXPECT_NEAR(at, along, 1e-9) << cx << "," << cy;
     }
 }
 
 TEST(CannonShotEnd, ABallOffTheSideEndsItsFlightAndTheFifthWordWins) {
-    SharedState s = ListOf({"a", "b", "c", "d", "e"}, 1);
-    ScriptedRng rng(0.0);
-    Game g = Started(s, rng);
+    auto [s, rng, g] = Begun(ListOf({"a", "b", "c", "d", "e"}, 1), 0.0);
     // 45 degrees at full power clears the sky to the right, well above the ground.
     const auto off = test::PlayShot(g, {0, 0, kChargeTicks}, rng);
     ASSERT_EQ(off.size(), 1u);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "games/action/crunch_man/crunch_man_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::crunch;
@@ -98,36 +99,25 @@ TEST(CrunchManTick, TurnsAtOnceAndPressesAgainstBorders) {
 }
 
 TEST(CrunchManEating, SpellingOrderOnTheBoard) {
-    struct Case {
-        const char* word;
-        const char* row;
-        Event end;
-        const char* spelled;
-    };
-    // The mouth starts in column 10 of the middle row and runs right along it.
-    const Case cases[] = {
-        {"CAT", "CAT", Event::Won, "CAT"},
-        {"CAT", "ACT", Event::WrongLetter, ""},
-        {"NO GO", "NOGO", Event::Won, "NO GO"},  // the blank is never eaten
-        {"BOOK", "BOOK", Event::Won, "BOOK"},
-        {"BOOK", "BOKO", Event::WrongLetter, "BO"},  // K touched while the second O is due
-        {"TOOT", "TOTO", Event::WrongLetter, "TO"},
-        {"CAT", "C*AT", Event::Mine, "C"},
-    };
-    for (const Case& c : cases) {
+    // The mouth starts in column 10 of the middle row and runs right along it. The blank of
+    // NO GO is never eaten; on BOKO the K is touched while the second O is due.
+    const std::tuple<std::string, std::string, Event, const char*> cases[] = {
+        {"CAT", "CAT", Event::Won, "CAT"},          {"CAT", "ACT", Event::WrongLetter, ""},
+        {"NO GO", "NOGO", Event::Won, "NO GO"},     {"BOOK", "BOOK", Event::Won, "BOOK"},
+        {"BOOK", "BOKO", Event::WrongLetter, "BO"}, {"TOOT", "TOTO", Event::WrongLetter, "TO"},
+        {"CAT", "C*AT", Event::Mine, "C"}};
+    for (const auto& [word, row, end, spelled] : cases) {
         const std::string blanks(5, '.');
-        Round r =
-            Board({blanks, blanks, blanks, blanks, blanks, "..........." + std::string(c.row), "*"},
-                  10, 5);
-        r.length = int(std::string(c.word).size());
-        SharedState s = State(c.word);
+        Round r = Board({blanks, blanks, blanks, blanks, blanks, "..........." + row, "*"}, 10, 5);
+        r.length = int(word.size());
+        SharedState s = State(word);
         ScriptedRng rng(0.5);
         TickResult t;
         RunUntilEvent(r, s, rng, t);
         EXPECT_EQ(std::tuple(t.event, r.spelled, t.mine),
-                  std::tuple(c.end, c.spelled, c.end == Event::Mine))
-            << c.word << " on " << c.row;
-        if (c.end == Event::WrongLetter) EXPECT_TRUE(r.labels[t.label].red);
+                  std::tuple(end, spelled, end == Event::Mine))
+            << word << " on " << row;
+        EXPECT_TRUE(end != Event::WrongLetter || r.labels[t.label].red) << word;
     }
 }
 
@@ -163,17 +153,17 @@ TEST(CrunchManSetup, PlacesLettersOffTheMiddleRowAndMinesOffLetters) {
     s.Meanings = {"", "long"};  // none for "an ox": no meaning, no fault
     s.WordCount = 3;            // one more than the list holds: that draw is made again
     s.Difficulty = 2;
-    ScriptedRng rng;
-    rng.pick(3, 3).pick(1, 3).pick(2, 3);  // past the list, the long word, then "an ox"
-    rng.then(0.0).then(5.5 / 11);          // A in the middle row: drawn again
-    rng.then(0.0).then(0.0);               // A at (0, 0)
-    rng.then(0.0).then(0.0);               // N on A's cell: drawn again
-    rng.then(1.0 / 20).then(0.0);          // N at (1, 0)
-    rng.then(2.0 / 20).then(0.0);          // O at (2, 0)
-    rng.then(3.0 / 20).then(1.0 / 11);     // X at (3, 1)
-    rng.then(2.0 / 20).then(0.0);          // a mine on O: drawn again
-    rng.then(4.0 / 20).then(2.0 / 11);     // mine 1 at (4, 2)
-    rng.then(5.0 / 20).then(10.0 / 11);    // mine 2 at (5, 10)
+    // Past the list, the long word, then "an ox".
+    auto rng = ScriptedRng().pick(3, 3).pick(1, 3).pick(2, 3);
+    rng.then(0.0).then(5.5 / 11);        // A in the middle row: drawn again
+    rng.then(0.0).then(0.0);             // A at (0, 0)
+    rng.then(0.0).then(0.0);             // N on A's cell: drawn again
+    rng.then(1.0 / 20).then(0.0);        // N at (1, 0)
+    rng.then(2.0 / 20).then(0.0);        // O at (2, 0)
+    rng.then(3.0 / 20).then(1.0 / 11);   // X at (3, 1)
+    rng.then(2.0 / 20).then(0.0);        // a mine on O: drawn again
+    rng.then(4.0 / 20).then(2.0 / 11);   // mine 1 at (4, 2)
+    rng.then(5.0 / 20).then(10.0 / 11);  // mine 2 at (5, 10)
     Round r;
     ASSERT_TRUE(setupRound(s, r, Field{}, rng).ready);
     EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning, r.mineCount, rng.pending()),
@@ -193,10 +183,7 @@ TEST(CrunchManSetup, PlacesLettersOffTheMiddleRowAndMinesOffLetters) {
 }
 
 TEST(CrunchManSetup, OnlyLongWordsAreRefusedAfterBoundedDraws) {
-    SharedState s;
-    s.Words = {"", std::string(20, 'a'), std::string(31, 'b')};
-    s.Meanings = {"", "", ""};
-    s.WordCount = 2;
+    SharedState s = test::PairsList({{std::string(20, 'a'), ""}, {std::string(31, 'b'), ""}});
     ScriptedRng rng(0.7);
     Round r;
     EXPECT_EQ(setupRound(s, r, Field{}, rng).message,
@@ -214,7 +201,7 @@ TEST(CrunchManDeath, TheLabelBlinksOrTheMineExplodesThenTheMouthSpinsAway) {
     for (bool over = false; !over && ticks < 50; ++ticks) {
         over = letterDeathTick(letter, r, picture);
         pictures.push_back(picture);
-        if (!over) EXPECT_EQ(r.labels[3].visible, ticks % 2 == 0) << "the wrong letter blinks";
+        EXPECT_TRUE(over || r.labels[3].visible == (ticks % 2 == 0)) << "the wrong letter blinks";
     }
     // 46 shrinks by 4 a tick until under 5, spinning clockwise through 2, 11, 5, 8.
     EXPECT_EQ(

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "games/action/froggy/froggy_rules.h"
+#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::froggy;
@@ -18,48 +19,39 @@ Board Lay(int difficulty) {
 }  // namespace
 
 TEST(FroggyLevels, TableByDifficulty) {
-    struct Row {
-        int level;
-        const char* cars;
-        int step, interval, logWidth;
-    };
-    const Row table[] = {
+    const std::tuple<int, std::string, int, int, int> table[] = {
         {1, "14", 1, 40, 640},    {2, "124", 1, 40, 640},    {3, "1245", 1, 30, 300},
         {4, "12345", 1, 30, 200}, {5, "123456", 1, 30, 200}, {6, "123456", 1, 20, 150},
         {7, "1245", 2, 15, 150},  {8, "123456", 2, 15, 100}, {9, "123456", 3, 1, 64}};
-    for (const Row& r : table) {
-        const Level l = levelFor(r.level, 1280, 64);
-        std::string cars;
+    for (const auto& [level, cars, step, interval, logWidth] : table) {
+        const Level l = levelFor(level, 1280, 64);
+        std::string active;
         for (int i = 1; i <= 6; ++i)
-            if (l.active[i]) cars += char('0' + i);
-        EXPECT_EQ(std::tuple(cars, l.carStep, l.logInterval, l.logWidth),
-                  std::tuple(r.cars, r.step, r.interval, r.logWidth))
-            << r.level;
+            if (l.active[i]) active += char('0' + i);
+        EXPECT_EQ(std::tuple(active, l.carStep, l.logInterval, l.logWidth),
+                  std::tuple(cars, step, interval, logWidth))
+            << level;
     }
 }
 
 TEST(FroggyLevels, StonesLeaveTheDesignedGaps) {
-    struct Row {
-        int level;
-        std::string free5, free8;  // columns left open, as letters a=1 .. t=20
-    };
-    const Row table[] = {
+    // The columns left open in rows 5 and 8, as letters a=1 .. t=20.
+    const std::tuple<int, std::string, std::string> table[] = {
         {3, "abcdefghijklmnopqrst", "abcdefghijklmnopqrst"},
         {4, "bdfghijklmnoqs", "abcdefghijklmnopqrst"},
         {5, "bcefhilmoprs", "acegikmoqs"},
         {6, "aeim", "fjnr"},
         {7, "pqrst", "abcde"},
         {8, "aho", "dkr"},
-        {9, "a", "t"},
-    };
-    for (const Row& r : table) {
-        const Board b = Lay(r.level);
+        {9, "a", "t"}};
+    for (const auto& [level, open5, open8] : table) {
+        const Board b = Lay(level);
         std::string free5, free8;
         for (int c = 1; c <= 20; ++c) {
             if (!b.stone[c][5]) free5 += char('a' + c - 1);
             if (!b.stone[c][8]) free8 += char('a' + c - 1);
         }
-        EXPECT_EQ(std::tuple(free5, free8), std::tuple(r.free5, r.free8)) << r.level;
+        EXPECT_EQ(std::tuple(free5, free8), std::tuple(open5, open8)) << level;
     }
 }
 
@@ -97,21 +89,17 @@ TEST(FroggyHops, EdgesAndStones) {
 }
 
 TEST(FroggyHops, AnswerRowDecidesBySlot) {
-    struct Case {
-        int slot, column;
-        Outcome outcome;
-    };
-    const Case cases[] = {
+    const std::tuple<int, int, Outcome> cases[] = {
         {1, 1, Outcome::Won},        {1, 5, Outcome::Won},  {1, 6, Outcome::WrongWord},
         {2, 5, Outcome::WrongWord},  {2, 6, Outcome::Won},  {2, 10, Outcome::Won},
         {2, 11, Outcome::WrongWord}, {4, 20, Outcome::Won}, {4, 15, Outcome::WrongWord}};
-    for (const Case& c : cases) {
+    for (auto [slot, column, outcome] : cases) {
         Board b = Lay(1);
-        b.correctSlot = c.slot;
+        b.correctSlot = slot;
         b.frogRow = 12;
-        b.frogCol = c.column;
-        EXPECT_EQ(keyDown(b, Key::Up).outcome, c.outcome) << c.slot << "/" << c.column;
-        EXPECT_EQ(b.frogX, b.X(c.column)) << "row 13 is not river: the frog is put on its column";
+        b.frogCol = column;
+        EXPECT_EQ(keyDown(b, Key::Up).outcome, outcome) << slot << "/" << column;
+        EXPECT_EQ(b.frogX, b.X(column)) << "row 13 is not river: the frog is put on its column";
     }
 }
 
@@ -171,12 +159,10 @@ TEST(FroggyLogs, RideDrownAndTheEdge) {
     b.frogX = 1210;
     b.logX[5] = 1000;
     b.logX[2] = -600;
-    int ticks = 0;
     Outcome out = Outcome::None;
-    while (out == Outcome::None && ticks < 200) {
+    for (int ticks = 0; out == Outcome::None && ticks < 200; ++ticks) {
         out = logTick(b, rode);
-        ++ticks;
-        if (out == Outcome::None) EXPECT_LE(b.frogX, 1280 - 64);
+        EXPECT_TRUE(out != Outcome::None || b.frogX <= 1280 - 64) << b.frogX;
     }
     EXPECT_EQ(std::tuple(out, b.frogX), std::tuple(Outcome::Drowned, 1216));
     // No log under the frog at all.
@@ -210,14 +196,10 @@ TEST(FroggyScore, BonusRunsDownAndIsReadAtTheWin) {
 }
 
 TEST(FroggySetup, FourDifferentWordsOrARefusal) {
-    SharedState s;
-    s.Words = {"", "ant", "bee", "cat", "dog", "ant"};
-    s.Meanings = {"", "m1", "m2", "m3", "m4", "m5"};
-    s.WordCount = 5;
-    s.Difficulty = 2;
-    ScriptedRng rng;
-    rng.pick(3, 5).pick(2, 4);             // the word "cat" in slot 2
-    rng.pick(3, 5).pick(1, 5).pick(5, 5);  // cat again, ant, ant again (placed)
+    SharedState s = test::PairsList(
+        {{"ant", "m1"}, {"bee", "m2"}, {"cat", "m3"}, {"dog", "m4"}, {"ant", "m5"}}, 2);
+    auto rng = ScriptedRng().pick(3, 5).pick(2, 4);  // the word "cat" in slot 2
+    rng.pick(3, 5).pick(1, 5).pick(5, 5);            // cat again, ant, ant again (placed)
     rng.pick(2, 5).pick(4, 5);
     Board b;
     ASSERT_TRUE(setup(s, b, 1280, 800, rng).ready);

@@ -3,23 +3,15 @@
 // and the two ends.
 #include <gtest/gtest.h>
 
-#include "core/rng.h"
-#include "core/shared_state.h"
+#include "act_rules_kit.h"
 #include "games/action/hang_glider/hang_glider_rules.h"
-#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::hang_glider;
 using wm::test::ListOf;
+using Begun = test::Begun<Game>;
 
 namespace {
-
-Game Flying(SharedState& s, Rng& rng) {
-    Game g;
-    EXPECT_TRUE(g.start(s, rng));
-    g.go();
-    return g;
-}
 
 std::vector<Event> Fly(Game& g, Rng& rng, int ticks, int steer = 0) {
     std::vector<Event> all;
@@ -43,11 +35,8 @@ TEST(HangGliderNumbers, SpeedAndLetters) {
 
 TEST(HangGliderStart, DrawsFreshWordsThatFitAndStandsTheMarks) {
     // 21 letters are too long for the plate, a word of marks has nothing to fly through.
-    SharedState s = ListOf({"abcdefghijklmnopqrstu", "- -", "'twas", "ox"}, 0);
-    ScriptedRng rng;
-    rng.pick(1, 4).pick(2, 4).pick(3, 4);
-    Game g;
-    ASSERT_TRUE(g.start(s, rng));
+    auto [s, rng, g] = Begun(ListOf({"abcdefghijklmnopqrstu", "- -", "'twas", "ox"}, 0),
+                             ScriptedRng().pick(1, 4).pick(2, 4).pick(3, 4), false);
     // The apostrophe stands from the start.
     EXPECT_EQ(std::tuple(rng.randomizeCount, s.TheWord, s.TheMeaning, g.done(), g.level()),
               std::tuple(1, "'twas", "meaning of 'twas", 1, 1));
@@ -64,11 +53,7 @@ TEST(HangGliderStart, DrawsFreshWordsThatFitAndStandsTheMarks) {
 }
 
 TEST(HangGliderLetters, NextOrDecoyInDrawOrderEveryFewAndSpaced) {
-    SharedState s = ListOf({"cab"}, 4);
-    ScriptedRng rng(0.5);
-    rng.pick(1, 1);
-    Game g;
-    ASSERT_TRUE(g.start(s, rng));
+    auto [s, rng, g] = Begun(ListOf({"cab"}, 4), ScriptedRng(0.5).pick(1, 1), false);
     Fly(g, rng, 50);  // nothing comes while the pupil gets ready, and nothing sinks
     EXPECT_EQ(std::tuple(g.letters().size(), g.y()), std::tuple(0u, 330.0));
     g.go();
@@ -92,9 +77,7 @@ TEST(HangGliderLetters, NextOrDecoyInDrawOrderEveryFewAndSpaced) {
 }
 
 TEST(HangGliderFlight, SinksSteersClimbsNoHigherThanTheAirAllows) {
-    SharedState s = ListOf({"ox"}, 4);
-    ScriptedRng rng(0.5);
-    Game g = Flying(s, rng);
+    auto [s, rng, g] = Begun(ListOf({"ox"}, 4), 0.5);
     Fly(g, rng, 100);
     EXPECT_NEAR(g.y(), 360, 1e-9);  // 0.3 a tick
     EXPECT_NEAR(g.ceiling(), 260, 1e-9);
@@ -110,9 +93,7 @@ TEST(HangGliderFlight, SinksSteersClimbsNoHigherThanTheAirAllows) {
 
 TEST(HangGliderFlight, RightLetterScoresAndLiftsWrongOneCostsAndDrops) {
     // Accents count, case does not.
-    SharedState s = ListOf({"\xE9t\xE9"}, 10);
-    ScriptedRng rng(0.5);
-    Game g = Flying(s, rng);
+    auto [s, rng, g] = Begun(ListOf({"\xE9t\xE9"}, 10), 0.5);
     Fly(g, rng, 100);  // ceiling 260
     // A wrong letter at nothing costs nothing; the glider and its ceiling drop 70.
     g.placeGlider(500);
@@ -142,9 +123,7 @@ TEST(HangGliderFlight, RightLetterScoresAndLiftsWrongOneCostsAndDrops) {
 }
 
 TEST(HangGliderLetters, MarksInsideStandAndLettersLeaveAtTheEdge) {
-    SharedState s = ListOf({"o'k"}, 10);
-    ScriptedRng rng(0.5);
-    Game g = Flying(s, rng);
+    auto [s, rng, g] = Begun(ListOf({"o'k"}, 10), 0.5);
     g.addLetter('O', kGliderX, g.y());
     g.addLetter('Q', -74.5, 600);  // 5.5 a tick: at -80 it is still there
     g.addLetter('Z', -75, 600);    // at -80.5 it is gone
@@ -155,9 +134,7 @@ TEST(HangGliderLetters, MarksInsideStandAndLettersLeaveAtTheEdge) {
 }
 
 TEST(HangGliderEnds, FiveWordsWin) {
-    SharedState s = ListOf({"a", "b", "c", "d", "e", "f"}, 2);
-    ScriptedRng rng(0.5);
-    Game g = Flying(s, rng);
+    auto [s, rng, g] = Begun(ListOf({"a", "b", "c", "d", "e", "f"}, 2), 0.5);
     for (int w = 1; w <= 5; ++w) {
         const char next = char(toupper(s.TheWord[0]));
         g.addLetter(next, kGliderX, g.y());
@@ -176,9 +153,7 @@ TEST(HangGliderEnds, FiveWordsWin) {
 }
 
 TEST(HangGliderEnds, TouchingTheGroundLoses) {
-    SharedState s = ListOf({"ox"}, 3);
-    ScriptedRng rng(0.5);
-    Game g = Flying(s, rng);
+    auto [s, rng, g] = Begun(ListOf({"ox"}, 3), 0.5);
     g.placeGlider(820 - 30 - 0.31);
     EXPECT_EQ(Kinds(Fly(g, rng, 1)), "");
     ASSERT_EQ(Kinds(Fly(g, rng, 1)), "L");
@@ -191,7 +166,8 @@ TEST(HangGliderEnds, TouchingTheGroundLoses) {
     EXPECT_EQ(lostText("ox"), "You landed too early! The word was ox.");
 
     // A wrong letter's drop can land it at once.
-    g = Flying(s, rng);
+    ASSERT_TRUE(g.start(s, rng));
+    g.go();
     g.placeGlider(730);
     g.addLetter('Z', kGliderX, 730);
     EXPECT_EQ(Kinds(Fly(g, rng, 1)), "WL");

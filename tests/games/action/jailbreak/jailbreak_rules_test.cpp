@@ -29,8 +29,7 @@ std::vector<int> Entries(const Jail& j) {
 TEST(JailbreakDraw, LocksComeInDrawOrderAndTheGameStartsClean) {
     SharedState s = PairsList(kEight, 3);
     s.Score = 555;
-    ScriptedRng rng;
-    rng.pick(5, 8).pick(2, 8).pick(7, 8);
+    auto rng = ScriptedRng().pick(5, 8).pick(2, 8).pick(7, 8);
     Jail j;  // what the last game left
     j.guardSteps = 12;
     j.cell = 3;
@@ -45,8 +44,7 @@ TEST(JailbreakDraw, LocksComeInDrawOrderAndTheGameStartsClean) {
 TEST(JailbreakDraw, NoWordTwiceInACellNorInAGameWhileTheListHasEnough) {
     SharedState s = PairsList(kEight, 3);
     s.Words[3] = "APPLE";  // the same word as entry 1 to a pupil who types it
-    ScriptedRng rng;
-    rng.pick(1, 8).pick(3, 8).pick(1, 8).pick(4, 8).pick(4, 8).pick(2, 8);
+    auto rng = ScriptedRng().pick(1, 8).pick(3, 8).pick(1, 8).pick(4, 8).pick(4, 8).pick(2, 8);
     Jail j;
     ASSERT_TRUE(newGame(s, j, rng));
     EXPECT_EQ(std::tuple(Entries(j), rng.draws), std::tuple(std::vector<int>{1, 4, 2}, 6));
@@ -61,8 +59,7 @@ TEST(JailbreakDraw, NoWordTwiceInACellNorInAGameWhileTheListHasEnough) {
 
 TEST(JailbreakDraw, AShortListRepeatsAcrossCellsButNeverInsideOne) {
     SharedState s = PairsList({{"cat", "purrs"}, {"dog", "barks"}, {"hen", "lays eggs"}}, 3);
-    ScriptedRng rng;
-    rng.pick(1, 3).pick(2, 3).pick(3, 3);
+    auto rng = ScriptedRng().pick(1, 3).pick(2, 3).pick(3, 3);
     Jail j;
     ASSERT_TRUE(newGame(s, j, rng));
     rng.pick(2, 3).pick(2, 3).pick(1, 3).pick(3, 3);
@@ -82,8 +79,7 @@ TEST(JailbreakDraw, AShortListRepeatsAcrossCellsButNeverInsideOne) {
 TEST(JailbreakDraw, ACountPastTheLoadedEntriesDrawsAmongThoseLoaded) {
     SharedState s = PairsList(kEight, 1);
     s.WordCount = 1001;  // what a list over the limit leaves
-    ScriptedRng rng;
-    rng.then(0.999);
+    auto rng = ScriptedRng().then(0.999);
     Jail j;
     ASSERT_TRUE(newGame(s, j, rng));
     EXPECT_EQ(Entries(j), (std::vector<int>{8}));
@@ -120,8 +116,7 @@ TEST(JailbreakPlay, TypedWordsOpenLocksAndMistakesCost) {
                                {"bridge", "it crosses water"},
                                {"ice cream", "a cold treat"}},
                               3);
-    ScriptedRng rng;
-    rng.pick(1, 3).pick(2, 3).pick(3, 3);
+    auto rng = ScriptedRng().pick(1, 3).pick(2, 3).pick(3, 3);
     Jail j;
     ASSERT_TRUE(newGame(s, j, rng));
     j.guardSteps = 10;
@@ -150,8 +145,7 @@ TEST(JailbreakPlay, TypedWordsOpenLocksAndMistakesCost) {
 
 TEST(JailbreakPlay, OpeningTheSelectedLockMovesTheSelectionOn) {
     SharedState s = PairsList(kEight, 3);
-    ScriptedRng rng;
-    rng.pick(1, 8).pick(2, 8).pick(3, 8);
+    auto rng = ScriptedRng().pick(1, 8).pick(2, 8).pick(3, 8);
     Jail j;
     ASSERT_TRUE(newGame(s, j, rng));
     select(j, 2);
@@ -170,8 +164,7 @@ TEST(JailbreakPlay, OpeningTheSelectedLockMovesTheSelectionOn) {
 
 TEST(JailbreakPlay, TheGuardCatchesYouAtTheDoor) {
     SharedState s = PairsList(kEight, 2);
-    ScriptedRng rng;
-    rng.pick(1, 8).pick(2, 8);
+    auto rng = ScriptedRng().pick(1, 8).pick(2, 8);
     Jail j;
     ASSERT_TRUE(newGame(s, j, rng));
     for (int i = 1; i < 40; ++i) ASSERT_FALSE(guardStep(j)) << i;
@@ -194,8 +187,7 @@ TEST(JailbreakPlay, TheGuardCatchesYouAtTheDoor) {
 
 TEST(JailbreakPlay, AClearedCellStopsTheGuard) {
     SharedState s = PairsList(kEight, 1);
-    ScriptedRng rng;
-    rng.pick(6, 8);
+    auto rng = ScriptedRng().pick(6, 8);
     Jail j;
     ASSERT_TRUE(newGame(s, j, rng));
     j.guardSteps = 39;
@@ -207,8 +199,7 @@ TEST(JailbreakPlay, AClearedCellStopsTheGuard) {
 
 TEST(JailbreakPlay, HintsShowTheFirstLetterAndTheFirstLookCosts) {
     SharedState s = PairsList({{"apple", "a red fruit"}, {"\xE9t\xE9", "summer, in French"}}, 2);
-    ScriptedRng rng;
-    rng.pick(1, 2).pick(2, 2);
+    auto rng = ScriptedRng().pick(1, 2).pick(2, 2);
     Jail j;
     ASSERT_TRUE(newGame(s, j, rng));
     // A second look is free; no hint past the locks or for an open one.

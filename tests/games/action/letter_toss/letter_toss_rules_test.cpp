@@ -122,8 +122,7 @@ TEST(LetterTossFlight, WhereATossLandsAndWhatItScores) {
     };
     for (const Case& c : cases) {
         SharedState s = ListOf({"cat", "dog", "hen", "owl"}, c.baskets);
-        ScriptedRng rng(0.5);
-        rng.pick(1, 4).pick(c.right + 1, c.baskets);
+        auto rng = ScriptedRng(0.5).pick(1, 4).pick(c.right + 1, c.baskets);
         Room r;
         ASSERT_TRUE(newGame(s, r, rng));
         s.Score = 10;

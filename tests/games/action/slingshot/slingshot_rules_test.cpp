@@ -3,16 +3,16 @@
 // lists the game cannot use.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 
-#include "core/rng.h"
-#include "core/shared_state.h"
+#include "act_rules_kit.h"
 #include "games/action/slingshot/slingshot_rules.h"
-#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::slingshot;
 using wm::test::ListOf;
+using Begun = test::Begun<Game>;
 
 namespace {
 
@@ -62,11 +62,10 @@ Shot miss(Game& g, int side = -1) {
 
 TEST(SlingshotDraws, WordThenThreeOtherWordsThenTheRightSlot) {
     SharedState s = ListOf(kEight, 5);
-    ScriptedRng rng;
     // The word (owl); a draw of the same word in other letters is drawn again (OWL below);
     // then fox, cat, yak; the right word in slot 3 of 4.
     s.Words[2] = "OWL ";
-    rng.pick(3, 8).pick(2, 8).pick(7, 8).pick(1, 8).pick(8, 8).pick(3, 4);
+    auto rng = ScriptedRng().pick(3, 8).pick(2, 8).pick(7, 8).pick(1, 8).pick(8, 8).pick(3, 4);
     Game g;
     ASSERT_EQ(g.start(s, rng), "");
     EXPECT_EQ(std::tuple(rng.randomizeCount, rng.pending(), s.TheWord, s.TheMeaning, g.rightSlot()),
@@ -80,10 +79,7 @@ TEST(SlingshotDraws, NoDefinitionTwiceUntilTheListRunsOut) {
     // Six words, ten definitions: the first six all differ, then they come again, never the
     // one just played twice running. Every draw comes out on the second word, so the bounded
     // redraw and the step to the next free entry do the work, round to the first.
-    SharedState s = ListOf({"cat", "dog", "owl", "bee", "ant", "elk"}, 1);
-    ScriptedRng rng(0.25);
-    Game g;
-    ASSERT_EQ(g.start(s, rng), "");
+    auto [s, rng, g] = Begun(ListOf({"cat", "dog", "owl", "bee", "ant", "elk"}, 1), 0.25);
     std::vector<std::string> played{s.TheWord};
     while (true) {
         for (int t = 0; t < 3; ++t) miss(g);
@@ -141,25 +137,19 @@ TEST(SlingshotDraws, ListsItCannotUse) {
 
 TEST(SlingshotBand, StretchesBackTwoHundredAtMostAndNeverUp) {
     const Point rest = pouchRest();
-    struct Row {
-        double dx, dy;  // the pointer from the rest point
-        double px, py;  // where the pouch goes
-    };
-    const Row table[] = {
+    // The pointer from the rest point, and where the pouch goes.
+    const std::array<double, 4> table[] = {
         {0, 120, 0, 120}, {0, 200, 0, 200},     {0, 260, 0, 200}, {-300, 400, -120, 160},
         {90, -50, 90, 0}, {-250, -10, -200, 0}, {0, 0, 0, 0}};
-    for (const Row& r : table) {
-        const Point p = pullPouch({rest.x + r.dx, rest.y + r.dy});
-        EXPECT_NEAR(p.x - rest.x, r.px, 1e-9) << r.dx << "," << r.dy;
-        EXPECT_NEAR(p.y - rest.y, r.py, 1e-9) << r.dx << "," << r.dy;
+    for (auto [dx, dy, px, py] : table) {
+        const Point p = pullPouch({rest.x + dx, rest.y + dy});
+        EXPECT_NEAR(p.x - rest.x, px, 1e-9) << dx << "," << dy;
+        EXPECT_NEAR(p.y - rest.y, py, 1e-9) << dx << "," << dy;
     }
 }
 
 TEST(SlingshotFlight, StraightWithALittleDropSpeedByThePull) {
-    SharedState s = ListOf(kEight, 1);
-    ScriptedRng rng;
-    Game g;
-    ASSERT_EQ(g.start(s, rng), "");
+    auto [s, rng, g] = Begun(ListOf(kEight, 1), 0.0);
     const Point rest = pouchRest();
     // Too short a pull is a click: the stone stays.
     EXPECT_FALSE(g.fire({rest.x, rest.y + 15}));
@@ -194,23 +184,16 @@ TEST(SlingshotFlight, StraightWithALittleDropSpeedByThePull) {
 }
 
 TEST(SlingshotScore, RightIsAHundredALevelWrongCostsFifty) {
-    struct Row {
-        int difficulty, level;
-    };
-    for (const Row r : {Row{5, 5}, Row{1, 1}, Row{9, 9}, Row{0, 1}, Row{12, 9}}) {
-        SharedState s = ListOf(kEight, r.difficulty);
-        ScriptedRng rng(0.3);
-        Game g;
-        ASSERT_EQ(g.start(s, rng), "");
-        ASSERT_EQ(g.level(), r.level);
+    for (auto [difficulty, level] : {std::pair{5, 5}, {1, 1}, {9, 9}, {0, 1}, {12, 9}}) {
+        auto [s, rng, g] = Begun(ListOf(kEight, difficulty), 0.3);
+        ASSERT_EQ(g.level(), level);
         const int wrong = (g.rightSlot() + 1) % kTargets;
-        EXPECT_EQ(shootAt(g, wrong), Shot::Wrong) << r.difficulty;
+        EXPECT_EQ(shootAt(g, wrong), Shot::Wrong) << difficulty;
         EXPECT_EQ(std::tuple(g.lastHit(), g.score(), g.stonesLeft()), std::tuple(wrong, -50, 2));
         EXPECT_EQ(shootAt(g, wrong), Shot::Wrong);
         EXPECT_EQ(g.score(), -100);
         EXPECT_EQ(shootAt(g, g.rightSlot()), Shot::Right);
-        EXPECT_EQ(std::tuple(g.score(), g.phase()),
-                  std::tuple(-100 + 100 * r.level, Phase::Solved));
+        EXPECT_EQ(std::tuple(g.score(), g.phase()), std::tuple(-100 + 100 * level, Phase::Solved));
         EXPECT_TRUE(g.gone(g.rightSlot()));
         EXPECT_EQ(g.stonesLeft(), 1);  // the right stone is not spent
         EXPECT_FALSE(g.fire(pullTowards(g.target(0))));
@@ -220,7 +203,7 @@ TEST(SlingshotScore, RightIsAHundredALevelWrongCostsFifty) {
         ASSERT_TRUE(g.next(s, rng));
         EXPECT_LT(dist(g.target(1), pivot(1)), kTargetRadius);  // let down afresh from the beam
         EXPECT_EQ(miss(g, +1), Shot::Miss);
-        EXPECT_EQ(g.score(), -100 + 100 * r.level);
+        EXPECT_EQ(g.score(), -100 + 100 * level);
         EXPECT_EQ(shootAt(g, (g.rightSlot() + 1) % kTargets), Shot::Wrong);
         EXPECT_EQ(g.phase(), Phase::Aiming);
         EXPECT_EQ(miss(g), Shot::Miss);
@@ -259,18 +242,17 @@ TEST(SlingshotSwing, WiderAndFasterWithTheLevelNeighboursNeverMeet) {
     }
     // The swing: (6 + 3 x level) degrees x sin(2 pi t / (3800 - 250 x level) + 0.7 x slot).
     const double deg = 3.14159265358979 / 180;
-    struct Row {
-        int slot, level, ms;
-        double degrees;
-    } rows[] = {{0, 1, 0, 0},
-                {0, 1, 3550 / 4, 9},  // a quarter swing out: the widest
-                {0, 9, 1550 / 2, 0},
-                {2, 1, 0, 9 * std::sin(1.4)},
-                {3, 4, 2800 * 3 / 4, 18 * std::sin(1.5 * 3.14159265358979 + 2.1)}};
-    for (const Row& r : rows) {
-        const Point p = targetAt(r.slot, r.level, r.ms, 10'000), at = pivot(r.slot);
-        EXPECT_NEAR(p.x, at.x + ropeLength(r.slot) * std::sin(r.degrees * deg), 0.01) << r.slot;
-        EXPECT_NEAR(p.y, at.y + ropeLength(r.slot) * std::cos(r.degrees * deg), 0.01) << r.slot;
+    // (Slot, level, ms, degrees; the second a quarter swing out: the widest.)
+    const std::tuple<int, int, int, double> rows[] = {
+        {0, 1, 0, 0},
+        {0, 1, 3550 / 4, 9},
+        {0, 9, 1550 / 2, 0},
+        {2, 1, 0, 9 * std::sin(1.4)},
+        {3, 4, 2800 * 3 / 4, 18 * std::sin(1.5 * 3.14159265358979 + 2.1)}};
+    for (auto [slot, level, ms, degrees] : rows) {
+        const Point p = targetAt(slot, level, ms, 10'000), at = pivot(slot);
+        EXPECT_NEAR(p.x, at.x + ropeLength(slot) * std::sin(degrees * deg), 0.01) << slot;
+        EXPECT_NEAR(p.y, at.y + ropeLength(slot) * std::cos(degrees * deg), 0.01) << slot;
     }
     EXPECT_EQ(pivot(0).x, 1280 / 2 - 1.5 * 290);
     // A new definition's targets are let down from the beam and hang at full length after.

@@ -5,15 +5,14 @@
 
 #include <set>
 
-#include "core/rng.h"
-#include "core/shared_state.h"
+#include "act_rules_kit.h"
 #include "core/strings.h"
 #include "games/action/spiderwebs/spiderwebs_rules.h"
-#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::spiderwebs;
 using wm::test::ListOf;
+using Begun = test::Begun<Game>;
 
 namespace {
 
@@ -63,15 +62,15 @@ TEST(SpiderwebsStart, RefusesListsTheWebCannotUse) {
 TEST(SpiderwebsStart, ReseedsThenDrawsTheWordItsSlotAndTheDecoys) {
     SharedState s = ListOf({"ant", "bee", "cat", "dog", "Bee", "elk"}, 4);
     s.Meanings[3] = "";  // "cat" has no meaning: never the definition's word
-    ScriptedRng rng;
-    rng.pick(3, 6)
-        .pick(2, 6)   // the word: "cat" has no meaning, "bee" has
-        .pick(3, 4)   // its fly hangs in the third slot
-        .pick(5, 6)   // slot 1: "Bee" is in the web already
-        .pick(6, 6)   // slot 1: "elk"
-        .pick(2, 6)   // slot 2: "bee" again
-        .pick(1, 6)   // slot 2: "ant"
-        .pick(3, 6);  // slot 4: "cat" may be a decoy
+    auto rng = ScriptedRng()
+                   .pick(3, 6)
+                   .pick(2, 6)   // the word: "cat" has no meaning, "bee" has
+                   .pick(3, 4)   // its fly hangs in the third slot
+                   .pick(5, 6)   // slot 1: "Bee" is in the web already
+                   .pick(6, 6)   // slot 1: "elk"
+                   .pick(2, 6)   // slot 2: "bee" again
+                   .pick(1, 6)   // slot 2: "ant"
+                   .pick(3, 6);  // slot 4: "cat" may be a decoy
     Game g;
     ASSERT_EQ(g.start(s, rng), Start::Ok);
     EXPECT_EQ(std::tuple(rng.randomizeCount, rng.pending(), s.TheWord, s.TheMeaning),
@@ -90,11 +89,9 @@ TEST(SpiderwebsStart, ReseedsThenDrawsTheWordItsSlotAndTheDecoys) {
 }
 
 TEST(SpiderwebsPlay, WrongFlyHurriesTheSpiderThenTheRightOneIsFreed) {
-    SharedState s = ListOf({"ant", "bee", "cat", "dog"}, 3);
-    ScriptedRng rng;
-    rng.pick(1, 4).pick(1, 3).pick(2, 4).pick(3, 4);  // "ant" in slot 1; "bee", "cat"
-    Game g;
-    ASSERT_EQ(g.start(s, rng), Start::Ok);
+    // "ant" in slot 1; "bee", "cat"
+    auto [s, rng, g] = Begun(ListOf({"ant", "bee", "cat", "dog"}, 3),
+                             ScriptedRng().pick(1, 4).pick(1, 3).pick(2, 4).pick(3, 4));
     // The spider waits at the hub for a second and a half.
     EXPECT_TRUE(Advance(g, s, rng, 1499, 1499).empty());
     EXPECT_EQ(Advance(g, s, rng, 1, 1), std::vector<Event>{Event::Go});
@@ -123,11 +120,9 @@ TEST(SpiderwebsPlay, WrongFlyHurriesTheSpiderThenTheRightOneIsFreed) {
 }
 
 TEST(SpiderwebsPlay, OnlyAScoreAboveNothingGoesOnTheTable) {
-    SharedState s = ListOf({"ant", "bee", "cat", "dog"}, 3);
-    ScriptedRng rng;
-    rng.pick(1, 4).pick(1, 3).pick(2, 4).pick(3, 4);  // "ant" in slot 1
-    Game g;
-    ASSERT_EQ(g.start(s, rng), Start::Ok);
+    // "ant" in slot 1
+    auto [s, rng, g] = Begun(ListOf({"ant", "bee", "cat", "dog"}, 3),
+                             ScriptedRng().pick(1, 4).pick(1, 3).pick(2, 4).pick(3, 4));
     EXPECT_FALSE(g.onTheTable());
     Advance(g, s, rng, 1500, 100);
     EXPECT_EQ(g.click(1), Click::Wrong);

@@ -3,50 +3,29 @@
 // and the score.
 #include <gtest/gtest.h>
 
-#include "core/rng.h"
-#include "core/shared_state.h"
+#include "act_rules_kit.h"
 #include "games/action/toad_race/toad_race_rules.h"
-#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::toad_race;
 using wm::test::ListOf;
 
-namespace {
-
-// A race already past "Go!", its first word and waits drawn from `rng`.
-Race Started(SharedState& s, ScriptedRng& rng) {
-    Race r;
-    EXPECT_TRUE(r.start(s, rng));
-    r.go();
-    return r;
-}
-
-}  // namespace
+// A race past "Go!" (unless told to wait), its first word and waits drawn from `rng`.
+using Begun = test::Begun<Race>;
 
 TEST(ToadRacePace, HopEvery8000Less650ALevelWithAFifthOfJitter) {
-    struct Row {
-        int level;
-        double r;
-        int interval, wait;
-    };
-    const Row table[] = {
+    const std::tuple<int, double, int, int> table[] = {
         {1, 0.5, 7350, 7350},  {1, 0.0, 7350, 5880},  {1, 0.999999, 7350, 8819},
         {4, 0.0, 5400, 4320},  {4, 0.25, 5400, 4860}, {4, 0.75, 5400, 5940},
-        {10, 0.0, 1500, 1200}, {10, 0.5, 1500, 1500}, {10, 0.999999, 1500, 1799},
-    };
-    for (const Row& row : table) {
-        EXPECT_EQ(hopInterval(row.level), row.interval) << row.level;
-        EXPECT_EQ(hopWait(row.level, row.r), row.wait) << row.level << " " << row.r;
-    }
+        {10, 0.0, 1500, 1200}, {10, 0.5, 1500, 1500}, {10, 0.999999, 1500, 1799}};
+    for (auto [level, r, interval, wait] : table)
+        EXPECT_EQ(std::pair(hopInterval(level), hopWait(level, r)), std::pair(interval, wait))
+            << level << " " << r;
 }
 
 TEST(ToadRaceStart, ReseedsDrawsTheWordThenEachToadsFirstWait) {
-    SharedState s = ListOf({"cat", "dog", "owl", "bee"}, 4);
-    ScriptedRng rng;
-    rng.pick(3, 4).then(0.0).then(0.5).then(0.75);
-    Race r;
-    ASSERT_TRUE(r.start(s, rng));
+    auto [s, rng, r] = Begun(ListOf({"cat", "dog", "owl", "bee"}, 4),
+                             ScriptedRng().pick(3, 4).then(0.0).then(0.5).then(0.75), false);
     EXPECT_EQ(std::tuple(rng.randomizeCount, rng.pending(), s.TheWord, s.TheMeaning),
               std::tuple(1, 0u, "owl", "meaning of owl"));
     EXPECT_EQ(std::tuple(r.nextHop(1), r.nextHop(2), r.nextHop(3)), std::tuple(4320, 5400, 5940));
@@ -70,10 +49,7 @@ TEST(ToadRaceStart, LevelHeldToTheSliderAndEmptyListsRefused) {
 }
 
 TEST(ToadRaceWords, NoRepeatsUntilTheListRunsOut) {
-    SharedState s = ListOf({"cat", "dog", "owl", "bee"}, 5);
-    ScriptedRng rng(0.5);
-    rng.pick(1, 4);
-    Race r = Started(s, rng);
+    auto [s, rng, r] = Begun(ListOf({"cat", "dog", "owl", "bee"}, 5), ScriptedRng(0.5).pick(1, 4));
     ASSERT_EQ(s.TheWord, "cat");
     // A used word is drawn again until a free one comes.
     rng.pick(1, 4).pick(3, 4);
@@ -99,10 +75,8 @@ TEST(ToadRaceWords, NoRepeatsUntilTheListRunsOut) {
 }
 
 TEST(ToadRaceWords, TwoWordsTakeTurns) {
-    SharedState s = ListOf({"cat", "dog"}, 5);
-    ScriptedRng rng(0.5);
-    rng.pick(1, 2).then(0.5).then(0.5).then(0.5).pick(2, 2);
-    Race r = Started(s, rng);
+    auto [s, rng, r] = Begun(ListOf({"cat", "dog"}, 5),
+                             ScriptedRng(0.5).pick(1, 2).then(0.5).then(0.5).then(0.5).pick(2, 2));
     EXPECT_EQ(r.submit(s, "cat", rng), Typed::Hop);
     EXPECT_EQ(s.TheWord, "dog");
     // Both played: the word just played is drawn, and drawn again until the other comes.
@@ -112,33 +86,25 @@ TEST(ToadRaceWords, TwoWordsTakeTurns) {
 }
 
 TEST(ToadRaceTyping, CaseIgnoredAccentsCountBlanksAroundDoNotMatter) {
-    struct Row {
-        const char* typed;
-        Typed result;
-    };
-    const Row table[] = {{"caf\xE9", Typed::Hop},    {"CAF\xC9", Typed::Hop},
-                         {"  Caf\xE9 ", Typed::Hop}, {"cafe", Typed::Wrong},
-                         {"caf", Typed::Wrong},      {"caf\xE9s", Typed::Wrong},
-                         {"", Typed::Wrong},         {"c af\xE9", Typed::Wrong}};
-    for (const Row& row : table) {
-        SharedState s = ListOf({"caf\xE9", "th\xE9"}, 5);
-        ScriptedRng rng(0.5);
-        rng.pick(1, 2);
-        Race r = Started(s, rng);
-        EXPECT_EQ(r.submit(s, row.typed, rng), row.result) << row.typed;
+    const std::pair<const char*, Typed> table[] = {
+        {"caf\xE9", Typed::Hop}, {"CAF\xC9", Typed::Hop},   {"  Caf\xE9 ", Typed::Hop},
+        {"cafe", Typed::Wrong},  {"caf", Typed::Wrong},     {"caf\xE9s", Typed::Wrong},
+        {"", Typed::Wrong},      {"c af\xE9", Typed::Wrong}};
+    for (auto [typed, result] : table) {
+        auto [s, rng, r] = Begun(ListOf({"caf\xE9", "th\xE9"}, 5), ScriptedRng(0.5).pick(1, 2));
+        EXPECT_EQ(r.submit(s, typed, rng), result) << typed;
         // A wrong word: the toad sits and the word stands.
-        const bool hop = row.result == Typed::Hop;
+        const bool hop = result == Typed::Hop;
         EXPECT_EQ(std::tuple(r.pad(0), s.TheWord, r.lettersRight()),
                   std::tuple(hop ? 1 : 0, hop ? "th\xE9" : "caf\xE9", hop ? 4 : 0))
-            << row.typed;
+            << typed;
     }
 }
 
 TEST(ToadRaceClock, ComputerToadsHopOnTheirOwnClocksInOrder) {
-    SharedState s = ListOf({"cat"}, 4);  // every 5400 ms, 4320..6480 with jitter
-    ScriptedRng rng;
-    rng.then(0.1).then(0.5).then(0.0).then(0.5);  // word; waits 5400, 4320, 5400
-    Race r = Started(s, rng);
+    // Every 5400 ms, 4320..6480 with jitter: the word; waits 5400, 4320, 5400.
+    auto [s, rng, r] =
+        Begun(ListOf({"cat"}, 4), ScriptedRng().then(0.1).then(0.5).then(0).then(0.5));
     EXPECT_TRUE(r.advance(4319, rng).empty());
     rng.then(1.0 / 6);  // toad 2's next wait: 4680
     auto hops = r.advance(1, rng);
@@ -160,10 +126,9 @@ TEST(ToadRaceClock, ComputerToadsHopOnTheirOwnClocksInOrder) {
 }
 
 TEST(ToadRaceEnd, AComputerToadHomeFirstLoses) {
-    SharedState s = ListOf({"cat", "dog"}, 10);
-    ScriptedRng rng(0.5);
-    rng.pick(1, 2).then(0.5).then(0.0).then(0.5);  // toad 2 leaves first and keeps ahead
-    Race r = Started(s, rng);
+    // Toad 2 leaves first and keeps ahead.
+    auto [s, rng, r] =
+        Begun(ListOf({"cat", "dog"}, 10), ScriptedRng(0.5).pick(1, 2).then(0.5).then(0).then(0.5));
     EXPECT_EQ(r.submit(s, "cat", rng), Typed::Hop);
     // Toad 2 hops at 1200, then every 1500: its twelfth hop is at 1200 + 11 x 1500 = 17700.
     EXPECT_FALSE(r.advance(17699, rng).empty());
@@ -185,12 +150,11 @@ TEST(ToadRaceEnd, AComputerToadHomeFirstLoses) {
 
 TEST(ToadRaceEnd, ThePupilHomeFirstWinsAndScores) {
     // (pads the best computer toad is behind x 100 + letters typed right x 5) x level
-    SharedState s = ListOf({"frog", "pond", "lily", "reed", "newt", "swan", "duck", "moss", "fish",
-                            "bank", "mud", "rain"},
-                           3);
-    ScriptedRng rng(0.5);
-    rng.then(0.5).then(0.0);  // the word; Goldie's first wait 4840, then all every 6050 ms
-    Race r = Started(s, rng);
+    // The word; Goldie's first wait 4840, then all every 6050 ms.
+    auto [s, rng, r] = Begun(ListOf({"frog", "pond", "lily", "reed", "newt", "swan", "duck", "moss",
+                                     "fish", "bank", "mud", "rain"},
+                                    3),
+                             ScriptedRng(0.5).then(0.5).then(0.0));
     r.advance(23000, rng);
     EXPECT_EQ(std::tuple(r.pad(1), r.pad(2), r.pad(3), r.bestComputerPad()),
               std::tuple(4, 3, 3, 4));

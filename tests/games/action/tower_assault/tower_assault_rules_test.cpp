@@ -3,16 +3,15 @@
 // lost on the screen's road.)
 #include <gtest/gtest.h>
 
-#include "core/rng.h"
-#include "core/shared_state.h"
+#include "act_rules_kit.h"
 #include "games/action/tower_assault/tower_assault_rules.h"
 #include "tower_steer.h"
-#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::tower;
 using wm::test::ListOf;
 using wm::test::TowerSteer;
+using Begun = test::Begun<Game>;
 
 namespace {
 
@@ -44,8 +43,7 @@ const std::vector<std::string> kTwelve = {"cat", "dog", "owl", "bee", "ant",  "e
 TEST(TowerStart, DrawsADefinedWordAndRefusesListsItCannotPlay) {
     SharedState s = ListOf({"cat", "dog", "owl", "bee", "ant"});
     s.Meanings[1] = " ";  // cat has no definition: never the word to catch, still a decoy
-    ScriptedRng rng;
-    rng.pick(1, 5).pick(2, 5);
+    auto rng = ScriptedRng().pick(1, 5).pick(2, 5);
     Game g;
     ASSERT_EQ(g.start(s, rng), Start::Ok);
     EXPECT_EQ(std::tuple(rng.randomizeCount, s.TheWord, s.TheMeaning),
@@ -64,11 +62,9 @@ TEST(TowerStart, DrawsADefinedWordAndRefusesListsItCannotPlay) {
 TEST(TowerKnight, StepsHeldToTheWallAndReachesNinetyEitherSide) {
     // Ten steps right leave him 90 from guard 3's scroll: caught; eleven: it falls past.
     for (auto [steps, caught] : {std::pair{10, true}, {11, false}}) {
-        SharedState s = ListOf({"cat", "dog"});
-        ScriptedRng rng;
-        rng.pick(1, 2).pick(3, 5).then(0.0);  // cat; guard 3 throws the right word
-        Game g;
-        ASSERT_EQ(g.start(s, rng), Start::Ok);
+        // cat; guard 3 throws the right word
+        auto [s, rng, g] =
+            Begun(ListOf({"cat", "dog"}), ScriptedRng().pick(1, 2).pick(3, 5).then(0));
         for (int t = 0; t < steps; ++t) g.tick(s, rng, +1);
         EXPECT_EQ(g.knightX(), 500 + 9 * steps);
         // Two seconds of reading before the first throw, and 0.4 s more.
@@ -83,8 +79,7 @@ TEST(TowerKnight, StepsHeldToTheWallAndReachesNinetyEitherSide) {
 
 TEST(TowerThrows, GuardShareAndDecoyInTheirOrder) {
     SharedState s = ListOf({"cat", "dog", "owl", "bee", "ant"});
-    ScriptedRng rng;
-    rng.pick(2, 5);                                  // dog
+    auto rng = ScriptedRng().pick(2, 5);             // dog
     rng.pick(3, 5).then(0.9).pick(2, 5).pick(1, 5);  // guard 3, a decoy: not dog, so cat
     rng.pick(3, 5).then(0.34);                       // guard 3 again: 4 throws; the right word
     rng.pick(5, 5).then(0.1).pick(1, 5).pick(3, 5);  // dog afloat: a decoy, not cat again: owl
@@ -106,20 +101,15 @@ TEST(TowerThrows, GuardShareAndDecoyInTheirOrder) {
             landed.push_back(Has(ev, Event::Landed) ? Event::Landed : Event::RightLanded);
     }
     EXPECT_EQ(rng.pending(), 0u);
-    EXPECT_EQ(thrown, (std::vector<std::tuple<std::string, int, int>>{{"cat", 3, 1},
-                                                                      {"dog", 4, 2},
-                                                                      {"owl", 5, 3},
-                                                                      {"bee", 2, 4},
-                                                                      {"ant", 3, 5},
-                                                                      {"dog", 4, 6}}));
+    const decltype(thrown) want = {{"cat", 3, 1}, {"dog", 4, 2}, {"owl", 5, 3},
+                                   {"bee", 2, 4}, {"ant", 3, 5}, {"dog", 4, 6}};
+    EXPECT_EQ(thrown, want);
     EXPECT_EQ(landed, (std::vector<Event>{Event::Landed, Event::RightLanded}));
 }
 
 TEST(TowerThrows, UnluckyDecoyDrawsWalkOnToAWordNotInTheAir) {
-    SharedState s = ListOf({"cat", "dog", "owl"});
-    ScriptedRng rng(1.5 / 3);  // every draw the second entry: dog, the word to catch
-    Game g;
-    ASSERT_EQ(g.start(s, rng), Start::Ok);
+    // Every draw the second entry: dog, the word to catch.
+    auto [s, rng, g] = Begun(ListOf({"cat", "dog", "owl"}), 1.5 / 3);
     for (int t = 0; t < 60; ++t) g.tick(s, rng, +1);  // out of the way of guards 3 and 4
     EXPECT_EQ(g.knightX(), 940);
     std::vector<std::string> thrown;
@@ -131,10 +121,7 @@ TEST(TowerThrows, UnluckyDecoyDrawsWalkOnToAWordNotInTheAir) {
 }
 
 TEST(TowerEndings, TenRungsClimbWithoutRepeatedWordsAndFasterScrolls) {
-    SharedState s = ListOf(kTwelve);
-    ScriptedRng rng(0.5);
-    Game g;
-    ASSERT_EQ(g.start(s, rng), Start::Ok);
+    auto [s, rng, g] = Begun(ListOf(kTwelve), 0.5);
     std::vector<std::string> words;
     double score = 0;
     for (int rung = 1; rung <= 10; ++rung) {

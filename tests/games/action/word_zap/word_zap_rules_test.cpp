@@ -18,8 +18,7 @@ SharedState List(int words) {
 
 TEST(WordZapDeal, UnusedWordsIntoUnusedSlots) {
     SharedState s = List(5);
-    ScriptedRng rng;
-    rng.pick(3, 5).pick(8, 8);                        // word 3 in slot 8
+    auto rng = ScriptedRng().pick(3, 5).pick(8, 8);   // word 3 in slot 8
     rng.pick(3, 5).pick(1, 5).pick(8, 8).pick(2, 8);  // word 3 again, word 1; slot 8 again, slot 2
     Gallery g;
     ASSERT_TRUE(deal(s, g, 2, rng).ready);
@@ -47,8 +46,7 @@ TEST(WordZapDeal, UnusedWordsIntoUnusedSlots) {
 
 TEST(WordZapClicks, PointsForHitsMissesAndSlowHands) {
     SharedState s = List(5);
-    ScriptedRng rng;
-    rng.pick(1, 5).pick(1, 8).pick(2, 5).pick(2, 8).pick(3, 5).pick(3, 8);
+    auto rng = ScriptedRng().pick(1, 5).pick(1, 8).pick(2, 5).pick(2, 8).pick(3, 5).pick(3, 8);
     Gallery g;
     ASSERT_TRUE(deal(s, g, 3, rng).ready);
     rng.setFallback(0.5);
@@ -70,10 +68,9 @@ TEST(WordZapClicks, PointsForHitsMissesAndSlowHands) {
 
 TEST(WordZapStars, BurstArcAndAge) {
     Gallery g;
-    ScriptedRng rng;
-    rng.then(0.0).then(0.999);  // first star: dy 6, dx -10
-    rng.then(0.95);             // second: dy Int(0.95 x 10 + 1) + 5 = 15
-    rng.setFallback(0.5);       // the rest: dy 11, dx -1
+    auto rng = ScriptedRng().then(0.0).then(0.999);  // first star: dy 6, dx -10
+    rng.then(0.95);                                  // second: dy Int(0.95 x 10 + 1) + 5 = 15
+    rng.setFallback(0.5);                            // the rest: dy 11, dx -1
     burst(g, 100, 200, rng);
     EXPECT_EQ(std::tuple(g.group, g.stars[0].dy, g.stars[0].dx, g.stars[1].dy, g.stars[1].dx,
                          g.stars[2].dy, g.stars[10].alive),

@@ -2,10 +2,12 @@
 // how many words were shown, and the ten shots.
 #include <gtest/gtest.h>
 
+#include "act_rules_kit.h"
 #include "games/action/basketball/basketball_rules.h"
 
 using namespace wm;
 using namespace wm::basketball;
+using Begun = test::Begun<Game>;
 
 namespace {
 SharedState List(int difficulty) {
@@ -25,8 +27,7 @@ TEST(BasketballRules, PaceFollowsTheLevel) {
 TEST(BasketballRules, WordsOfThirtyOneCharactersAreNeverDrawn) {
     SharedState s = List(5);
     s.Score = 50;
-    ScriptedRng rng;
-    rng.pick(2, 4).pick(2, 4).pick(3, 4);
+    auto rng = ScriptedRng().pick(2, 4).pick(2, 4).pick(3, 4);
     Game g;
     ASSERT_TRUE(g.setup(s, rng));
     EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning, s.Score, g.shotsLeft()),
@@ -43,11 +44,8 @@ TEST(BasketballRules, WordsOfThirtyOneCharactersAreNeverDrawn) {
 }
 
 TEST(BasketballRules, AboutOneWordInFourIsTheRightOne) {
-    SharedState s = List(5);
-    ScriptedRng rng;
-    rng.pick(1, 4);  // TheWord: dribble
-    Game g;
-    ASSERT_TRUE(g.setup(s, rng));
+    // The word: dribble.
+    auto [s, rng, g] = Begun(List(5), ScriptedRng().pick(1, 4));
     rng.pick(3, 4).pick(2, 4);  // hoop, and the draw of four that is not 3
     g.showNextWord(s, rng);
     EXPECT_EQ(g.onShow(), "hoop");
@@ -57,11 +55,7 @@ TEST(BasketballRules, AboutOneWordInFourIsTheRightOne) {
 }
 
 TEST(BasketballRules, LettersRevealOneByOneOverRandomCapitals) {
-    SharedState s = List(5);
-    ScriptedRng rng;
-    rng.pick(3, 4);
-    Game g;
-    ASSERT_TRUE(g.setup(s, rng));
+    auto [s, rng, g] = Begun(List(5), ScriptedRng().pick(3, 4));
     rng.pick(3, 4).pick(1, 4);
     g.showNextWord(s, rng);
     ASSERT_EQ(g.onShow(), "hoop");
@@ -91,38 +85,26 @@ TEST(BasketballRules, LettersRevealOneByOneOverRandomCapitals) {
 }
 
 TEST(BasketballRules, PointsDependOnHowManyWordsWereShown) {
-    struct Row {
-        int shown;
-        double rnd;
-        long long points;
-    };
     // Level 3: the first word Int(Rnd x 1000) x 3, the second Int(Rnd x 500) x 3, then
     // Len x 3 ("hoop").
-    for (const Row r : {Row{1, 0.5, 1500}, Row{1, 0.9999, 2997}, Row{2, 0.5, 750}, Row{3, 0.5, 12},
-                        Row{6, 0.9, 12}}) {
-        SharedState s = List(3);
-        ScriptedRng rng;
-        rng.pick(3, 4);
-        Game g;
-        ASSERT_TRUE(g.setup(s, rng));
-        for (int i = 0; i < r.shown; ++i) {
+    const std::tuple<int, double, long long> rows[] = {
+        {1, 0.5, 1500}, {1, 0.9999, 2997}, {2, 0.5, 750}, {3, 0.5, 12}, {6, 0.9, 12}};
+    for (auto [shown, rnd, points] : rows) {
+        auto [s, rng, g] = Begun(List(3), ScriptedRng().pick(3, 4));
+        for (int i = 0; i < shown; ++i) {
             rng.pick(1, 4).pick(3, 4);
             g.showNextWord(s, rng);
         }
-        rng.pick(4, 4).then(r.rnd);  // the animation, then the points
+        rng.pick(4, 4).then(rnd);  // the animation, then the points
         const Shot shot = g.shoot(s, "hoop", rng);
         EXPECT_EQ(std::tuple(shot.good, shot.animation, shot.points, s.Score),
-                  std::tuple(true, 4, r.points, double(r.points)))
-            << r.shown;
+                  std::tuple(true, 4, points, double(points)))
+            << shown;
     }
 }
 
 TEST(BasketballRules, AHalfShownCaptionOrAnotherWordIsAMiss) {
-    SharedState s = List(3);
-    ScriptedRng rng;
-    rng.pick(3, 4);
-    Game g;
-    ASSERT_TRUE(g.setup(s, rng));
+    auto [s, rng, g] = Begun(List(3), ScriptedRng().pick(3, 4));
     for (const char* caption : {"hQoP", "HOOP", "court", "Drag ball over net to begin...", ""}) {
         rng.pick(2, 4);
         const Shot shot = g.shoot(s, caption, rng);
@@ -132,10 +114,7 @@ TEST(BasketballRules, AHalfShownCaptionOrAnotherWordIsAMiss) {
 }
 
 TEST(BasketballRules, TenShotsThenTheEnd) {
-    SharedState s = List(3);
-    ScriptedRng rng(0.6);
-    Game g;
-    ASSERT_TRUE(g.setup(s, rng));
+    auto [s, rng, g] = Begun(List(3), 0.6);
     for (int shot = 1; shot <= 10; ++shot) {
         EXPECT_EQ(g.nextShot(), shot == 10);
         EXPECT_EQ(g.shotsLeft(), 10 - shot);

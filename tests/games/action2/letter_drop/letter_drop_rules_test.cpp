@@ -2,12 +2,13 @@
 // at the tile edges, the keys, the speed rule, the hint, and the shooting star.
 #include <gtest/gtest.h>
 
+#include "act_rules_kit.h"
 #include "games/action/letter_drop/letter_drop_rules.h"
-#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::letter_drop;
 using wm::test::ListOf;
+using Begun = test::Begun<Game>;
 
 namespace {
 // Drops the falling letter from just above the landing line with its left edge at `x`.
@@ -25,11 +26,9 @@ int Target(const Game& g) {
 }  // namespace
 
 TEST(LetterDropRules, WordChoiceUpperCasesAndSetsTheTiles) {
-    SharedState s = ListOf({"abcdefghijklmnop", "rock'n roll"}, 90);
-    ScriptedRng rng(0.5);
-    rng.pick(1, 2).pick(2, 2).pick(1, 11);  // a long word is passed over
-    Game g;
-    ASSERT_EQ(g.setup(s, rng), Setup::Ready);
+    // A long word is passed over.
+    auto [s, rng, g] = Begun(ListOf({"abcdefghijklmnop", "rock'n roll"}, 90),
+                             ScriptedRng(0.5).pick(1, 2).pick(2, 2).pick(1, 11));
     EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning, s.GameSpeed, s.Score, rng.randomizeCount),
               std::tuple("ROCK'N ROLL", "meaning of rock'n roll", 90, 0.0, 1));
     // The apostrophe and the blank are not dropped: the apostrophe stands on its tile, the
@@ -40,10 +39,7 @@ TEST(LetterDropRules, WordChoiceUpperCasesAndSetsTheTiles) {
 }
 
 TEST(LetterDropRules, FourteenLettersFillEveryTileAndFifteenAreRefused) {
-    SharedState s = ListOf({"ABCDEFGHIJKLMN"}, 90);
-    ScriptedRng rng(0.1);
-    Game g;
-    ASSERT_EQ(g.setup(s, rng), Setup::Ready);
+    auto [s, rng, g] = Begun(ListOf({"ABCDEFGHIJKLMN"}, 90), 0.1);
     for (int i = 0; i < kTiles; ++i) EXPECT_TRUE(g.tileVisible(i)) << i;
     EXPECT_EQ(g.tileLeft(0), kFieldW - g.tileLeft(kTiles - 1) - kTileW) << "a centred row";
 
@@ -55,11 +51,7 @@ TEST(LetterDropRules, FourteenLettersFillEveryTileAndFifteenAreRefused) {
 
 TEST(LetterDropRules, AWordWithNothingToDropIsPassedOverForAnother) {
     // Hyphens, apostrophes and blanks stand on their tiles: such a word is no game.
-    SharedState s = ListOf({"- -", "a-b"}, 90);
-    ScriptedRng rng(0.2);
-    rng.pick(1, 2).pick(2, 2);
-    Game g;
-    ASSERT_EQ(g.setup(s, rng), Setup::Ready);
+    auto [s, rng, g] = Begun(ListOf({"- -", "a-b"}, 90), ScriptedRng(0.2).pick(1, 2).pick(2, 2));
     EXPECT_EQ(std::tuple(s.TheWord, s.TheMeaning, g.lettersLeft(), g.tileShows(1)),
               std::tuple("A-B", "meaning of a-b", 2, true));
     EXPECT_NE(g.falling(), 0);
@@ -73,37 +65,29 @@ TEST(LetterDropRules, AWordWithNothingToDropIsPassedOverForAnother) {
 
     // Long words and letterless ones: the letterless are what the pupil could have had.
     SharedState mixed = ListOf({"ABCDEFGHIJKLMNOP", "--"}, 90);
-    ScriptedRng r3(0.0);
-    r3.pick(1, 2).pick(2, 2).pick(1, 2).pick(1, 2);
+    auto r3 = ScriptedRng(0.0).pick(1, 2).pick(2, 2).pick(1, 2).pick(1, 2);
     EXPECT_EQ(g.setup(mixed, r3), Setup::NoLetters);
 }
 
 TEST(LetterDropRules, LandingTestAtTheTileEdges) {
-    struct Case {
-        int offset;  // of the letter's middle from the target tile's left edge
-        bool right;
-    };
-    for (const Case c : {Case{0, true}, Case{-1, false}, Case{kTileW, true},
-                         Case{kTileW + 1, false}, Case{kTileW / 2, true}}) {
-        SharedState s = ListOf({"QZ"}, 90);
-        ScriptedRng rng(0.0);  // the Q falls first
-        Game g;
-        ASSERT_EQ(g.setup(s, rng), Setup::Ready);
+    // The letter's middle this far from the target tile's left edge lands on it, or not.
+    const std::pair<int, bool> edges[] = {
+        {0, true}, {-1, false}, {kTileW, true}, {kTileW + 1, false}, {kTileW / 2, true}};
+    for (auto [offset, right] : edges) {
+        // The Q falls first.
+        auto [s, rng, g] = Begun(ListOf({"QZ"}, 90), 0.0);
         ASSERT_EQ(g.falling(), 'Q');
-        const int x = g.tileLeft(0) + c.offset - kTileW / 2;
+        const int x = g.tileLeft(0) + offset - kTileW / 2;
         const Landing l = DropAt(g, s, x, rng);
-        EXPECT_EQ(l, c.right ? Landing::Right : Landing::Wrong) << c.offset;
+        EXPECT_EQ(l, right ? Landing::Right : Landing::Wrong) << offset;
         // Back to the top either way.
-        EXPECT_EQ(std::tuple(g.tileShows(0), g.x(), g.y()), std::tuple(c.right, kFieldW / 2, kTopY))
-            << c.offset;
+        EXPECT_EQ(std::tuple(g.tileShows(0), g.x(), g.y()), std::tuple(right, kFieldW / 2, kTopY))
+            << offset;
     }
 }
 
 TEST(LetterDropRules, ALetterOnAFilledTileOrTheWrongOneIsAMiss) {
-    SharedState s = ListOf({"AA"}, 90);
-    ScriptedRng rng(0.0);
-    Game g;
-    ASSERT_EQ(g.setup(s, rng), Setup::Ready);
+    auto [s, rng, g] = Begun(ListOf({"AA"}, 90), 0.0);
     ASSERT_EQ(DropAt(g, s, g.tileLeft(0), rng), Landing::Right);
     EXPECT_EQ(s.Score, 90 * 5);
     // The second A on the tile that already shows its letter.
@@ -114,10 +98,7 @@ TEST(LetterDropRules, ALetterOnAFilledTileOrTheWrongOneIsAMiss) {
 }
 
 TEST(LetterDropRules, KeysMoveByTheStepAndStopAtTheEdges) {
-    SharedState s = ListOf({"AB"}, 90);
-    ScriptedRng rng(0.0);
-    Game g;
-    ASSERT_EQ(g.setup(s, rng), Setup::Ready);
+    auto [s, rng, g] = Begun(ListOf({"AB"}, 90), 0.0);
     const int step = 90 / 2 + 70;
     g.place(1000, kTopY);
     g.tick(s, {false, true, false}, rng);
@@ -138,10 +119,7 @@ TEST(LetterDropRules, KeysMoveByTheStepAndStopAtTheEdges) {
 }
 
 TEST(LetterDropRules, SpeedRisesOnEveryRightLandingOnceFewerThanFiveAreLeft) {
-    SharedState s = ListOf({"ABCDEFG"}, 60);
-    ScriptedRng rng(0.0);
-    Game g;
-    ASSERT_EQ(g.setup(s, rng), Setup::Ready);
+    auto [s, rng, g] = Begun(ListOf({"ABCDEFG"}, 60), 0.0);
     std::vector<int> speeds;
     double score = 0;
     while (g.lettersLeft() > 0) {
@@ -155,10 +133,7 @@ TEST(LetterDropRules, SpeedRisesOnEveryRightLandingOnceFewerThanFiveAreLeft) {
 }
 
 TEST(LetterDropRules, FourMissesTurnTheHintOnAndOneRightLandingTurnsItOff) {
-    SharedState s = ListOf({"ABA"}, 90);
-    ScriptedRng rng(0.0);
-    Game g;
-    ASSERT_EQ(g.setup(s, rng), Setup::Ready);
+    auto [s, rng, g] = Begun(ListOf({"ABA"}, 90), 0.0);
     ASSERT_EQ(g.falling(), 'A');
     const int away = g.tileLeft(1);  // the B's tile
     for (int miss = 1; miss <= 4; ++miss) {
@@ -173,8 +148,7 @@ TEST(LetterDropRules, FourMissesTurnTheHintOnAndOneRightLandingTurnsItOff) {
 
 TEST(LetterDropRules, TheStarStartsOneTimeInFiftyAndLeavesPastTheRightEdge) {
     Star star;
-    ScriptedRng rng;
-    rng.then(10.0 / 500);  // Int(Rnd x 500 + 1) = 11: no star
+    auto rng = ScriptedRng().then(10.0 / 500);  // Int(Rnd x 500 + 1) = 11: no star
     star.tick(rng);
     EXPECT_FALSE(star.flying());
     rng.then(8.5 / 500).pick(1, 2).then(0.9);  // 9: a star from the left, low in the sky

@@ -2,11 +2,12 @@
 // capture only of a slow ball, the scores of a right and a wrong hole.
 #include <gtest/gtest.h>
 
+#include "act_rules_kit.h"
 #include "games/action/mini_golf/mini_golf_rules.h"
-#include "word_lists.h"
 
 using namespace wm;
 using namespace wm::mini_golf;
+using Begun = test::Begun<Course>;
 
 namespace {
 SharedState List(int difficulty) {
@@ -24,32 +25,25 @@ Course Rolling(SharedState& s, ScriptedRng& rng, double x, double y, double vx, 
 }  // namespace
 
 TEST(MiniGolfRules, LevelTable) {
-    struct Row {
-        int difficulty, holes;
-        const char* blocks;
-        int R;
-    };
-    for (const Row r :
+    using Row = std::tuple<int, int, const char*, int>;
+    for (auto [difficulty, holes, blocks, R] :
          {Row{0, 2, "", 400}, Row{1, 2, "", 400}, Row{2, 3, "", 400}, Row{3, 3, "", 400},
           Row{4, 3, " 1 2 4 5", 300}, Row{5, 3, " 1 2 3 4 5", 300}, Row{6, 4, " 1 2 3 4 5", 200},
           Row{7, 4, " 1 2 3 4 5 11 12", 200}, Row{8, 5, " 1 2 3 4 5 11 12", 100},
           Row{9, 5, " 1 2 3 4 5 6 7 8 11 12", 100},
           Row{10, 5, " 1 2 3 4 5 6 7 8 9 10 11 12", 100}}) {
-        const Level l = LevelFor(r.difficulty);
-        std::string blocks;
+        const Level l = LevelFor(difficulty);
+        std::string shown;
         for (int i = 0; i < int(l.blocks.size()); ++i)
-            if (l.blocks[i]) blocks += " " + std::to_string(i);
-        EXPECT_EQ(l.holes, r.holes) << r.difficulty;
-        EXPECT_EQ(blocks, r.blocks) << r.difficulty;
-        EXPECT_EQ(l.R, r.R) << r.difficulty;
+            if (l.blocks[i]) shown += " " + std::to_string(i);
+        EXPECT_EQ(std::tuple(l.holes, shown, l.R), std::tuple(holes, blocks, R)) << difficulty;
     }
 }
 
 TEST(MiniGolfRules, SetupLaysOutTheCourseAndTheWord) {
     SharedState s = List(8);
     s.Score = 77;
-    ScriptedRng rng;
-    rng.pick(2, 5).pick(4, 5);  // the word, the right hole
+    auto rng = ScriptedRng().pick(2, 5).pick(4, 5);  // the word, the right hole
     rng.pick(2, 5).pick(1, 5).pick(1, 5).pick(3, 5).pick(5, 5).pick(4, 5);  // repeats drawn again
     rng.pick(1, 3);                                                         // block pattern 1
     Course c;
@@ -79,10 +73,7 @@ TEST(MiniGolfRules, AListOfOneWordRepeatedDoesNotHang) {
 }
 
 TEST(MiniGolfRules, SwingIsClampedAndFliesAwayFromThePull) {
-    SharedState s = List(1);
-    ScriptedRng rng(0.5);
-    Course c;
-    c.setup(s, rng);
+    auto [s, rng, c] = Begun(List(1), 0.5);
     const int bx = int(c.ballX()), by = int(c.ballY());
     c.swing(bx + 4000, by - 6000);
     EXPECT_EQ(std::tuple(c.vx(), c.vy(), c.strokes()), std::tuple(-800, 1000, 1));  // 1200 clamped
@@ -93,10 +84,7 @@ TEST(MiniGolfRules, SwingIsClampedAndFliesAwayFromThePull) {
 }
 
 TEST(MiniGolfRules, SwingStartsOnlyCloseToTheBall) {
-    SharedState s = List(1);
-    ScriptedRng rng(0.5);
-    Course c;
-    c.setup(s, rng);
+    auto [s, rng, c] = Begun(List(1), 0.5);
     const int edge = int(c.ballX()) + kBallSize / 2 + kGrab;
     EXPECT_TRUE(c.canSwing(edge, int(c.ballY())));
     EXPECT_FALSE(c.canSwing(edge + 1, int(c.ballY())));
@@ -116,10 +104,7 @@ TEST(MiniGolfRules, FrictionStopsTheBall) {
 }
 
 TEST(MiniGolfRules, WallsTurnTheBallBack) {
-    SharedState s = List(1);
-    ScriptedRng rng(0.5);
-    Course c;
-    c.setup(s, rng);
+    auto [s, rng, c] = Begun(List(1), 0.5);
     const Box b = c.box();
     c.placeBall(b.right - 130, 0.8 * kFieldH);
     c.setVelocity(100, 0);
@@ -134,10 +119,7 @@ TEST(MiniGolfRules, WallsTurnTheBallBack) {
 }
 
 TEST(MiniGolfRules, ABlockTurnsTheAxisTheBallCameFrom) {
-    SharedState s = List(5);
-    ScriptedRng rng(0.5);
-    Course c;
-    c.setup(s, rng);
+    auto [s, rng, c] = Begun(List(5), 0.5);
     ASSERT_TRUE(c.blockActive(2));
     const int bx = c.blockX(2), by = c.blockY(2), B = c.B();
     // From below, straight up into it: Y turns, X goes on.
@@ -159,10 +141,8 @@ TEST(MiniGolfRules, ABlockTurnsTheAxisTheBallCameFrom) {
 
 TEST(MiniGolfRules, OnlyASlowBallDropsAndAFastOneFliesOver) {
     for (const int level : {1, 8}) {
-        SharedState s = List(level);
-        ScriptedRng rng(0.0);  // hole 1 is the right one
-        Course probe;
-        probe.setup(s, rng);
+        // Hole 1 is the right one.
+        auto [s, rng, probe] = Begun(List(level), 0.0);
         const int R = probe.R(), hx = probe.holeX(1), hy = probe.holeY(1);
         for (const double after : {R - 1.0, double(R)}) {
             const double v = after / (1 - kFriction);  // the speed after this tick's friction
@@ -182,24 +162,18 @@ TEST(MiniGolfRules, OnlyASlowBallDropsAndAFastOneFliesOver) {
 }
 
 TEST(MiniGolfRules, ScoresByStrokesAndAWrongHoleCostsAThousand) {
-    struct Row {
-        int strokes, base;
-    };
-    for (const Row r : {Row{1, 500}, Row{2, 200}, Row{3, 100}, Row{4, 50}, Row{9, 50}}) {
-        SharedState s = List(3);
-        ScriptedRng rng(0.0);
-        Course c;
-        c.setup(s, rng);
-        for (int i = 0; i < r.strokes; ++i) c.swing(int(c.ballX()), int(c.ballY()));
+    for (auto [strokes, base] : {std::pair{1, 500}, {2, 200}, {3, 100}, {4, 50}, {9, 50}}) {
+        auto [s, rng, c] = Begun(List(3), 0.0);
+        for (int i = 0; i < strokes; ++i) c.swing(int(c.ballX()), int(c.ballY()));
         c.placeBall(c.holeX(1), c.holeY(1) + 10);
         c.setVelocity(0, -10);
         rng.pick(2, 3);  // the bonus: Int(Rnd x Difficulty + 1) = 2
         const Step st = c.tick(s, rng);
-        EXPECT_EQ(std::tuple(st.right, s.Score), std::tuple(true, r.base * 3 + 200.0)) << r.strokes;
+        EXPECT_EQ(std::tuple(st.right, s.Score), std::tuple(true, base * 3 + 200.0)) << strokes;
     }
     SharedState s = List(2);
-    ScriptedRng rng(0.0);
-    rng.pick(1, 5).pick(1, 3).pick(2, 5).pick(3, 5);  // apple in hole 1, pear and plum beside
+    // Apple in hole 1, pear and plum beside.
+    auto rng = ScriptedRng(0.0).pick(1, 5).pick(1, 3).pick(2, 5).pick(3, 5);
     Course c;
     c.setup(s, rng);
     ASSERT_EQ(c.caption(2), "pear");
