@@ -178,7 +178,7 @@ private slots:
         ShellFixture fx;
         WM_CHECK_LOOK("Shell_Title", OpenTitle());
         Shared().CurrentGame = "Word Search";  // its options frame shows, relabelled
-        for (const char* name : {"GameOptions", "QuizOptions", "FlashCardOptions"}) {
+        for (const char* name : {"GameOptions", "QuizOptions", "FlashCardOptions", "ChooseList"}) {
             QWidget* screen = OpenScreen(name, CurrentScreen());
             Pump();
             WM_CHECK_LOOK(QString("Shell_") + name, screen);
