@@ -39,7 +39,7 @@ private slots:
         FinishClips(game);
 
         game->hintButton()->click();
-        QVERIFY(fx.dialogs.saw("Definition: \"a cold treat\""));
+        WM_VERIFY(Box(fx, "Definition: \"a cold treat\"", "Hangman!"));
         QCOMPARE(Shared().Score, 9018.0 - 4510);
 
         fx.dialogs.answerYes(true).answerYes(true);  // try again, and raise the level
@@ -74,9 +74,11 @@ private slots:
         WM_OPEN(game, fx, OpenGame<HangMan>(fx, "HangMan", {{"caf\xE9 noir", "black coffee"}}, 1));
         Pump(20);
         QCOMPARE(boxes(game), "...._....");
+        Keys(game, " '");  // neither is a guess, though the word has a blank
         QVERIFY(TriggerMenu(game, "FLang"));
         QCOMPARE(QString::fromStdString(Shared().CurrentGame).toLower(), "hangman");
         QCOMPARE(boxes(game), "...\u00e9_....");
+        QCOMPARE(LabelText(game, "Label2"), "\u00c9 ");
         // A wrong whole word is a miss; cancelling is nothing; a blank inside must match.
         fx.dialogs.answerInput(QString("cafe noir")).answerInput(std::nullopt);
         game->solveButton()->click();

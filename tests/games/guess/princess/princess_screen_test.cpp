@@ -64,6 +64,8 @@ private slots:
         fx.rng.pick(2, 3);
         Pump(100);
         QCOMPARE(LabelText(game, "ReadyLabel"), "Word 2 of 2");
+        QVERIFY(game->findChild<QLabel*>("ReadyLabel")->isVisible());
+        QCOMPARE(game->view().pointsU, 1.0);  // the first word's points have floated away
         QTest::keyClicks(game, "m");
         QCOMPARE(game->game().nextPosition(), 0);
         Ready(game, 1000);
