@@ -5,6 +5,7 @@
 #include "games/guess/hangman/hangman_screen.h"
 #include "games/guess/hangman/hangman_rules.h"
 #include "guess_road.h"
+#include "look.h"
 
 static QString boxes(GuessScreen* game) {
     return BoxesText(game->boxes(), game->round().boxes.size());
@@ -58,7 +59,11 @@ private slots:
         fx.dialogs.answerYes(false);
         for (char c : QByteArray("zqwkjv")) {
             Keys(game, QString(QChar(c)));
-            if (c == 'v') QVERIFY(fx.dialogs.last().startsWith("Would you like to raise"));
+            if (c == 'v') {
+                QVERIFY(fx.dialogs.last().startsWith("Would you like to raise"));
+                game->movie()->advance(0.9);
+                WM_CHECK_LOOK("HangMan_last_miss", game);  // the last piece in place, boxes below
+            }
             FinishClips(game);
         }
         WM_VERIFY(Box(fx,
