@@ -4,6 +4,7 @@
 
 #include "games/guess/bugspray/bugspray_screen.h"
 #include "guess_road.h"
+#include "look.h"
 
 class BugSprayScreenTest : public QObject {
     Q_OBJECT
@@ -34,6 +35,8 @@ private slots:
         Keys(game, "nT");
         // The win clip, waited for.
         QVERIFY(fx.sound.played.contains("bugbye.wav") && game->bugPlayer()->isPlaying());
+        game->bugPlayer()->advance(0.4);
+        WM_CHECK_LOOK("Bug_Spray_win", game);  // wings out, sparkles round it, not yet flying
         FinishClips(game);
         // The stake Int(0.5 * 1000 + 1) x 1 x 3 = 1503, kept whole.
         QVERIFY(!fx.dialogs.saw("Would you like to raise the difficulty level a bit?"));

@@ -5,6 +5,7 @@
 #include "games/guess/hangman/hangman_screen.h"
 #include "games/guess/hangman/hangman_rules.h"
 #include "guess_road.h"
+#include "look.h"
 
 static QString boxes(GuessScreen* game) {
     return BoxesText(game->boxes(), game->round().boxes.size());
@@ -39,7 +40,7 @@ private slots:
         FinishClips(game);
 
         game->hintButton()->click();
-        QVERIFY(fx.dialogs.saw("Definition: \"a cold treat\""));
+        WM_VERIFY(Box(fx, "Definition: \"a cold treat\"", "Hangman!"));
         QCOMPARE(Shared().Score, 9018.0 - 4510);
 
         fx.dialogs.answerYes(true).answerYes(true);  // try again, and raise the level
@@ -58,7 +59,11 @@ private slots:
         fx.dialogs.answerYes(false);
         for (char c : QByteArray("zqwkjv")) {
             Keys(game, QString(QChar(c)));
-            if (c == 'v') QVERIFY(fx.dialogs.last().startsWith("Would you like to raise"));
+            if (c == 'v') {
+                QVERIFY(fx.dialogs.last().startsWith("Would you like to raise"));
+                game->movie()->advance(0.9);
+                WM_CHECK_LOOK("HangMan_last_miss", game);  // the last piece in place, boxes below
+            }
             FinishClips(game);
         }
         WM_VERIFY(Box(fx,
@@ -74,9 +79,11 @@ private slots:
         WM_OPEN(game, fx, OpenGame<HangMan>(fx, "HangMan", {{"caf\xE9 noir", "black coffee"}}, 1));
         Pump(20);
         QCOMPARE(boxes(game), "...._....");
+        Keys(game, " '");  // neither is a guess, though the word has a blank
         QVERIFY(TriggerMenu(game, "FLang"));
         QCOMPARE(QString::fromStdString(Shared().CurrentGame).toLower(), "hangman");
         QCOMPARE(boxes(game), "...\u00e9_....");
+        QCOMPARE(LabelText(game, "Label2"), "\u00c9 ");
         // A wrong whole word is a miss; cancelling is nothing; a blank inside must match.
         fx.dialogs.answerInput(QString("cafe noir")).answerInput(std::nullopt);
         game->solveButton()->click();

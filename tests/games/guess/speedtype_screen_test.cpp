@@ -11,6 +11,7 @@ constexpr double kSecond = 1.0 / 86400;
 // Waits out Ready... and Set... on the test clock.
 void toGo(SpeedType* game) {
     QCOMPARE(LabelText(game, "Label1"), "Ready...");
+    QVERIFY(!game->findChild<QLabel*>("Label3")->isVisible());  // no typing box before the go
     Pump(1000);
     QCOMPARE(LabelText(game, "Label1"), "Set...");
     Pump(1000);

@@ -63,7 +63,9 @@ private slots:
         // (3 x 10 + 7 x 5) x 4 points.
         QCOMPARE(Labels(game, "MeaningLabel ScoreLabel"), "Meaning: what a cow says | Score: 260");
         Keys(game, "b");  // the word is done: no key counts until the next one
-        for (int step : {1500, 1000, 800}) Pump(step);
+        Pump(600);
+        WM_CHECK_LOOK("Flying_Cow_won", game);  // the points over the cow, which moos
+        for (int step : {900, 1000, 800}) Pump(step);
         QCOMPARE(LabelText(game, "ReadyLabel"), "Word 2 of 5");
         Pump(900);
 

@@ -127,6 +127,7 @@ private slots:
         QVERIFY(fx.win.tables.isEmpty());
         Pump(2400);
         WM_CHECK_WON(fx, "freeze it", QString("ICE %1").arg(expected));
+        QCOMPARE(MissingAssets(fx, "Freeze-It"), "");  // every sound it declares was made
     }
 
     void noPointsNoTableAndAListWithNoLettersRefused() {
@@ -142,6 +143,9 @@ private slots:
         QCOMPARE(game->game().hidden(), hidden - 1);
         QTest::keyClick(game, Qt::Key_Space);
         TypeAnswer(game, "snow");
+        // The word melts before the miss's banner is due to go; the melt's banner stays.
+        Pump(1400);
+        QVERIFY(game->scene()->bannerText().startsWith("The word was: "));
         // Every word melts at 1800 - 300 x 5 = 300 ms a block.
         QStringList seen, banners;
         for (int i = 0; i < 800 && game && !fx.dialogs.last().startsWith("The ice"); ++i) {

@@ -3,6 +3,7 @@
 // shown and a new game; the clue, silence and a list it cannot play.
 #include "games/guess/princess/princess_screen.h"
 #include "game_open.h"
+#include "look.h"
 
 namespace {
 // Clicks the first stone still in the water that carries `letter`, where the pupil sees it.
@@ -39,6 +40,7 @@ private slots:
         Ready(game, 1650);
         QCOMPARE(Hud(game), "Word 1 of 2 | Score: 0 | Splashes: 0 of 8");
         QCOMPARE(LabelText(game, "MeaningLabel"), "Meaning: it hoots");  // the option is on
+        WM_CHECK_LOOK("Princess_play", game);  // the bridge up, the stones in the moat
 
         // A wrong stone splashes and stirs the dragon; right ones rise in the word's order.
         Click(game, 'w');
@@ -64,6 +66,8 @@ private slots:
         fx.rng.pick(2, 3);
         Pump(100);
         QCOMPARE(LabelText(game, "ReadyLabel"), "Word 2 of 2");
+        QVERIFY(game->findChild<QLabel*>("ReadyLabel")->isVisible());
+        QCOMPARE(game->view().pointsU, 1.0);  // the first word's points have floated away
         QTest::keyClicks(game, "m");
         QCOMPARE(game->game().nextPosition(), 0);
         Ready(game, 1000);
