@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QTableWidget>
 
+#include "look.h"
 #include "teacher/list_exchange.h"
 #include "teacher_fixture.h"
 
@@ -231,6 +232,7 @@ private slots:
             QCOMPARE(p.table()->horizontalHeaderItem(0)->text(), "Spanish");
             QCOMPARE(p.table()->horizontalHeaderItem(1)->text(), "English");
             QCOMPARE(p.table()->item(0, 0)->text(), "el perro");
+            WM_CHECK_LOOK("Teacher_ImportPreview", &p);
             p.heading()->setChecked(false);
             QCOMPARE(p.summary(), "3 words found in heading.csv (CSV).");
             QCOMPARE(p.table()->rowCount(), 3);
