@@ -81,6 +81,14 @@ private slots:
                  "trying to spell was \"" +
                      QString::fromStdString(word) + "\". Would you like to try again?");
         QVERIFY(BackAtTitle());
+        // Words over ten letters cannot be spelled across the board.
+        WM_VERIFY(Refused(fx, "Short Circuit",
+                          {{"electricity", "energy carried by moving charges"},
+                           {"transformer", "changes the push of a current"}},
+                          2,
+                          "The words on this vocabulary list are too long for this game. Please "
+                          "choose another list or another game.",
+                          "Short Circuit"));
     }
 };
 

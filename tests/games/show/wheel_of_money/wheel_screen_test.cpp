@@ -3,9 +3,9 @@
 #include <QLineEdit>
 
 #include "core/strings.h"
+#include "game_open.h"
 #include "games/show/wheel_of_money/wheel_screen.h"
 #include "platform/movie.h"
-#include "game_open.h"
 
 namespace {
 
@@ -39,6 +39,7 @@ void AnswerRight(GameShowForm* game) {
             game->clickChoice(w.RightChoice);
             break;
         case wheel::Frame::Letters:
+            QCOMPARE(game->tile(0)->y(), game->tile(1)->y());  // the tiles stand in one row
             if (w.kind == wheel::Kind::LetterChange) {
                 game->clickTile(w.SwapFirst - 1);
                 game->clickTile(w.SwapSecond - 1);
