@@ -2,8 +2,8 @@
 // table and back; a long definition in its panel; a list whose words share their definitions,
 // refused.
 #include "games/show/concentration/concentration_screen.h"
-#include "look.h"
 #include "game_open.h"
+#include "look.h"
 
 using concentration::Face;
 
@@ -78,8 +78,9 @@ private slots:
         QCOMPARE(g->shownFace(1), Face::Meaning);
         Pump(60);  // the turn's last moment
         QCOMPARE(std::pair(g->shownFace(0), g->shownFace(1)), std::pair(Face::Found, Face::Found));
+        Pump(150);
         QVERIFY(g->frame().findTimer("Timer3")->isActive());  // the found pair swells, then rests
-        Pump(340);
+        Pump(190);
         QVERIFY(!g->frame().findTimer("Timer3")->isActive());
 
         // heron and badger's definition: -10 x 3; a third click turns them back at once.

@@ -3,8 +3,9 @@
 // under ten seconds; Restart's box.
 
 #include "games/show/bomb_squad2/bomb_squad2_screen.h"
-#include "platform/movie.h"
 #include "game_open.h"
+#include "look.h"
+#include "platform/movie.h"
 
 namespace {
 const Pairs kWeather{{"breeze", "a gentle wind"},
@@ -48,6 +49,7 @@ private slots:
             QVERIFY(game->board().carrying);
             clickOn(game, game->defLabels()[defOf(game, i)]);
             if (i == 0) {
+                WM_CHECK_LOOK("Bomb_Squad_2_wired", game);  // its wire runs to the definition
                 // Wired once, the word cannot be picked up again.
                 clickOn(game, game->wordLabels()[0]);
                 QVERIFY(!game->board().carrying);
@@ -70,6 +72,8 @@ private slots:
         Pump(1000);
         QCOMPARE(fx.sound.played.count("highbeep.wav"), 1);  // 9 left
         clickOn(game, game->wordLabels()[0]);
+        QTest::mouseClick(game, Qt::LeftButton, {}, game->rect().center());
+        QVERIFY(game->board().carrying);  // a press off the labels changes nothing
         fx.dialogs.answerYes(true);
         clickOn(game, game->defLabels()[(defOf(game, 0) + 1) % 8]);
         QVERIFY(game->exploding() && game->bombMovie()->isVisible());

@@ -2,8 +2,9 @@
 // the clock running out, each to its own loser's box.
 
 #include "games/show/bomb_squad/bomb_squad_screen.h"
-#include "platform/movie.h"
 #include "game_open.h"
+#include "look.h"
+#include "platform/movie.h"
 
 namespace {
 const Pairs kWords{
@@ -16,6 +17,21 @@ const Pairs kWords{
 
 void clickAt(QWidget* w, QPoint p) {
     QTest::mouseClick(w, Qt::LeftButton, {}, p);
+}
+
+// The part of `w` repainted while `act` ran.
+QRegion RepaintedDuring(QWidget* w, const std::function<void()>& act) {
+    struct Seen : QObject {
+        QRegion region;
+        bool eventFilter(QObject*, QEvent* e) override {
+            if (e->type() == QEvent::Paint) region += static_cast<QPaintEvent*>(e)->region();
+            return false;
+        }
+    } seen;
+    w->installEventFilter(&seen);
+    act();
+    w->removeEventFilter(&seen);
+    return seen.region;
 }
 
 }  // namespace
@@ -33,16 +49,18 @@ private slots:
         for (int i = 0; i < 5; ++i) {
             QCOMPARE(game->wordLabels()[i]->text().toStdString(),
                      Shared().Words[deal.wires[i].word]);
-            QCOMPARE(game->defLabels()[i]->text().toStdString(),
+            QCOMPARE(LabelText(game, qPrintable(QString("DefLabel%1").arg(i))).toStdString(),
                      Shared().Meanings[deal.wires[i].definition]);
         }
         QVERIFY(!game->wordLabels()[5]->isVisible());
-        Pump(2000);
+        // The clock on the bomb is drawn anew each second, not only the label above it.
+        QVERIFY(RepaintedDuring(game, [] { Pump(2000); }).contains(game->rect().center()));
         QCOMPARE(game->timeLabel()->text(), "23");
         QCOMPARE(fx.sound.played.count("spacebeep.wav"), 2);
 
-        // A press on a label or past the wires does nothing.
+        // A press on a label, past the wires or where a sixth wire would run does nothing.
         clickAt(game, game->wordLabels()[0]->geometry().center());
+        clickAt(game, game->wireMiddle(5));
         QCOMPARE(fx.sound.played.count("snip.wav"), 0);
 
         fx.dialogs.answerYes(false);
@@ -74,12 +92,14 @@ private slots:
         QVERIFY(game->exploding() && game->bombMovie()->isVisible());
         QVERIFY(!game->timeLabel()->isVisible());
         QCOMPARE(fx.sound.played.count("2.wav"), 1);
-        Pump(1900);
+        Pump(400);
+        WM_CHECK_LOOK("Bomb_Squad_blast", game);  // BOOM! on the burst, the wires left standing
+        Pump(1500);
         QVERIFY2(fx.dialogs.texts().isEmpty(), "the box waits for the tenth shake");
         Pump(200);
-        QCOMPARE(fx.dialogs.last(),
-                 "You cut the wrong wire and set the bomb off! You lose. Would you like to give it "
-                 "another try?");
+        QCOMPARE(LastBox(fx),
+                 "Bomb Squad | You cut the wrong wire and set the bomb off! You lose. Would you "
+                 "like to give it another try?");
         QCOMPARE(Shared().Score, 777.0);
         // Yes dealt again, the clock back in view: now it runs out.
         QVERIFY(!game->exploding() && !game->bombMovie()->isVisible());

@@ -29,6 +29,7 @@ private slots:
         Road fx(0, {"SUN"});
         WM_OPEN(game, fx, StartFromTitle<Plachinko>(fx, "Pachinko", kPlanets, 1, 300));
         QVERIFY(fx.dialogs.texts().first().startsWith("Welcome to PACHINKO!"));
+        QVERIFY(!game->lockLabel()->isVisible());  // the lock hint waits for the board
         QStringList asked;
         answerAll(game, {true, false, true, true, false}, &asked);
         asked.removeDuplicates();

@@ -1,8 +1,9 @@
-// Short Circuit on its screen: spelling to a lit bulb and the table, a short circuit, clicks
-// outside the column in play.
+// Short Circuit on its screen: spelling to a lit bulb and the table, a list of long words
+// refused, a short circuit, clicks outside the column in play.
 
 #include "games/show/short_circuit/short_circuit_screen.h"
 #include "game_open.h"
+#include "look.h"
 
 namespace {
 void clickLetter(ShortCircuit* game, int column, int row) {
@@ -36,9 +37,11 @@ private slots:
         fx.dialogs.answerYes(false);
         for (int col = 0; col < int(c.word.size()); ++col) {
             clickLetter(game, col, c.rightRow[col]);
-            if (col == 1)
+            if (col == 1) {
                 for (int r = 0; r < c.rows; ++r)
                     QCOMPARE(game->letter(0, r)->isVisible(), r == c.rightRow[0]);
+                WM_CHECK_LOOK("Short_Circuit_wired", game);  // the wire into two letters
+            }
         }
         QVERIFY(game->lit());
         QCOMPARE(fx.sound.played.count("laser.wav"), 1);
@@ -53,6 +56,14 @@ private slots:
                 Shared().Score <= hidden * (n * band + 505 * 5));
         QCOMPARE(fx.win.tables.size(), 1);
         QVERIFY(BackAtTitle());
+        // Words over ten letters cannot be spelled across the board.
+        WM_VERIFY(Refused(fx, "Short Circuit",
+                          {{"electricity", "energy carried by moving charges"},
+                           {"transformer", "changes the push of a current"}},
+                          2,
+                          "The words on this vocabulary list are too long for this game. Please "
+                          "choose another list or another game.",
+                          "Short Circuit"));
     }
 
     void wrongLetterShortsTheCircuit() {

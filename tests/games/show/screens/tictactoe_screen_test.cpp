@@ -38,7 +38,8 @@ private slots:
 
         // A wrong answer loses the turn, not the square.
         QTest::mouseClick(game, Qt::LeftButton, {}, game->squareCentre(3, 3));
-        QVERIFY(game->options()[1]->isVisible() && !game->options()[2]->isVisible());
+        QVERIFY(game->options()[0]->isVisible() && game->options()[1]->isVisible() &&
+                !game->options()[2]->isVisible());
         game->options()[(game->question().right + 1) % 2]->click();
         game->answerButton()->click();
         QVERIFY(fx.dialogs.last().startsWith("Sorry! The word you should have chosen was \""));

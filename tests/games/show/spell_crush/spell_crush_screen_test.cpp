@@ -3,6 +3,7 @@
 
 #include "games/show/spell_crush/spell_crush_screen.h"
 #include "game_open.h"
+#include "look.h"
 
 namespace {
 
@@ -27,6 +28,7 @@ private slots:
         Pump();
         QCOMPARE(LabelText(game, "Label1") + " | " + LabelText(game, "Label2"),
                  "Directions: Click on the word that is misspelled. | Time: 60");
+        WM_CHECK_LOOK("Spell_Crush_swing", game);  // the safe sways under the crane
         // One word of the four differs from its list entry.
         int misspelled = 0;
         for (int i = 0; i < 4; ++i) {

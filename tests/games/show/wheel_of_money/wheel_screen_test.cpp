@@ -3,9 +3,10 @@
 #include <QLineEdit>
 
 #include "core/strings.h"
-#include "games/show/wheel_of_money/wheel_screen.h"
-#include "platform/movie.h"
 #include "game_open.h"
+#include "games/show/wheel_of_money/wheel_screen.h"
+#include "look.h"
+#include "platform/movie.h"
 
 namespace {
 
@@ -39,6 +40,7 @@ void AnswerRight(GameShowForm* game) {
             game->clickChoice(w.RightChoice);
             break;
         case wheel::Frame::Letters:
+            QCOMPARE(game->tile(0)->y(), game->tile(1)->y());  // the tiles stand in one row
             if (w.kind == wheel::Kind::LetterChange) {
                 game->clickTile(w.SwapFirst - 1);
                 game->clickTile(w.SwapSecond - 1);
@@ -70,9 +72,10 @@ private slots:
         Road fx(11, {"TV!"});  // the letter games need draws that differ
         WM_OPEN(game, fx,
                 qobject_cast<GameShowForm*>(PlayFromTitle("Wheel of Money", "Human Body (", 4)));
-        Pump(200);
-        // The intro plays first.
+        Pump(1500);
+        // The intro plays first: coins tumbling behind the title.
         QVERIFY(game->movieScreen()->isVisible() && !game->command()->isEnabled());
+        WM_CHECK_LOOK("Wheel_of_Money_intro", game);
         UntilButton(game);
         QVERIFY(!game->movieScreen()->isVisible());
         QCOMPARE(game->command()->text(), "Click here to go to the wheel...");
