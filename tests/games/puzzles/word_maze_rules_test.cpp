@@ -98,6 +98,11 @@ TEST(WordMazeBuild, ImpossibleWalkEndsWithTheMessage) {
     ASSERT_TRUE(buildMaze(exact, m, walk));
     EXPECT_EQ(std::tuple(m.EndCol, m.EndRow, m.MazeWidth, m.MazeHeight),
               std::tuple(25, 15, 25, 15));
+    // The next maze starts again from one cell: "ab" walked right is two cells wide, one high.
+    SharedState ab = listOf({"ab"}, 1, false);
+    auto once = ScriptedRng().pick(1, 1).then(0.25).then(0.25);
+    ASSERT_TRUE(buildMaze(ab, m, once));
+    EXPECT_EQ(std::tuple(m.MazeWidth, m.MazeHeight), std::tuple(2, 1));
 }
 
 TEST(WordMazePlay, RetraceUndoAndFinish) {

@@ -85,6 +85,14 @@ TEST(WordSearchBuild, WordNeedsAGridOneLongerThanItselfAndTheGridGrowsByTwo) {
         // The bound on a list that can never be laid out.
         EXPECT_TRUE(message != tooLong || ws.attempts == 60) << ws.attempts;
     }
+    // Each of the 60 attempts tries all three directions before it gives the word up: the word,
+    // then each direction, a generator stuck at 0 redrawing a taken one 250 times before it
+    // walks on (no start fits, so none is drawn): 1 + 1 + 250 + 250 draws.
+    SharedState twenty = test::ListOf({std::string(20, 'q')}, 20);
+    ScriptedRng counted(0.0);
+    WordSearchState stuck;
+    EXPECT_FALSE(startRound(twenty, stuck, counted).ok);
+    EXPECT_EQ(counted.draws, 60 * 502);
 
     // A word one shorter than the grid never reaches the last column or row.
     SharedState state = test::ListOf({"abcd"}, 5);
