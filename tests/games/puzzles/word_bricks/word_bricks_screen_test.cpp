@@ -128,7 +128,11 @@ private slots:
         for (QSize size : {QSize(1280, 800), QSize(1920, 1080)}) {
             g->resize(size);
             Pump(2000);
-            QVERIFY(g->clueText(0).whole && g->clueText(0).font.pixelSize() >= 10);
+            const auto& clue = g->clueText(0);
+            QVERIFY(clue.whole && clue.font.pixelSize() >= 10);
+            // The long definition fits its sign in the size it was given.
+            QVERIFY(clue.lines.size() * QFontMetricsF(clue.font).lineSpacing() <=
+                    g->signRect(0).height());
             const QRect bar = g->ClockLabel->geometry();
             for (int l = 0; l < 10; ++l) {
                 const QRect cells = g->lineRect(l), sign = g->signRect(l);

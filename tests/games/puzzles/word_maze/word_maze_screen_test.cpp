@@ -3,6 +3,7 @@
 
 #include "games/puzzles/word_maze/word_maze_screen.h"
 #include "core/strings.h"
+#include "look.h"
 #include "platform/text.h"
 #include "screen_kit.h"
 
@@ -71,6 +72,7 @@ private slots:
         QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
         const SharedState& s = Shared();
         QCOMPARE(fx.sound.played, QStringList{"dkbell.wav"});
+        QCOMPARE(game->windowTitle(), "Word Maze");
         QCOMPARE(LabelText(game, "Label2"), "The word you are trying to spell is:");
         QCOMPARE(LabelText(game, "Label3"), "Words Left :3");
         QCOMPARE(LabelText(game, "Label1"), toQ(s.TheMeaning));
@@ -79,6 +81,7 @@ private slots:
         QVERIFY(path.size() >= 9);
         for (int i = 0; i + 1 < path.size(); ++i) ClickCell(game, path[i]);
         QCOMPARE(LabelText(game, "Label3"), "Words Left :1");
+        WM_CHECK_LOOK("Word_Maze_play", game);  // the trail walked, the flag on the end stone
         QCOMPARE(fx.sound.played.count("dkbell.wav"), 3);  // the start and two words begun
         QCOMPARE(fx.sound.played.count("boing.wav"), path.size() - 1 - 2);
         Pump(2000);
@@ -104,7 +107,13 @@ private slots:
         QVERIFY(cost >= 1 && cost <= 1000);
         QCOMPARE(label6->text(), QString("-%1 Points...").arg(cost));
         QCOMPARE(fx.sound.played.last(), "bonk.wav");
-        Pump(900);
+        // It flashes red and gold, an eighth of a second each.
+        QVERIFY(label6->styleSheet().contains("#e01030"));
+        Pump(130);
+        QVERIFY(label6->styleSheet().contains("#b00020"));
+        Pump(125);
+        QVERIFY(label6->styleSheet().contains("#e01030"));
+        Pump(645);
         QVERIFY(label6->isVisible());
         Pump(200);
         QVERIFY(!label6->isVisible());
