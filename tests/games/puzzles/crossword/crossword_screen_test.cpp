@@ -95,7 +95,8 @@ private slots:
         // Restart shows the wait panel; the layout follows on Timer2.
         auto* wait = game->findChild<QWidget*>("Frame1");
         QVERIFY(TriggerMenu(game, "RS"));
-        QVERIFY(wait->isVisible() && game->frame().findTimer("Timer2")->isActive());
+        const GameTimer* layOut = game->frame().findTimer("Timer2");
+        QVERIFY(wait->isVisible() && layOut && layOut->isActive());
         Pump();
         QVERIFY(!wait->isVisible());
         auto* command1 = game->findChild<QPushButton*>("Command1");

@@ -121,7 +121,8 @@ private slots:
         words[0].second =
             "a very large animal with thick grey skin, a huge mouth and short legs that lives in "
             "and "
-            "near the rivers and lakes of Africa and can stay under water for several minutes";
+            "near the rivers and lakes of Africa and can stay under water for several minutes "
+            "before it comes up again to breathe the air";
         for (int k = 1; k <= 10; ++k) fx.rng.pick(k, 10);
         auto* g = OpenGame<WordBricks>(fx, "Word Bricks", words, 10, false, false);
         QVERIFY(g);

@@ -78,11 +78,12 @@ private slots:
             if (word < 4) {
                 QCOMPARE(LabelText(game, "WLLabel"), QString("Words Left: %1").arg(4 - word));
                 // The word found flashes, and the flash stops when it is done.
-                QVERIFY(game->frame().findTimer("FlashTimer")->isActive());
+                const GameTimer* flash = game->frame().findTimer("FlashTimer");
+                QVERIFY(flash && flash->isActive());
                 Pump(60);
                 if (word == 0) WM_CHECK_LOOK("Word_Search_play", game);  // the word flashes green
                 Pump(640);
-                QVERIFY(!game->frame().findTimer("FlashTimer")->isActive());
+                QVERIFY(!flash->isActive());
             }
         }
         QCOMPARE(LabelText(game, "WLLabel"), "Words Left: 1");  // the last word leaves it be
