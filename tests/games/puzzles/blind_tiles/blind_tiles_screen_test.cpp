@@ -43,6 +43,9 @@ private slots:
         SharedState& s = Shared();
         QCOMPARE(fx.music.opened, appFile("sounds/vivaldi.mid"));
         QCOMPARE(LabelText(game, "Label2"), "Score: 0");
+        // The palette's key is the game's own name: the scores stay in its table.
+        QVERIFY(TriggerMenu(game, "FLang"));
+        QCOMPARE(s.CurrentGame, std::string("Blind Tiles"));
         const auto words = PlacedWords(game->state().board);
         QCOMPARE(int(words.size()), int(s.PuzzleWordCount));
         // The panel lists the words in the order they were placed, all pink.
@@ -79,6 +82,10 @@ private slots:
         QCOMPARE(s.Score, 0.0);
         QVERIFY(!PlacedWords(game->state().board).empty());
         QVERIFY(!EntryYellow(game->clueLabels()[0]));
+        // A smaller round (as a layout that lowers its target gives) lists only its own words.
+        s.Difficulty = 3;
+        QVERIFY(TriggerMenu(game, "RS"));
+        QCOMPARE(ShownEntries(game).size(), 3);
         QCOMPARE(fx.music.plays, 1);
         QVERIFY(TriggerMenu(game, "Return"));
         QVERIFY(Showing<Title>());

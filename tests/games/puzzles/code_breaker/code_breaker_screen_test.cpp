@@ -2,6 +2,7 @@
 // the palette, a moved letter, a hint, a wrong full code) to the table; the clock run out to the
 // loss box; a full code that fits both screens; a list that cannot be coded refused.
 #include "games/puzzles/code_breaker/code_breaker_screen.h"
+#include "game_end.h"
 #include "look.h"
 #include "screen_kit.h"
 
@@ -164,6 +165,7 @@ private slots:
         QCOMPARE(TableRow(fx, "Code Breaker"), QString("SPY %1").arg(points));
         WM_VERIFY(WonBox(fx, points));
         QVERIFY(BackAtTitle());
+        QCOMPARE(MissingAssets(fx, "Code Breaker"), "");  // every sound it plays was made
     }
 
     void theClockRunsOut() {
@@ -189,6 +191,7 @@ private slots:
         Pump(1000);
         QCOMPARE(game->clockLabel()->text(), QString("Time: 0:00"));
         QCOMPARE(Said(game, fx), "Time's up! / cb-lose.wav");
+        QVERIFY(!game->hintButton()->isEnabled() && !game->clearButton()->isEnabled());
         QTest::keyClick(game, Qt::Key_O);  // nothing more is typed
         QCOMPARE(game->game().holder('O'), -1);
         Pump(1200);

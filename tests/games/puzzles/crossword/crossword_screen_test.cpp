@@ -4,6 +4,7 @@
 #include "games/puzzles/crossword/crossword_screen.h"
 #include "core/strings.h"
 #include "cross_road.h"
+#include "look.h"
 #include "platform/text.h"
 #include "screen_kit.h"
 
@@ -67,6 +68,8 @@ private slots:
                 QCOMPARE(game->state().board.colour[w.cell],
                          n == 0 ? cross::TileColour::White : cross::TileColour::Green);
                 QCOMPARE(game->state().board.caption[w.cell], UCase(s.Words[w.index])[0]);
+                // A green word on the board, the clue column and its hint under it.
+                if (n == 1) WM_CHECK_LOOK("Crossword_play", game);
             }
         }
         // The last word ends the game at once: the table, then the question, then the title.
@@ -86,6 +89,16 @@ private slots:
         auto* game = OpenCrossword(fx, false);
         QVERIFY(game);
         QVERIFY(fx.music.opened.isEmpty());  // no music with the sound off
+        // The palette's key is the game's own name: the scores stay in its table.
+        QVERIFY(TriggerMenu(game, "FLang"));
+        QCOMPARE(Shared().CurrentGame, std::string("Crossword"));
+        // Restart shows the wait panel; the layout follows on Timer2.
+        auto* wait = game->findChild<QWidget*>("Frame1");
+        QVERIFY(TriggerMenu(game, "RS"));
+        const GameTimer* layOut = game->frame().findTimer("Timer2");
+        QVERIFY(wait->isVisible() && layOut && layOut->isActive());
+        Pump();
+        QVERIFY(!wait->isVisible());
         auto* command1 = game->findChild<QPushButton*>("Command1");
         const auto words = PlacedWords(game->state().board);
         for (const auto& w : words) {

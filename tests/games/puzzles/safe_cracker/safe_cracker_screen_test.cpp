@@ -110,6 +110,7 @@ private slots:
         QCOMPARE(LabelText(game, "ScoreLabel"), "Score: 290");
         Pump(1000);
         QVERIFY(game->view().alarm > 0);
+        WM_CHECK_LOOK("Safe_Cracker_alarm", game);  // the beacon's glow, the word on its plaque
         Pump(2600);
         QCOMPARE(LabelText(game, "SafeLabel"), "Safe 3 of 5");
         Ready(game);

@@ -121,14 +121,19 @@ private slots:
         words[0].second =
             "a very large animal with thick grey skin, a huge mouth and short legs that lives in "
             "and "
-            "near the rivers and lakes of Africa and can stay under water for several minutes";
+            "near the rivers and lakes of Africa and can stay under water for several minutes "
+            "before it comes up again to breathe the air";
         for (int k = 1; k <= 10; ++k) fx.rng.pick(k, 10);
         auto* g = OpenGame<WordBricks>(fx, "Word Bricks", words, 10, false, false);
         QVERIFY(g);
         for (QSize size : {QSize(1280, 800), QSize(1920, 1080)}) {
             g->resize(size);
             Pump(2000);
-            QVERIFY(g->clueText(0).whole && g->clueText(0).font.pixelSize() >= 10);
+            const auto& clue = g->clueText(0);
+            QVERIFY(clue.whole && clue.font.pixelSize() >= 10);
+            // The long definition fits its sign in the size it was given.
+            QVERIFY(clue.lines.size() * QFontMetricsF(clue.font).lineSpacing() <=
+                    g->signRect(0).height());
             const QRect bar = g->ClockLabel->geometry();
             for (int l = 0; l < 10; ++l) {
                 const QRect cells = g->lineRect(l), sign = g->signRect(l);

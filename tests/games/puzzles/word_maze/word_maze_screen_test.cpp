@@ -3,6 +3,7 @@
 
 #include "games/puzzles/word_maze/word_maze_screen.h"
 #include "core/strings.h"
+#include "look.h"
 #include "platform/text.h"
 #include "screen_kit.h"
 
@@ -71,12 +72,14 @@ private slots:
         QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
         const SharedState& s = Shared();
         QCOMPARE(fx.sound.played, QStringList{"dkbell.wav"});
+        QCOMPARE(game->windowTitle(), "Word Maze");
         QCOMPARE(LabelText(game, "Label2"), "The word you are trying to spell is:");
         QCOMPARE(LabelText(game, "Label3"), "Words Left :3");
         QCOMPARE(LabelText(game, "Label1"), toQ(s.TheMeaning));
         QVERIFY(!Button(game, "Command1")->isEnabled());
         const QList<int> path = WalkCells(game->maze());
         QVERIFY(path.size() >= 9);
+        WM_CHECK_LOOK("Word_Maze_play", game);  // the stones laid out, a flag on the end one
         for (int i = 0; i + 1 < path.size(); ++i) ClickCell(game, path[i]);
         QCOMPARE(LabelText(game, "Label3"), "Words Left :1");
         QCOMPARE(fx.sound.played.count("dkbell.wav"), 3);  // the start and two words begun
@@ -104,7 +107,13 @@ private slots:
         QVERIFY(cost >= 1 && cost <= 1000);
         QCOMPARE(label6->text(), QString("-%1 Points...").arg(cost));
         QCOMPARE(fx.sound.played.last(), "bonk.wav");
-        Pump(900);
+        // It flashes red and gold, an eighth of a second each.
+        QVERIFY(label6->styleSheet().contains("#e01030"));
+        Pump(130);
+        QVERIFY(label6->styleSheet().contains("#b00020"));
+        Pump(125);
+        QVERIFY(label6->styleSheet().contains("#e01030"));
+        Pump(645);
         QVERIFY(label6->isVisible());
         Pump(200);
         QVERIFY(!label6->isVisible());

@@ -3,6 +3,7 @@
 #include <QScrollBar>
 
 #include "games/puzzles/word_search/word_search_screen.h"
+#include "look.h"
 #include "platform/text.h"
 #include "platform/timeline_scene.h"
 #include "screen_kit.h"
@@ -67,11 +68,22 @@ private slots:
         QCOMPARE(game->puzzle().GridSize, 5);
         QCOMPARE(LabelText(game, "WLLabel"), "Words Left: 5");
         QVERIFY(fx.music.opened.endsWith("sounds/music.mid"));
+        // The scroll bar asks for another of the hidden words.
+        const QString firstCard = LabelText(game, "CardLabel");
+        game->findChild<QScrollBar*>("ShowScroll")->setValue(2);
+        QVERIFY(LabelText(game, "CardLabel") != firstCard);
+        QCOMPARE(LabelText(game, "CardLabel"), toQ(s.TheMeaning));
         for (int word = 0; word < 5; ++word) {
             QVERIFY2(FindAskedWord(game), s.TheWord.c_str());
             if (word < 4) {
                 QCOMPARE(LabelText(game, "WLLabel"), QString("Words Left: %1").arg(4 - word));
-                Pump(700);
+                // The word found flashes, and the flash stops when it is done.
+                const GameTimer* flash = game->frame().findTimer("FlashTimer");
+                QVERIFY(flash && flash->isActive());
+                Pump(60);
+                if (word == 0) WM_CHECK_LOOK("Word_Search_play", game);  // the word flashes green
+                Pump(640);
+                QVERIFY(!flash->isActive());
             }
         }
         QCOMPARE(LabelText(game, "WLLabel"), "Words Left: 1");  // the last word leaves it be
