@@ -3,8 +3,11 @@
 // the sound gated by SoundOn.
 
 #include "games/study/flash_cards/flash_card_form.h"
-#include "shell/flash_card_options.h"
+
 #include "game_open.h"
+#include "look.h"
+#include "platform/speech.h"
+#include "shell/flash_card_options.h"
 
 namespace {
 
@@ -33,7 +36,9 @@ class FlashCardScreenTest : public QObject {
     Q_OBJECT
 private slots:
     void fromTheTitleByLetterToTheEnd() {
+        RecordingSpeech voice;  // outlives the screens the fixture closes
         ShellFixture fx;
+        services().speech = &voice;
         WriteOneList(fx, "Animals", kAnimals);
         QVERIFY(ClickTitleButton("Flash Cards"));
         auto* o = Showing<FlashCardOptions>();
@@ -63,6 +68,10 @@ private slots:
         Pump(60);
         QCOMPARE(cards->coverState(), FlashCardForm::Cover::Gone);
         cards->Gimme->click();  // nothing more to open
+        auto* speaker = cards->findChild<QToolButton*>("SayButton");
+        QVERIFY(speaker);
+        speaker->click();
+        QCOMPARE(voice.said.value(0).text, "Cat");
         QCOMPARE(fx.sound.played.count("zap.wav"), 1);
 
         // By two: "eel" is the fifth card, and the next step runs past the list.
@@ -92,6 +101,9 @@ private slots:
             QCOMPARE(cards->Label1->text(), "Card number 4 out of 5");
             QTest::mouseClick(cards->backlabel, Qt::LeftButton);
             QCOMPARE(word(cards), "Cat");
+            cards->Gimme->click();  // halfway through the cover's lift, both arrows showing
+            cards->MovieBox->advance(0.4);
+            WM_CHECK_LOOK("Flash_Cards_opening", cards);
             QVERIFY(!fx.sound.played.contains("pageturn.wav"));  // sound off
         }
         // A letter no word starts with: told so, and the cards run one by one from the start.
