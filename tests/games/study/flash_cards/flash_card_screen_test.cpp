@@ -3,11 +3,11 @@
 // the sound gated by SoundOn.
 
 #include "games/study/flash_cards/flash_card_form.h"
+#include "platform/speech.h"
+#include "shell/flash_card_options.h"
 
 #include "game_open.h"
 #include "look.h"
-#include "platform/speech.h"
-#include "shell/flash_card_options.h"
 
 namespace {
 

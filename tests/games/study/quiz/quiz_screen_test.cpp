@@ -4,18 +4,25 @@
 
 #include "games/study/quiz/quiz_screen.h"
 #include "games/study/quiz/quiz_results.h"
-#include "look.h"
 #include "shell/quiz_options.h"
+
 #include "game_open.h"
+#include "look.h"
 
 namespace {
 
-const Pairs kPlanets{{"Mercury", "the planet closest to the Sun"},
-                     {"Venus", "the hottest planet"},
-                     {"Earth", "the planet we live on"},
-                     {"Mars", "the red planet"},
-                     {"Jupiter", "the largest planet"},
-                     {"Saturn", "the planet with the brightest rings"}};
+const Pairs kPlanets{
+    {"Mercury", "the planet closest to the Sun"},
+    {"Venus", "the hottest planet"},
+    {"Earth", "the planet we live on"},
+    // Too long for its card at the designed size: smaller letters.
+    {"Mars",
+     "the red planet, a cold desert world about half as wide as the Earth, with rusty dust, thin"
+     " air, ice at its poles, two small moons, the tallest volcano known, a canyon that would "
+     "stretch across a whole continent, and robots driving slowly over its rocks and sands for "
+     "years to study them and to look for signs of water, long ago or now"},
+    {"Jupiter", "the largest planet"},
+    {"Saturn", "the planet with the brightest rings"}};
 
 int wrongChoice(const Quiz* q) {
     return q->run().CorrectChoice == 1 ? 1 : 0;  // index of a card that is not the answer
