@@ -1,6 +1,6 @@
 // Flash cards on their screen: the road from the title into the cards with the cover's three
-// states and the end of the list; the alphabetical order, the scroll bar, the missing letter and
-// the sound gated by SoundOn.
+// states, the speaker and the end of the list; the alphabetical order, the scroll bar, the cover's
+// look halfway up, the missing letter and the sound gated by SoundOn.
 
 #include "games/study/flash_cards/flash_card_form.h"
 #include "platform/speech.h"

@@ -1,6 +1,6 @@
 // The quiz on its screen: a whole run of three questions with one wrong answer through the
 // results box back to the title (Escape on the way does nothing); questions on meanings, Restart
-// in the middle of the feedback, sound gated by SoundOn.
+// in the middle of the feedback and from the results box, sound gated by SoundOn.
 
 #include "games/study/quiz/quiz_screen.h"
 #include "games/study/quiz/quiz_results.h"
