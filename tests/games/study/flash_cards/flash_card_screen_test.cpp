@@ -1,10 +1,13 @@
 // Flash cards on their screen: the road from the title into the cards with the cover's three
-// states and the end of the list; the alphabetical order, the scroll bar, the missing letter and
-// the sound gated by SoundOn.
+// states, the speaker and the end of the list; the alphabetical order, the scroll bar, the cover's
+// look halfway up, the missing letter and the sound gated by SoundOn.
 
 #include "games/study/flash_cards/flash_card_form.h"
+#include "platform/speech.h"
 #include "shell/flash_card_options.h"
+
 #include "game_open.h"
+#include "look.h"
 
 namespace {
 
@@ -33,7 +36,9 @@ class FlashCardScreenTest : public QObject {
     Q_OBJECT
 private slots:
     void fromTheTitleByLetterToTheEnd() {
+        RecordingSpeech voice;  // outlives the screens the fixture closes
         ShellFixture fx;
+        services().speech = &voice;
         WriteOneList(fx, "Animals", kAnimals);
         QVERIFY(ClickTitleButton("Flash Cards"));
         auto* o = Showing<FlashCardOptions>();
@@ -63,6 +68,10 @@ private slots:
         Pump(60);
         QCOMPARE(cards->coverState(), FlashCardForm::Cover::Gone);
         cards->Gimme->click();  // nothing more to open
+        auto* speaker = cards->findChild<QToolButton*>("SayButton");
+        QVERIFY(speaker);
+        speaker->click();
+        QCOMPARE(voice.said.value(0).text, "Cat");
         QCOMPARE(fx.sound.played.count("zap.wav"), 1);
 
         // By two: "eel" is the fifth card, and the next step runs past the list.
@@ -92,7 +101,11 @@ private slots:
             QCOMPARE(cards->Label1->text(), "Card number 4 out of 5");
             QTest::mouseClick(cards->backlabel, Qt::LeftButton);
             QCOMPARE(word(cards), "Cat");
-            QVERIFY(!fx.sound.played.contains("pageturn.wav"));  // sound off
+            cards->Gimme->click();  // halfway through the cover's lift, both arrows showing
+            cards->MovieBox->advance(0.4);
+            WM_CHECK_LOOK("Flash_Cards_opening", cards);
+            WM_CHECK_LOOK("Flash_Cards_cover", cards->MovieBox);  // its twinkles large
+            QVERIFY(!fx.sound.played.contains("pageturn.wav"));   // sound off
         }
         // A letter no word starts with: told so, and the cards run one by one from the start.
         ShellFixture fx2;

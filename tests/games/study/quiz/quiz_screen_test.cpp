@@ -1,20 +1,28 @@
 // The quiz on its screen: a whole run of three questions with one wrong answer through the
 // results box back to the title (Escape on the way does nothing); questions on meanings, Restart
-// in the middle of the feedback, sound gated by SoundOn.
+// in the middle of the feedback and from the results box, sound gated by SoundOn.
 
 #include "games/study/quiz/quiz_screen.h"
 #include "games/study/quiz/quiz_results.h"
 #include "shell/quiz_options.h"
+
 #include "game_open.h"
+#include "look.h"
 
 namespace {
 
-const Pairs kPlanets{{"Mercury", "the planet closest to the Sun"},
-                     {"Venus", "the hottest planet"},
-                     {"Earth", "the planet we live on"},
-                     {"Mars", "the red planet"},
-                     {"Jupiter", "the largest planet"},
-                     {"Saturn", "the planet with the brightest rings"}};
+const Pairs kPlanets{
+    {"Mercury", "the planet closest to the Sun"},
+    {"Venus", "the hottest planet"},
+    {"Earth", "the planet we live on"},
+    // Too long for its card at the designed size: smaller letters.
+    {"Mars",
+     "the red planet, a cold desert world about half as wide as the Earth, with rusty dust, thin"
+     " air, ice at its poles, two small moons, the tallest volcano known, a canyon that would "
+     "stretch across a whole continent, and robots driving slowly over its rocks and sands for "
+     "years to study them and to look for signs of water, long ago or now"},
+    {"Jupiter", "the largest planet"},
+    {"Saturn", "the planet with the brightest rings"}};
 
 int wrongChoice(const Quiz* q) {
     return q->run().CorrectChoice == 1 ? 1 : 0;  // index of a card that is not the answer
@@ -83,6 +91,7 @@ private slots:
         QVERIFY(child(quiz, "Sad")->isVisible() && !child(quiz, "Happy")->isVisible());
         QCOMPARE(fx.sound.played.last(), "gbell.wav");
         QCOMPARE(quiz->answerColour(right2), 255);
+        WM_CHECK_LOOK("Quiz_wrong", quiz);
         Pump(310);
         QCOMPARE(quiz->answerColour(right2), 16711680);
         Pump(310);
@@ -99,9 +108,10 @@ private slots:
         SetModalHook([&](QDialog& d) {
             auto* r = qobject_cast<QuizResults*>(&d);
             QVERIFY(r);
-            seen << r->Label1->text() << r->Label4->text();
+            seen << r->windowTitle() << r->Label1->text() << r->Label4->text();
             percentHiddenFirst = !r->Label3->isVisible() && r->stamp()->isPlaying();
             r->stamp()->advance(0.7);
+            WM_CHECK_LOOK("Quiz_stamp", r);  // down on the paper, its stars flying
             r->stamp()->advance(5);
             Pump(100);
             seen << (r->Label3->isVisible() ? r->Label3->text() : QString());
@@ -109,7 +119,7 @@ private slots:
         });
         QTest::mouseClick(quiz->findChild<QPushButton*>("Label1"), Qt::LeftButton);
         Pump();
-        QCOMPARE(seen, (QStringList{"You got 2 out of 3 correct.",
+        QCOMPARE(seen, (QStringList{"Quiz Results", "You got 2 out of 3 correct.",
                                     "Looks like you could use a little more work.", "66%"}));
         QVERIFY(percentHiddenFirst && Showing<Title>());
     }
@@ -129,6 +139,16 @@ private slots:
         Pump(700);
         QCOMPARE(Labels(quiz, "WrongLabel RemainingLabel"), "0 | 4");
         QVERIFY(!child(quiz, "Feedback")->isVisible());
+        // Restart from the results box: a new run with its question, not the title.
+        SetModalHook([&](QDialog& d) {
+            QVERIFY(TriggerMenu(quiz, "RS"));
+            qobject_cast<QuizResults*>(&d)->OK->click();
+        });
+        for (int q = 0; q < 5; ++q) {
+            QTest::mouseClick(quiz->answers()[0], Qt::LeftButton);
+            QTest::mouseClick(quiz->findChild<QPushButton*>("Label1"), Qt::LeftButton);
+        }
+        QVERIFY(Showing<Quiz>() == quiz && child(quiz, "Questionlabel")->isVisible());
         QVERIFY(TriggerMenu(quiz, "Return") && BackAtTitle());
     }
 };

@@ -4,6 +4,7 @@
 #include "games/study/scramble/scramble_screen.h"
 #include "core/clock.h"
 #include "game_open.h"
+#include "look.h"
 
 class ScrambleScreenTest : public QObject {
     Q_OBJECT
@@ -37,6 +38,11 @@ private slots:
             return t.toLower();
         };
         QCOMPARE(sorted(tiles), sorted(word));
+        // At Normal the letters flicker once a second: one tile black beside the clock's "1".
+        QCOMPARE(game->frame().findTimer("Timer3")->interval(), 1000);
+        Pump(1000);
+        QCOMPARE(Labels(game, "Label5 Label4"), "Time: | 1");
+        WM_CHECK_LOOK("Scramble_flicker", game);
         Enter(game->guessBox(), word.toUpper());
         QVERIFY(fx.sound.played.contains("applause.wav") && s.Score > 0);
         WM_CHECK_WON(fx, "Scramble", "ABC " + QString::number(s.Score));
@@ -66,6 +72,10 @@ private slots:
         QCOMPARE(fx.dialogs.last(),
                  "Oops! The scrambled word was \"fox\". Would you like to try again?");
         QVERIFY(BackAtTitle() && fx.win.tables.isEmpty());
+        QCOMPARE(
+            Refused(fx, "Scramble", {{"abcdefghijklmnopqrstu", "too long a word"}}, 1,
+                    "The words on this list are too long to use for this activity.", "Scramble"),
+            "");
     }
 };
 
