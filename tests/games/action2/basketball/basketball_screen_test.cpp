@@ -57,6 +57,10 @@ void BasketballScreenTest::tenGoodShotsToTheTable() {
         const int shown = g->game().wordsShown();
         Drop(g, g->netPoint());
         animations << g->playing();
+        if (g->playing() == "bball-good2" && animations.count("bball-good2") == 1) {
+            Pump(1300);  // the bank shot drops through the net
+            WM_CHECK_LOOK("Basketball_bank", g);
+        }
         const double points = s.Score - score;
         score = s.Score;
         if (shown >= 3)
@@ -74,6 +78,7 @@ void BasketballScreenTest::tenGoodShotsToTheTable() {
         }
     }
     for (const QString& a : animations) QVERIFY2(a.startsWith("bball-good"), qPrintable(a));
+    QVERIFY(animations.contains("bball-good2"));  // so the bank shot's look was checked
     QCOMPARE(fx.sound.played.count("cheer.wav"), 10);
     QVERIFY(!alive);
     WM_CHECK_WON(fx, "Basketball", QString("DNK %1").arg(score));
