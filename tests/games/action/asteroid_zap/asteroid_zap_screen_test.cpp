@@ -89,6 +89,8 @@ void AsteroidZapScreenTest::shipDestroyedAndArrowKeysThenLongWords() {
     QCOMPARE(game->round().shipX, x - 4 * 50);
     Pump(16 * 4);
     QCOMPARE(game->round().shipX, x - 4 * 50);
+    HoldKey(game, Qt::Key_Right, 16 * 2);
+    QCOMPARE(game->round().shipX, x - 2 * 50);
     for (auto& rock : game->round().rocks)
         rock.bottom = game->round().g.shipTop() - game->round().g.shipH - 2;
     Pump(20 * 5);

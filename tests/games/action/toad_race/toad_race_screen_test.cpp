@@ -3,6 +3,7 @@
 // the winner and the word, a try again; a list with no words.
 #include "games/action/toad_race/toad_race_screen.h"
 #include "act_kit.h"
+#include "look.h"
 
 class ToadRaceScreenTest : public QObject {
     Q_OBJECT
@@ -34,6 +35,7 @@ void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
     Shared().SoundOn = kTrue;
     Pump();
     WM_VERIFY(Called(fx, game->pond()->call(), "Ready...", "toadready.wav"));
+    WM_CHECK_LOOK("Toad_Race_ready", game);  // the call outlined, the name plates on the bank
     QLineEdit* box = game->typingBox();
     // No false starts: nothing can be typed before "Go!".
     Enter(box, "frog");

@@ -82,6 +82,7 @@ void WordZapScreenTest::carelessRoundEndsBelowZero() {
     QVERIFY(other >= 0);
     Click(game, game->targetRect(other));
     QVERIFY(game->gallery().score == -500.0 && game->gallery().targets[other].black);
+    QCOMPARE(fx.sound.played.last(), "shotmiss.wav");
     QCOMPARE(game->scoreText(), "Score:  0000");  // the wrong target shows with the next hit
     Pump(16 * 20);
     Click(game, game->targetRect(RightTarget(game)));

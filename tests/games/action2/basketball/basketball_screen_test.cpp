@@ -2,6 +2,7 @@
 // at a scrambled word and eight more wild ones to the no-score ending, with the sound off.
 #include "games/action/basketball/basketball_screen.h"
 #include "act_kit.h"
+#include "look.h"
 
 namespace {
 const char* kBegin = "Drag ball over net to begin...";
@@ -45,6 +46,7 @@ void BasketballScreenTest::tenGoodShotsToTheTable() {
                  g->definition()->text(),
              QString(kBegin) + " | Shots Left: 10 | \"" + Meaning() + "\"");
     QCOMPARE(g->frame().findTimer("Timer1")->interval(), 500);  // the pace at level 10
+    WM_CHECK_LOOK("Basketball_still", g);  // the court in its 4:3 box, the net hanging still
 
     QPointer<BasketBallForm> alive(g);
     QStringList animations;
@@ -55,6 +57,10 @@ void BasketballScreenTest::tenGoodShotsToTheTable() {
         const int shown = g->game().wordsShown();
         Drop(g, g->netPoint());
         animations << g->playing();
+        if (g->playing() == "bball-good2" && animations.count("bball-good2") == 1) {
+            Pump(1300);  // the bank shot drops through the net
+            WM_CHECK_LOOK("Basketball_bank", g);
+        }
         const double points = s.Score - score;
         score = s.Score;
         if (shown >= 3)
@@ -72,6 +78,7 @@ void BasketballScreenTest::tenGoodShotsToTheTable() {
         }
     }
     for (const QString& a : animations) QVERIFY2(a.startsWith("bball-good"), qPrintable(a));
+    QVERIFY(animations.contains("bball-good2"));  // so the bank shot's look was checked
     QCOMPARE(fx.sound.played.count("cheer.wav"), 10);
     QVERIFY(!alive);
     WM_CHECK_WON(fx, "Basketball", QString("DNK %1").arg(score));
@@ -84,12 +91,12 @@ void BasketballScreenTest::wildAndScrambledShotsEndWithoutAScore() {
     QCOMPARE(g->frame().findTimer("Timer1")->interval(), 1300);
     const QPoint court(g->width() / 2, int(g->height() * 0.9));
 
-    // A click on the court without the ball is nothing; dropped there, the ball is wild, and
-    // play goes straight on to the next shot.
+    // A click on the court without the ball is nothing; dropped just beside the basket's 4:3
+    // box (0.42 of the height high), the ball is wild, and play goes straight on to the next shot.
     Pump(200);
     QTest::mouseClick(g, Qt::LeftButton, {}, court);
     QVERIFY(!fx.dialogs.saw(kWild));
-    Drop(g, court);
+    Drop(g, g->netPoint() + QPoint(int(g->height() * 0.42) * 4 / 3 / 2 + 6, 0));
     QVERIFY(fx.dialogs.saw(kWild));
     QCOMPARE(g->shotsLeftLabel()->text(), QString("Shots Left: 9"));
     QVERIFY(!g->shooting());

@@ -5,6 +5,7 @@
 
 #include "act_kit.h"
 #include "games/action/mini_golf/mini_golf_screen.h"
+#include "look.h"
 
 using namespace wm::mini_golf;
 
@@ -56,6 +57,7 @@ void MiniGolfScreenTest::rightHoleThenTheClockToTheTable() {
              QStringList({"Hit the word that means: " + Meaning(), "Score: 00000", "Time: 30",
                           Word()}));
     QVERIFY(g->holeLabel(1)->isVisible() && !g->holeLabel(2)->isVisible());  // two holes at 1
+    WM_CHECK_LOOK("Mini_Golf_tee", g);  // the words on white plates, the ball on its tee
 
     // A drag away from the ball shows the line.
     QTest::mousePress(g->field(), Qt::LeftButton, {},
