@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QEvent>
 #include <QImage>
+#include <QPaintEvent>
+#include <QRegion>
 #include <QString>
 #include <QWidget>
 #include <algorithm>
@@ -45,20 +47,30 @@ inline QString LookFault(const QString& game, const QImage& shot) {
                    "meant, take it with WM_LOOK_REFRESH=1").arg(game).arg(changed).arg(seen, kept);
 }
 
-// How many times `w` was painted while `act` ran. A scene that stops asking to be repainted
-// looks frozen on a real screen, though a grab() still draws it right.
-inline int PaintsDuring(QWidget* w, const std::function<void()>& act) {
-    struct Count : QObject {
-        int paints = 0;
+// What `w` painted while `act` ran: how many times, and where. A scene that stops asking to be
+// repainted looks frozen on a real screen, though a grab() still draws it right.
+struct Repaints {
+    int count = 0;
+    QRegion region;
+};
+inline Repaints RepaintsDuring(QWidget* w, const std::function<void()>& act) {
+    struct Seen : QObject {
+        Repaints seen;
         bool eventFilter(QObject*, QEvent* e) override {
-            paints += e->type() == QEvent::Paint;
+            if (e->type() == QEvent::Paint) {
+                ++seen.count;
+                seen.region += static_cast<QPaintEvent*>(e)->region();
+            }
             return false;
         }
-    } count;
-    w->installEventFilter(&count);
+    } filter;
+    w->installEventFilter(&filter);
     act();
-    w->removeEventFilter(&count);
-    return count.paints;
+    w->removeEventFilter(&filter);
+    return filter.seen;
+}
+inline int PaintsDuring(QWidget* w, const std::function<void()>& act) {
+    return RepaintsDuring(w, act).count;
 }
 
 }  // namespace wm::test

@@ -19,21 +19,6 @@ void clickAt(QWidget* w, QPoint p) {
     QTest::mouseClick(w, Qt::LeftButton, {}, p);
 }
 
-// The part of `w` repainted while `act` ran.
-QRegion RepaintedDuring(QWidget* w, const std::function<void()>& act) {
-    struct Seen : QObject {
-        QRegion region;
-        bool eventFilter(QObject*, QEvent* e) override {
-            if (e->type() == QEvent::Paint) region += static_cast<QPaintEvent*>(e)->region();
-            return false;
-        }
-    } seen;
-    w->installEventFilter(&seen);
-    act();
-    w->removeEventFilter(&seen);
-    return seen.region;
-}
-
 }  // namespace
 
 class BombSquadScreenTest : public QObject {
@@ -54,7 +39,7 @@ private slots:
         }
         QVERIFY(!game->wordLabels()[5]->isVisible());
         // The clock on the bomb is drawn anew each second, not only the label above it.
-        QVERIFY(RepaintedDuring(game, [] { Pump(2000); }).contains(game->rect().center()));
+        QVERIFY(RepaintsDuring(game, [] { Pump(2000); }).region.contains(game->rect().center()));
         QCOMPARE(game->timeLabel()->text(), "23");
         QCOMPARE(fx.sound.played.count("spacebeep.wav"), 2);
 
