@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "act_kit.h"
+#include "look.h"
 #include "games/action/asteroid_zap/asteroid_zap_screen.h"
 
 namespace {
@@ -52,6 +53,7 @@ void AsteroidZapScreenTest::roadToAWinAndTheTable() {
     QCOMPARE(game->windowTitle(), "Asteroid Blast!");
     QCOMPARE(game->defText(), "a small furry pet");
     QCOMPARE(game->round().rocks[19].letter, 'T');
+    WM_CHECK_LOOK("Asteroid_Zap_play", game);
     QVERIFY(ShootColumn(game, 18));
     QVERIFY(fx.sound.played.contains("shot1.wav") && fx.sound.played.contains("boom1.wav"));
     for (int k = 2; k < 18 && Showing<AsteroidBlast>(); ++k) QVERIFY(ShootColumn(game, k));

@@ -3,6 +3,7 @@
 // 1920x1080 by diving into the field, a try again, and a list whose words are all too long.
 #include "games/action/hang_glider/hang_glider_screen.h"
 #include "act_kit.h"
+#include "look.h"
 
 using namespace wm::hang_glider;
 
@@ -60,6 +61,7 @@ void HangGliderScreenTest::fiveWordsWonWithTheKeys() {
     QCOMPARE(Labels(game, "Label1 LevelLabel"), Meaning() + " | Level 2");
     QVERIFY(fx.music.opened.endsWith("hangglider.mid") && game->windowTitle() == "Hang Glider");
     CheckLayout(game);
+    WM_CHECK_LOOK("Hang_Glider_ready", game);
     Pump(HangGlider::kReadyMs);
     QCOMPARE(game->sky()->call(), "");
 
