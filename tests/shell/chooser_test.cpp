@@ -57,6 +57,7 @@ private slots:
         QCOMPARE(some.lines, QStringList{"Spelling (1 words- no definitions)"});
         QCOMPARE(some.total, 3.5);  // the caption still counts every list's words
         QVERIFY(SummariseLists(lines, false, {}).lines.isEmpty());
+        QVERIFY(SummariseLists({}, true, {}).lines.isEmpty());  // an empty list file
 
         // After the first list was deleted the file starts with a separator.
         ListSummary healed = SummariseLists({"<New List>", "Birds", "owl", "hooter"}, true, {});

@@ -194,6 +194,7 @@ private slots:
             box->show();
             WM_CHECK_LOOK("Shell_" + box->objectName(), box);
         }
+        QCOMPARE(sides.choice(), "E");  // OK at once plays the English words
     }
 
     void highScoresBrowseTheShownGames() {
