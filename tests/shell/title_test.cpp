@@ -213,6 +213,7 @@ private slots:
             for (int i = 0; i < 60; ++i) form->nextGame();  // clamped at the last
             seen << form->game();
             QVERIFY(form->tableText().contains("#50"));
+            QCOMPARE(form->tableText().count('\n'), 49);  // the last game's 50 ranks alone
             // The close box is refused; OK closes.
             form->close();
             QVERIFY(form->isVisible());
