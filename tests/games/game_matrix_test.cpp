@@ -200,7 +200,7 @@ void GameMatrix::everyGameSurvivesAwkwardLists() {
     }
     QCOMPARE(screen->objectName(), QString::fromStdString(card->screen));
 
-    for (int step = 0; step < 60 && screen && CurrentScreen() == screen; ++step) {
+    for (int step = 0; step < 40 && screen && CurrentScreen() == screen; ++step) {
         QVERIFY2(!Shared().TheWord.empty(), "an empty word was played");
         QWidget* target = screen;
         switch (dice() % 5) {
