@@ -3,6 +3,7 @@
 // 1920x1080, the box naming the word, a try again; a list with one word only refused.
 #include "games/action/tower_assault/tower_assault_screen.h"
 #include "act_kit.h"
+#include "look.h"
 #include "tower_steer.h"
 
 class TowerScreenTest : public QObject {
@@ -72,7 +73,10 @@ void TowerScreenTest::threeWrongScrollsDriveTheKnightBack() {
     QVERIFY(game);
     // Between two guards, out of every scroll's way: the right one falls to the ground and is
     // thrown again later.
-    HoldKey(game, Qt::Key_Left, 33 * 16);
+    HoldKey(game, Qt::Key_Left, 29 * 16);
+    // As he walks he is painted again where he now stands, not only where he stood.
+    const Repaints walk = RepaintsDuring(game->scene(), [&] { HoldKey(game, Qt::Key_Left, 16); });
+    QVERIFY(walk.region.contains(game->scene()->knightRect().toAlignedRect()));
     for (int i = 0; i < 2000 && !game->scene()->call().startsWith("Missed"); ++i) Pump(16);
     WM_VERIFY(Called(fx, game->scene()->call(), "Missed! It will come again.", "towerthud.wav"));
     for (int shield = 2; shield >= 0; --shield) {
