@@ -60,6 +60,7 @@ private slots:
         QCOMPARE(cards->Gimme->text(), "Show the Word");
         QCOMPARE(cards->coverState(), FlashCardForm::Cover::Covering);
         QCOMPARE(fx.sound.played.count("pageturn.wav"), 1);
+        QVERIFY(!cards->findChild<QAction*>("RS")->isVisible());  // Quit only
 
         cards->Gimme->click();
         QCOMPARE(cards->coverState(), FlashCardForm::Cover::Opening);
@@ -77,6 +78,7 @@ private slots:
         // By two: "eel" is the fifth card, and the next step runs past the list.
         QTest::mouseClick(cards->Label2, Qt::LeftButton);
         QCOMPARE(word(cards), "eel");
+        QCOMPARE(cards->focusWidget(), cards->Gimme);  // Enter opens the new card
         QCOMPARE(cards->coverState(), FlashCardForm::Cover::Covering);
         QVERIFY(cards->Frame1->isHidden() && !cards->Frame2->isHidden());
         cards->previousCard();
