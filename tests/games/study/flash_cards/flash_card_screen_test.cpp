@@ -103,8 +103,10 @@ private slots:
             QCOMPARE(cards->Label1->text(), "Card number 4 out of 5");
             QTest::mouseClick(cards->backlabel, Qt::LeftButton);
             QCOMPARE(word(cards), "Cat");
-            cards->Gimme->click();  // halfway through the cover's lift, both arrows showing
-            cards->MovieBox->advance(0.4);
+            cards->Gimme->click();  // the cover just lifting, its twinkles bright
+            cards->MovieBox->advance(0.08);
+            WM_CHECK_LOOK("Flash_Cards_lifting", cards->MovieBox);
+            cards->MovieBox->advance(0.32);  // halfway through the lift, both arrows showing
             WM_CHECK_LOOK("Flash_Cards_opening", cards);
             WM_CHECK_LOOK("Flash_Cards_cover", cards->MovieBox);  // its twinkles large
             QVERIFY(!fx.sound.played.contains("pageturn.wav"));   // sound off

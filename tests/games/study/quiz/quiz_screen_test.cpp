@@ -112,7 +112,8 @@ private slots:
             modalPercentHiddenFirst =
                 r->isModal() && !r->Label3->isVisible() && r->stamp()->isPlaying();
             r->stamp()->advance(0.7);
-            WM_CHECK_LOOK("Quiz_stamp", r);  // down on the paper, its stars flying
+            WM_CHECK_LOOK("Quiz_stamp", r);                // down on the paper, its stars flying
+            WM_CHECK_LOOK("Quiz_stamp_down", r->stamp());  // and close up: where it stands
             r->stamp()->advance(5);
             Pump(100);
             seen << (r->Label3->isVisible() ? r->Label3->text() : QString());
