@@ -60,6 +60,7 @@ private slots:
         QCOMPARE(cards->Gimme->text(), "Show the Word");
         QCOMPARE(cards->coverState(), FlashCardForm::Cover::Covering);
         QCOMPARE(fx.sound.played.count("pageturn.wav"), 1);
+        QVERIFY(!cards->findChild<QAction*>("RS")->isVisible());  // Quit only
 
         cards->Gimme->click();
         QCOMPARE(cards->coverState(), FlashCardForm::Cover::Opening);
@@ -77,6 +78,7 @@ private slots:
         // By two: "eel" is the fifth card, and the next step runs past the list.
         QTest::mouseClick(cards->Label2, Qt::LeftButton);
         QCOMPARE(word(cards), "eel");
+        QCOMPARE(cards->focusWidget(), cards->Gimme);  // Enter opens the new card
         QCOMPARE(cards->coverState(), FlashCardForm::Cover::Covering);
         QVERIFY(cards->Frame1->isHidden() && !cards->Frame2->isHidden());
         cards->previousCard();
@@ -101,8 +103,10 @@ private slots:
             QCOMPARE(cards->Label1->text(), "Card number 4 out of 5");
             QTest::mouseClick(cards->backlabel, Qt::LeftButton);
             QCOMPARE(word(cards), "Cat");
-            cards->Gimme->click();  // halfway through the cover's lift, both arrows showing
-            cards->MovieBox->advance(0.4);
+            cards->Gimme->click();  // the cover just lifting, its twinkles bright
+            cards->MovieBox->advance(0.08);
+            WM_CHECK_LOOK("Flash_Cards_lifting", cards->MovieBox);
+            cards->MovieBox->advance(0.32);  // halfway through the lift, both arrows showing
             WM_CHECK_LOOK("Flash_Cards_opening", cards);
             WM_CHECK_LOOK("Flash_Cards_cover", cards->MovieBox);  // its twinkles large
             QVERIFY(!fx.sound.played.contains("pageturn.wav"));   // sound off

@@ -104,24 +104,29 @@ private slots:
         QCOMPARE(remaining->text(), "0");
         QTest::mouseClick(quiz->answers()[quiz->run().CorrectChoice - 1], Qt::LeftButton);
         QStringList seen;
-        bool percentHiddenFirst = false;
+        bool modalPercentHiddenFirst = false, watchOver = false;
         SetModalHook([&](QDialog& d) {
             auto* r = qobject_cast<QuizResults*>(&d);
             QVERIFY(r);
             seen << r->windowTitle() << r->Label1->text() << r->Label4->text();
-            percentHiddenFirst = !r->Label3->isVisible() && r->stamp()->isPlaying();
+            modalPercentHiddenFirst =
+                r->isModal() && !r->Label3->isVisible() && r->stamp()->isPlaying();
             r->stamp()->advance(0.7);
-            WM_CHECK_LOOK("Quiz_stamp", r);  // down on the paper, its stars flying
+            WM_CHECK_LOOK("Quiz_stamp", r);                // down on the paper, its stars flying
+            WM_CHECK_LOOK("Quiz_stamp_down", r->stamp());  // and close up: where it stands
             r->stamp()->advance(5);
             Pump(100);
             seen << (r->Label3->isVisible() ? r->Label3->text() : QString());
+            r->Label3->hide();  // the box stopped watching the stamp: nothing shows it again
+            Pump(100);
+            watchOver = r->Label3->isHidden();
             r->OK->click();
         });
         QTest::mouseClick(quiz->findChild<QPushButton*>("Label1"), Qt::LeftButton);
         Pump();
         QCOMPARE(seen, (QStringList{"Quiz Results", "You got 2 out of 3 correct.",
                                     "Looks like you could use a little more work.", "66%"}));
-        QVERIFY(percentHiddenFirst && Showing<Title>());
+        QVERIFY(modalPercentHiddenFirst && watchOver && Showing<Title>());
     }
 
     void restartDuringFeedbackAndSoundOff() {
@@ -138,6 +143,7 @@ private slots:
         QVERIFY(TriggerMenu(quiz, "RS"));
         Pump(700);
         QCOMPARE(Labels(quiz, "WrongLabel RemainingLabel"), "0 | 4");
+        QCOMPARE(quiz->answerColour(quiz->run().CorrectChoice - 1), 12582912);  // no flashing
         QVERIFY(!child(quiz, "Feedback")->isVisible());
         // Restart from the results box: a new run with its question, not the title.
         SetModalHook([&](QDialog& d) {
