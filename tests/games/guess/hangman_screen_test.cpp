@@ -48,6 +48,8 @@ private slots:
         QCOMPARE(boxes(game), "ice-cream");
         QVERIFY(game->movie()->isPlaying());  // the win clip, waited for
         QCOMPARE(fx.win.congratulations.size(), 0);
+        game->movie()->advance(0.3);
+        WM_CHECK_LOOK("HangMan_win", game);  // arms up, jumping on the crate, the rope swinging
         FinishClips(game);
         WM_VERIFY(WonBox(fx, 4508));
         QVERIFY(fx.dialogs.saw("Would you like to raise the difficulty level a bit?"));
@@ -79,7 +81,8 @@ private slots:
         WM_OPEN(game, fx, OpenGame<HangMan>(fx, "HangMan", {{"caf\xE9 noir", "black coffee"}}, 1));
         Pump(20);
         QCOMPARE(boxes(game), "...._....");
-        Keys(game, " '");  // neither is a guess, though the word has a blank
+        Keys(game, " '");                      // neither is a guess, though the word has a blank
+        QTest::keyClick(game, Qt::Key_Shift);  // nor is a key with no text
         QVERIFY(TriggerMenu(game, "FLang"));
         QCOMPARE(QString::fromStdString(Shared().CurrentGame).toLower(), "hangman");
         QCOMPARE(boxes(game), "...\u00e9_....");
@@ -103,6 +106,7 @@ private slots:
         WM_OPEN(game, fx, OpenGame<HangMan>(fx, "HangMan", {{"owl", "hoots"}}, 1, false, false));
         Pump(20);
         QVERIFY(fx.music.opened.isEmpty());
+        QCOMPARE(QString::fromStdString(FindCard("HangMan")->assets[0]), "images/hangman.svg");
         // Escape leaves for the title.
         QTest::keyClick(game, Qt::Key_Escape);
         QVERIFY(BackAtTitle());

@@ -4,6 +4,7 @@
 #include "games/guess/speedtype/speedtype_screen.h"
 #include "core/clock.h"
 #include "game_open.h"
+#include "look.h"
 
 namespace {
 constexpr double kSecond = 1.0 / 86400;
@@ -48,10 +49,11 @@ private slots:
         QTest::keyClicks(game, "t");
         QCOMPARE(LabelText(game, "Label3"), "CAT");
         clock.now += 2 * kSecond;
-        QString figures;
+        QString figures, look;
         fx.dialogs.otherwiseYes = [&](const QString&) {
             figures = LabelText(game, "MLabel") + ":" + LabelText(game, "SLabel") + "." +
                       LabelText(game, "SDLabel");
+            look = LookFault("Speed_Type_time", game->grab().toImage());  // the time under it
             fx.dialogs.otherwiseYes = {};
             return true;
         };
@@ -60,6 +62,7 @@ private slots:
         // Two seconds of a 100000-a-day clock: T = 2.3148..., shown as 2 and 148: the first decimal
         // is skipped, as designed.
         QCOMPARE(figures, "00:2.148");
+        QVERIFY2(look.isEmpty(), qPrintable(look));
         QVERIFY(fx.sound.played.contains("cheer.wav"));
         WM_VERIFY(Box(fx,
                       "Congratulations! Your time was 0.7716 seconds per letter! Would you like to "

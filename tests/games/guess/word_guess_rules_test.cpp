@@ -80,8 +80,11 @@ TEST(WordGuess, HintCostsARandomPartAndCanGoBelowZero) {
     SharedState s = ListOf({"owl"}, 2);
     EXPECT_EQ(hintText(s, started("owl")), "Definition: \"meaning of owl\"");
     GuessRound lost;
-    lost.PickedIndex = 5;  // past the meanings: no meaning rather than a fault
+    lost.PickedIndex = 2;  // just past the meanings: no meaning rather than a fault
     EXPECT_EQ(hintText(s, lost), "Definition: \"\"");
+    lost.PickedIndex = 0;  // the lowest index is read like any other
+    s.Meanings[0] = "the first slot";
+    EXPECT_EQ(hintText(s, lost), "Definition: \"the first slot\"");
     // Int(Rnd x Score + 1) off the score; at 0 the draw is 1.
     for (auto [score, rnd, after] :
          {std::array{100.0, 0.999, 0.0}, {0, 0.5, -1}, {10, 0, 9}, {10, 0.55, 4}}) {

@@ -82,6 +82,7 @@ private slots:
         Pump(900);
         QCOMPARE(game->game().hidden(), n - 2);
         WM_CHECK_LOOK("Freeze-It_play", game);   // two letters out of the ice, the miss told
+        QCOMPARE(game->frame().findTimer("Timer4")->interval(), 1300);  // then the banner goes
         QVERIFY(TriggerMenu(game, "mnuSayIt"));  // the clue may be heard, not the word
 
         // The palette puts its letter into the answer box.

@@ -63,6 +63,8 @@ private slots:
         QCOMPARE(game->view().bridge, 0.0);
         Pump(1300);
         QCOMPARE(game->view().bridge, 0.5);
+        // Each of the three stones is up on its plank.
+        QCOMPARE(std::count(game->view().rise.begin(), game->view().rise.end(), 1.0), 3);
         fx.rng.pick(2, 3);
         Pump(100);
         QCOMPARE(LabelText(game, "ReadyLabel"), "Word 2 of 2");
@@ -141,10 +143,19 @@ private slots:
             QVERIFY(fx.sound.played.isEmpty());
         }
         ShellFixture fx;
+        const QString none =
+            "This list has no word that Princess can use (the words are empty "
+            "or too long). Please choose another list.";
+        // A list that has lost its words by the second word is refused there.
+        WM_OPEN(game, fx, OpenGame<frmPrincess>(fx, "Princess", {{"ox", "a strong animal"}}, 2));
+        Ready(game, 1650);
+        QTest::keyClicks(game, "ox");
+        Shared().WordCount = 0;
+        Pump(1820);
+        WM_VERIFY(Box(fx, none, "Princess"));
         WM_VERIFY(Refused(fx, "Princess",
                           {{std::string(25, 'a'), "far too long"}, {"- -", "nothing to spell"}}, 4,
-                          "This list has no word that Princess can use (the words are empty or too "
-                          "long). Please choose another list."));
+                          none));
     }
 };
 
