@@ -101,6 +101,7 @@ private slots:
         QVERIFY(TriggerMenu(game, "RS"));
         const GameTimer* layOut = game->frame().findTimer("Timer2");
         QVERIFY(wait->isVisible() && layOut && layOut->isActive());
+        WM_CHECK_LOOK("Crossword_wait", game);  // the wait panel over the sheet
         Pump();
         QVERIFY(!wait->isVisible());
         auto* command1 = game->findChild<QPushButton*>("Command1");
