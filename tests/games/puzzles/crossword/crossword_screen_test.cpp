@@ -43,12 +43,15 @@ private slots:
         const auto words = PlacedWords(game->state().board);
         QCOMPARE(int(words.size()), int(s.PuzzleWordCount));
         auto* command1 = game->findChild<QPushButton*>("Command1");
-        QVERIFY(!command1->isVisible());
+        auto* help = game->findChild<QLabel*>("Label3");  // the help beside Give Answer
+        auto* panel = game->findChild<QGroupBox*>("Frame2");
+        QVERIFY(help && panel && !command1->isVisible() && !help->isVisible());
+        QCOMPARE(panel->title(), "Clue:");
         for (std::size_t n = 0; n < words.size(); ++n) {
             const auto& w = words[n];
             QVERIFY(SelectWord(game, w, game->board()->cellRect(w.cell)));
             QCOMPARE(LabelText(game, "ClueLabel"), toQ(s.Meanings[w.index]));
-            QVERIFY(command1->isVisible());
+            QVERIFY(command1->isVisible() && help->isVisible());
             const QString word = toQ(s.Words[w.index]);
             if (n == 0) {
                 // A wrong last letter unpinks the word; Backspace lets it be corrected.
@@ -63,6 +66,7 @@ private slots:
                 QCOMPARE(int(s.PuzzleWordCount), int(words.size() - n - 1));
                 QVERIFY(!command1->isVisible());
                 Pump(16 * 12);  // the flash runs out and leaves the word green
+                QVERIFY(!game->frame().findTimer("FlashTimer")->isActive());
                 // A word corrected after a wrong try was unpinked, so the flash passes it by and
                 // it stays white, its letters written: kept as designed.
                 QCOMPARE(game->state().board.colour[w.cell],
@@ -97,6 +101,7 @@ private slots:
         QVERIFY(TriggerMenu(game, "RS"));
         const GameTimer* layOut = game->frame().findTimer("Timer2");
         QVERIFY(wait->isVisible() && layOut && layOut->isActive());
+        WM_CHECK_LOOK("Crossword_wait", game);  // the wait panel over the sheet
         Pump();
         QVERIFY(!wait->isVisible());
         auto* command1 = game->findChild<QPushButton*>("Command1");

@@ -144,6 +144,8 @@ private slots:
             fx.dialogs.saw("The list you have selected contains words only, with no definitions. "
                            "The word meaning will not be displayed during the game."));
         game->resize(1920, 1080);
+        // The plate moves with the safe to the middle of the larger screen.
+        QVERIFY(qAbs(game->findChild<QLabel*>("ReadyLabel")->geometry().center().x() - 960) < 3);
         Ready(game, 1600);
         QVERIFY(!game->findChild<QLabel*>("MeaningLabel")->isVisible());
         for (int safe = 1; safe <= 5; ++safe) {

@@ -147,6 +147,9 @@ private slots:
                 QVERIFY(r.top() > g->lineRect(9).bottom() && g->rect().contains(r.toRect()));
             }
         }
+        // A word wider than its sign even at the smallest size is cut at the last letter that fits.
+        const auto cut = wm::word_bricks::fitClue(QString(40, 'w'), QSizeF(80, 40), 12, 12);
+        QVERIFY(!cut.whole && QFontMetricsF(cut.font).horizontalAdvance(cut.lines[0] + 'w') > 80);
         drag(g, g->game().bricks[0].text, front(g, 0));
         QVERIFY(g->game().lines[0].bricks.size() == 1 && fx.sound.played.isEmpty());  // sound off
         g->frame().quit();
