@@ -21,13 +21,14 @@ void Mouse(TossScene* scene, QEvent::Type type, QPointF stage) {
     QApplication::sendEvent(scene, &e);
 }
 
-// Picks the ball up at the front and drags it by (dx, dy) stage units in `ms`, then lets go.
+// Picks the ball up at the front and drags it by (dx, dy) stage units in `ms`, then lets go; the
+// last move comes half way, so the flick ends where the button is let go.
 void Flick(LetterTossGame* game, double dx, double dy, int ms = 100) {
     TossScene* scene = game->scene();
     const QPointF from = scene->ballShown();
     Mouse(scene, QEvent::MouseButtonPress, from);
     Pump(ms);
-    Mouse(scene, QEvent::MouseMove, from + QPointF(dx, dy));
+    Mouse(scene, QEvent::MouseMove, from + QPointF(dx, dy) / 2);
     Mouse(scene, QEvent::MouseButtonRelease, from + QPointF(dx, dy));
 }
 

@@ -70,6 +70,7 @@ void SlingShotScreenTest::aGameWonFromTheTitleToTheTable() {
     // A wrong target wobbles and costs 50; its thunk only with sound on.
     Shared().SoundOn = kFalse;
     const int wrong = (g.rightSlot() + 1) % kTargets;
+    QVERIFY(!game->field()->wobbling(wrong));  // still till it is hit
     pull(game, aimAt(g, wrong));
     QCOMPARE(g.phase(), Phase::Flying);
     Pump(400);

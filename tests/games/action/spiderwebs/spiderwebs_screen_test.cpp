@@ -5,6 +5,7 @@
 #include "games/action/spiderwebs/spiderwebs_screen.h"
 #include "act_kit.h"
 #include "core/strings.h"
+#include "look.h"
 
 class SpiderScreenTest : public QObject {
     Q_OBJECT
@@ -84,6 +85,7 @@ void SpiderScreenTest::tenDefinitionsFromTheTitleToTheTable() {
         QCOMPARE(game->scene()->call(), QString("Definition %1 of 10").arg(round));
         if (round == 1) {
             CheckLayout(game, false);
+            WM_CHECK_LOOK("Spiderwebs_ready", game);  // the flies round the web, the plates
             // A wrong fly first: eaten, -25, and the spider half as fast again.
             const int wrong = WrongFly(game);
             ClickFly(game, wrong);

@@ -44,6 +44,7 @@ void TowerScreenTest::tenRungsFromTheTitleToTheTable() {
     QVERIFY2(game, qPrintable(fx.dialogs.texts().join(" | ")));
     Pump(16);
     QCOMPARE(game->scene()->call(), "Get ready...");
+    WM_CHECK_LOOK("Tower_Assault_ready", game);  // the call in gold, the plates on their boards
     QVERIFY(fx.music.opened.endsWith("sounds/towerassault.mid"));
     Pump(2000);
     WM_VERIFY(Called(fx, game->scene()->call(), "Go!", "towergo.wav"));
