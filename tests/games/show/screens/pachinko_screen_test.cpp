@@ -80,7 +80,12 @@ private slots:
             QVERIFY(!game->falling());
             const QString scored = fx.dialogs.texts().filter("You scored ").last();
             expected += scored.section(' ', 2, 2).toDouble();
-            if (d == 0) WM_CHECK_LOOK("Pachinko_dropped", game);  // one disk gone, no trail left
+            if (d == 0) {  // the disk leaves its slot once scored; the others rest
+                WM_CHECK_LOOK("Pachinko_dropped", game);
+                const QImage now = game->field()->surface();
+                const QRect band(0, now.height() * 7 / 8, now.width(), now.height() / 8);
+                QCOMPARE(now.copy(band), game->boardPicture().copy(band));
+            }
             if (d < 2) {
                 QCOMPARE(Shared().Score, expected);
                 QCOMPARE(game->scoreText(), "Score: " + QString::number(expected));

@@ -32,7 +32,7 @@ private slots:
         // A click in a later column is ignored.
         clickLetter(game, 1, c.rightRow[1]);
         QCOMPARE(c.column, 0);
-        Pump(1475);  // with the opening's 30 ms, three half seconds on the clock and 5 ms more
+        Pump(1445);  // 1505 ms since the deal: three half seconds on the clock
 
         fx.dialogs.answerYes(false);
         for (int col = 0; col < int(c.word.size()); ++col) {
