@@ -3,6 +3,7 @@
 
 #include "games/show/pachinko/pachinko_screen.h"
 #include "game_open.h"
+#include "look.h"
 
 namespace {
 const Pairs kPlanets{{"mercury", "the planet nearest the sun"},
@@ -60,6 +61,10 @@ private slots:
         // Released outside the zone the disk goes home and can be picked up again.
         QTest::mousePress(game, Qt::LeftButton, {}, game->diskRest(0));
         QTest::mouseMove(game, game->diskRest(0) + QPoint(40, 200));
+        Pump(20);  // held by its middle, it stays under the pointer
+        const QRect held =
+            game->field()->toWidget(game->diskRect(0)).translated(game->field()->pos());
+        QVERIFY((held.center() - game->diskRest(0) - QPoint(40, 200)).manhattanLength() <= 4);
         QTest::mouseRelease(game, Qt::LeftButton, {}, game->diskRest(0) + QPoint(40, 200));
         QCOMPARE(fx.sound.played.count("gbell.wav"), 1);
         QVERIFY(!game->falling());
@@ -75,6 +80,12 @@ private slots:
             QVERIFY(!game->falling());
             const QString scored = fx.dialogs.texts().filter("You scored ").last();
             expected += scored.section(' ', 2, 2).toDouble();
+            if (d == 0) {  // the disk leaves its slot once scored; the others rest
+                WM_CHECK_LOOK("Pachinko_dropped", game);
+                const QImage now = game->field()->surface();
+                const QRect band(0, now.height() * 7 / 8, now.width(), now.height() / 8);
+                QCOMPARE(now.copy(band), game->boardPicture().copy(band));
+            }
             if (d < 2) {
                 QCOMPARE(Shared().Score, expected);
                 QCOMPARE(game->scoreText(), "Score: " + QString::number(expected));

@@ -32,7 +32,7 @@ private slots:
         // A click in a later column is ignored.
         clickLetter(game, 1, c.rightRow[1]);
         QCOMPARE(c.column, 0);
-        Pump(1500);  // three half seconds on the clock
+        Pump(1445);  // 1505 ms since the deal: three half seconds on the clock
 
         fx.dialogs.answerYes(false);
         for (int col = 0; col < int(c.word.size()); ++col) {
@@ -44,10 +44,12 @@ private slots:
             }
         }
         QVERIFY(game->lit());
+        WM_CHECK_LOOK("Short_Circuit_lit", game);  // the wire round to the socket, the surprise
         QCOMPARE(fx.sound.played.count("laser.wav"), 1);
         QVERIFY(fx.win.tables.isEmpty());
         Pump(3000);
-        // The half seconds go on counting through the pause before the score: 3 + 6 of them.
+        // The half seconds go on counting through the pause before the score: 3 + 6 of them, the
+        // ninth with 5 ms to spare.
         QCOMPARE(game->circuit().halfSeconds, 9);
         const int n = int(c.word.size());
         const int band = 9.0 / n < 2 ? 500 : 9.0 / n < 4 ? 200 : 100;

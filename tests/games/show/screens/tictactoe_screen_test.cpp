@@ -4,6 +4,7 @@
 
 #include "games/show/tictactoe/tictactoe_screen.h"
 #include "game_open.h"
+#include "look.h"
 
 namespace {
 const Pairs kAnimals{{"otter", "a river animal that loves to play"},
@@ -16,6 +17,7 @@ const Pairs kAnimals{{"otter", "a river animal that loves to play"},
 void takeSquare(TicTacToe* game, int row, int col, bool right) {
     QTest::mouseClick(game, Qt::LeftButton, {}, game->squareCentre(row, col));
     QVERIFY(game->questionFrame()->isVisible());
+    for (auto* o : game->options()) QVERIFY(!o->isChecked());  // none left from the last question
     const int pick = right ? game->question().right : (game->question().right + 1) % 2;
     game->options()[pick]->click();
     QVERIFY(game->answerButton()->isVisible());
@@ -58,6 +60,7 @@ private slots:
             Pump(col < 3 ? 4000 : 1000);
         }
         QCOMPARE(game->info()->text(), "You win the game!");
+        WM_CHECK_LOOK("Tic-Tac-Toe_won", game);  // the player's row of X under the line
         QVERIFY(fx.sound.played.contains("winner2.wav"));
         Pump(1000);
         WM_CHECK_WON(fx, "Tic-Tac-Toe", "OWL 1002");

@@ -1,9 +1,11 @@
 // Slot Machine on its screen: from the title through ten jackpots (Space, the handle, the STOP
-// buttons and the keys, a pull that pays part and holds nothing) to the table; twenty empty pulls
-// to the out-of-coins box; the machine laid out whole at both screen sizes; a list it cannot use.
+// buttons and the keys, a pull that pays part and holds nothing) to the table; one reel paid,
+// then twenty empty pulls to the out-of-coins box; the machine laid out whole at both screen
+// sizes; a list it cannot use.
 #include "games/show/slot_machine/slot_machine_screen.h"
-#include "look.h"
+#include "act_kit.h"
 #include "game_open.h"
+#include "look.h"
 
 using namespace wm::slot_machine;
 
@@ -100,10 +102,14 @@ private slots:
         QCOMPARE(road.sound.played.last(), QString("slot-win.wav"));
         QCOMPARE(game->scene()->bannerText(), QString("All ten! You have 405 coins!"));
         WM_CHECK_LOOK("Slot_Machine_won", game);  // the coins fly to the purse
+        SlotMachine* const machine = game;
+        bool behind = false;  // the jackpot's frames go on behind the boxes of the win
+        WatchBehindTheWin(road, machine, behind);
         Pump(2700);
         QVERIFY(road.win.tables.isEmpty());
         Pump(200);
         WM_CHECK_WON(road, "Slot Machine", "ACE 405");
+        QVERIFY(behind);
     }
 
     void outOfCoins() {
@@ -111,11 +117,13 @@ private slots:
         road.dialogs.answerYes(false);
         WM_OPEN(game, road, QPointer(OpenGame<SlotMachine>(road, "Slot Machine", kWords, 20)));
         Pump(1500);
-        for (int pull = 1; pull <= 20; ++pull) {
+        // The first pull pays for its first reel; the next, all wrong, has no luck all the same.
+        for (int pull = 1; pull <= 21; ++pull) {
             QTest::keyClick(game, Qt::Key_Space);
-            QCOMPARE(game->game().coins(), 100 - 5 * pull);
-            for (int reel = 0; reel < 3; ++reel) StopOn(game, reel, false, reel == 2);
-            if (pull == 1) {
+            QCOMPARE(game->game().coins(), 100 - 5 * pull + 5 * (pull > 1));
+            for (int reel = 0; reel < 3; ++reel)
+                StopOn(game, reel, pull == 1 && reel == 0, reel == 2);
+            if (pull == 2) {
                 QCOMPARE(road.sound.played.last(), QString("slot-miss.wav"));
                 QCOMPARE(game->scene()->bannerText(), QString("No luck this time!"));
             }

@@ -2,6 +2,7 @@
 // while the safe travels, silence with the sound off, and the game that scores nothing.
 
 #include "games/show/spell_crush/spell_crush_screen.h"
+#include "game_end.h"
 #include "game_open.h"
 #include "look.h"
 
@@ -37,6 +38,7 @@ private slots:
             QVERIFY(game->word(i)->isVisible());
         }
         QCOMPARE(misspelled, 1);
+        QCOMPARE(MissingAssets(fx, "Spell Crush"), "");
 
         game->clickWord(WrongIndex(game));
         QVERIFY(game->busy());
@@ -71,6 +73,8 @@ private slots:
         QCOMPARE(game->game().ClickedWord, clicked);
         for (int i = 0; i < 3000 && game->busy() && !game->points()->isVisible(); ++i) Pump(16);
         QCOMPARE(game->points()->text(), "WRONG!");
+        LetTheSafeFinish(game);  // the sign rises and four new words are dealt
+        QVERIFY(!game->busy() && !game->points()->isVisible());
         QCOMPARE(Shared().Score, 0.0);
         QVERIFY(fx.sound.played.isEmpty());  // sound is off
         Pump(60000);
