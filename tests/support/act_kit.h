@@ -11,9 +11,7 @@ namespace wm::test {
 template <class Game>
 void WatchBehindTheBox(ShellFixture& fx, Game* game, bool& behind) {
     fx.dialogs.answerYes(true);
-    fx.dialogs.whileOpen = [game, &behind](const auto&) {
-        behind = game->frame().findTimer("Timer1")->isActive();
-    };
+    fx.dialogs.whileOpen = [game, &behind](const auto&) { behind = Runs(game->frame(), "Timer1"); };
 }
 
 // Answers the boxes of a won game as the road does; `behind` tells whether the timer `name` of
@@ -21,7 +19,7 @@ void WatchBehindTheBox(ShellFixture& fx, Game* game, bool& behind) {
 template <class Game>
 void WatchBehindTheWin(Road& fx, Game* const& game, bool& behind, const char* name = "Timer1") {
     SetModalHook([&fx, &game, &behind, name](QDialog& d) {
-        behind = game && game->frame().findTimer(name)->isActive();
+        behind = game && Runs(game->frame(), name);
         fx.win(d);
     });
 }

@@ -6,6 +6,7 @@
 
 #include "game_start.h"
 #include "road_kit.h"
+#include "shell/game_frame.h"
 
 using namespace wm;
 using namespace wm::test;
@@ -22,6 +23,17 @@ namespace wm::test {
 // Types `keys` one key at a time, as a pupil does.
 inline void Keys(QWidget* game, const QString& keys) {
     for (QChar c : keys) QTest::keyClick(game, c.toLatin1());
+}
+
+// Whether the game's timer `name` runs, and its interval in ms (-1 when it has none of that
+// name): a timer renamed fails the check, not the test program.
+inline bool Runs(const GameFrame& frame, const char* name) {
+    const GameTimer* t = frame.findTimer(name);
+    return t && t->isActive();
+}
+inline int IntervalOf(const GameFrame& frame, const char* name) {
+    const GameTimer* t = frame.findTimer(name);
+    return t ? t->interval() : -1;
 }
 
 // Lets the last box close; whether the title is shown again.

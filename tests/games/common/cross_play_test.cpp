@@ -186,3 +186,11 @@ TEST(CrossPlay, EndOfTheGame) {
     EXPECT_EQ(s.Score, -0.5);
     EXPECT_EQ(scoreText(-250), "Score: -250");
 }
+
+TEST(CrossPlay, ASolvedDownWordLeavesTheCrossingCellToTheAcrossWord) {
+    PlayBoard b = catHat();
+    ASSERT_TRUE(clickCell(b, 27));
+    ASSERT_TRUE(giveAnswer(b, "cat"));
+    ASSERT_TRUE(clickCell(b, 52));  // green, but its neighbours across are not
+    EXPECT_EQ(std::tuple(b.SelAcross, b.SelDown), std::tuple(true, false));
+}

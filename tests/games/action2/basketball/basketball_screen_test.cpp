@@ -45,7 +45,7 @@ void BasketballScreenTest::tenGoodShotsToTheTable() {
     QCOMPARE(g->shootLabel()->text() + " | " + g->shotsLeftLabel()->text() + " | " +
                  g->definition()->text(),
              QString(kBegin) + " | Shots Left: 10 | \"" + Meaning() + "\"");
-    QCOMPARE(g->frame().findTimer("Timer1")->interval(), 500);  // the pace at level 10
+    QCOMPARE(IntervalOf(g->frame(), "Timer1"), 500);  // the pace at level 10
     WM_CHECK_LOOK("Basketball_still", g);  // the court in its 4:3 box, the net hanging still
 
     QPointer<BasketBallForm> alive(g);
@@ -88,7 +88,7 @@ void BasketballScreenTest::wildAndScrambledShotsEndWithoutAScore() {
     Road fx(8);
     auto* g = OpenGame<BasketBallForm>(fx, "Basketball", kSport, 2, true, false);
     QVERIFY(g);
-    QCOMPARE(g->frame().findTimer("Timer1")->interval(), 1300);
+    QCOMPARE(IntervalOf(g->frame(), "Timer1"), 1300);
     const QPoint court(g->width() / 2, int(g->height() * 0.9));
 
     // A click on the court without the ball is nothing; dropped just beside the basket's 4:3
@@ -102,9 +102,9 @@ void BasketballScreenTest::wildAndScrambledShotsEndWithoutAScore() {
     QVERIFY(!g->shooting());
 
     // Dropped on the net while the letters still scramble: a miss, and the label flashes.
-    for (int t = 0; t < 200 && !g->frame().findTimer("Timer2")->isActive(); ++t) Pump(16);
+    for (int t = 0; t < 200 && !Runs(g->frame(), "Timer2"); ++t) Pump(16);
     Pump(16);
-    QVERIFY(g->frame().findTimer("Timer2")->isActive());
+    QVERIFY(Runs(g->frame(), "Timer2"));
     const QString scrambled = g->shootLabel()->text();
     Drop(g, g->netPoint());
     QVERIFY(g->playing().startsWith("bball-bad"));

@@ -19,7 +19,7 @@ const Pairs kWinter{
 // Moves the clock until the ice thaws (the pause before a word is over).
 bool UntilThawing(QPointer<FreezeIt> game) {
     for (int i = 0; i < 100 && game; ++i) {
-        if (game->frame().findTimer("Timer1")->isActive()) return true;
+        if (Runs(game->frame(), "Timer1")) return true;
         Pump(50);
     }
     return false;
@@ -82,7 +82,7 @@ private slots:
         Pump(900);
         QCOMPARE(game->game().hidden(), n - 2);
         WM_CHECK_LOOK("Freeze-It_play", game);   // two letters out of the ice, the miss told
-        QCOMPARE(game->frame().findTimer("Timer4")->interval(), 1300);  // then the banner goes
+        QCOMPARE(IntervalOf(game->frame(), "Timer4"), 1300);  // then the banner goes
         QVERIFY(TriggerMenu(game, "mnuSayIt"));  // the clue may be heard, not the word
 
         // The palette puts its letter into the answer box.

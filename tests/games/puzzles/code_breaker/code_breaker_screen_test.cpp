@@ -88,11 +88,11 @@ private slots:
         QCOMPARE(g.symbols()[1].guess, char(0));
         QCOMPARE(fx.sound.played.last(), QString("cb-move.wav"));
         // The letter flies across on the picture's frames, which stop when nothing moves.
-        QVERIFY(game->frame().findTimer("Timer2")->isActive());
+        QVERIFY(Runs(game->frame(), "Timer2"));
         Pump(600);
         // The clue over the code, the letter in place, the help under it.
         WM_CHECK_LOOK("Code_Breaker_play", game);
-        QVERIFY(!game->frame().findTimer("Timer2")->isActive());
+        QVERIFY(!Runs(game->frame(), "Timer2"));
         // The arrow keys move the choice; Backspace, Delete, Space and "Clear" take a letter away.
         const int at = g.selected();
         QTest::keyClick(game, Qt::Key_Left);
@@ -178,7 +178,7 @@ private slots:
         QVERIFY(!game->clue()->isVisible());  // no meaning on a words-only list
         Pump(1500);
         QCOMPARE(game->clockLabel()->text(), QString("Time: 0:30"));
-        QCOMPARE(game->frame().findTimer("Timer1")->interval(), 1000);  // a second a tick
+        QCOMPARE(IntervalOf(game->frame(), "Timer1"), 1000);  // a second a tick
         QVERIFY(!game->hintButton()->isEnabled());  // 30 seconds leave no room for a hint
         Pump(19000);
         QCOMPARE(game->clockLabel()->text(), QString("Time: 0:11"));

@@ -66,7 +66,7 @@ private slots:
                 QCOMPARE(int(s.PuzzleWordCount), int(words.size() - n - 1));
                 QVERIFY(!command1->isVisible());
                 Pump(16 * 12);  // the flash runs out and leaves the word green
-                QVERIFY(!game->frame().findTimer("FlashTimer")->isActive());
+                QVERIFY(!Runs(game->frame(), "FlashTimer"));
                 // A word corrected after a wrong try was unpinked, so the flash passes it by and
                 // it stays white, its letters written: kept as designed.
                 QCOMPARE(game->state().board.colour[w.cell],

@@ -59,7 +59,7 @@ private slots:
         QCOMPARE(g->game().bricks[1].line, -1);
         Pump(500);
         QVERIFY(g->playing() && !g->Caption->isVisible());
-        QCOMPARE(g->frame().findTimer("Timer1")->interval(), 1000);  // the clock, a second a tick
+        QCOMPARE(IntervalOf(g->frame(), "Timer1"), 1000);  // the clock, a second a tick
         QVERIFY(fx.music.opened.endsWith("sounds/wordbricks.mid"));
 
         // "tig" does not fit the girder of "ox": it goes back where it lay.

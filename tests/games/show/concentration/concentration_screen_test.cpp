@@ -79,9 +79,9 @@ private slots:
         Pump(60);  // the turn's last moment
         QCOMPARE(std::pair(g->shownFace(0), g->shownFace(1)), std::pair(Face::Found, Face::Found));
         Pump(150);
-        QVERIFY(g->frame().findTimer("Timer3")->isActive());  // the found pair swells, then rests
+        QVERIFY(Runs(g->frame(), "Timer3"));  // the found pair swells, then rests
         Pump(190);
-        QVERIFY(!g->frame().findTimer("Timer3")->isActive());
+        QVERIFY(!Runs(g->frame(), "Timer3"));
 
         // heron and badger's definition: -10 x 3; a third click turns them back at once.
         clickCard(g, 2);

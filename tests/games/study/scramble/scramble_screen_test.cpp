@@ -39,7 +39,7 @@ private slots:
         };
         QCOMPARE(sorted(tiles), sorted(word));
         // At Normal the letters flicker once a second: one tile black beside the clock's "1".
-        QCOMPARE(game->frame().findTimer("Timer3")->interval(), 1000);
+        QCOMPARE(IntervalOf(game->frame(), "Timer3"), 1000);
         Pump(1000);
         QCOMPARE(Labels(game, "Label5 Label4"), "Time: | 1");
         WM_CHECK_LOOK("Scramble_flicker", game);
