@@ -21,6 +21,7 @@ private slots:
         // "Please Wait..." holds the keys until the first tick of a round.
         QVERIFY(TriggerMenu(game, "RS"));
         QVERIFY(game->waiting());
+        QCOMPARE(LabelText(game, "Label3"), "Please Wait...");
         Keys(game, "i");
         QCOMPARE(LabelText(game, "Label2"), "");
         Pump(20);

@@ -54,6 +54,7 @@ private slots:
         QCOMPARE(game->game().splashes(), 1);
         Click(game, 'w');
         Pump(200);
+        WM_CHECK_LOOK("Princess_splash", game);  // the splash still rings, two stones rise
         Click(game, 'l');
         QCOMPARE(fx.sound.played.last(), "pr-bridge.wav");
         QCOMPARE(game->phase(), frmPrincess::Phase::Spelled);
