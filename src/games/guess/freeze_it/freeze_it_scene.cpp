@@ -240,11 +240,6 @@ QRect FreezeScene::bannerRect() const {
     return QRect((width() - w) / 2, y, w, h).adjusted(-12, -12, 12, 12);
 }
 
-bool FreezeScene::busy() const {
-    return !bits_.empty() || now_ - freezeAt_ < kFlashMs || now_ - wrongAt_ < kShakeMs ||
-           now_ - rightAt_ < kGlowMs || now_ - bannerAt_ < kPopMs;
-}
-
 void FreezeScene::burst(int kind, int count, qint64 now) {
     const QRect b = blocksBounds().adjusted(side_, side_, -side_, -side_ * 3 / 2);
     if (b.isEmpty()) return;

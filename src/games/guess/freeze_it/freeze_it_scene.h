@@ -42,7 +42,6 @@ public:
     void setPanels(const std::vector<QRect>& panels);
     QRect blockRect(int i) const;
     int blockCount() const { return int(blocks_.size()); }
-    bool busy() const;  // something is moving
     // One frame of the moving things (the clock's time in ms).
     void step(qint64 now);
 
