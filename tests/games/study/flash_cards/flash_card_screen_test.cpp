@@ -70,7 +70,8 @@ private slots:
         QCOMPARE(cards->coverState(), FlashCardForm::Cover::Gone);
         cards->Gimme->click();  // nothing more to open
         auto* speaker = cards->findChild<QToolButton*>("SayButton");
-        QVERIFY(speaker);
+        QVERIFY(speaker && speaker->cursor().shape() == Qt::PointingHandCursor);
+        WM_CHECK_LOOK("Flash_Cards_speaker", speaker);  // a white loudspeaker and its waves
         speaker->click();
         QCOMPARE(voice.said.value(0).text, "Cat");
         QCOMPARE(fx.sound.played.count("zap.wav"), 1);
@@ -87,7 +88,7 @@ private slots:
         cards->nextCard();
         QCOMPARE(word(cards), "");
         cards->Gimme->click();  // the cover opened and run to its end
-        cards->MovieBox->advance(5);
+        cards->findChild<Movie*>("MovieBox")->advance(5);
         Pump(60);
         QCOMPARE(word(cards), "That's the end of the list!");
         QCOMPARE(cards->TheDefinition->text(), "That's the end of the list!");
