@@ -26,10 +26,6 @@ FlashCardForm* OpenCards(ShellFixture& fx, int mode, const char* letter = "A", b
     return cards;
 }
 
-QString word(FlashCardForm* f) {
-    return f->TheWord->text();
-}
-
 }  // namespace
 
 class FlashCardScreenTest : public QObject {
@@ -70,26 +66,27 @@ private slots:
         QCOMPARE(cards->coverState(), FlashCardForm::Cover::Gone);
         cards->Gimme->click();  // nothing more to open
         auto* speaker = cards->findChild<QToolButton*>("SayButton");
-        QVERIFY(speaker);
+        QVERIFY(speaker && speaker->cursor().shape() == Qt::PointingHandCursor);
+        WM_CHECK_LOOK("Flash_Cards_speaker", speaker);  // a white loudspeaker and its waves
         speaker->click();
         QCOMPARE(voice.said.value(0).text, "Cat");
         QCOMPARE(fx.sound.played.count("zap.wav"), 1);
 
         // By two: "eel" is the fifth card, and the next step runs past the list.
         QTest::mouseClick(cards->Label2, Qt::LeftButton);
-        QCOMPARE(word(cards), "eel");
+        QCOMPARE(cards->TheWord->text(), "eel");
         QCOMPARE(cards->focusWidget(), cards->Gimme);  // Enter opens the new card
         QCOMPARE(cards->coverState(), FlashCardForm::Cover::Covering);
         QVERIFY(cards->Frame1->isHidden() && !cards->Frame2->isHidden());
         cards->previousCard();
-        QCOMPARE(word(cards), "dog");
+        QCOMPARE(cards->TheWord->text(), "dog");
         cards->nextCard();
         cards->nextCard();
-        QCOMPARE(word(cards), "");
+        QCOMPARE(cards->TheWord->text(), "");
         cards->Gimme->click();  // the cover opened and run to its end
-        cards->MovieBox->advance(5);
+        cards->findChild<Movie*>("MovieBox")->advance(5);
         Pump(60);
-        QCOMPARE(word(cards), "That's the end of the list!");
+        QCOMPARE(cards->TheWord->text(), "That's the end of the list!");
         QCOMPARE(cards->TheDefinition->text(), "That's the end of the list!");
     }
 
@@ -98,11 +95,11 @@ private slots:
             ShellFixture fx;
             WM_OPEN(cards, fx, OpenCards(fx, 1, "A", false));
             QTest::mouseClick(cards->Label2, Qt::LeftButton);
-            QCOMPARE(word(cards), "bee");
+            QCOMPARE(cards->TheWord->text(), "bee");
             cards->CardScroll->setValue(4);
             QCOMPARE(cards->Label1->text(), "Card number 4 out of 5");
             QTest::mouseClick(cards->backlabel, Qt::LeftButton);
-            QCOMPARE(word(cards), "Cat");
+            QCOMPARE(cards->TheWord->text(), "Cat");
             cards->Gimme->click();  // the cover just lifting, its twinkles bright
             cards->MovieBox->advance(0.08);
             WM_CHECK_LOOK("Flash_Cards_lifting", cards->MovieBox);
@@ -117,7 +114,7 @@ private slots:
         QCOMPARE(fx2.dialogs.shown.back().text,
                  "No words in this list start with z! Starting at beginning of list instead...");
         cards->nextCard();
-        QCOMPARE(word(cards), "bee");
+        QCOMPARE(cards->TheWord->text(), "bee");
     }
 };
 

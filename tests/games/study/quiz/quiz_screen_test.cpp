@@ -114,8 +114,11 @@ private slots:
             r->stamp()->advance(0.7);
             WM_CHECK_LOOK("Quiz_stamp", r);                // down on the paper, its stars flying
             WM_CHECK_LOOK("Quiz_stamp_down", r->stamp());  // and close up: where it stands
+            r->stamp()->advance(0.3);
+            WM_CHECK_LOOK("Quiz_stamp_lifting", r->stamp());  // just rising, the stars fading
             r->stamp()->advance(5);
             Pump(100);
+            WM_CHECK_LOOK("Quiz_percent", r);  // the percent in large red letters
             seen << (r->Label3->isVisible() ? r->Label3->text() : QString());
             r->Label3->hide();  // the box stopped watching the stamp: nothing shows it again
             Pump(100);

@@ -61,16 +61,15 @@ private slots:
         Button(game, "Command1")->click();  // nothing typed: no guess
         QCOMPARE(fx.dialogs.shown.size(), std::size_t(1));
         fx.dialogs.answerYes(true).answerYes(false);
+        const QString oops = "Oops! The scrambled word was \"fox\". Would you like to try again?";
         Enter(game->guessBox(), "dog");
         QCOMPARE(fx.sound.played.last(), "fall.wav");
-        QCOMPARE(fx.dialogs.last(),
-                 "Oops! The scrambled word was \"fox\". Would you like to try again?");
+        QCOMPARE(fx.dialogs.last(), oops);
         Pump();
         QCOMPARE(Showing<Scramble>(), game);  // yes: another word
         QCOMPARE(Shared().Score, 0.0);
         Button(game, "Command2")->click();  // Give Up
-        QCOMPARE(fx.dialogs.last(),
-                 "Oops! The scrambled word was \"fox\". Would you like to try again?");
+        QCOMPARE(fx.dialogs.last(), oops);
         QVERIFY(BackAtTitle() && fx.win.tables.isEmpty());
         QCOMPARE(
             Refused(fx, "Scramble", {{"abcdefghijklmnopqrstu", "too long a word"}}, 1,
