@@ -84,7 +84,8 @@ private slots:
         cards->nextCard();
         QCOMPARE(cards->TheWord->text(), "");
         cards->Gimme->click();  // the cover opened and run to its end
-        cards->findChild<Movie*>("MovieBox")->advance(5);
+        QCOMPARE(cards->findChild<Movie*>("MovieBox"), cards->MovieBox);  // found by its name
+        cards->MovieBox->advance(5);
         Pump(60);
         QCOMPARE(cards->TheWord->text(), "That's the end of the list!");
         QCOMPARE(cards->TheDefinition->text(), "That's the end of the list!");
