@@ -98,6 +98,8 @@ void AsteroidZapScreenTest::shipDestroyedAndArrowKeysThenLongWords() {
     Pump(20 * 5);
     QCOMPARE(game->defText(), "Your ship was destroyed! The word was:");
     QVERIFY(game->waitingForKey());
+    Pump(300);
+    WM_CHECK_LOOK("Asteroid_Zap_destroyed", game);  // the word laid out, the blasts over it
     SendKey(game, Qt::Key_Space);
     QVERIFY(fx.dialogs.saw("Would you like to try again?") && BackAtTitle());
     fx.rng.setFallback(0.1);  // always the first, of 15 letters

@@ -67,6 +67,7 @@ void JailbreakScreenTest::roadFromTitleThroughThreeCellsToTheTable() {
     Type(game, "river");  // 100, then the guard's 35 steps to go x 10
     QCOMPARE(s.Score, 70.0 + 100 + 350);
     QCOMPARE(game->scene()->banner(), "Escaped!");
+    WM_CHECK_LOOK("Jailbreak_escaped", game);  // the points for the steps, the lock tilted open
     QCOMPARE(LabelText(game, "Label1"), "All the locks are open!");
     QCOMPARE(LabelText(game, "Label2"), "");  // no definition left standing
     Pump(1500);                               // the guard stands still while you escape
@@ -82,6 +83,7 @@ void JailbreakScreenTest::roadFromTitleThroughThreeCellsToTheTable() {
     Type(game, "owl");  // 100 + 60 + 400
     QCOMPARE(s.Score, 520.0 + 600 + 560);
     Pump(4000);
+    QVERIFY(fx.sound.played.contains("cheer.wav"));
     WM_CHECK_WON(fx, "Jailbreak", "JBK 1680");
 }
 

@@ -140,6 +140,7 @@ void SpiderScreenTest::theSpiderWinsEveryDefinition() {
     QVERIFY(game);
     Pump(16);
     QCOMPARE(game->game().flies().size(), 12u);
+    QCOMPARE(game->game().phase(), spiderwebs::Phase::Ready);  // only a frame has gone by
     QStringList words;
     for (int round = 1; round <= 10; ++round) {
         const QString word = QString::fromLatin1(Shared().TheWord.c_str());
