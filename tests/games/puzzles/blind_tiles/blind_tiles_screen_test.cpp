@@ -5,6 +5,7 @@
 #include "games/puzzles/blind_tiles/blind_tiles_screen.h"
 #include "core/strings.h"
 #include "cross_road.h"
+#include "look.h"
 #include "platform/text.h"
 #include "screen_kit.h"
 
@@ -69,6 +70,7 @@ private slots:
                 QCOMPARE(LabelText(game, "Label2"), "Score: " + QString::number(expected));
                 QVERIFY(EntryYellow(game->clueLabels()[entries.indexOf(toQ(word))]));
                 Pump(16 * 12);
+                if (n == 1) WM_CHECK_LOOK("Blind_Tiles_play", game);  // two words solved, listed
             }
         }
         QCOMPARE(fx.sound.played.count("gong.wav"), int(words.size()));

@@ -87,9 +87,12 @@ private slots:
         QCOMPARE(g.holder('Q'), 2);
         QCOMPARE(g.symbols()[1].guess, char(0));
         QCOMPARE(fx.sound.played.last(), QString("cb-move.wav"));
-        // The letter flies across on the picture's frames, which stop when nothing moves.
+        // The letter flies across, the board repainted frame by frame; the frames stop after it.
         QVERIFY(Runs(game->frame(), "Timer2"));
-        Pump(600);
+        Pump(100);
+        const QRegion flown = RepaintsDuring(game->scene(), [] { Pump(100); }).region;
+        QVERIFY(flown.intersects(game->scene()->tileRect(TileOf(g, 2))));
+        Pump(400);
         // The clue over the code, the letter in place, the help under it.
         WM_CHECK_LOOK("Code_Breaker_play", game);
         QVERIFY(!Runs(game->frame(), "Timer2"));

@@ -38,7 +38,10 @@ private slots:
         QCOMPARE(int(s.Difficulty), 8);
         QCOMPARE(fx.music.opened, appFile("sounds/entertainer.mid"));
         QCOMPARE(fx.music.plays, 1);
-        QCOMPARE(LabelText(game, "ClueLabel"), "Click a word in the puzzle to see the clue.");
+        QCOMPARE(game->windowTitle() + " | " + LabelText(game, "ClueLabel"),
+                 "Crossword | Click a word in the puzzle to see the clue.");
+        // Just left of the grid is no cell.
+        QCOMPARE(game->board()->cellAt(game->board()->cellRect(0).topLeft() + QPoint(-2, 2)), -1);
 
         const auto words = PlacedWords(game->state().board);
         QCOMPARE(int(words.size()), int(s.PuzzleWordCount));
@@ -120,6 +123,7 @@ private slots:
             if (!Showing<CrosswordForm>()) break;
             // 501 to 1000 a word, whatever the help text says.
             QVERIFY(before - Shared().Score >= 501 && before - Shared().Score <= 1000);
+            QCOMPARE(LabelText(game, "Label2"), QString("Score: %1").arg(qint64(Shared().Score)));
             QCOMPARE(game->state().board.caption[w.cell], UCase(Shared().Words[w.index])[0]);
         }
         QVERIFY(Shared().Score < 0);

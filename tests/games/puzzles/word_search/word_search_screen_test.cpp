@@ -68,8 +68,9 @@ private slots:
         QCOMPARE(game->puzzle().GridSize, 5);
         QCOMPARE(LabelText(game, "WLLabel"), "Words Left: 5");
         QVERIFY(fx.music.opened.endsWith("sounds/music.mid"));
-        // The scroll bar asks for another of the hidden words.
+        // The first word is asked; the scroll bar asks for another of the hidden words.
         const QString firstCard = LabelText(game, "CardLabel");
+        QCOMPARE(firstCard, toQ(s.TheMeaning));
         game->findChild<QScrollBar*>("ShowScroll")->setValue(2);
         QVERIFY(LabelText(game, "CardLabel") != firstCard);
         QCOMPARE(LabelText(game, "CardLabel"), toQ(s.TheMeaning));
@@ -86,7 +87,9 @@ private slots:
                 QVERIFY(!flash->isActive());
             }
         }
-        QCOMPARE(LabelText(game, "WLLabel"), "Words Left: 1");  // the last word leaves it be
+        // The last word leaves the count be; the first game counts its seconds.
+        QCOMPARE(LabelText(game, "WLLabel") + " | " + LabelText(game, "TimeLabel"),
+                 "Words Left: 1 | Time: 2");
         Pump(600);
         QVERIFY(!game->board()->isVisible());
         QVERIFY(game->findChild<Movie*>("MovieBackBox")->isPlaying());
