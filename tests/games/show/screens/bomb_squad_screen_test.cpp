@@ -1,5 +1,5 @@
 // Bomb Squad on its screen: from the title to a defused bomb and the table; the wrong wire and
-// the clock running out, each to its own loser's box.
+// the clock running out, each to its own loser's box; a list too short for the wires, refused.
 
 #include "games/show/bomb_squad/bomb_squad_screen.h"
 #include "game_open.h"
@@ -101,6 +101,11 @@ private slots:
                  "You did not get the bomb diffused in time! You lose. Would you like to give it "
                  "another try?");
         QVERIFY(BackAtTitle());
+        // Seven words cannot fill eight wires.
+        WM_VERIFY(Refused(fx, "Bomb Squad", {kWords.begin(), kWords.begin() + 7}, 7,
+                          "There are not enough different words on this list for this many "
+                          "wires. Please choose a lower difficulty level or another list.",
+                          "Bomb Squad"));
     }
 };
 

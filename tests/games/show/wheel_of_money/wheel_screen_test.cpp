@@ -40,7 +40,8 @@ void AnswerRight(GameShowForm* game) {
             game->clickChoice(w.RightChoice);
             break;
         case wheel::Frame::Letters:
-            QCOMPARE(game->tile(0)->y(), game->tile(1)->y());  // the tiles stand in one row
+            QCOMPARE(game->tile(0)->y(), game->tile(1)->y());          // the tiles stand in one row
+            QVERIFY(game->tile(0)->styleSheet().contains("#c00000"));  // dark red until marked
             if (w.kind == wheel::Kind::LetterChange) {
                 game->clickTile(w.SwapFirst - 1);
                 game->clickTile(w.SwapSecond - 1);
@@ -97,7 +98,9 @@ private slots:
         for (const char* s : {"beep.wav", "cheer.wav"}) QVERIFY2(fx.sound.played.contains(s), s);
 
         fx.dialogs.answerYes(false);
+        const qsizetype heard = fx.sound.played.size();
         game->clickCommand();
+        QCOMPARE(fx.sound.played.mid(heard), QStringList{"cheer.wav"});  // the table's cheer
         QCOMPARE(fx.dialogs.last(), "You won a cash and prize total of $" + QString::number(total) +
                                         "! Would you like to try again?");
         QVERIFY(BackAtTitle());
