@@ -15,8 +15,6 @@ TEST(DisplayFile, ThePresetsAreTheseNumbersOnDisk) {
     const std::tuple<DisplaySettings, double, int, int, double, double, const char*> cases[] = {
         {DisplaySettings::LargeIcons(), 1.0, 4, 3, 1.01, 1.01,
          "*****\r\n1\r\n4\r\n3\r\n1.01\r\n1.01\r\n*****\r\n"},
-        {DisplaySettings::MediumIcons(), 0.75, 5, 3, 1.01, 1.01,
-         "*****\r\n0.75\r\n5\r\n3\r\n1.01\r\n1.01\r\n*****\r\n"},
         {DisplaySettings::SmallIcons(), 0.5, 6, 5, 1.1, 1.2,
          "*****\r\n0.5\r\n6\r\n5\r\n1.1\r\n1.2\r\n*****\r\n"},
     };

@@ -16,8 +16,7 @@
 #include "temp_folder.h"
 
 using namespace wm;
-using wm::test::FileFailure;
-using wm::test::TempFolder;
+using namespace wm::test;
 
 TEST(DisplayFile, HugeOrFractionalCountsKeepThePreset) {
     // Columns and rows written, then read; 4 and 3: the Large Icons preset was kept.

@@ -15,8 +15,7 @@
 #include "temp_folder.h"
 
 using namespace wm;
-using wm::test::FileFailure;
-using wm::test::TempFolder;
+using namespace wm::test;
 
 namespace {
 std::vector<std::string> FilesIn(const TempFolder& dir) {
@@ -35,27 +34,26 @@ TEST(LineFile, RoundTripIsByteForByte) {
     for (int c = 191; c <= 255; ++c) all += Chr(c);
     lines.push_back(all);
     WriteLinesAtomic(dir.file("a.dat"), lines);
-    std::string expected;
-    for (const auto& l : lines) expected += l + "\r\n";
-    EXPECT_EQ(dir.read("a.dat"), expected);
-    EXPECT_EQ(ReadLines(dir.file("a.dat")), lines);
+    EXPECT_EQ(std::tuple(dir.read("a.dat"), ReadLines(dir.file("a.dat"))),
+              std::tuple("caf\xE9\r\n\r\n  blanks  \r\n<New List>\r\n" + all + "\r\n", lines));
     // A rewrite replaces the whole file and leaves no temporary behind.
     WriteLinesAtomic(dir.file("a.dat"), {"new"});
-    EXPECT_EQ(dir.read("a.dat"), "new\r\n");
-    EXPECT_EQ(FilesIn(dir), std::vector<std::string>{"a.dat"});
+    EXPECT_EQ(std::tuple(dir.read("a.dat"), FilesIn(dir)),
+              std::tuple("new\r\n", std::vector<std::string>{"a.dat"}));
     WriteLinesAtomic(dir.file("l.dat"), {std::string(200000, 'x')});  // very long lines survive
     EXPECT_EQ(ReadLines(dir.file("l.dat")).at(0).size(), 200000u);
 }
 
 TEST(LineFile, ReadsAnyLineEndAndALastLineWithoutOne) {
     TempFolder dir;
-    dir.write("a.dat", "one\r\ntwo\nthree\rfour");
-    EXPECT_EQ(ReadLines(dir.file("a.dat")),
-              (std::vector<std::string>{"one", "two", "three", "four"}));
-    dir.write("b.dat", "");
-    EXPECT_TRUE(ReadLines(dir.file("b.dat")).empty());
-    dir.write("c.dat", "\r\n\r\n");
-    EXPECT_EQ(ReadLines(dir.file("c.dat")), (std::vector<std::string>{"", ""}));
+    const std::pair<const char*, std::vector<std::string>> cases[] = {
+        {"one\r\ntwo\nthree\rfour", {"one", "two", "three", "four"}},
+        {"", {}},
+        {"\r\n\r\n", {"", ""}}};
+    for (const auto& [bytes, lines] : cases) {
+        dir.write("a.dat", bytes);
+        EXPECT_EQ(ReadLines(dir.file("a.dat")), lines) << bytes;
+    }
     // A missing file names itself.
     const auto [path, message] = FileFailure([&] { ReadLines(dir.file("nothere.dat")); });
     EXPECT_EQ(path, dir.file("nothere.dat"));
@@ -78,8 +76,8 @@ TEST(LineFile, FailedWriteKeepsTheOldFileAndLeavesNoTemporary) {
     std::signal(SIGXFSZ, oldHandler);
     EXPECT_EQ(tooLarge.second,
               "The file " + dir.file("a.dat") + " cannot be written: File too large");
-    EXPECT_EQ(dir.read("a.dat"), "keep\r\n");
-    EXPECT_EQ(FilesIn(dir), std::vector<std::string>{"a.dat"});
+    EXPECT_EQ(std::tuple(dir.read("a.dat"), FilesIn(dir)),
+              std::tuple("keep\r\n", std::vector<std::string>{"a.dat"}));
     // A folder standing at the name: all is written, and the rename fails.
     std::filesystem::create_directories(dir.file("b.dat/inside"));
     const std::string replaced =
@@ -109,8 +107,8 @@ TEST(LineFile, RewriteKeepsPermissionsAndGroup) {
     ASSERT_EQ(::chmod(path.c_str(), 0440), 0);
     AppendLinesAtomic(path, {"more"});
     ASSERT_EQ(::stat(path.c_str(), &st), 0);
-    EXPECT_EQ(st.st_mode & 07777, 0440u);
-    EXPECT_EQ(dir.read("thelists.dat"), "new\r\nmore\r\n");
+    EXPECT_EQ(std::tuple(st.st_mode & 07777, dir.read("thelists.dat")),
+              std::tuple(0440u, "new\r\nmore\r\n"));
     // A file made afresh gets what any new file gets: 0666 less the umask.
     const mode_t mask = ::umask(027);
     WriteLinesAtomic(dir.file("fresh.dat"), {"x"});
@@ -125,8 +123,9 @@ TEST(LineFile, RewriteFollowsALinkAndAppendEndsTheLastLine) {
     dir.write("shared/thelists.dat", "old\r\n");
     std::filesystem::create_symlink(dir.file("shared/thelists.dat"), dir.file("thelists.dat"));
     WriteLinesAtomic(dir.file("thelists.dat"), {"new"});
-    EXPECT_TRUE(std::filesystem::is_symlink(dir.file("thelists.dat")));
-    EXPECT_EQ(dir.read("shared/thelists.dat"), "new\r\n");
+    EXPECT_EQ(std::tuple(std::filesystem::is_symlink(dir.file("thelists.dat")),
+                         dir.read("shared/thelists.dat")),
+              std::tuple(true, "new\r\n"));
     // An append ends an unfinished last line first, and makes a file that is not there.
     dir.write("a.dat", "one\r\ntwo");
     AppendLinesAtomic(dir.file("a.dat"), {"three"});
@@ -141,8 +140,10 @@ TEST(LineFile, TwoWritersAtOnceNeverTearTheFile) {
     TempFolder dir;
     const std::string path = dir.file("thelists.dat");
     std::vector<std::string> linesA, linesB;
-    for (int i = 0; i < 3000; ++i) linesA.push_back("alpha word " + std::to_string(i));
-    for (int i = 0; i < 2000; ++i) linesB.push_back("beta definition " + std::to_string(i));
+    for (int i = 0; i < 3000; ++i) {
+        linesA.push_back("alpha word " + std::to_string(i));
+        if (i < 2000) linesB.push_back("beta definition " + std::to_string(i));
+    }
     const std::string a = JoinLines(linesA);
     const std::string b = JoinLines(linesB);
     WriteBytesAtomic(path, a);

@@ -67,8 +67,7 @@ TEST(FactoryFiles, EveryLineEndsInCrLf) {
     for (const char* name : {"wmdata.new", "thelists.new", "flcodelist.dat", "wmgdisplay.dat"}) {
         SCOPED_TRACE(name);
         const std::string bytes = ReadBytes(DataFile(name));
-        ASSERT_GE(bytes.size(), 2u);
-        EXPECT_EQ(bytes.substr(bytes.size() - 2), "\r\n");
+        EXPECT_TRUE(bytes.ends_with("\r\n"));
         // Every LF has its CR before it, every CR its LF after it.
         std::ptrdiff_t pairs = 0;
         for (auto at = bytes.find("\r\n"); at != std::string::npos; at = bytes.find("\r\n", at + 2))
@@ -82,8 +81,7 @@ TEST(FactoryFiles, EveryLineEndsInCrLf) {
 TEST(FactoryLists, RecordLayout) {
     const auto lines = ReadAllLines(DataFile("thelists.new"));
     ASSERT_FALSE(lines.empty());
-    EXPECT_NE(lines.front(), kSeparator);
-    EXPECT_NE(lines.back(), kSeparator);
+    EXPECT_TRUE(lines.front() != kSeparator && lines.back() != kSeparator);
     std::size_t recordLines = 0;
     for (const auto& l : lines) {
         EXPECT_FALSE(Trim(l).empty());

@@ -36,9 +36,8 @@ protected:
 TEST(TickerPace, EffectiveInterval) {
     const std::vector<std::pair<int, int>> cases = {
         {-5, 0}, {0, 0}, {1, 16}, {10, 16}, {15, 16}, {16, 16}, {17, 17}, {55, 55}, {1000, 1000}};
-    for (auto [asked, runs] : cases) {
+    for (auto [asked, runs] : cases)
         EXPECT_EQ(Ticker::effectiveInterval(asked), runs) << "asked " << asked;
-    }
 }
 
 TEST_F(TickerTest, DueTimersFireInTimeOrderAndAsOftenAsDue) {

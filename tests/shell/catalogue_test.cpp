@@ -106,8 +106,7 @@ TEST(Catalogue, OptionsRowsMatchTheOptionsTable) {
         SCOPED_TRACE(card.name);
         const OptionsRow& o = card.options;
         if (!o.hasDifficulty) noDifficulty.insert(card.name);
-        EXPECT_LE(o.min, o.start);
-        EXPECT_LE(o.start, o.max);
+        EXPECT_TRUE(o.min <= o.start && o.start <= o.max);
         const auto labels =
             relabelled.count(card.name)
                 ? relabelled.at(card.name)
@@ -198,11 +197,9 @@ TEST(Catalogue, HowToTextsBeginAsGivenAndStayReadable) {
         ASSERT_TRUE(begins.count(card.name));
         EXPECT_EQ(text.rfind(begins.at(card.name), 0), 0u);
         if (whole.count(card.name)) EXPECT_EQ(text, begins.at(card.name));
-        EXPECT_GE(text.size(), 140u);
-        EXPECT_LE(text.size(), 600u);
+        EXPECT_TRUE(text.size() >= 140u && text.size() <= 600u) << text.size();
         EXPECT_TRUE(seen.insert(text).second) << "shares its text with another game";
-        EXPECT_EQ(text.find("  "), std::string::npos);
-        EXPECT_NE(text.back(), ' ');
+        EXPECT_TRUE(text.find("  ") == std::string::npos && text.back() != ' ');
         for (char c : text) EXPECT_TRUE(c >= 0x20 && c < 0x7f) << "not plain ASCII: " << int(c);
     }
 }
@@ -270,8 +267,7 @@ TEST(EligibilityRows, EveryGameHasItsRow) {
         if (count == C::Below) EXPECT_EQ(e.minWords, minimum);
         if (count != C::None) EXPECT_EQ(e.countText, countText);
     }
-    EXPECT_EQ(seen.size(), 42u);
-    EXPECT_EQ(Catalogue().size(), 42u);
+    EXPECT_EQ(std::tuple(seen.size(), Catalogue().size()), std::tuple(42u, 42u));
 }
 
 }  // namespace

@@ -39,11 +39,7 @@ struct TeacherFixture : ShellFixture {
 
     explicit TeacherFixture(const QStringList& lists = {"Animals", "cat", "a pet", "dog",
                                                         "a loyal pet"}) {
-        static bool once = [] {
-            RegisterTeacherScreens();
-            return true;
-        }();
-        (void)once;
+        [[maybe_unused]] static const bool once = (RegisterTeacherScreens(), true);
         QFile::copy(path("wmdata.new"), path("wmdata.dat"));
         writeLines("thelists.dat", lists);
         writeLines("folders.dat", {});
