@@ -89,13 +89,10 @@ TEST(RandomWord, DrawsOnlyLoadedEntries) {
     // its draws spread over [0, 1).
     SystemRng first, second;
     EXPECT_NE(first.Rnd(), second.Rnd());
-    double low = 1, high = 0;
-    for (int i = 0; i < 1000; ++i) {
-        const double v = first.Rnd();
-        low = std::min(low, v);
-        high = std::max(high, v);
-    }
-    EXPECT_TRUE(low >= 0 && low < 0.01 && high > 0.99 && high < 1) << low << " " << high;
+    std::vector<double> draws(1000);
+    for (double& v : draws) v = first.Rnd();
+    const auto [low, high] = std::minmax_element(draws.begin(), draws.end());
+    EXPECT_TRUE(*low >= 0 && *low < 0.01 && *high > 0.99 && *high < 1) << *low << " " << *high;
     // A scripted generator hands out its queue in order, then its fallback, counting each draw.
     ScriptedRng script(0.5);
     script.then(0.1).pick(3, 4);

@@ -165,19 +165,15 @@ TEST(LineFile, TwoWritersAtOnceNeverTearTheFile) {
             ::_exit(std::min(failed, 100));
         }
     }
-    int reads = 0, torn = 0, running = 2;
-    int status[2] = {0, 0};
-    bool ended[2] = {false, false};
-    while (running > 0) {
+    // Read until both writers have ended (a writer reaped is marked 0).
+    int reads = 0, torn = 0, status[2] = {0, 0};
+    while (writers[0] || writers[1]) {
         const std::string seen = ReadBytes(path);
         ++reads;
         if (seen != a && seen != b) ++torn;
-        for (int w = 0; w < 2; ++w) {
-            if (!ended[w] && ::waitpid(writers[w], &status[w], WNOHANG) == writers[w]) {
-                ended[w] = true;
-                --running;
-            }
-        }
+        for (int w = 0; w < 2; ++w)
+            if (writers[w] && ::waitpid(writers[w], &status[w], WNOHANG) == writers[w])
+                writers[w] = 0;
     }
     EXPECT_EQ(torn, 0) << "of " << reads << " reads";
     for (int w = 0; w < 2; ++w) {

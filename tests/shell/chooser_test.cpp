@@ -64,25 +64,33 @@ private slots:
     }
 
     void wordsOnlyListsAreRefusedOrWarned() {
-        // One game for each way of meeting a words-only list, the option on: the message, the
-        // option after, and the screen that opens.
-        const std::tuple<const char*, QString, bool, QString> rows[] = {
-            {"Pachinko", kM1, true, "ChooseList"},
-            {"Word Zap", kM1, true, "ChooseList"},  // the option on
-            {"Word Search", kSearch, false, "WordSearchForm"},
+        // One game for each way of meeting a words-only list with the option on, then the games
+        // that warn only while it is on, with it off: they open quietly. The option, the message,
+        // the option after, and the screen that opens.
+        const std::tuple<const char*, bool, QString, bool, QString> rows[] = {
+            {"Pachinko", true, kM1, true, "ChooseList"},
+            {"Word Zap", true, kM1, true, "ChooseList"},  // the option on
+            {"Word Search", true, kSearch, false, "WordSearchForm"},
             // Kept by the chooser, then inverted by the game as it loads.
-            {"Scramble", kW2, false, "Scramble"},
-            {"Hang Glider", "", true, "HangGlider"}};
-        for (const auto& [game, message, optionAfter, opens] : rows) {
-            ShellFixture fx;
+            {"Scramble", true, kW2, false, "Scramble"},
+            {"Hang Glider", true, "", true, "HangGlider"},
+            {"Short Circuit", false, "", false, "ShortCircuit"},
+            {"Princess", false, "", false, "frmPrincess"},
+            {"Asteroid Zap", false, "", false, "AsteroidBlast"},
+            {"Safe Cracker", false, "", false, "SafeCracker"},
+            {"Word Search", false, "", false, "WordSearchForm"},
+            {"Letter Drop", false, "", false, "LetterFall"}};
+        ShellFixture fx;
+        for (const auto& [game, on, message, optionAfter, opens] : rows) {
             ChooseList* chooser = OpenChooser(fx, game);
-            Shared().GameOptionOn = kTrue;
-            QVERIFY(chooser->lists()->isVisible() &&
-                    SelectList(chooser, "Tricky Spelling Words (") >= 0);
+            fx.dialogs.shown.clear();
+            Shared().GameOptionOn = on ? kTrue : kFalse;
+            QVERIFY(chooser->lists()->isVisible());
+            QVERIFY(SelectList(chooser, "Tricky Spelling Words (") >= 0);
             chooser->continueOn();
             QCOMPARE(std::tuple(fx.dialogs.texts().value(0), Shared().GameOptionOn == kTrue,
-                                CurrentScreen()->objectName()),
-                     std::tuple(message, optionAfter, opens));
+                                Shared().WordsOnly == kTrue, CurrentScreen()->objectName()),
+                     std::tuple(message, optionAfter, true, opens));
         }
     }
 
@@ -139,24 +147,6 @@ private slots:
                 std::tuple(toQ(s.CurrentListName), toQ(s.ListLanguage), toQ(s.Words[1]),
                            toQ(s.Meanings[1]), s.WordsOnly == kTrue),
                 std::tuple(odd ? "Odd" : "Spanish Animals", language, word1, meaning1, wordsOnly));
-        }
-    }
-
-    void warnIfOptionWithTheOptionOffSaysNothing() {
-        // Words-only lists warn these games only while the option is on; off, they open quietly.
-        ShellFixture fx;
-        for (const char* game : {"Short Circuit", "Princess", "Asteroid Zap", "Safe Cracker",
-                                 "Word Search", "Letter Drop"}) {
-            ChooseList* chooser = OpenChooser(fx, game);
-            QVERIFY(chooser->lists()->isVisible());
-            fx.dialogs.shown.clear();
-            Shared().GameOptionOn = kFalse;
-            QVERIFY(SelectList(chooser, "Tricky Spelling Words (") >= 0);
-            chooser->continueOn();
-            QVERIFY2(Shared().WordsOnly == kTrue, game);
-            for (const auto& shown : fx.dialogs.shown)
-                QVERIFY2(!shown.text.startsWith("The list you have selected"), game);
-            QCOMPARE(Shared().GameOptionOn, kFalse);
         }
     }
 

@@ -81,9 +81,8 @@ struct TeacherFixture : ShellFixture {
 
 // The first row of `list` whose text starts with `start`, or -1.
 inline int RowOf(QListWidget* list, const QString& start) {
-    for (int i = 0; i < list->count(); ++i) {
+    for (int i = 0; i < list->count(); ++i)
         if (list->item(i)->text().startsWith(start)) return i;
-    }
     return -1;
 }
 

@@ -17,9 +17,8 @@ void enterGate(TeacherFixture& f, Title* title, const QString& password) {
         p.box()->setText(password);
         p.confirm();
     });
-    for (QAction* a : title->findChild<QToolBar*>("Toolbar1")->actions()) {
+    for (QAction* a : title->findChild<QToolBar*>("Toolbar1")->actions())
         if (a->text() == "Teacher Management") return a->trigger();
-    }
     QFAIL("no toolbar entry Teacher Management");
 }
 

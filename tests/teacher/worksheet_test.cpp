@@ -28,9 +28,8 @@ std::vector<WordList> FactoryLists() {
     const QString path = QString(WM_SOURCE_DATA_DIR) + "/thelists.new";
     std::vector<WordList> out;
     std::vector<ForeignList> foreign;
-    for (const std::string& stored : ListNames(path.toStdString())) {
+    for (const std::string& stored : ListNames(path.toStdString()))
         if (HasPrefix(stored)) foreign.push_back({stored.substr(1, 1), PlainName(stored)});
-    }
     for (const std::string& stored : ListNames(path.toStdString())) {
         SharedState s;
         s.CurrentListName = PlainName(stored);
