@@ -14,10 +14,6 @@ using Pairs = QList<TextPair>;
 
 namespace {
 
-QString Corpus(const QString& name) {
-    return QString(WM_TEST_DATA_DIR) + "/import/" + name;
-}
-
 // Exports `list` through the manager's box as `file` in the fixture's folder; the file's bytes.
 QByteArray Export(TeacherFixture& f, const QString& list, bool kvtml, const QString& file) {
     f.then<ExportForm>([&](ExportForm& e) {
@@ -34,6 +30,8 @@ QByteArray Export(TeacherFixture& f, const QString& list, bool kvtml, const QStr
 
 class TeacherImportTest : public QObject {
     Q_OBJECT
+    static QString Corpus(const QString& name) { return WM_TEST_DATA_DIR "/import/" + name; }
+
 private slots:
     // A corpus file (`bytes` empty) or a few bytes as "f.txt": the error, or the words read.
     void filesReadExactly_data() {
@@ -413,11 +411,11 @@ private slots:
         QVERIFY(kvtml.contains("\n  <entry id=\"0\">\n   <translation"));
         // A words-only list: one identifier in KVTML, one column in CSV; both read back so.
         const QByteArray words = Export(f, "Spelling", true, "spelling.kvtml");
-        QCOMPARE(back("spelling.kvtml").pairs, Pairs({{"rhythm", ""}}));
         QVERIFY(words.contains("<name>Word</name>") && !words.contains("<name>Definition</name>"));
         QCOMPARE(Export(f, "Spelling", false, "spelling.csv"),
                  QByteArray("\xEF\xBB\xBFrhythm\r\n"));
-        QCOMPARE(back("spelling.csv").pairs, Pairs({{"rhythm", ""}}));
+        QVERIFY(back("spelling.kvtml").pairs == Pairs({{"rhythm", ""}}) &&
+                back("spelling.csv").pairs == Pairs({{"rhythm", ""}}));
 
         // A foreign list names its languages: English words, foreign definitions.
         auto flat = [](const QByteArray& b) {

@@ -26,14 +26,6 @@ QWidget* Focused(QWidget* window) {
     return w ? w : window;
 }
 
-void Type(QWidget* window, const QString& text) {
-    QTest::keyClicks(Focused(window), text);
-}
-
-void Enter(QWidget* window) {
-    QTest::keyClick(Focused(window), Qt::Key_Return);
-}
-
 QString Refusal(const QString& typed, const QString& characters) {
     return QString("The text \"%1\" %2: %3. Please type it without them.")
         .arg(typed, kCannotStore, characters);
@@ -43,6 +35,9 @@ QString Refusal(const QString& typed, const QString& characters) {
 
 class TeacherTypingTest : public QObject {
     Q_OBJECT
+    static void Type(QWidget* w, const QString& text) { QTest::keyClicks(Focused(w), text); }
+    static void Enter(QWidget* w) { QTest::keyClick(Focused(w), Qt::Key_Return); }
+
 private slots:
     // The boxes' own words (typos included), and the one button Enter presses in each: never
     // the way out.

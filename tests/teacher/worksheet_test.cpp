@@ -67,15 +67,6 @@ QStringList PdfPages(const QString& pdf) {
     return pages;
 }
 
-QString Q(const std::string& s) {
-    return toQ(s).simplified();
-}
-
-int KeyPages(const std::vector<Page>& pages) {
-    return static_cast<int>(
-        std::count_if(pages.begin(), pages.end(), [](const Page& p) { return p.key; }));
-}
-
 // The letters of the grid where `e` stands, across (1) or down (2).
 QString Spelt(const SheetContent& c, const Entry& e) {
     std::string spelt;
@@ -93,17 +84,19 @@ QString LaidText(const std::vector<Page>& pages) {
     return all.simplified();
 }
 
-// Text without its blanks and hyphens, for texts that may wrap at a hyphen.
-QString Bare(QString text) {
-    return text.remove(' ').remove('-');
-}
-
 }  // namespace
 
 class WorksheetTest : public QObject {
     Q_OBJECT
     SystemRng rng_;
     QTemporaryDir out_;
+
+    static QString Q(const std::string& s) { return toQ(s).simplified(); }
+    // Text without its blanks and hyphens, for texts that may wrap at a hyphen.
+    static QString Bare(QString text) { return text.remove(' ').remove('-'); }
+    static int KeyPages(const std::vector<Page>& pages) {
+        return int(std::count_if(pages.begin(), pages.end(), [](const Page& p) { return p.key; }));
+    }
 
     // The sheet as a PDF, kept in WM_SHOTS for looking at when that names a folder.
     QString Pdf(const std::vector<Page>& pages, const QString& name) {
