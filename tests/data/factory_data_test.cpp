@@ -171,13 +171,11 @@ TEST(FactoryLists, SpanishListPlaysBothWays) {
     EXPECT_EQ(ReadBytes(DataFile("thelists.new")).find("\xC3\xA1"), std::string::npos);
 }
 
-TEST(FactoryDisplay, IsLargeIconsWithNothingHidden) {
+TEST(FactoryDisplayAndLanguages, LargeIconsNothingHiddenAndFourLanguages) {
     // The reader falls back to Large Icons for a missing file, so look at the lines as well.
     const auto lines = ReadLines(DataFile(kDisplayFileName));
     EXPECT_EQ(lines, (std::vector<std::string>{"*****", "1", "4", "3", "1.01", "1.01", "*****"}));
-}
-
-TEST(FactoryLanguages, FourLanguagesInThreeLineRecords) {
+    // Four languages in three-line records.
     const auto codes = ReadLanguageCodes(DataFile(kLanguageFileName));
     EXPECT_EQ(codes.size() * 3, ReadLines(DataFile(kLanguageFileName)).size());
     std::string all;

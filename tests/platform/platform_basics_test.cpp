@@ -137,7 +137,7 @@ private slots:
         Shared().AssetPath.clear();
     }
 
-    void effectsFollowSoundOn() {
+    void effectsFollowSoundOnAndPlanTheirVoices() {
         RecordingSound s;
         Shared().SoundOn = kFalse;
         s.effect(QStringLiteral("buzz"));
@@ -158,9 +158,7 @@ private slots:
         QCOMPARE(s.played, (QStringList{"ding", "always", "blast", "bleep"}));
         QCOMPARE(s.modes, (QList<SoundMode>{SoundMode::Replace, SoundMode::Replace,
                                             SoundMode::Overlap, SoundMode::NoInterrupt}));
-    }
-
-    void voicePlans() {
+        // Voice plans.
         const auto R = SoundMode::Replace, N = SoundMode::NoInterrupt, O = SoundMode::Overlap;
         // The mode, which of the effect's own voices sound, whether another sounds; the voice and
         // whether the others stop.
@@ -289,7 +287,7 @@ private slots:
         QCOMPARE(RenderMidi(midi, 1.0), pcm.left(kRate * 4));
     }
 
-    void heldKeysIgnoreAutoRepeat() {
+    void heldKeysIgnoreAutoRepeatAndATapIsPressedOnce() {
         QWidget screen;
         auto* child = new QLineEdit(&screen);  // takes arrow keys for itself
         KeyState keys(&screen);
@@ -308,11 +306,7 @@ private slots:
         QWidget other;
         key(&other, QEvent::KeyPress, Qt::Key_Up);
         QVERIFY(!keys.isDown(Qt::Key_Up) && !keys.takePressed(Qt::Key_Up));
-    }
-
-    void pressedSinceLastReadIsOneShot() {
-        QWidget screen;
-        KeyState keys(&screen);
+        // A tap between two ticks: not held at the tick, but pressed once.
         // A tap between two ticks: not held at the tick, but pressed once.
         key(&screen, QEvent::KeyPress, Qt::Key_Space);
         key(&screen, QEvent::KeyRelease, Qt::Key_Space);
@@ -355,7 +349,7 @@ private slots:
         QVERIFY(Pointer::count() == 0 && !QGuiApplication::overrideCursor());
     }
 
-    void spriteGridCutsLeftToRightThenDown() {
+    void spriteGridCutsLeftToRightThenDownAndSvgFramesById() {
         QTemporaryDir dir;
         QImage strip(40, 16, QImage::Format_ARGB32);
         for (int y = 0; y < 16; ++y)
@@ -383,11 +377,7 @@ private slots:
         const QString missing = dir.filePath("nothing.png");
         const SpriteSheet none = SpriteSheet::fromGrid(missing, "walk", {10, 8});
         QVERIFY(none.isEmpty() && none.error().contains(missing) && none.frame("walk_0").isNull());
-    }
-
-    void spriteSvgFramesByElementId() {
         // Two frames of a ball (the second inside a moved group), a lone picture, a gap after 2.
-        QTemporaryDir dir;
         const QString path =
             writeFile(dir.filePath("sprites.svg"),
                       "<svg xmlns='http://www.w3.org/2000/svg' width='200' height='100' viewBox='0 "

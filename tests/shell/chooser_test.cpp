@@ -173,7 +173,7 @@ private slots:
         QVERIFY(Showing<Title>() != nullptr);
     }
 
-    void lastChoiceMatchingNothingSelectsNothing() {
+    void lastChoiceMatchingNothingAndAnUnknownLanguage() {
         ShellFixture fx;
         Shared().LastListChoice = "A list deleted since";
         ChooseList* chooser = OpenChooser(fx, "Hang Glider");
@@ -185,10 +185,7 @@ private slots:
         chooser->continueOn();
         QCOMPARE(fx.dialogs.texts(), QStringList{"You need to choose a list!"});
         QCOMPARE(CurrentScreen(), chooser);
-    }
-
-    void languageNotInTheFileOffersPlainSides() {
-        ShellFixture fx;
+        // A language not in the file offers plain sides.
         LangChoose box("X");
         QCOMPARE(std::tuple(box.Option1->text(), box.Option2->text(),
                             box.findChild<QLabel*>("Label1")->text()),

@@ -154,7 +154,7 @@ private slots:
         QVERIFY(!flasher.isActive() && Showing<Title>() != nullptr);
     }
 
-    void nothingEndsOrSpeaksOnceTheGameIsLeft() {
+    void nothingEndsOrSpeaksOnceLeftAndAStrayGameIsReported() {
         services().speech = &voice;
         game->frame.setSayIt([] { return Spoken("perro"); });
         const int stops = voice.stops;
@@ -166,9 +166,7 @@ private slots:
         game = nullptr;
         Pump();
         QVERIFY(gone.isNull() && voice.stops > stops);  // the screen went, and its voice with it
-    }
-
-    void aGameNamingNoCardIsReported() {
+        // A game naming no card is reported.
         GameRegistrar stray("No Such Game", [] { return nullptr; }, {});
         QVERIFY(GameRegistrationErrors().contains("No Such Game"));
     }

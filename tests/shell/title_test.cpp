@@ -220,7 +220,7 @@ private slots:
         QCOMPARE(QString::fromStdString(Shared().CurrentGame), "Title");
     }
 
-    void rankLinesAndTheTablesOfGamesWithout() {
+    void rankLinesTablesOfGamesWithoutAndInitials() {
         // Initials start at column 13 and the score at column 27, whatever the rank's width.
         const std::tuple<int, QString, QString, QString> rows[] = {
             {1, "ABC", "12345", "#1          ABC           12345"},
@@ -247,9 +247,7 @@ private slots:
             QCOMPARE(std::tuple(form.objectName(), form.tableText(), headed),
                      std::tuple("HighScoreForm", table, true));
         }
-    }
-
-    void initialsSkipTheDashes() {
+        // Initials skip the dashes.
         const std::pair<QStringList, QString> rows[] = {{{"A", "-", "C"}, "AC"},
                                                         {{"-", "-", "-"}, ""},
                                                         {{"J", "O", "E"}, "JOE"},

@@ -243,7 +243,7 @@ private slots:
 
     // The word search key rings each word where the builder hid it; a word too long for the
     // largest grid is refused with the game's message.
-    void wordSearchKeyAndBounds() {
+    void wordSearchAndCrosswordGrids() {
         WordList l{"Spaced", {{"ice cream", "cold"}, {"Zo\xEB", "a name"}, {"cat", "pet"}}, false};
         const SheetContent c = makeContent(l, Opt(Kind::WordSearch, 5, false), rng_);
         QCOMPARE(c.entries.size(), std::size_t(3));
@@ -259,10 +259,7 @@ private slots:
         QCOMPARE(refusal({"Long", {{std::string(20, 'a'), "x"}}, false}, Opt(Kind::WordSearch, 20)),
                  "Unable to create this puzzle: some words on this list are too long for it. "
                  "Please try another word list.");
-    }
-
-    // Crossword numbers run in reading order; every word stands in its cells.
-    void crosswordNumbersAndCells() {
+        // Crossword numbers run in reading order; every word stands in its cells.
         for (int round = 0; round < 5; ++round) {
             const SheetContent c = makeContent(FactoryLists()[1], Opt(Kind::Crossword), rng_);
             QVERIFY(c.entries.size() >= 5);
@@ -290,7 +287,7 @@ private slots:
 
     // Matching letters point at the right definitions; scrambles keep their letters and move
     // them; a card's back stands behind its front when the sheet turns over its long edge.
-    void shufflesAndCards() {
+    void shufflesCardsAndWrapping() {
         const WordList l = Made(23);
         const SheetContent m = makeContent(l, Opt(Kind::Matching), rng_);
         // 23 words: sets of 8, 8 and 7.
@@ -333,9 +330,7 @@ private slots:
             QCOMPARE(front.x + back.x, 2 * (42 + 8) + (width - 84) / 2);
             QCOMPARE(front.x<width / 2, back.x> width / 2);
         }
-    }
-
-    void wrapping() {
+        // Wrapping.
         const Font f{10};
         auto wrap = [&](const std::string& s, double w) {
             QStringList out;

@@ -77,7 +77,7 @@ private slots:
         write("parts.svg", kDrawing);
     }
 
-    void valuesAtAndBetweenKeys() {
+    void valuesAtAndBetweenKeysAndTheFrameDrawn() {
         auto scene = load(kTimeline);
         QVERIFY(scene && scene->duration() == 4.0 && scene->naturalSize() == QSize(200, 100));
         // The time, x, the opacity and the frame.
@@ -97,11 +97,7 @@ private slots:
             // y is set once and held throughout.
             QCOMPARE(std::tuple(s.y, s.frame, s.scale), std::tuple(50.0, frame, 1.0));
         }
-    }
-
-    void drawsTheFrameOfTheMomentAndNothingForAnUnknownId() {
-        auto scene = load(kTimeline);
-        QVERIFY(scene);
+        // Drawn: the frame of the moment, and nothing for an unknown id.
         // Hidden at the start: only the background. The ghost's id is not in the drawing.
         const std::tuple<double, int, QColor> pixels[] = {
             {0, 50, Qt::black},   {0, 100, Qt::black}, {1.5, 150, Qt::red},
