@@ -17,15 +17,13 @@
 using namespace wm;
 using namespace wm::test;
 
-namespace {
-std::vector<std::string> FilesIn(const TempFolder& dir) {
+static std::vector<std::string> FilesIn(const TempFolder& dir) {
     std::vector<std::string> names;
     for (auto& e : std::filesystem::directory_iterator(dir.path()))
         names.push_back(e.path().filename().string());
     std::sort(names.begin(), names.end());
     return names;
 }
-}  // namespace
 
 TEST(LineFile, RoundTripIsByteForByte) {
     TempFolder dir;

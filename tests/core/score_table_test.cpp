@@ -8,8 +8,7 @@
 using namespace wm;
 using wm::test::TempFolder;
 
-namespace {
-ScoreTable tableOf(std::initializer_list<std::pair<const char*, const char*>> entries) {
+static ScoreTable tableOf(std::initializer_list<std::pair<const char*, const char*>> entries) {
     ScoreTable t = ScoreTable::Fresh();
     int r = 1;
     for (auto& [i, s] : entries) {
@@ -19,7 +18,6 @@ ScoreTable tableOf(std::initializer_list<std::pair<const char*, const char*>> en
     }
     return t;
 }
-}  // namespace
 
 TEST(ScoreTable, RecordIs510BytesAndWrongSizedFilesReadAsFarAsTheyGo) {
     std::string bytes = ScoreTable::Fresh().toBytes();

@@ -8,10 +8,8 @@
 using namespace wm;
 using namespace wm::test;
 
-namespace {
 const std::vector<std::string> kFactory = {"r0",       "r1",       "Sound On",
                                            "mapleton", "listpath", "folderpath"};
-}
 
 TEST(Settings, FirstRunRenamesOnlyWhenTheLiveFileIsMissing) {
     TempFolder dir;

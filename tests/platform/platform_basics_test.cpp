@@ -206,7 +206,7 @@ private slots:
         QVERIFY(clock.elapsed() < 3000);
     }
 
-    void scaledPointsFollowScreenHeight() {
+    void scaledPointsFollowScreenHeightAndStagesCoverIt() {
         // The screen, the points asked for and given: 16.875 rounds; 7.5 is below the floor of 9.6.
         const std::tuple<QSize, int, int> rows[] = {{{1024, 768}, 12, 12},
                                                     {{1920, 1080}, 12, 17},
@@ -220,14 +220,12 @@ private slots:
         ScreenMetrics::overrideScreenSize({});
         QVERIFY(ScreenMetrics::screenSize().isValid() && ScreenMetrics::px(15) == 1);
         QCOMPARE(ScreenMetrics::px(ScreenMetrics::twips(640)), 640);
-    }
-    // A 1600x1000 stage on a wide screen is cut top and bottom, on a tall one left and right,
-    // and stays whole on a screen of its own shape.
-    void stagesCoverTheScreen() {
+        // A 1600x1000 stage on a wide screen is cut top and bottom, on a tall one left and right,
+        // and stays whole on a screen of its own shape.
         // The screen, the scale and the shift.
-        const std::tuple<QSizeF, double, double, double> rows[] = {
+        const std::tuple<QSizeF, double, double, double> stages[] = {
             {{1920, 1080}, 1.2, 0, -60}, {{1280, 1024}, 1.024, -179.2, 0}, {{800, 500}, 0.5, 0, 0}};
-        for (const auto& [screen, scale, dx, dy] : rows) {
+        for (const auto& [screen, scale, dx, dy] : stages) {
             const QTransform t = scene::coverStage(screen, {1600, 1000});
             QCOMPARE(QPointF(t.m11(), t.m22()), QPointF(scale, scale));
             QCOMPARE(QPointF(t.dx(), t.dy()), QPointF(dx, dy));
@@ -378,7 +376,7 @@ private slots:
         const SpriteSheet none = SpriteSheet::fromGrid(missing, "walk", {10, 8});
         QVERIFY(none.isEmpty() && none.error().contains(missing) && none.frame("walk_0").isNull());
         // Two frames of a ball (the second inside a moved group), a lone picture, a gap after 2.
-        const QString path =
+        const QString svg =
             writeFile(dir.filePath("sprites.svg"),
                       "<svg xmlns='http://www.w3.org/2000/svg' width='200' height='100' viewBox='0 "
                       "0 200 100'>"
@@ -388,16 +386,16 @@ private slots:
                       "<rect id='star_0' x='50' y='50' width='8' height='8' fill='#00ff00'/>"
                       "<rect id='star_2' x='70' y='50' width='8' height='8' fill='#00ff00'/>"
                       "<rect id='title' x='0' y='0' width='5' height='5' fill='#000000'/></svg>");
-        const SpriteSheet sheet = SpriteSheet::fromSvg(path, 2.0);
+        const SpriteSheet drawn = SpriteSheet::fromSvg(svg, 2.0);
         // star_2 without star_1 is not a frame.
-        QCOMPARE(std::tuple(sheet.error(), sheet.names(), sheet.frameCount("ball"),
-                            sheet.frameCount("star")),
+        QCOMPARE(std::tuple(drawn.error(), drawn.names(), drawn.frameCount("ball"),
+                            drawn.frameCount("star")),
                  std::tuple(QString(), QStringList{"ball", "star"}, 2, 1));
         // The group's move does not matter: the frame is the element alone.
-        const QImage red = sheet.frame("ball", 0), blue = sheet.frame("ball_1");
+        const QImage red = drawn.frame("ball", 0), blue = drawn.frame("ball_1");
         QCOMPARE(std::tuple(red.size(), red.pixel(20, 10), blue.size(), blue.pixel(20, 10)),
                  std::tuple(QSize(40, 20), qRgb(255, 0, 0), QSize(40, 20), qRgb(0, 0, 255)));
-        const SpriteSheet only = SpriteSheet::fromSvg(path, 1.0, {"star"});
+        const SpriteSheet only = SpriteSheet::fromSvg(svg, 1.0, {"star"});
         QCOMPARE(std::pair(only.names(), only.frame("star", 0).size()),
                  std::pair(QStringList{"star"}, QSize(8, 8)));
     }

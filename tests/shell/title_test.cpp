@@ -143,7 +143,7 @@ private slots:
                 fx.dialogs.last().contains("wmdata.dat"));
     }
 
-    void splashSkipsToTitle() {
+    void splashSkipsToTitleAndPicksRouteByGame() {
         ShellFixture fx;
         auto* splash = OpenScreen("BlackBack");
         QVERIFY(splash);
@@ -154,10 +154,7 @@ private slots:
         QTest::keyClick(splash, Qt::Key_Space);
         Pump();
         QVERIFY(Showing<Title>() != nullptr && fx.sound.stops >= 1);
-    }
-
-    void pickRoutesByGame() {
-        ShellFixture fx;
+        // Picks route by game.
         Title* title = OpenTitle();
         // Flying Cow's button goes on to its options.
         title->findChild<QAbstractButton*>("ButtonImage0")->click();
@@ -248,11 +245,11 @@ private slots:
                      std::tuple("HighScoreForm", table, true));
         }
         // Initials skip the dashes.
-        const std::pair<QStringList, QString> rows[] = {{{"A", "-", "C"}, "AC"},
-                                                        {{"-", "-", "-"}, ""},
-                                                        {{"J", "O", "E"}, "JOE"},
-                                                        {{"-", "Q", "-"}, "Q"}};
-        for (const auto& [typed, kept] : rows) {
+        const std::pair<QStringList, QString> initials[] = {{{"A", "-", "C"}, "AC"},
+                                                            {{"-", "-", "-"}, ""},
+                                                            {{"J", "O", "E"}, "JOE"},
+                                                            {{"-", "Q", "-"}, "Q"}};
+        for (const auto& [typed, kept] : initials) {
             ShellFixture fx;
             Shared().PlacedRank = 3;
             Shared().Score = 1200;

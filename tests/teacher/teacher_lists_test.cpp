@@ -265,7 +265,7 @@ private slots:
                 f.lists() == before);
     }
 
-    void buildFromTwoLists() {
+    void buildFromTwoListsThenDeleteTheFirstWord() {
         TeacherFixture f(kTwoLists +
                          QStringList{"<New List>", "Birds", "owl", "wise", "cat", "bird eater"});
         Manager manager;
@@ -304,10 +304,7 @@ private slots:
         manager.command("Create List from Existing Lists");
         QVERIFY(f.dialogs.saw(kTaken) &&
                 f.lists().endsWith(f.crlf({"<New List>", "Mix", "cat", "a pet", "owl", "wise"})));
-    }
-
-    void editorDeletesTheFirstWord() {
-        TeacherFixture f(kTwoLists);
+        // The editor deletes the first word.
         EditList* edit = OpenEditor("Animals");
         edit->select(0);
         f.dialogs.answerYes();

@@ -5,9 +5,7 @@
 
 using namespace wm;
 
-namespace {
 using Lines = std::vector<std::string>;
-}
 
 TEST(PairCheck, WordThenDefinitionCaseBlindAndSkippingTheEditedLine) {
     const std::vector<WordPair> pairs = {{"cat", "a pet"}, {"dog", "a loyal pet"}};

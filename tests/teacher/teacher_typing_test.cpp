@@ -303,7 +303,7 @@ private slots:
 
     // The palette's character goes into the box its button names; a palette closed without a
     // character puts nothing in, even with one left from before.
-    void paletteCharacterGoesToTheBoxItsButtonNames() {
+    void paletteCharacterAndCategoryFileNotNamedFoldersDat() {
         TeacherFixture f(kLists);
         WordBox box(WordBox::Add);
         box.word()->setText("caf");
@@ -325,12 +325,9 @@ private slots:
         box.foreign();
         QCOMPARE(std::tuple(box.word()->text(), box.meaning()->text()),
                  std::tuple("caf" + first, second));
-    }
-
-    // The settings may name a category file of another name. Readers then read its .lok name (kept
-    // so), which the editor would take for the categories and save over the real file: it refuses.
-    void categoryFileNotNamedFoldersDat() {
-        TeacherFixture f(kLists);
+        // The settings may name a category file of another name. Readers then read its .lok name
+        // (kept so), which the editor would take for the categories and save over the real file: it
+        // refuses.
         f.writeLines("cats.dat", {"^Zoo", "Animals"});
         const QByteArray before = f.read("cats.dat");
         Shared().FolderFilePath = f.path("cats.dat").toStdString();
