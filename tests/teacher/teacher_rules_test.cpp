@@ -34,7 +34,7 @@ TEST(Rename, RefusalsInOrder) {
     EXPECT_EQ(RenameRefusal("Fruit", "a^b", taken), "");
 }
 
-TEST(ListSaves, NewListFirstHasNoSeparatorAndEditedListMovesToTheEnd) {
+TEST(NewListSave, FirstListHasNoSeparatorAndHeadIsCleaned) {
     const std::vector<WordPair> pairs = {{"cat", "a pet"}};
     for (const Lines& empty : {Lines{"No Lists"}, Lines{""}})
         EXPECT_EQ(SaveNewList(empty, NewListRecord("Pets", pairs, true)),
@@ -42,7 +42,9 @@ TEST(ListSaves, NewListFirstHasNoSeparatorAndEditedListMovesToTheEnd) {
     // A file left beginning with a separator by a delete heals here.
     EXPECT_EQ(SaveNewList({"<New List>", "A", "x", "y"}, NewListRecord("Pets", pairs, false)),
               (Lines{"A", "x", "y", "<New List>", "Pets", "cat", "a pet"}));
-    // An edited list moves to the end and keeps the order given.
+}
+
+TEST(EditedListSave, MovesToTheEndAndKeepsTheGivenOrder) {
     const Lines data = {"Pets", "dog", "d", "cat", "c", "<New List>", "Birds", "owl", "o"};
     std::vector<WordPair> pairs = {{"dog", "d"}, {"Cat", "c"}, {"ant", "a"}};
     SortLikeListBox(pairs);
