@@ -49,7 +49,7 @@ TEST_F(ListFileTest, NamesAndExistence) {
     EXPECT_EQ(std::tuple(PlainName("[S]a"), PlainName("[S]ab")), std::tuple("[S]a", "ab"));
 }
 
-TEST_F(ListFileTest, LoadsARecordUpToTheSeparator) {
+TEST_F(ListFileTest, LoadsARecordUpToTheSeparatorOrTheEnd) {
     dir.writeLines("thelists.dat", kTwoLists);
     load("Animals");
     EXPECT_EQ(std::tuple(state.WordCount, state.Words[2], state.Meanings[1], state.WordsOnly),
@@ -57,9 +57,7 @@ TEST_F(ListFileTest, LoadsARecordUpToTheSeparator) {
     dir.writeLines("thelists.dat", {"  Animals  ", "cat", "a pet"});  // spaces round the name
     load("Animals");
     EXPECT_EQ(state.WordCount, 1);
-}
-
-TEST_F(ListFileTest, LastRecordWithoutSeparatorLoadsAllPairs) {
+    // The last record, without a separator, loads all its pairs.
     dir.writeLines("thelists.dat", kTwoLists);
     load("Colours", {{"S", "Colours"}}, {[](const std::string&) { return std::string("E"); }, {}});
     // Played from the English side: the meanings are the Spanish ones.
@@ -86,7 +84,7 @@ TEST_F(ListFileTest, ForeignListPlayedTheOtherWaySwapsColumns) {
               std::tuple("S", "rojo", "green", "S", ""));
 }
 
-TEST_F(ListFileTest, WordsOnlyIsDecidedByTheFirstDefinition) {
+TEST_F(ListFileTest, WordsOnlyByTheFirstDefinitionAndTheScanNotByRecords) {
     dir.writeLines("thelists.dat", {"Spelling", "necessary", "-----", "rhythm", "-----"});
     load("Spelling");
     EXPECT_EQ(std::tuple(state.WordsOnly, state.WordCount), std::tuple(kTrue, 2));
@@ -96,9 +94,6 @@ TEST_F(ListFileTest, WordsOnlyIsDecidedByTheFirstDefinition) {
     load("L");
     EXPECT_EQ(std::tuple(state.WordCount, state.Words[2], state.Meanings[2]),
               std::tuple(2, "c", "gamma"));
-}
-
-TEST_F(ListFileTest, ScanDoesNotStepByRecords) {
     // A word equal to a later list's name, earlier in the file, makes that list load from
     // the wrong place. Kept on purpose.
     dir.writeLines("thelists.dat", {"First", "Planets", "a word that is also a name", "sun",
@@ -145,7 +140,7 @@ TEST_F(ListFileTest, OddLineCountAndMissingNamesAreSafe) {
     EXPECT_TRUE(ListNames(path).empty());
 }
 
-TEST(ListFileEdits, DeletingTakesASeparatorButTheFirstListsAndLeavesNoListsLast) {
+TEST(ListFileEdits, DeletingTakesASeparatorAndCleanHeadHeals) {
     Lines lines = kTwoLists;
     ASSERT_TRUE(DeleteListLines(lines, "Animals"));
     EXPECT_EQ(lines, (Lines{"<New List>", "[S]Colours", "red", "rojo", "green", "verde"}));
@@ -162,10 +157,8 @@ TEST(ListFileEdits, DeletingTakesASeparatorButTheFirstListsAndLeavesNoListsLast)
     EXPECT_FALSE(DeleteListLines(none, "Missing"));
     RemoveRecordAt(none, none.size());  // a place past the last line removes nothing
     EXPECT_EQ(none, kTwoLists);
-}
-
-TEST(ListFileEdits, CleanHeadDropsBlanksSeparatorsAndNoLists) {
-    Lines lines = {"", "<New List>", "", "No Lists", "", "<New List>", "A"};
+    // CleanHead drops blanks, separators and "No Lists".
+    lines = {"", "<New List>", "", "No Lists", "", "<New List>", "A"};
     CleanHead(lines, false);
     EXPECT_EQ(lines.front(), "No Lists");
     CleanHead(lines, true);

@@ -44,7 +44,7 @@ TEST(Settings, MissingOrShortFileIsAClearErrorNamingIt) {
     EXPECT_EQ(messageOf([&] { ReadSettings(dir.path()); }), "no error");
 }
 
-TEST(Settings, ReadsSoundAndResolvesPathLiterals) {
+TEST(Settings, ReadsSoundResolvesPathsAndRewritesKeepLaterLines) {
     TempFolder dir;
     dir.writeLines("wmdata.dat", {"r0", "r1", "Sound On", "pw", "  LISTPATH ", "/net/f.dat"});
     SharedState s;
@@ -60,10 +60,7 @@ TEST(Settings, ReadsSoundAndResolvesPathLiterals) {
     // Settings held in memory with no sound line at all read as sound off, without reading
     // past their end.
     EXPECT_TRUE((!Settings{{"r0", "r1"}}.soundOn() && Settings{{"r0", "r1", "Sound On"}}.soundOn()));
-}
-
-TEST(Settings, RewriteKeepsLinesPastFive) {
-    TempFolder dir;
+    // A rewrite keeps lines past five.
     auto lines = kFactory;
     lines.push_back("seventh");
     dir.writeLines("wmdata.dat", lines);

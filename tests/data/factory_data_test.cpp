@@ -78,7 +78,7 @@ TEST(FactoryFiles, EveryLineEndsInCrLf) {
 }
 
 // Record layout: no blank lines, no separator at either end, name + pairs in each record.
-TEST(FactoryLists, RecordLayout) {
+TEST(FactoryLists, RecordLayoutAndNamesFoundOnlyAtTheirRecord) {
     const auto lines = ReadAllLines(DataFile("thelists.new"));
     ASSERT_FALSE(lines.empty());
     EXPECT_TRUE(lines.front() != kSeparator && lines.back() != kSeparator);
@@ -94,13 +94,9 @@ TEST(FactoryLists, RecordLayout) {
         }
     }
     EXPECT_EQ(recordLines % 2, 1u);
-}
-
-// A list name standing anywhere else in the file would make the load start in the wrong place,
-// since the load scans every line; names with "(" or "^" confuse the chooser and categories.
-TEST(FactoryLists, NamesAreUniqueAndFoundOnlyAtTheirRecord) {
+    // A list name standing anywhere else in the file would make the load start in the wrong place,
+    // since the load scans every line; names with "(" or "^" confuse the chooser and categories.
     const auto names = ListNames(DataFile("thelists.new"));
-    const auto lines = ReadAllLines(DataFile("thelists.new"));
     EXPECT_GE(names.size(), 8u);
     std::set<std::string> seen;
     for (const auto& stored : names) {
@@ -118,7 +114,7 @@ TEST(FactoryLists, NamesAreUniqueAndFoundOnlyAtTheirRecord) {
     }
 }
 
-TEST(FactoryLists, EachListLoadsWholeAndClean) {
+TEST(FactoryLists, EachListLoadsWholeAndTheSpanishOnePlaysBothWays) {
     const auto names = ListNames(DataFile("thelists.new"));
     int wordsOnlyLists = 0;
     for (const auto& stored : names) {
@@ -143,12 +139,8 @@ TEST(FactoryLists, EachListLoadsWholeAndClean) {
         }
     }
     EXPECT_EQ(wordsOnlyLists, 1);
-}
-
-// The Spanish list: English on the word line, Spanish with single-byte accents on the
-// definition line, so each way of play puts the intended side in Words.
-TEST(FactoryLists, SpanishListPlaysBothWays) {
-    const auto names = ListNames(DataFile("thelists.new"));
+    // The Spanish list: English on the word line, Spanish with single-byte accents on the
+    // definition line, so each way of play puts the intended side in Words.
     const auto foreign = ForeignTable(names);
     ASSERT_EQ(foreign.size(), 1u);
     EXPECT_EQ(foreign[0].code, "S");

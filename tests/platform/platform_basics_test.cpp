@@ -96,7 +96,7 @@ private slots:
         ScreenMetrics::overrideScreenSize({});
     }
 
-    void windowsRangeAndUnmappable() {
+    void windowsTextAndAssetPaths() {
         // The upper half past 0xA0 is Latin-1: accented letters keep their code points.
         for (int b = 160; b <= 255; ++b) QCOMPARE(toQ(std::string(1, char(b))), QString(QChar(b)));
         QCOMPARE(toQ("\xBFQu\xE9?"), QString::fromUtf8("¿Qué?"));
@@ -109,9 +109,7 @@ private slots:
         // A real SUB byte survives next to a replaced character.
         QCOMPARE(fromQ(QString::fromUtf8("a\x1A") + QChar(0x0416)), std::string("a\x1A?"));
         QVERIFY(fromQ(QString()).empty() && toQ("").isEmpty());
-    }
-
-    void appFileAndFindAsset() {
+        // appFile and findAsset.
         QTemporaryDir dir;
         Shared().AppPath = dir.path().toStdString();
         for (const char* asked : {"sounds/a.wav", "\\sounds\\a.wav"})

@@ -48,7 +48,7 @@ TEST(Catalogue, FortyTwoCardsInOrderFoundIgnoringCaseOnly) {
         EXPECT_EQ(FindCard(name), nullptr) << name;
 }
 
-TEST(Catalogue, FirstScreenAndClampingFollowTheListFirstGames) {
+TEST(Catalogue, FirstScreensClampingAndOptionsRows) {
     const std::set<std::string> listFirst = {"Blind Tiles", "Crossword", "Word Maze", "Jailbreak",
                                              "BreakThru"};
     for (const GameCard& card : Catalogue()) {
@@ -61,9 +61,6 @@ TEST(Catalogue, FirstScreenAndClampingFollowTheListFirstGames) {
                                     : card.name == "Flash Cards" ? "FlashCardOptions"
                                                                  : "GameOptions");
     }
-}
-
-TEST(Catalogue, OptionsRowsMatchTheOptionsTable) {
     // The game, the slider's least, most and start, and the frame.
     const std::tuple<const char*, int, int, int, OptionFrame> rows[] = {
         {"Froggy", 1, 9, 5, OptionFrame::Hidden},

@@ -93,7 +93,7 @@ private slots:
         }
     }
 
-    void hiddenGamesAreNotShownAndGetNoScoreFile() {
+    void hiddenGamesAndPagesAtTheEdge() {
         ShellFixture fx;
         DisplaySettings d = DisplaySettings::MediumIcons();
         d.hidden = {"Quiz", "Froggy"};
@@ -106,9 +106,6 @@ private slots:
         QVERIFY(!fx.exists("scores/Quiz.dat") && !fx.exists("scores/Froggy.dat") &&
                 fx.exists("scores/Pachinko.dat"));
         for (auto* b : title->buttons()) QVERIFY(b->text() != "Quiz" && b->text() != "Froggy");
-    }
-
-    void pagesAtTheEdge() {
         // Twelve a page: More shows exactly while games remain past the page. None shown: no error.
         // Games shown, pages, and buttons on the last page.
         const std::tuple<int, int, int> rows[] = {

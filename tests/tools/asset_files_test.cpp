@@ -120,7 +120,7 @@ private slots:
     }
 
     // Making one group rewrites that group's files and leaves every other file alone.
-    void oneGroupTouchesOnlyItsOwnFiles() {
+    void oneGroupTouchesOnlyItsOwnFilesAndABrokenRecipeIsNamed() {
         const QString mid = dir_.filePath("sounds/wmtheme.mid");
         const QString jpg = dir_.filePath("images/wm-back.jpg");
         const QString jpg2 = dir_.filePath("buttons/Quiz.jpg");
@@ -137,17 +137,13 @@ private slots:
                  first_.value("images/wm-back.jpg"));
         QVERIFY(!generate(sourceAssetsDir(), dir_.path(), {"noises"}, &error) &&
                 error == "no asset group \"noises\"");
-    }
-
-    // A mistake in a recipe stops the build with the recipe's file and line.
-    void aBrokenRecipeNamesItsFileAndLine() {
+        // A mistake in a recipe stops the build with the recipe's file and line.
         QTemporaryDir src, app;
         QVERIFY(QDir(src.path()).mkpath("sounds"));
         QVERIFY(Put(src.filePath("manifest.txt"),
                     "sound sounds/pop.sound sounds/pop.wav\n"
                     "sound sounds/tick.sound sounds/tick.wav\n"));
         QFile::copy(sourceAssetsDir() + "/sounds/pop.sound", src.filePath("sounds/pop.sound"));
-        QString error;
         QVERIFY(!generate(src.path(), app.path(), {"sounds"}, &error));
         QVERIFY2(error.contains("sounds/tick.sound"), qPrintable(error));
         QFile::copy(sourceAssetsDir() + "/sounds/tick.sound", src.filePath("sounds/tick.sound"));

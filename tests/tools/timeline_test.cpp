@@ -107,7 +107,7 @@ private slots:
     }
 
     // Every film we ship loads, finds every drawing it names and paints at any moment.
-    void shippedTimelinesAreWhole() {
+    void shippedTimelinesAreWholeAndFoundByName() {
         std::vector<wm::assetgen::ManifestEntry> entries;
         QString error;
         QVERIFY2(wm::assetgen::readManifest(wm::assetgen::sourceAssetsDir() + "/manifest.txt",
@@ -131,9 +131,7 @@ private slots:
             }
         }
         QVERIFY(films >= 1);
-    }
-
-    void makeSceneFindsTimelineFilesByName() {
+        // MakeScene finds timeline files by name.
         RegisterBuiltInScenes();
         write("lamp.timeline", kTimeline);
         SetTimelineFolder(dir_.path());

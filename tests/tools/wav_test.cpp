@@ -49,7 +49,7 @@ std::vector<std::int16_t> readWav(const QByteArray& b, const QString& name) {
 
 }  // namespace
 
-TEST(WavWriter, HeaderSizesAreExactAtEveryLength) {
+TEST(WavWriter, HeaderSizesAreExactAndTheSynthFinishesCleanly) {
     for (size_t count : {size_t{0}, size_t{1}, size_t{3}, size_t{22050}}) {
         const std::vector<std::int16_t> in(count, 7);
         const QByteArray b = encodeWav(in);
@@ -58,9 +58,7 @@ TEST(WavWriter, HeaderSizesAreExactAtEveryLength) {
     }
     const std::vector<std::int16_t> extremes = {0, 1, -1, 32767, -32768, 256, -256};
     EXPECT_EQ(readWav(encodeWav(extremes), "extremes"), extremes);
-}
-
-TEST(Synth, FinishFadesTheEndsAndNormalisesToThePeak) {
+    // The synthesiser's finish fades the ends and normalises to the peak.
     Synth s(0.2);
     Tone t;
     std::tie(t.length, t.attack, t.release) = std::tuple(0.2, 0, 0);
