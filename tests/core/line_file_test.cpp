@@ -25,7 +25,7 @@ static std::vector<std::string> FilesIn(const TempFolder& dir) {
     return names;
 }
 
-TEST(LineFile, RoundTripIsByteForByte) {
+TEST(LineFile, RoundTripIsByteForByteAndAnyLineEndIsRead) {
     TempFolder dir;
     std::vector<std::string> lines = {"caf\xE9", "", "  blanks  ", "<New List>"};
     std::string all;
@@ -40,10 +40,7 @@ TEST(LineFile, RoundTripIsByteForByte) {
               std::tuple("new\r\n", std::vector<std::string>{"a.dat"}));
     WriteLinesAtomic(dir.file("l.dat"), {std::string(200000, 'x')});  // very long lines survive
     EXPECT_EQ(ReadLines(dir.file("l.dat")).at(0).size(), 200000u);
-}
-
-TEST(LineFile, ReadsAnyLineEndAndALastLineWithoutOne) {
-    TempFolder dir;
+    // Any line end is read, and a last line without one.
     const std::pair<const char*, std::vector<std::string>> cases[] = {
         {"one\r\ntwo\nthree\rfour", {"one", "two", "three", "four"}},
         {"", {}},

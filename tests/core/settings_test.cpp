@@ -44,7 +44,7 @@ TEST(Settings, MissingOrShortFileIsAClearErrorNamingIt) {
     EXPECT_EQ(messageOf([&] { ReadSettings(dir.path()); }), "no error");
 }
 
-TEST(Settings, ReadsSoundResolvesPathsAndRewritesKeepLaterLines) {
+TEST(Settings, ReadsSoundPathsAndSpeechAndRewritesKeepLaterLines) {
     TempFolder dir;
     dir.writeLines("wmdata.dat", {"r0", "r1", "Sound On", "pw", "  LISTPATH ", "/net/f.dat"});
     SharedState s;
@@ -77,11 +77,6 @@ TEST(Settings, ReadsSoundResolvesPathsAndRewritesKeepLaterLines) {
     // No line before the first: the file is left as it is.
     RewriteSettingsLine(dir.path(), -1, "nothing");
     EXPECT_EQ(dir.read("wmdata.dat"), grown);
-}
-
-TEST(Settings, SpeechLinesBehindTheSixReadOldFilesAndKeepLaterLines) {
-    TempFolder dir;
-    SharedState s;
     // An old file of six lines comes after one that set speech off and slow.
     const std::tuple<std::vector<std::string>, int, int> cases[] = {
         {{"Speech Off", "-4"}, kFalse, -4},

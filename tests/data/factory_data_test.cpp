@@ -63,7 +63,7 @@ Loaded Load(const std::string& stored, const std::vector<std::string>& names,
             state.WordsOnly == kTrue};
 }
 
-TEST(FactoryFiles, EveryLineEndsInCrLf) {
+TEST(FactoryFiles, CrLfLinesRecordLayoutAndNamesFoundOnlyAtTheirRecord) {
     for (const char* name : {"wmdata.new", "thelists.new", "flcodelist.dat", "wmgdisplay.dat"}) {
         SCOPED_TRACE(name);
         const std::string bytes = ReadBytes(DataFile(name));
@@ -75,10 +75,7 @@ TEST(FactoryFiles, EveryLineEndsInCrLf) {
         EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), pairs);
         EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\r'), pairs);
     }
-}
-
-// Record layout: no blank lines, no separator at either end, name + pairs in each record.
-TEST(FactoryLists, RecordLayoutAndNamesFoundOnlyAtTheirRecord) {
+    // Record layout: no blank lines, no separator at either end, name + pairs in each record.
     const auto lines = ReadAllLines(DataFile("thelists.new"));
     ASSERT_FALSE(lines.empty());
     EXPECT_TRUE(lines.front() != kSeparator && lines.back() != kSeparator);

@@ -135,7 +135,7 @@ private slots:
         Shared().AssetPath.clear();
     }
 
-    void effectsFollowSoundOnAndPlanTheirVoices() {
+    void effectsVoicesWavCheckAndHarmlessQtSound() {
         RecordingSound s;
         Shared().SoundOn = kFalse;
         s.effect(QStringLiteral("buzz"));
@@ -173,9 +173,6 @@ private slots:
             const VoicePlan plan = PlanVoice(mode, mine, other);
             QCOMPARE(std::pair(plan.voice, plan.stopOthers), std::pair(voice, stopOthers));
         }
-    }
-
-    void wavCheckAndHarmlessQtSound() {
         QTemporaryDir dir;
         const QByteArray good = wavBytes(801);
         QByteArray lying = good;
@@ -283,7 +280,7 @@ private slots:
         QCOMPARE(RenderMidi(midi, 1.0), pcm.left(kRate * 4));
     }
 
-    void heldKeysIgnoreAutoRepeatAndATapIsPressedOnce() {
+    void heldKeysTapsAndThePointersCount() {
         QWidget screen;
         auto* child = new QLineEdit(&screen);  // takes arrow keys for itself
         KeyState keys(&screen);
@@ -320,9 +317,7 @@ private slots:
         key(&screen, QEvent::KeyPress, Qt::Key_Z);
         keys.clear();
         QVERIFY(!keys.takePressed(Qt::Key_Z));
-    }
-
-    void pointerCountsLikeThePlatform() {
+        // The pointer counts like the platform.
         QVERIFY(Pointer::count() == 0 && !cursorBlank());
         // Show or hide, the count it leaves, and whether the pointer is hidden: shown twice
         // needs two hides.

@@ -138,7 +138,7 @@ private slots:
                 field.save({50, 50, 5, 5}).isNull());
     }
 
-    void screenMappingKeepsAspect() {
+    void screenMappingKeepsAspectForDrawsAndTheMouse() {
         // Bars left and right on a wide screen, above and below on a tall one.
         const std::pair<QSize, QRect> rows[] = {{{1920, 1080}, {240, 0, 1440, 1080}},
                                                 {{640, 600}, {0, 60, 640, 480}},
@@ -162,9 +162,7 @@ private slots:
                 QVERIFY(w.width() <= int(std::ceil(logical.width() * target.width() / 640.0)) + 1);
             }
         }
-    }
-
-    void mouseComesBackInFieldPixels() {
+        // The mouse comes back in field pixels.
         PlayField field({640, 480});
         field.resize(1920, 1080);
         QSignalSpy pressed(&field, &PlayField::mousePressed);

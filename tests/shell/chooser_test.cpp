@@ -41,7 +41,7 @@ std::vector<std::string> ListOf(const std::string& name, int n) {
 class ChooserTest : public QObject {
     Q_OBJECT
 private slots:
-    void summaryCountsHalfWordsAndLabels() {
+    void summaryAndWordsOnlyLists() {
         const std::vector<std::string> lines = {
             "Animals", "cat",  "a pet",      "dog",      "",       "<New List>", "[S]Colours",
             "red",     "rojo", "<New List>", "Spelling", "rhythm", "-----"};
@@ -61,9 +61,6 @@ private slots:
         // After the first list was deleted the file starts with a separator.
         ListSummary healed = SummariseLists({"<New List>", "Birds", "owl", "hooter"}, true, {});
         QCOMPARE(healed.lines, (QStringList{"<New List> (-.5 words)", "Birds (1 words)"}));
-    }
-
-    void wordsOnlyListsAreRefusedOrWarned() {
         // One game for each way of meeting a words-only list with the option on, then the games
         // that warn only while it is on, with it off: they open quietly. The option, the message,
         // the option after, and the screen that opens.

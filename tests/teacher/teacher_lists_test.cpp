@@ -13,7 +13,7 @@ const QString kTaken =
 class TeacherListsTest : public QObject {
     Q_OBJECT
 private slots:
-    void createListRefusals() {
+    void createListRefusalsAndKinds() {
         // The name, whether foreign, the language picked, and the one message: no language, a
         // blank name, taken in another case and with blanks, taken without the prefix.
         const std::tuple<QString, bool, int, QString> rows[] = {
@@ -33,9 +33,6 @@ private slots:
             QCOMPARE(std::tuple(f.dialogs.texts(), c.result()),
                      std::tuple(QStringList{message}, int(QDialog::Rejected)));
         }
-    }
-
-    void createListKinds() {
         TeacherFixture f(kTwoLists);
         CreateList c;
         QCOMPARE(c.languages()->itemText(0), "Choose a Supported Language...");

@@ -63,7 +63,7 @@ private slots:
         first_ = snapshot(dir_.path());
     }
 
-    void everyGameHasItsOwnButton() {
+    void everyButtonOwnAndEveryManifestEntrySane() {
         QSet<QByteArray> seen;
         for (int i = 0; i < wm::kGameCount; ++i) {
             // Names with blanks and dashes are used as they are.
@@ -76,10 +76,7 @@ private slots:
             QVERIFY2(!seen.contains(hash), qPrintable(gameName(i) + " looks like another button"));
             seen.insert(hash);
         }
-    }
-
-    // Every manifest line is in the folder with content the program can use.
-    void everyManifestEntryIsThereAndSane() {
+        // Every manifest line is in the folder with content the program can use.
         std::vector<ManifestEntry> entries;
         QString error;
         QVERIFY2(readManifest(QDir(sourceAssetsDir()).filePath("manifest.txt"), &entries, &error),
