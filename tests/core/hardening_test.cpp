@@ -18,7 +18,7 @@
 using namespace wm;
 using namespace wm::test;
 
-TEST(DisplayFile, HugeOrFractionalCountsKeepThePreset) {
+TEST(Hardening, HugeDisplayCountsAndAFolderAtTheListFilesName) {
     // Columns and rows written, then read; 4 and 3: the Large Icons preset was kept.
     const std::string nines(400, '9');  // outlives the table that points into it
     const std::tuple<const char*, const char*, int, int> cases[] = {
@@ -34,10 +34,7 @@ TEST(DisplayFile, HugeOrFractionalCountsKeepThePreset) {
         EXPECT_EQ(std::tuple(s.columns, s.rows), std::tuple(wantColumns, wantRows))
             << columns << " x " << rows;
     }
-}
-
-TEST(Settings, AFolderAtTheListFilesNameDoesNotStopTheStart) {
-    TempFolder dir;
+    // A folder at the list file's name does not stop the start.
     dir.writeLines("wmdata.new", {"r0", "r1", "Sound On", "pw", "listpath", "folderpath"});
     dir.writeLines("thelists.new", {"Animals", "cat", "a pet"});
     std::filesystem::create_directory(dir.file("thelists.dat"));

@@ -55,7 +55,7 @@ TEST(LineFile, RoundTripIsByteForByteAndAnyLineEndIsRead) {
     EXPECT_NE(message.find("nothere.dat"), std::string::npos);
 }
 
-TEST(LineFile, FailedWriteKeepsTheOldFileAndLeavesNoTemporary) {
+TEST(LineFile, FailedWriteKeepsTheOldFileAndARewriteItsPermissions) {
     TempFolder dir;
     dir.write("a.dat", "keep\r\n");
     // A file size limit makes the write itself fail, after the temporary file was made.
@@ -83,10 +83,6 @@ TEST(LineFile, FailedWriteKeepsTheOldFileAndLeavesNoTemporary) {
     // A folder that is not there names the file.
     EXPECT_EQ(FileFailure([&] { WriteLinesAtomic(dir.file("gone/b.dat"), {"x"}); }).first,
               dir.file("gone/b.dat"));
-}
-
-TEST(LineFile, RewriteKeepsPermissionsAndGroup) {
-    TempFolder dir;
     const std::string path = dir.file("thelists.dat");
     dir.write("thelists.dat", "old\r\n");
     // A list file the teacher shares with a group: group-writable, in that group.

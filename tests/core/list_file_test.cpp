@@ -29,7 +29,7 @@ const Lines kTwoLists = Lines({"Animals", "cat", "a pet that purrs", "dog", "a p
 
 }  // namespace
 
-TEST_F(ListFileTest, NamesAndExistence) {
+TEST_F(ListFileTest, NamesExistenceAndRecordsLoaded) {
     dir.writeLines("thelists.dat", kTwoLists);
     EXPECT_EQ(ListNames(path), (Lines{"Animals", "[S]Colours"}));
     EXPECT_EQ(std::tuple(NameExists(path, "  ANIMALS "), NameExists(path, "colours"),
@@ -47,9 +47,7 @@ TEST_F(ListFileTest, NamesAndExistence) {
     dir.writeLines("thelists.dat", {});
     EXPECT_FALSE(NameExists(path, ""));  // an empty file holds no name, not even a blank one
     EXPECT_EQ(std::tuple(PlainName("[S]a"), PlainName("[S]ab")), std::tuple("[S]a", "ab"));
-}
-
-TEST_F(ListFileTest, LoadsARecordUpToTheSeparatorOrTheEnd) {
+    // A record loads up to the separator, or the end.
     dir.writeLines("thelists.dat", kTwoLists);
     load("Animals");
     EXPECT_EQ(std::tuple(state.WordCount, state.Words[2], state.Meanings[1], state.WordsOnly),
@@ -70,7 +68,7 @@ TEST_F(ListFileTest, LoadsARecordUpToTheSeparatorOrTheEnd) {
               std::tuple("E", ""));
 }
 
-TEST_F(ListFileTest, ForeignListPlayedTheOtherWaySwapsColumns) {
+TEST_F(ListFileTest, ForeignSwapsWordsOnlyAndTheScan) {
     dir.writeLines("thelists.dat", kTwoLists);
     std::string askedFor;
     load("Colours", {{"S", "Colours"}},
@@ -82,9 +80,6 @@ TEST_F(ListFileTest, ForeignListPlayedTheOtherWaySwapsColumns) {
     EXPECT_EQ(std::tuple(askedFor, state.Words[1], state.Meanings[2], state.WordsLanguage,
                          state.MeaningsLanguage),
               std::tuple("S", "rojo", "green", "S", ""));
-}
-
-TEST_F(ListFileTest, WordsOnlyByTheFirstDefinitionAndTheScanNotByRecords) {
     dir.writeLines("thelists.dat", {"Spelling", "necessary", "-----", "rhythm", "-----"});
     load("Spelling");
     EXPECT_EQ(std::tuple(state.WordsOnly, state.WordCount), std::tuple(kTrue, 2));
@@ -104,7 +99,7 @@ TEST_F(ListFileTest, WordsOnlyByTheFirstDefinitionAndTheScanNotByRecords) {
               std::tuple("a word that is also a name", "sun", "<New List>", 2));
 }
 
-TEST_F(ListFileTest, OverTheLimitStopsAt1001AndSaysSo) {
+TEST_F(ListFileTest, OverTheLimitAndOddFilesAreSafe) {
     Lines lines = {"Big"};
     for (int i = 1; i <= 1005; ++i) {
         lines.push_back("w" + std::to_string(i));
@@ -120,9 +115,6 @@ TEST_F(ListFileTest, OverTheLimitStopsAt1001AndSaysSo) {
     // Entry 1001 is there to read, and empty.
     ASSERT_GE(state.Words.size(), 1002u);
     EXPECT_EQ(state.Words[1001], "");
-}
-
-TEST_F(ListFileTest, OddLineCountAndMissingNamesAreSafe) {
     // The file, the list loaded and its count. The separator straight after a blank pair, or
     // straight after the name at the end of the file, would count one pair too few: the count
     // stops at zero.

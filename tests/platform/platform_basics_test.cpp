@@ -201,7 +201,7 @@ private slots:
         QVERIFY(clock.elapsed() < 3000);
     }
 
-    void scaledPointsFollowScreenHeightAndStagesCoverIt() {
+    void scaledPointsStagesAndTypeThatFits() {
         // The screen, the points asked for and given: 16.875 rounds; 7.5 is below the floor of 9.6.
         const std::tuple<QSize, int, int> rows[] = {{{1024, 768}, 12, 12},
                                                     {{1920, 1080}, 12, 17},
@@ -226,10 +226,8 @@ private slots:
             QCOMPARE(QPointF(t.dx(), t.dy()), QPointF(dx, dy));
         }
         QCOMPARE(scene::coverStage({800, 600}, {}), QTransform());
-    }
-    // Type comes down a pixel at a time to the largest size at which the text fits its box both
-    // ways (a long word shrinks it as a long clue does), and never below the floor.
-    void typeShrinksToTheLargestSizeThatFits() {
+        // Type comes down a pixel at a time to the largest size at which the text fits its box both
+        // ways (a long word shrinks it as a long clue does), and never below the floor.
         QFont start("DejaVu Sans");
         start.setPixelSize(40);
         auto at = [&](int px) {

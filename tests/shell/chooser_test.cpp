@@ -91,7 +91,7 @@ private slots:
         }
     }
 
-    void countBoundaries() {
+    void countBoundariesAndForeignListsPlayedEitherWay() {
         // Each side of a fixed minimum and of the difficulty (7) as the minimum.
         const std::tuple<const char*, int, QString> rows[] = {
             {"Pachinko", 5, QString::fromStdString(N(5))},
@@ -111,17 +111,14 @@ private slots:
                          std::tuple(words, refused, refused));
             }
         }
-    }
-
-    void foreignListPlayedThroughTheChooser() {
         // "[F]Odd" has the marker on its word lines: after a swap it stands on the meaning side.
         // The side picked, then the language, the first word and meaning, and words-only.
-        const std::tuple<bool, QString, QString, QString, bool> rows[] = {
+        const std::tuple<bool, QString, QString, QString, bool> sides[] = {
             {false, "E", "dog", "perro", false},
             {true, "S", "perro", "dog", false},
             {false, "E", "-----", "chat", false},
             {true, "F", "chat", "-----", true}};
-        for (const auto& [secondOption, language, word1, meaning1, wordsOnly] : rows) {
+        for (const auto& [secondOption, language, word1, meaning1, wordsOnly] : sides) {
             ShellFixture fx;
             const bool odd = word1 == "-----" || meaning1 == "-----";
             ChooseList* chooser = OpenChooser(

@@ -77,7 +77,7 @@ private slots:
         write("parts.svg", kDrawing);
     }
 
-    void valuesAtAndBetweenKeysAndTheFrameDrawn() {
+    void valuesFramesAndEveryShippedFilm() {
         auto scene = load(kTimeline);
         QVERIFY(scene && scene->duration() == 4.0 && scene->naturalSize() == QSize(200, 100));
         // The time, x, the opacity and the frame.
@@ -104,10 +104,7 @@ private slots:
             {1.5, 60, Qt::black}, {3.5, 50, Qt::blue}, {3.5, 150, Qt::black}};
         for (const auto& [t, x, colour] : pixels)
             QCOMPARE(draw(*scene, t).pixelColor(x, 50), colour);
-    }
-
-    // Every film we ship loads, finds every drawing it names and paints at any moment.
-    void shippedTimelinesAreWholeAndFoundByName() {
+        // Every film we ship loads, finds every drawing it names and paints at any moment.
         std::vector<wm::assetgen::ManifestEntry> entries;
         QString error;
         QVERIFY2(wm::assetgen::readManifest(wm::assetgen::sourceAssetsDir() + "/manifest.txt",
@@ -135,8 +132,8 @@ private slots:
         RegisterBuiltInScenes();
         write("lamp.timeline", kTimeline);
         SetTimelineFolder(dir_.path());
-        auto scene = MakeScene("\\movies\\LAMP.SWF");
-        QVERIFY(scene && scene->duration() == 4.0 && !MakeScene("nothing"));
+        auto found = MakeScene("\\movies\\LAMP.SWF");
+        QVERIFY(found && found->duration() == 4.0 && !MakeScene("nothing"));
         // A broken file is no film, not a crash.
         write("broken.timeline", "timeline\n");
         QVERIFY(!MakeScene("broken"));
