@@ -59,7 +59,8 @@ TEST(Settings, ReadsSoundPathsAndSpeechAndRewritesKeepLaterLines) {
               std::tuple(kFalse, dir.file("folders.dat")));
     // Settings held in memory with no sound line at all read as sound off, without reading
     // past their end.
-    EXPECT_TRUE((!Settings{{"r0", "r1"}}.soundOn() && Settings{{"r0", "r1", "Sound On"}}.soundOn()));
+    EXPECT_FALSE((Settings{{"r0", "r1"}}.soundOn()));
+    EXPECT_TRUE((Settings{{"r0", "r1", "Sound On"}}.soundOn()));
     // A rewrite keeps lines past five.
     auto lines = kFactory;
     lines.push_back("seventh");
