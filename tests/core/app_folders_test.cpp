@@ -11,7 +11,7 @@
 using namespace wm;
 namespace fs = std::filesystem;
 
-TEST(AppFolders, BesideTheProgramUnlessInstalled) {
+TEST(AppFolders, BesideTheProgramUnlessInstalledAndSeedingFillsTheGaps) {
     // A file in usr/bin (or ""), whether usr/share/wordmere/wmdata.new is there, the variable,
     // and the data folder ("": the program's).
     const std::tuple<std::string, bool, const char*, std::string> cases[] = {
@@ -33,9 +33,7 @@ TEST(AppFolders, BesideTheProgramUnlessInstalled) {
                   std::tuple(installed, root.file(installed ? "usr/share/wordmere" : "usr/bin"),
                              installed ? data : root.file("usr/bin")));
     }
-}
-
-TEST(AppFolders, SeedingFillsOnlyWhatIsMissing) {
+    // Seeding fills only what is missing.
     test::TempFolder assets, data;
     for (const char* f : {"wmdata.new", "thelists.new", "wmgdisplay.dat", "flcodelist.dat"})
         assets.write(f, std::string("factory ") + f);

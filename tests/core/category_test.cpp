@@ -8,7 +8,7 @@ using namespace wm;
 using wm::test::TempFolder;
 using Lines = std::vector<std::string>;
 
-TEST(Categories, CollectKeepsTheFirstNameTwiceAndDropsTheFilesLastLine) {
+TEST(Categories, CollectAndReadersFollowTheLock) {
     Lines lines = {"^Science", "Weather", "Space", "", "^History", "Rome", "Egypt"};
     EXPECT_EQ(CollectLists(lines, "Science"), (Lines{"Weather", "Weather", "Space"}));
     // The very last line of the file is not kept: left as it is.
@@ -17,9 +17,7 @@ TEST(Categories, CollectKeepsTheFirstNameTwiceAndDropsTheFilesLastLine) {
     EXPECT_EQ(CollectLists({"^Solo", "Only"}, "Solo"), (Lines{"Only"}));
     EXPECT_EQ(CollectLists(lines, "Nowhere").size() + CollectLists({"^Empty"}, "Empty").size(), 0u);
     EXPECT_EQ(CategoryNames(lines), (Lines{"Science", "History"}));
-}
-
-TEST(Categories, ReadersFollowTheLock) {
+    // Readers follow the lock.
     TempFolder dir;
     const std::string path = dir.file("folders.dat");
     EnsureCategoryFile(dir.path(), path);
@@ -41,8 +39,8 @@ TEST(Categories, ReadersFollowTheLock) {
     WriteLinesAtomic(path, {"^A", "x", "y", "^B", "x"});
     RemoveListFromCategories(path, "x");
     EXPECT_EQ(ReadLines(path), (Lines{"^A", "y", "^B"}));
-    EXPECT_EQ(LockName("/a/b/folders.dat"), "/a/b/folders.lok");
-    EXPECT_TRUE(ReadCategoryLines(dir.file("missing.dat")).empty());
+    EXPECT_TRUE(LockName("/a/b/folders.dat") == "/a/b/folders.lok" &&
+                ReadCategoryLines(dir.file("missing.dat")).empty());
 }
 
 // A path to a file not named folders.dat: readers read its .lok name (kept so), so the editor

@@ -8,7 +8,7 @@
 using namespace wm;
 using wm::test::TempFolder;
 
-TEST(DisplayFile, HiddenGamesRoundTripByExactName) {
+TEST(DisplayFile, HiddenGamesRoundTripAndBadFilesReadAsLargeIcons) {
     TempFolder dir;
     DisplaySettings s = DisplaySettings::MediumIcons();
     s.hidden = {"Quiz", "Bomb Squad 2"};
@@ -18,10 +18,7 @@ TEST(DisplayFile, HiddenGamesRoundTripByExactName) {
     auto back = ReadDisplaySettings(dir.file("wmgdisplay.dat"));
     EXPECT_EQ(std::tuple(back.scale, back.hidden, back.isHidden("Quiz"), back.isHidden("quiz")),
               std::tuple(0.75, s.hidden, true, false));
-}
-
-TEST(DisplayFile, MissingOrMalformedReadsAsLargeIcons) {
-    TempFolder dir;
+    // Missing or malformed, the file reads as Large Icons.
     EXPECT_EQ(ReadDisplaySettings(dir.file("none.dat")).columns, 4);
     dir.writeLines("bad.dat", {"*****", "zero", "-3", "0", "x", "y", "*****", "Froggy"});
     auto bad = ReadDisplaySettings(dir.file("bad.dat"));

@@ -11,12 +11,10 @@
 using namespace wm;
 using wm::test::TempFolder;
 
-TEST(DisplayFile, ThePresetsAreTheseNumbersOnDisk) {
+TEST(Quirks, DisplayPresetsAndSmallestFirstTies) {
     const std::tuple<DisplaySettings, double, int, int, double, double, const char*> cases[] = {
         {DisplaySettings::LargeIcons(), 1.0, 4, 3, 1.01, 1.01,
          "*****\r\n1\r\n4\r\n3\r\n1.01\r\n1.01\r\n*****\r\n"},
-        {DisplaySettings::MediumIcons(), 0.75, 5, 3, 1.01, 1.01,
-         "*****\r\n0.75\r\n5\r\n3\r\n1.01\r\n1.01\r\n*****\r\n"},
         {DisplaySettings::SmallIcons(), 0.5, 6, 5, 1.1, 1.2,
          "*****\r\n0.5\r\n6\r\n5\r\n1.1\r\n1.2\r\n*****\r\n"},
     };
@@ -28,16 +26,14 @@ TEST(DisplayFile, ThePresetsAreTheseNumbersOnDisk) {
         WriteDisplaySettings(dir.file("d.dat"), preset);
         EXPECT_EQ(dir.read("d.dat"), bytes) << columns;
     }
-}
-
-TEST(ScoreTable, SmallestFirstTiesGoBelowTheEqualScore) {
+    // Smallest-first ties go below the equal score.
     ScoreTable t = ScoreTable::Fresh();
     const char* scores[] = {"12.5   ", "20     ", "20     ", "31     "};
     for (int r = 1; r <= 4; ++r) t.Scores[r] = scores[r - 1];
     // A tie does not pass the score it equals; the first free rank (a 0) takes anything.
-    const std::pair<double, int> cases[] = {{12.4, 1},  {12.5, 2}, {20, 4},
-                                            {20.01, 4}, {31, 5},   {99, 5}};
-    for (const auto& [score, rank] : cases)
+    const std::pair<double, int> ties[] = {{12.4, 1},  {12.5, 2}, {20, 4},
+                                           {20.01, 4}, {31, 5},   {99, 5}};
+    for (const auto& [score, rank] : ties)
         EXPECT_EQ(FindRankSmallestFirst(t, score), rank) << score;
     ScoreTable full = t;
     for (int r = 5; r <= kRanks; ++r) full.Scores[r] = "40     ";

@@ -3,9 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
+#include "core/line_file.h"
 #include "harnesses.h"
 
 namespace fs = std::filesystem;
@@ -17,10 +16,7 @@ TEST(FuzzReplay, EverySeedAndRegressionPasses) {
             const fs::path folder = fs::path(WM_FUZZ_DIR) / kind / target.name;
             ASSERT_TRUE(fs::is_directory(folder)) << folder;
             for (const auto& entry : fs::directory_iterator(folder)) {
-                std::ifstream in(entry.path(), std::ios::binary);
-                std::ostringstream bytes;
-                bytes << in.rdbuf();
-                const std::string data = bytes.str();
+                const std::string data = wm::ReadBytes(entry.path().string());
                 SCOPED_TRACE(entry.path().string());
                 target.run(reinterpret_cast<const std::uint8_t*>(data.data()), data.size());
                 ++replayed;

@@ -16,10 +16,9 @@
 #include "temp_folder.h"
 
 using namespace wm;
-using wm::test::FileFailure;
-using wm::test::TempFolder;
+using namespace wm::test;
 
-TEST(DisplayFile, HugeOrFractionalCountsKeepThePreset) {
+TEST(Hardening, HugeDisplayCountsAndAFolderAtTheListFilesName) {
     // Columns and rows written, then read; 4 and 3: the Large Icons preset was kept.
     const std::string nines(400, '9');  // outlives the table that points into it
     const std::tuple<const char*, const char*, int, int> cases[] = {
@@ -35,10 +34,7 @@ TEST(DisplayFile, HugeOrFractionalCountsKeepThePreset) {
         EXPECT_EQ(std::tuple(s.columns, s.rows), std::tuple(wantColumns, wantRows))
             << columns << " x " << rows;
     }
-}
-
-TEST(Settings, AFolderAtTheListFilesNameDoesNotStopTheStart) {
-    TempFolder dir;
+    // A folder at the list file's name does not stop the start.
     dir.writeLines("wmdata.new", {"r0", "r1", "Sound On", "pw", "listpath", "folderpath"});
     dir.writeLines("thelists.new", {"Animals", "cat", "a pet"});
     std::filesystem::create_directory(dir.file("thelists.dat"));
@@ -90,13 +86,10 @@ TEST(RandomWord, DrawsOnlyLoadedEntries) {
     // its draws spread over [0, 1).
     SystemRng first, second;
     EXPECT_NE(first.Rnd(), second.Rnd());
-    double low = 1, high = 0;
-    for (int i = 0; i < 1000; ++i) {
-        const double v = first.Rnd();
-        low = std::min(low, v);
-        high = std::max(high, v);
-    }
-    EXPECT_TRUE(low >= 0 && low < 0.01 && high > 0.99 && high < 1) << low << " " << high;
+    std::vector<double> draws(1000);
+    for (double& v : draws) v = first.Rnd();
+    const auto [low, high] = std::minmax_element(draws.begin(), draws.end());
+    EXPECT_TRUE(*low >= 0 && *low < 0.01 && *high > 0.99 && *high < 1) << *low << " " << *high;
     // A scripted generator hands out its queue in order, then its fallback, counting each draw.
     ScriptedRng script(0.5);
     script.then(0.1).pick(3, 4);

@@ -8,8 +8,7 @@
 using namespace wm;
 using wm::test::TempFolder;
 
-namespace {
-ScoreTable tableOf(std::initializer_list<std::pair<const char*, const char*>> entries) {
+static ScoreTable tableOf(std::initializer_list<std::pair<const char*, const char*>> entries) {
     ScoreTable t = ScoreTable::Fresh();
     int r = 1;
     for (auto& [i, s] : entries) {
@@ -19,28 +18,24 @@ ScoreTable tableOf(std::initializer_list<std::pair<const char*, const char*>> en
     }
     return t;
 }
-}  // namespace
 
-TEST(ScoreTable, FreshRecordIs510BytesOfPaddedText) {
+TEST(ScoreTable, RecordIs510BytesAndWrongSizedFilesReadAsFarAsTheyGo) {
     std::string bytes = ScoreTable::Fresh().toBytes();
     ASSERT_EQ(bytes.size(), 510u);
     EXPECT_EQ(std::tuple(bytes.substr(0, 3), bytes.substr(3, 3), bytes.substr(153, 7),
                          bytes.substr(160, 7)),
               std::tuple("   ", "---", "       ", "0      "));
     EXPECT_EQ(ScoreTable::fromBytes(bytes).toBytes(), bytes);
-}
-
-TEST(ScoreTable, WrongSizedFilesReadAsFarAsTheyGo) {
-    ScoreTable full = tableOf({{"ABC", "900"}, {"DEF", "800"}});
-    std::string bytes = full.toBytes();
+    // Wrong-sized files read as far as they go.
+    bytes = tableOf({{"ABC", "900"}, {"DEF", "800"}}).toBytes();
     // Cut inside the score area: rank 1's score survives, later ones are fresh.
     ScoreTable cut = ScoreTable::fromBytes(bytes.substr(0, 170));
     EXPECT_EQ(std::tuple(cut.initials(2), cut.scoreText(1), cut.scoreText(2)),
               std::tuple("DEF", "900", "0"));
-    EXPECT_EQ(ScoreTable::fromBytes("").toBytes(), ScoreTable::Fresh().toBytes());
-    EXPECT_EQ(ScoreTable::fromBytes(bytes + "trailing junk").toBytes(), bytes);
-    std::string zeros(510, '\0');
-    EXPECT_EQ(ScoreTable::fromBytes(zeros).score(1), 0);
+    EXPECT_EQ(std::tuple(ScoreTable::fromBytes("").toBytes(),
+                         ScoreTable::fromBytes(bytes + "trailing junk").toBytes(),
+                         ScoreTable::fromBytes(std::string(510, '\0')).score(1)),
+              std::tuple(ScoreTable::Fresh().toBytes(), bytes, 0));
 }
 
 TEST(ScoreTable, RankSearchHighestFirst) {
@@ -54,14 +49,7 @@ TEST(ScoreTable, RankSearchHighestFirst) {
     EXPECT_EQ(FindRank(full, 10), 0);
 }
 
-TEST(ScoreTable, RankSearchSmallestFirst) {
-    ScoreTable t = tableOf({{"A", "0.12"}, {"B", "0.5"}});
-    EXPECT_EQ(std::tuple(FindRankSmallestFirst(t, 0.1), FindRankSmallestFirst(t, 0.3),
-                         FindRankSmallestFirst(t, 0.9)),
-              std::tuple(1, 2, 3));
-}
-
-TEST(ScoreTable, InsertDisplacesOneAndLosesTheNext) {
+TEST(ScoreTable, InsertDisplacesOneLosesTheNextAndCutsTheScore) {
     ScoreTable t = tableOf({{"A", "900"}, {"B", "800"}, {"C", "700"}, {"D", "600"}});
     const std::string before = t.toBytes();
     for (int outside : {0, 51}) InsertScore(t, outside, "OUT", "999");  // no such rank
@@ -71,12 +59,9 @@ TEST(ScoreTable, InsertDisplacesOneAndLosesTheNext) {
     EXPECT_EQ(std::tuple(t.initials(1), t.initials(2), t.initials(3), t.initials(4), t.scoreText(3),
                          t.scoreText(4)),
               std::tuple("A", "NEW", "B", "D", "800", "600"));
-}
-
-TEST(ScoreTable, InsertAtTheEndsAndScoreCuts) {
-    ScoreTable t = ScoreTable::Fresh();
-    t.Initials[50] = "ZZZ";
-    t.Scores[50] = "12     ";
+    // At the ends, and scores cut.
+    t = tableOf({});
+    std::tie(t.Initials[50], t.Scores[50]) = std::pair("ZZZ", "12     ");
     InsertScore(t, 50, "ABC", "123456789");
     EXPECT_EQ(t.scoreText(50), "1234567");
     // The old last entry goes to index 0, its score through a whole number like any moved one.
@@ -90,7 +75,7 @@ TEST(ScoreTable, InsertAtTheEndsAndScoreCuts) {
               std::tuple("0.05", "0", "A"));
 }
 
-TEST(ScoreTable, FileRoundTripAndCreation) {
+TEST(ScoreTable, FileRoundTripCreationAndThreeWins) {
     TempFolder dir;
     EnsureScoreFile(dir.path(), " Scramble ");
     ASSERT_TRUE(dir.exists("scores/Scramble.dat"));
@@ -103,14 +88,10 @@ TEST(ScoreTable, FileRoundTripAndCreation) {
     // An existing table is never replaced by a fresh one.
     EnsureScoreFile(dir.path(), "Scramble");
     EXPECT_EQ(ReadScoreTable(path).initials(1), "ABC");
-}
-
-TEST(ScoreTable, ThreeWinsInARow) {
-    ScoreTable t = ScoreTable::Fresh();
-    for (auto [ini, score] : {std::pair{"AAA", 300.0}, {"BBB", 500.0}, {"CCC", 400.0}}) {
-        int r = FindRank(t, score);
-        InsertScore(t, r, ini, NumText(score));
-    }
+    // Three wins in a row.
+    t = ScoreTable::Fresh();
+    for (auto [ini, score] : {std::pair{"AAA", 300.0}, {"BBB", 500.0}, {"CCC", 400.0}})
+        InsertScore(t, FindRank(t, score), ini, NumText(score));
     // 300 at 1; 500 at 1 pushes 300 to 2; 400 lands on 2, pushes 300 to 3 and loses the fresh 3.
     EXPECT_EQ(std::tuple(t.initials(1), t.initials(2), t.initials(3), t.initials(4)),
               std::tuple("BBB", "CCC", "AAA", "---"));

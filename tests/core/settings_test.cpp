@@ -6,13 +6,10 @@
 #include "temp_folder.h"
 
 using namespace wm;
-using wm::test::FileFailure;
-using wm::test::TempFolder;
+using namespace wm::test;
 
-namespace {
 const std::vector<std::string> kFactory = {"r0",       "r1",       "Sound On",
                                            "mapleton", "listpath", "folderpath"};
-}
 
 TEST(Settings, FirstRunRenamesOnlyWhenTheLiveFileIsMissing) {
     TempFolder dir;
@@ -47,7 +44,7 @@ TEST(Settings, MissingOrShortFileIsAClearErrorNamingIt) {
     EXPECT_EQ(messageOf([&] { ReadSettings(dir.path()); }), "no error");
 }
 
-TEST(Settings, ReadsSoundAndResolvesPathLiterals) {
+TEST(Settings, ReadsSoundPathsAndSpeechAndRewritesKeepLaterLines) {
     TempFolder dir;
     dir.writeLines("wmdata.dat", {"r0", "r1", "Sound On", "pw", "  LISTPATH ", "/net/f.dat"});
     SharedState s;
@@ -64,10 +61,7 @@ TEST(Settings, ReadsSoundAndResolvesPathLiterals) {
     // past their end.
     EXPECT_FALSE((Settings{{"r0", "r1"}}.soundOn()));
     EXPECT_TRUE((Settings{{"r0", "r1", "Sound On"}}.soundOn()));
-}
-
-TEST(Settings, RewriteKeepsLinesPastFive) {
-    TempFolder dir;
+    // A rewrite keeps lines past five.
     auto lines = kFactory;
     lines.push_back("seventh");
     dir.writeLines("wmdata.dat", lines);
@@ -84,11 +78,6 @@ TEST(Settings, RewriteKeepsLinesPastFive) {
     // No line before the first: the file is left as it is.
     RewriteSettingsLine(dir.path(), -1, "nothing");
     EXPECT_EQ(dir.read("wmdata.dat"), grown);
-}
-
-TEST(Settings, SpeechLinesBehindTheSixReadOldFilesAndKeepLaterLines) {
-    TempFolder dir;
-    SharedState s;
     // An old file of six lines comes after one that set speech off and slow.
     const std::tuple<std::vector<std::string>, int, int> cases[] = {
         {{"Speech Off", "-4"}, kFalse, -4},

@@ -11,13 +11,11 @@
 
 using namespace wm;
 
-TEST(Strings, IntFloorsTowardsMinusInfinity) {
+TEST(Strings, IntFloorsAndMidLeftRightAreOneBased) {
     EXPECT_EQ(std::tuple(Int(2.999), Int(-0.5), Int(0.0)), std::tuple(2, -1, 0));
     // The draw formula always lands in 1..N for Rnd in [0, 1).
     EXPECT_EQ(std::tuple(Int(0.0 * 7 + 1), Int(0.9999999 * 7 + 1)), std::tuple(1, 7));
-}
-
-TEST(Strings, MidLeftRightAreOneBasedAndSafe) {
+    // Mid, Left and Right count from one and never fail.
     EXPECT_EQ(std::tuple(Mid("[S]Animals", 4), Mid("abc", 2, 1), Mid("abc", 9), Mid("abc", 0, 2),
                          Mid("abc", 2, 0)),
               std::tuple("Animals", "b", "", "ab", ""));
@@ -48,24 +46,23 @@ TEST(Strings, WhatCountsAsALetter) {
     for (char c : std::string(" -'./:\xD7\xF7")) EXPECT_FALSE(IsLetterOrDigit(c)) << int(c);
 }
 
-TEST(Strings, TrimTakesBlanksOnly) {
+TEST(Strings, TrimInStrAndReplace) {
     EXPECT_EQ(std::tuple(Trim("  listpath "), Trim("\tx\t"), Trim("   ")),
               std::tuple("listpath", "\tx\t", ""));
-}
-
-TEST(Strings, InStrFindsFromStart) {
+    // InStr and InStrRev count from one; 0 is not found.
     EXPECT_EQ(std::tuple(InStr("Unit (2) (30 words)", "("), InStrRev("Unit (2) (30 words)", "(")),
               std::tuple(6, 10));
     EXPECT_EQ(std::tuple(InStr("abc", "z"), InStrRev("abc", "z"), InStr("abcabc", "a", 2)),
               std::tuple(0, 0, 4));
+    // Replace takes every match, and nothing for an empty pattern.
+    EXPECT_EQ(std::tuple(Replace("a-b--c", "-", "+"), Replace("abc", "", "x")),
+              std::tuple("a+b++c", "abc"));
 }
 
-TEST(Strings, ValReadsTheLeadingNumber) {
+TEST(Strings, ValAndNumberTexts) {
     EXPECT_EQ(std::tuple(Val("1234   "), Val(" -3.5x"), Val("---"), Val(""), Val(".25")),
               std::tuple(1234, -3.5, 0, 0, 0.25));
-}
-
-TEST(Strings, NumberTexts) {
+    // The texts of numbers.
     EXPECT_EQ(std::tuple(NumText(12), NumText(-3.5), NumText(0.75), NumText(1.01)),
               std::tuple("12", "-3.5", "0.75", "1.01"));
     // Whole numbers up to 15 digits; not a number, or endless: shown as 0.
@@ -75,19 +72,11 @@ TEST(Strings, NumberTexts) {
     EXPECT_EQ(std::tuple(StrText(120), StrText(-0.5), StrText(2.5), StrText(0.5)),
               std::tuple(" 120", "-.5", " 2.5", " .5"));
     EXPECT_EQ(std::tuple(CountText(-0.5), CountText(0)), std::tuple("-.5", "0"));
-}
-
-TEST(Strings, CLngRoundsHalfToEven) {
+    // CLng rounds a half to the even number.
     EXPECT_EQ(std::tuple(CLng(2.5), CLng(3.5), CLng(0.1234), CLng(1e12)),
               std::tuple(2, 4, 0, 2147483647));
 }
 
-TEST(Strings, ReplaceTakesEveryMatchAndNothingForAnEmptyPattern) {
-    EXPECT_EQ(std::tuple(Replace("a-b--c", "-", "+"), Replace("abc", "", "x")),
-              std::tuple("a+b++c", "abc"));
-}
-
-// The scripted generator every rules test leans on: picks, then fallback; and the installed one.
 // Seconds since midnight with their fraction, against midnight found another way.
 TEST(Clock, TimerIsSecondsSinceLocalMidnight) {
     auto secondsSinceMidnight = [] {

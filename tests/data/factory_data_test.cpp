@@ -63,12 +63,11 @@ Loaded Load(const std::string& stored, const std::vector<std::string>& names,
             state.WordsOnly == kTrue};
 }
 
-TEST(FactoryFiles, EveryLineEndsInCrLf) {
+TEST(FactoryFiles, CrLfLinesRecordLayoutAndNamesFoundOnlyAtTheirRecord) {
     for (const char* name : {"wmdata.new", "thelists.new", "flcodelist.dat", "wmgdisplay.dat"}) {
         SCOPED_TRACE(name);
         const std::string bytes = ReadBytes(DataFile(name));
-        ASSERT_GE(bytes.size(), 2u);
-        EXPECT_EQ(bytes.substr(bytes.size() - 2), "\r\n");
+        EXPECT_TRUE(bytes.ends_with("\r\n"));
         // Every LF has its CR before it, every CR its LF after it.
         std::ptrdiff_t pairs = 0;
         for (auto at = bytes.find("\r\n"); at != std::string::npos; at = bytes.find("\r\n", at + 2))
@@ -76,14 +75,10 @@ TEST(FactoryFiles, EveryLineEndsInCrLf) {
         EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), pairs);
         EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\r'), pairs);
     }
-}
-
-// Record layout: no blank lines, no separator at either end, name + pairs in each record.
-TEST(FactoryLists, RecordLayout) {
+    // Record layout: no blank lines, no separator at either end, name + pairs in each record.
     const auto lines = ReadAllLines(DataFile("thelists.new"));
     ASSERT_FALSE(lines.empty());
-    EXPECT_NE(lines.front(), kSeparator);
-    EXPECT_NE(lines.back(), kSeparator);
+    EXPECT_TRUE(lines.front() != kSeparator && lines.back() != kSeparator);
     std::size_t recordLines = 0;
     for (const auto& l : lines) {
         EXPECT_FALSE(Trim(l).empty());
@@ -96,13 +91,9 @@ TEST(FactoryLists, RecordLayout) {
         }
     }
     EXPECT_EQ(recordLines % 2, 1u);
-}
-
-// A list name standing anywhere else in the file would make the load start in the wrong place,
-// since the load scans every line; names with "(" or "^" confuse the chooser and categories.
-TEST(FactoryLists, NamesAreUniqueAndFoundOnlyAtTheirRecord) {
+    // A list name standing anywhere else in the file would make the load start in the wrong place,
+    // since the load scans every line; names with "(" or "^" confuse the chooser and categories.
     const auto names = ListNames(DataFile("thelists.new"));
-    const auto lines = ReadAllLines(DataFile("thelists.new"));
     EXPECT_GE(names.size(), 8u);
     std::set<std::string> seen;
     for (const auto& stored : names) {
@@ -120,7 +111,7 @@ TEST(FactoryLists, NamesAreUniqueAndFoundOnlyAtTheirRecord) {
     }
 }
 
-TEST(FactoryLists, EachListLoadsWholeAndClean) {
+TEST(FactoryLists, EachListLoadsWholeAndTheSpanishOnePlaysBothWays) {
     const auto names = ListNames(DataFile("thelists.new"));
     int wordsOnlyLists = 0;
     for (const auto& stored : names) {
@@ -145,12 +136,8 @@ TEST(FactoryLists, EachListLoadsWholeAndClean) {
         }
     }
     EXPECT_EQ(wordsOnlyLists, 1);
-}
-
-// The Spanish list: English on the word line, Spanish with single-byte accents on the
-// definition line, so each way of play puts the intended side in Words.
-TEST(FactoryLists, SpanishListPlaysBothWays) {
-    const auto names = ListNames(DataFile("thelists.new"));
+    // The Spanish list: English on the word line, Spanish with single-byte accents on the
+    // definition line, so each way of play puts the intended side in Words.
     const auto foreign = ForeignTable(names);
     ASSERT_EQ(foreign.size(), 1u);
     EXPECT_EQ(foreign[0].code, "S");
@@ -173,13 +160,11 @@ TEST(FactoryLists, SpanishListPlaysBothWays) {
     EXPECT_EQ(ReadBytes(DataFile("thelists.new")).find("\xC3\xA1"), std::string::npos);
 }
 
-TEST(FactoryDisplay, IsLargeIconsWithNothingHidden) {
+TEST(FactoryDisplayAndLanguages, LargeIconsNothingHiddenAndFourLanguages) {
     // The reader falls back to Large Icons for a missing file, so look at the lines as well.
     const auto lines = ReadLines(DataFile(kDisplayFileName));
     EXPECT_EQ(lines, (std::vector<std::string>{"*****", "1", "4", "3", "1.01", "1.01", "*****"}));
-}
-
-TEST(FactoryLanguages, FourLanguagesInThreeLineRecords) {
+    // Four languages in three-line records.
     const auto codes = ReadLanguageCodes(DataFile(kLanguageFileName));
     EXPECT_EQ(codes.size() * 3, ReadLines(DataFile(kLanguageFileName)).size());
     std::string all;

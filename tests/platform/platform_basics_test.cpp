@@ -96,7 +96,7 @@ private slots:
         ScreenMetrics::overrideScreenSize({});
     }
 
-    void windowsRangeAndUnmappable() {
+    void windowsTextAndAssetPaths() {
         // The upper half past 0xA0 is Latin-1: accented letters keep their code points.
         for (int b = 160; b <= 255; ++b) QCOMPARE(toQ(std::string(1, char(b))), QString(QChar(b)));
         QCOMPARE(toQ("\xBFQu\xE9?"), QString::fromUtf8("¿Qué?"));
@@ -108,16 +108,12 @@ private slots:
         QCOMPARE(fromQ(QString::fromUtf8("Жaβ😀")), std::string("?a??"));
         // A real SUB byte survives next to a replaced character.
         QCOMPARE(fromQ(QString::fromUtf8("a\x1A") + QChar(0x0416)), std::string("a\x1A?"));
-        QCOMPARE(fromQ(QString()), std::string());
-        QCOMPARE(toQ(""), QString());
-    }
-
-    void appFileAndFindAsset() {
+        QVERIFY(fromQ(QString()).empty() && toQ("").isEmpty());
+        // appFile and findAsset.
         QTemporaryDir dir;
         Shared().AppPath = dir.path().toStdString();
-        QCOMPARE(appFile(QStringLiteral("sounds/a.wav")), dir.path() + "/sounds/a.wav");
-        QCOMPARE(appFile(QStringLiteral("\\sounds\\a.wav")), dir.path() + "/sounds/a.wav");
-
+        for (const char* asked : {"sounds/a.wav", "\\sounds\\a.wav"})
+            QCOMPARE(appFile(asked), dir.path() + "/sounds/a.wav");
         QDir(dir.path()).mkpath(QStringLiteral("images"));
         for (const char* name : {"wm-title.png", "board.jpg", "Flying Cow.jpg", "notes.txt"})
             writeFile(dir.filePath("images/") + name, "x");
@@ -128,9 +124,9 @@ private slots:
         QCOMPARE(findAsset("\\images\\board.bmp"), dir.filePath("images/board.jpg"));
         QCOMPARE(findAsset("images/flying cow.JPG"), dir.filePath("images/Flying Cow.jpg"));
         QCOMPARE(findAsset("images/FLYING COW.gif"), dir.filePath("images/Flying Cow.jpg"));
-        QCOMPARE(findAsset("images/notes.gif"), QString());  // same stem, not a picture
-        QCOMPARE(findAsset("images/missing.jpg"), QString());
-        QCOMPARE(findAsset("nofolder/x.jpg"), QString());
+        // Same stem, not a picture; no such file; no such folder.
+        QVERIFY(findAsset("images/notes.gif").isEmpty() &&
+                findAsset("images/missing.jpg").isEmpty() && findAsset("nofolder/x.jpg").isEmpty());
 
         // Installed, the assets have a folder of their own; the data stays in AppPath.
         Shared().AssetPath = "/usr/share/wordmere";
@@ -139,7 +135,7 @@ private slots:
         Shared().AssetPath.clear();
     }
 
-    void effectsFollowSoundOn() {
+    void effectsVoicesWavCheckAndHarmlessQtSound() {
         RecordingSound s;
         Shared().SoundOn = kFalse;
         s.effect(QStringLiteral("buzz"));
@@ -160,9 +156,7 @@ private slots:
         QCOMPARE(s.played, (QStringList{"ding", "always", "blast", "bleep"}));
         QCOMPARE(s.modes, (QList<SoundMode>{SoundMode::Replace, SoundMode::Replace,
                                             SoundMode::Overlap, SoundMode::NoInterrupt}));
-    }
-
-    void voicePlans() {
+        // Voice plans.
         const auto R = SoundMode::Replace, N = SoundMode::NoInterrupt, O = SoundMode::Overlap;
         // The mode, which of the effect's own voices sound, whether another sounds; the voice and
         // whether the others stop.
@@ -179,17 +173,13 @@ private slots:
             const VoicePlan plan = PlanVoice(mode, mine, other);
             QCOMPARE(std::pair(plan.voice, plan.stopOthers), std::pair(voice, stopOthers));
         }
-    }
-
-    void wavCheckAndHarmlessQtSound() {
         QTemporaryDir dir;
         const QByteArray good = wavBytes(801);
         QByteArray lying = good;
         lying.replace(4, 4, le32(quint32(good.size() + 50)));  // RIFF size past the end
         QVERIFY(IsCompleteWav(writeFile(dir.filePath("good.wav"), good)));
-        QVERIFY(!IsCompleteWav(writeFile(dir.filePath("short.wav"), good.left(good.size() - 100))));
-        QVERIFY(!IsCompleteWav(writeFile(dir.filePath("lying.wav"), lying)));
-        QVERIFY(!IsCompleteWav(writeFile(dir.filePath("text.wav"), "not a wave at all")));
+        for (const QByteArray& bad : {good.left(good.size() - 100), lying, QByteArray("not a wav")})
+            QVERIFY(!IsCompleteWav(writeFile(dir.filePath("bad.wav"), bad)));
         QVERIFY(!IsCompleteWav(dir.filePath("none.wav")));
 
         // Whatever the machine has for audio, none of this may hang or crash.
@@ -211,36 +201,33 @@ private slots:
         QVERIFY(clock.elapsed() < 3000);
     }
 
-    void scaledPointsFollowScreenHeight() {
-        ScreenMetrics::overrideScreenSize({1024, 768});
-        QCOMPARE(ScreenMetrics::scaledPoint(12), 12);
-        ScreenMetrics::overrideScreenSize({1920, 1080});
-        QCOMPARE(ScreenMetrics::screenSize(), QSize(1920, 1080));
-        QCOMPARE(ScreenMetrics::scaledPoint(12), 17);  // 16.875 rounded
-        ScreenMetrics::overrideScreenSize({800, 480});
-        QCOMPARE(ScreenMetrics::scaledPoint(12), 10);  // 7.5 is below the floor of 9.6
-        QCOMPARE(ScreenMetrics::scaledPoint(10), 8);
+    void scaledPointsStagesAndTypeThatFits() {
+        // The screen, the points asked for and given: 16.875 rounds; 7.5 is below the floor of 9.6.
+        const std::tuple<QSize, int, int> rows[] = {{{1024, 768}, 12, 12},
+                                                    {{1920, 1080}, 12, 17},
+                                                    {{800, 480}, 12, 10},
+                                                    {{800, 480}, 10, 8}};
+        for (const auto& [screen, asked, given] : rows) {
+            ScreenMetrics::overrideScreenSize(screen);
+            QCOMPARE(std::pair(ScreenMetrics::screenSize(), ScreenMetrics::scaledPoint(asked)),
+                     std::pair(screen, given));
+        }
         ScreenMetrics::overrideScreenSize({});
-        QVERIFY(ScreenMetrics::screenSize().isValid());
-        QCOMPARE(ScreenMetrics::px(15), 1);
+        QVERIFY(ScreenMetrics::screenSize().isValid() && ScreenMetrics::px(15) == 1);
         QCOMPARE(ScreenMetrics::px(ScreenMetrics::twips(640)), 640);
-    }
-    // A 1600x1000 stage on a wide screen is cut top and bottom, on a tall one left and right,
-    // and stays whole on a screen of its own shape.
-    void stagesCoverTheScreen() {
+        // A 1600x1000 stage on a wide screen is cut top and bottom, on a tall one left and right,
+        // and stays whole on a screen of its own shape.
         // The screen, the scale and the shift.
-        const std::tuple<QSizeF, double, double, double> rows[] = {
+        const std::tuple<QSizeF, double, double, double> stages[] = {
             {{1920, 1080}, 1.2, 0, -60}, {{1280, 1024}, 1.024, -179.2, 0}, {{800, 500}, 0.5, 0, 0}};
-        for (const auto& [screen, scale, dx, dy] : rows) {
+        for (const auto& [screen, scale, dx, dy] : stages) {
             const QTransform t = scene::coverStage(screen, {1600, 1000});
             QCOMPARE(QPointF(t.m11(), t.m22()), QPointF(scale, scale));
             QCOMPARE(QPointF(t.dx(), t.dy()), QPointF(dx, dy));
         }
         QCOMPARE(scene::coverStage({800, 600}, {}), QTransform());
-    }
-    // Type comes down a pixel at a time to the largest size at which the text fits its box both
-    // ways (a long word shrinks it as a long clue does), and never below the floor.
-    void typeShrinksToTheLargestSizeThatFits() {
+        // Type comes down a pixel at a time to the largest size at which the text fits its box both
+        // ways (a long word shrinks it as a long clue does), and never below the floor.
         QFont start("DejaVu Sans");
         start.setPixelSize(40);
         auto at = [&](int px) {
@@ -258,21 +245,23 @@ private slots:
             for (const QString& text : {clue, QString("photosynthesis")}) {
                 const int px = scene::shrinkToFit(start, box, text).pixelSize();
                 QVERIFY2(px < 40 && px > 8, qPrintable(text));
-                QVERIFY(fits(at(px), box, text));
-                QVERIFY(!fits(at(px + 1), box, text));
+                QVERIFY(fits(at(px), box, text) && !fits(at(px + 1), box, text));
             }
         }
-        QCOMPARE(scene::shrinkToFit(start, QRect(0, 0, 900, 200), "ox").pixelSize(), 40);
-        QCOMPARE(scene::shrinkToFit(start, QRect(0, 0, 20, 6), clue).pixelSize(), 8);
-        QCOMPARE(scene::shrinkToFit(start, QRect(0, 0, 20, 6), clue, 11).pixelSize(), 11);
+        // Room to spare keeps the start; no room at all gives the floor, 8 or the one asked for.
+        QCOMPARE(std::tuple(scene::shrinkToFit(start, QRect(0, 0, 900, 200), "ox").pixelSize(),
+                            scene::shrinkToFit(start, QRect(0, 0, 20, 6), clue).pixelSize(),
+                            scene::shrinkToFit(start, QRect(0, 0, 20, 6), clue, 11).pixelSize()),
+                 std::tuple(40, 8, 11));
 
         const QString plate = "Score: 12345";
         const int px = scene::shrinkToWidth(start, 150, plate).pixelSize();
-        QVERIFY(QFontMetrics(at(px)).horizontalAdvance(plate) <= 150);
-        QVERIFY(QFontMetrics(at(px + 1)).horizontalAdvance(plate) > 150);
-        QCOMPARE(scene::shrinkToWidth(start, 2000, plate).pixelSize(), 40);
-        QCOMPARE(scene::shrinkToWidth(start, 5, plate).pixelSize(), 8);
-        QCOMPARE(scene::shrinkToWidth(start, 5, plate, 10).pixelSize(), 10);
+        QVERIFY(QFontMetrics(at(px)).horizontalAdvance(plate) <= 150 &&
+                QFontMetrics(at(px + 1)).horizontalAdvance(plate) > 150);
+        QCOMPARE(std::tuple(scene::shrinkToWidth(start, 2000, plate).pixelSize(),
+                            scene::shrinkToWidth(start, 5, plate).pixelSize(),
+                            scene::shrinkToWidth(start, 5, plate, 10).pixelSize()),
+                 std::tuple(40, 8, 10));
     }
 
     void midiRendersAnAudibleLoopingTune() {
@@ -289,7 +278,7 @@ private slots:
         QCOMPARE(RenderMidi(midi, 1.0), pcm.left(kRate * 4));
     }
 
-    void heldKeysIgnoreAutoRepeat() {
+    void heldKeysTapsAndThePointersCount() {
         QWidget screen;
         auto* child = new QLineEdit(&screen);  // takes arrow keys for itself
         KeyState keys(&screen);
@@ -308,24 +297,17 @@ private slots:
         QWidget other;
         key(&other, QEvent::KeyPress, Qt::Key_Up);
         QVERIFY(!keys.isDown(Qt::Key_Up) && !keys.takePressed(Qt::Key_Up));
-    }
-
-    void pressedSinceLastReadIsOneShot() {
-        QWidget screen;
-        KeyState keys(&screen);
+        // A tap between two ticks: not held at the tick, but pressed once.
         // A tap between two ticks: not held at the tick, but pressed once.
         key(&screen, QEvent::KeyPress, Qt::Key_Space);
         key(&screen, QEvent::KeyRelease, Qt::Key_Space);
-        QVERIFY(!keys.isDown(Qt::Key_Space));
-        QVERIFY(keys.takePressed(Qt::Key_Space));
+        QVERIFY(!keys.isDown(Qt::Key_Space) && keys.takePressed(Qt::Key_Space));
         QVERIFY(!keys.takePressed(Qt::Key_Space));
         // Holding it down does not fire again through auto-repeat.
         key(&screen, QEvent::KeyPress, Qt::Key_Space);
         QVERIFY(keys.takePressed(Qt::Key_Space));
         key(&screen, QEvent::KeyPress, Qt::Key_Space, true);
-        QVERIFY(!keys.takePressed(Qt::Key_Space));
-        QVERIFY(keys.isDown(Qt::Key_Space));
-
+        QVERIFY(!keys.takePressed(Qt::Key_Space) && keys.isDown(Qt::Key_Space));
         // Losing the window: nothing stays held. clear() forgets taps too.
         QEvent deactivate(QEvent::WindowDeactivate);
         QApplication::sendEvent(&screen, &deactivate);
@@ -333,9 +315,7 @@ private slots:
         key(&screen, QEvent::KeyPress, Qt::Key_Z);
         keys.clear();
         QVERIFY(!keys.takePressed(Qt::Key_Z));
-    }
-
-    void pointerCountsLikeThePlatform() {
+        // The pointer counts like the platform.
         QVERIFY(Pointer::count() == 0 && !cursorBlank());
         // Show or hide, the count it leaves, and whether the pointer is hidden: shown twice
         // needs two hides.
@@ -355,11 +335,10 @@ private slots:
             Pointer::show(false);
             QVERIFY(cursorBlank());
         }
-        QCOMPARE(Pointer::count(), 0);
-        QCOMPARE(QGuiApplication::overrideCursor(), nullptr);
+        QVERIFY(Pointer::count() == 0 && !QGuiApplication::overrideCursor());
     }
 
-    void spriteGridCutsLeftToRightThenDown() {
+    void spriteGridCutsLeftToRightThenDownAndSvgFramesById() {
         QTemporaryDir dir;
         QImage strip(40, 16, QImage::Format_ARGB32);
         for (int y = 0; y < 16; ++y)
@@ -369,12 +348,12 @@ private slots:
         QVERIFY(strip.save(path));
 
         const SpriteSheet sheet = SpriteSheet::fromGrid(path, "walk", {10, 8});
-        QCOMPARE(sheet.frameCount("walk"), 8);
-        QCOMPARE(sheet.frame("walk", 5).size(), QSize(10, 8));
-        QCOMPARE(qRed(sheet.frame("walk", 5).pixel(3, 3)), 150);
-        QCOMPARE(qRed(sheet.frame("walk_6").pixel(0, 0)), 180);
-        QVERIFY(sheet.frame("walk", 8).isNull() && sheet.frame("walk", -1).isNull());
-        QVERIFY(sheet.frame("run", 0).isNull() && sheet.error().isEmpty());
+        QCOMPARE(std::tuple(sheet.frameCount("walk"), sheet.frame("walk", 5).size(),
+                            qRed(sheet.frame("walk", 5).pixel(3, 3)),
+                            qRed(sheet.frame("walk_6").pixel(0, 0))),
+                 std::tuple(8, QSize(10, 8), 150, 180));
+        QVERIFY(sheet.frame("walk", 8).isNull() && sheet.frame("walk", -1).isNull() &&
+                sheet.frame("run", 0).isNull() && sheet.error().isEmpty());
         QCOMPARE(SpriteSheet::fromGrid(path, "walk", {10, 8}, 3).frameCount("walk"), 3);
         // Cells that do not fill the picture exactly: the ragged edge is left out.
         QCOMPARE(SpriteSheet::fromGrid(path, "walk", {15, 8}).frameCount("walk"), 4);
@@ -387,12 +366,8 @@ private slots:
         const QString missing = dir.filePath("nothing.png");
         const SpriteSheet none = SpriteSheet::fromGrid(missing, "walk", {10, 8});
         QVERIFY(none.isEmpty() && none.error().contains(missing) && none.frame("walk_0").isNull());
-    }
-
-    void spriteSvgFramesByElementId() {
         // Two frames of a ball (the second inside a moved group), a lone picture, a gap after 2.
-        QTemporaryDir dir;
-        const QString path =
+        const QString svg =
             writeFile(dir.filePath("sprites.svg"),
                       "<svg xmlns='http://www.w3.org/2000/svg' width='200' height='100' viewBox='0 "
                       "0 200 100'>"
@@ -402,19 +377,18 @@ private slots:
                       "<rect id='star_0' x='50' y='50' width='8' height='8' fill='#00ff00'/>"
                       "<rect id='star_2' x='70' y='50' width='8' height='8' fill='#00ff00'/>"
                       "<rect id='title' x='0' y='0' width='5' height='5' fill='#000000'/></svg>");
-        const SpriteSheet sheet = SpriteSheet::fromSvg(path, 2.0);
-        QVERIFY(sheet.error().isEmpty());
-        QCOMPARE(sheet.names(), (QStringList{"ball", "star"}));
-        QCOMPARE(sheet.frameCount("ball"), 2);
-        QCOMPARE(sheet.frameCount("star"), 1);  // star_2 without star_1 is not a frame
-        QCOMPARE(sheet.frame("ball", 0).size(), QSize(40, 20));
-        QCOMPARE(sheet.frame("ball", 0).pixel(20, 10), qRgb(255, 0, 0));
+        const SpriteSheet drawn = SpriteSheet::fromSvg(svg, 2.0);
+        // star_2 without star_1 is not a frame.
+        QCOMPARE(std::tuple(drawn.error(), drawn.names(), drawn.frameCount("ball"),
+                            drawn.frameCount("star")),
+                 std::tuple(QString(), QStringList{"ball", "star"}, 2, 1));
         // The group's move does not matter: the frame is the element alone.
-        QCOMPARE(sheet.frame("ball_1").size(), QSize(40, 20));
-        QCOMPARE(sheet.frame("ball_1").pixel(20, 10), qRgb(0, 0, 255));
-        const SpriteSheet only = SpriteSheet::fromSvg(path, 1.0, {"star"});
-        QCOMPARE(only.names(), QStringList{"star"});
-        QCOMPARE(only.frame("star", 0).size(), QSize(8, 8));
+        const QImage red = drawn.frame("ball", 0), blue = drawn.frame("ball_1");
+        QCOMPARE(std::tuple(red.size(), red.pixel(20, 10), blue.size(), blue.pixel(20, 10)),
+                 std::tuple(QSize(40, 20), qRgb(255, 0, 0), QSize(40, 20), qRgb(0, 0, 255)));
+        const SpriteSheet only = SpriteSheet::fromSvg(svg, 1.0, {"star"});
+        QCOMPARE(std::pair(only.names(), only.frame("star", 0).size()),
+                 std::pair(QStringList{"star"}, QSize(8, 8)));
     }
 };
 

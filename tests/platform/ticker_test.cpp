@@ -36,9 +36,8 @@ protected:
 TEST(TickerPace, EffectiveInterval) {
     const std::vector<std::pair<int, int>> cases = {
         {-5, 0}, {0, 0}, {1, 16}, {10, 16}, {15, 16}, {16, 16}, {17, 17}, {55, 55}, {1000, 1000}};
-    for (auto [asked, runs] : cases) {
+    for (auto [asked, runs] : cases)
         EXPECT_EQ(Ticker::effectiveInterval(asked), runs) << "asked " << asked;
-    }
 }
 
 TEST_F(TickerTest, DueTimersFireInTimeOrderAndAsOftenAsDue) {
@@ -119,7 +118,7 @@ TEST_F(TickerTest, ZeroIntervalFiresOnTheNextAdvanceEvenOfNothing) {
     EXPECT_FALSE(once.isActive());
 }
 
-TEST(Speech, ListCodesMapToTheLanguageNamedOnTheirLine) {
+TEST(Speech, ListCodesLocalesAndVoices) {
     const std::vector<LanguageCode> codes = {
         {"S", "Spanish - English words, Spanish meanings", "x"},
         {"K", "Klingon - English words, Klingon meanings", "x"}};
@@ -127,9 +126,7 @@ TEST(Speech, ListCodesMapToTheLanguageNamedOnTheirLine) {
         {"", QLocale::English}, {" S ", QLocale::Spanish}, {"K", QLocale::C}, {"Q", QLocale::C}};
     for (const auto& [code, language] : cases)
         EXPECT_EQ(LocaleForLanguage(code, codes).language(), language) << code;
-}
-
-TEST(Speech, TheBestLocaleAndVoiceForALanguage) {
+    // The best locale and voice for a language.
     const QLocale esES("es_ES"), es419("es_419"), enGB("en_GB"), enUS("en_US");
     // A country with no voice of its own takes the language's main country, then any.
     EXPECT_EQ(ChooseLocale({es419, esES}, QLocale("es_MX")), esES);

@@ -28,7 +28,7 @@ const GameCard& Get(std::string_view name) {
     return *card;
 }
 
-TEST(Catalogue, FortyTwoCardsInCatalogueOrder) {
+TEST(Catalogue, FortyTwoCardsInOrderFoundIgnoringCaseOnly) {
     const auto& cards = Catalogue();
     ASSERT_EQ(cards.size(), static_cast<std::size_t>(kGameCount));
     for (int i = 0; i < kGameCount; ++i) {
@@ -37,9 +37,7 @@ TEST(Catalogue, FortyTwoCardsInCatalogueOrder) {
         EXPECT_EQ(cards[i].name, kGameNames[i]);
         EXPECT_EQ(cards[i].button, "buttons/" + std::string(kGameNames[i]) + ".jpg");
     }
-}
-
-TEST(Catalogue, FindCardIgnoresCaseOnly) {
+    // FindCard ignores case only.
     EXPECT_EQ(FindCard("Tic-Tac-Toe"), &Catalogue()[35]);
     EXPECT_EQ(Get("hangman").name, "HangMan");
     EXPECT_EQ(Get("BOMB SQUAD 2").name, "Bomb Squad 2");
@@ -50,7 +48,7 @@ TEST(Catalogue, FindCardIgnoresCaseOnly) {
         EXPECT_EQ(FindCard(name), nullptr) << name;
 }
 
-TEST(Catalogue, FirstScreenAndClampingFollowTheListFirstGames) {
+TEST(Catalogue, FirstScreensClampingAndOptionsRows) {
     const std::set<std::string> listFirst = {"Blind Tiles", "Crossword", "Word Maze", "Jailbreak",
                                              "BreakThru"};
     for (const GameCard& card : Catalogue()) {
@@ -63,9 +61,6 @@ TEST(Catalogue, FirstScreenAndClampingFollowTheListFirstGames) {
                                     : card.name == "Flash Cards" ? "FlashCardOptions"
                                                                  : "GameOptions");
     }
-}
-
-TEST(Catalogue, OptionsRowsMatchTheOptionsTable) {
     // The game, the slider's least, most and start, and the frame.
     const std::tuple<const char*, int, int, int, OptionFrame> rows[] = {
         {"Froggy", 1, 9, 5, OptionFrame::Hidden},
@@ -106,8 +101,7 @@ TEST(Catalogue, OptionsRowsMatchTheOptionsTable) {
         SCOPED_TRACE(card.name);
         const OptionsRow& o = card.options;
         if (!o.hasDifficulty) noDifficulty.insert(card.name);
-        EXPECT_LE(o.min, o.start);
-        EXPECT_LE(o.start, o.max);
+        EXPECT_TRUE(o.min <= o.start && o.start <= o.max);
         const auto labels =
             relabelled.count(card.name)
                 ? relabelled.at(card.name)
@@ -198,11 +192,9 @@ TEST(Catalogue, HowToTextsBeginAsGivenAndStayReadable) {
         ASSERT_TRUE(begins.count(card.name));
         EXPECT_EQ(text.rfind(begins.at(card.name), 0), 0u);
         if (whole.count(card.name)) EXPECT_EQ(text, begins.at(card.name));
-        EXPECT_GE(text.size(), 140u);
-        EXPECT_LE(text.size(), 600u);
+        EXPECT_TRUE(text.size() >= 140u && text.size() <= 600u) << text.size();
         EXPECT_TRUE(seen.insert(text).second) << "shares its text with another game";
-        EXPECT_EQ(text.find("  "), std::string::npos);
-        EXPECT_NE(text.back(), ' ');
+        EXPECT_TRUE(text.find("  ") == std::string::npos && text.back() != ' ');
         for (char c : text) EXPECT_TRUE(c >= 0x20 && c < 0x7f) << "not plain ASCII: " << int(c);
     }
 }
@@ -270,8 +262,7 @@ TEST(EligibilityRows, EveryGameHasItsRow) {
         if (count == C::Below) EXPECT_EQ(e.minWords, minimum);
         if (count != C::None) EXPECT_EQ(e.countText, countText);
     }
-    EXPECT_EQ(seen.size(), 42u);
-    EXPECT_EQ(Catalogue().size(), 42u);
+    EXPECT_EQ(std::tuple(seen.size(), Catalogue().size()), std::tuple(42u, 42u));
 }
 
 }  // namespace

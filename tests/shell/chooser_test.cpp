@@ -41,7 +41,7 @@ std::vector<std::string> ListOf(const std::string& name, int n) {
 class ChooserTest : public QObject {
     Q_OBJECT
 private slots:
-    void summaryCountsHalfWordsAndLabels() {
+    void summaryAndWordsOnlyLists() {
         const std::vector<std::string> lines = {
             "Animals", "cat",  "a pet",      "dog",      "",       "<New List>", "[S]Colours",
             "red",     "rojo", "<New List>", "Spelling", "rhythm", "-----"};
@@ -50,44 +50,48 @@ private slots:
         QCOMPARE(all.lines, (QStringList{"Animals (1.5 words)", "Colours (1 words)",
                                          "Spelling (1 words- no definitions)"}));
         QCOMPARE(all.caption(), "Choose a list:  3.5 words available in  3 word lists.");
-        QCOMPARE(all.foreign.size(), size_t(1));
-        QCOMPARE(QString::fromStdString(all.foreign[0].plain), "Colours");
+        QCOMPARE(all.foreign.size() == 1 ? toQ(all.foreign[0].plain) : "", "Colours");
 
         ListSummary some = SummariseLists(lines, false, {"Spelling", "Spelling"});
         QCOMPARE(some.lines, QStringList{"Spelling (1 words- no definitions)"});
         QCOMPARE(some.total, 3.5);  // the caption still counts every list's words
-        QVERIFY(SummariseLists(lines, false, {}).lines.isEmpty());
-        QVERIFY(SummariseLists({}, true, {}).lines.isEmpty());  // an empty list file
+        QVERIFY(SummariseLists(lines, false, {}).lines.isEmpty() &&
+                SummariseLists({}, true, {}).lines.isEmpty());  // an empty list file
 
         // After the first list was deleted the file starts with a separator.
         ListSummary healed = SummariseLists({"<New List>", "Birds", "owl", "hooter"}, true, {});
         QCOMPARE(healed.lines, (QStringList{"<New List> (-.5 words)", "Birds (1 words)"}));
-    }
-
-    void wordsOnlyListsAreRefusedOrWarned() {
-        // One game for each way of meeting a words-only list, the option on: the message, the
-        // option after, and the screen that opens.
-        const std::tuple<const char*, QString, bool, QString> rows[] = {
-            {"Pachinko", kM1, true, "ChooseList"},
-            {"Word Zap", kM1, true, "ChooseList"},  // the option on
-            {"Word Search", kSearch, false, "WordSearchForm"},
+        // One game for each way of meeting a words-only list with the option on, then the games
+        // that warn only while it is on, with it off: they open quietly. The option, the message,
+        // the option after, and the screen that opens.
+        const std::tuple<const char*, bool, QString, bool, QString> rows[] = {
+            {"Pachinko", true, kM1, true, "ChooseList"},
+            {"Word Zap", true, kM1, true, "ChooseList"},  // the option on
+            {"Word Search", true, kSearch, false, "WordSearchForm"},
             // Kept by the chooser, then inverted by the game as it loads.
-            {"Scramble", kW2, false, "Scramble"},
-            {"Hang Glider", "", true, "HangGlider"}};
-        for (const auto& [game, message, optionAfter, opens] : rows) {
-            ShellFixture fx;
+            {"Scramble", true, kW2, false, "Scramble"},
+            {"Hang Glider", true, "", true, "HangGlider"},
+            {"Short Circuit", false, "", false, "ShortCircuit"},
+            {"Princess", false, "", false, "frmPrincess"},
+            {"Asteroid Zap", false, "", false, "AsteroidBlast"},
+            {"Safe Cracker", false, "", false, "SafeCracker"},
+            {"Word Search", false, "", false, "WordSearchForm"},
+            {"Letter Drop", false, "", false, "LetterFall"}};
+        ShellFixture fx;
+        for (const auto& [game, on, message, optionAfter, opens] : rows) {
             ChooseList* chooser = OpenChooser(fx, game);
-            Shared().GameOptionOn = kTrue;
+            fx.dialogs.shown.clear();
+            Shared().GameOptionOn = on ? kTrue : kFalse;
             QVERIFY(chooser->lists()->isVisible());
             QVERIFY(SelectList(chooser, "Tricky Spelling Words (") >= 0);
             chooser->continueOn();
             QCOMPARE(std::tuple(fx.dialogs.texts().value(0), Shared().GameOptionOn == kTrue,
-                                CurrentScreen()->objectName()),
-                     std::tuple(message, optionAfter, opens));
+                                Shared().WordsOnly == kTrue, CurrentScreen()->objectName()),
+                     std::tuple(message, optionAfter, true, opens));
         }
     }
 
-    void countBoundaries() {
+    void countBoundariesAndForeignListsPlayedEitherWay() {
         // Each side of a fixed minimum and of the difficulty (7) as the minimum.
         const std::tuple<const char*, int, QString> rows[] = {
             {"Pachinko", 5, QString::fromStdString(N(5))},
@@ -107,17 +111,14 @@ private slots:
                          std::tuple(words, refused, refused));
             }
         }
-    }
-
-    void foreignListPlayedThroughTheChooser() {
         // "[F]Odd" has the marker on its word lines: after a swap it stands on the meaning side.
         // The side picked, then the language, the first word and meaning, and words-only.
-        const std::tuple<bool, QString, QString, QString, bool> rows[] = {
+        const std::tuple<bool, QString, QString, QString, bool> sides[] = {
             {false, "E", "dog", "perro", false},
             {true, "S", "perro", "dog", false},
             {false, "E", "-----", "chat", false},
             {true, "F", "chat", "-----", true}};
-        for (const auto& [secondOption, language, word1, meaning1, wordsOnly] : rows) {
+        for (const auto& [secondOption, language, word1, meaning1, wordsOnly] : sides) {
             ShellFixture fx;
             const bool odd = word1 == "-----" || meaning1 == "-----";
             ChooseList* chooser = OpenChooser(
@@ -143,53 +144,34 @@ private slots:
         }
     }
 
-    void warnIfOptionWithTheOptionOffSaysNothing() {
-        // Words-only lists warn these games only while the option is on; off, they open quietly.
-        ShellFixture fx;
-        for (const char* game : {"Short Circuit", "Princess", "Asteroid Zap", "Safe Cracker",
-                                 "Word Search", "Letter Drop"}) {
-            ChooseList* chooser = OpenChooser(fx, game);
-            QVERIFY(chooser->lists()->isVisible());
-            fx.dialogs.shown.clear();
-            Shared().GameOptionOn = kFalse;
-            QVERIFY(SelectList(chooser, "Tricky Spelling Words (") >= 0);
-            chooser->continueOn();
-            QVERIFY2(Shared().WordsOnly == kTrue, game);
-            for (const auto& shown : fx.dialogs.shown)
-                QVERIFY2(!shown.text.startsWith("The list you have selected"), game);
-            QCOMPARE(Shared().GameOptionOn, kFalse);
-        }
-    }
-
     void chooserRemembersAndCutsNames() {
         ShellFixture fx;
         ChooseList* chooser =
             OpenChooser(fx, "Hang Glider", {"<New List>", "Unit (2)", "ant", "a small insect"});
         QVERIFY(chooser->lists()->isVisible());
         QCOMPARE(chooser->lists()->currentRow(), 0);  // the first line when nothing was chosen
-        QVERIFY(chooser->findChild<QPushButton*>("Command1")->isEnabled());
-        QVERIFY(SelectList(chooser, "Unit (2) (") >= 0);
+        QVERIFY(chooser->findChild<QPushButton*>("Command1")->isEnabled() &&
+                SelectList(chooser, "Unit (2) (") >= 0);
         chooser->continueOn();  // the game is not built yet, but the list is loaded
-        QCOMPARE(QString::fromStdString(Shared().CurrentListName), "Unit (2)");
-        QCOMPARE(Shared().WordCount, 1);
-        QCOMPARE(QString::fromStdString(Shared().LastListChoice), "Unit (2) (1 words)");
+        QCOMPARE(std::tuple(toQ(Shared().CurrentListName), int(Shared().WordCount),
+                            toQ(Shared().LastListChoice)),
+                 std::tuple("Unit (2)", 1, "Unit (2) (1 words)"));
 
         // The next visit picks the first line that begins with the last choice.
         Shared().LastListChoice = "UNIT";
         auto* again = qobject_cast<ChooseList*>(OpenScreen("ChooseList", chooser));
         Pump();
-        QVERIFY(again->lists()->isVisible());
-        QCOMPARE(again->lists()->currentItem()->text(), "Unit (2) (1 words)");
+        QVERIFY(again->lists()->isVisible() &&
+                again->lists()->currentItem()->text() == "Unit (2) (1 words)");
         QTest::keyClick(again, Qt::Key_Escape);
         QVERIFY(Showing<Title>() != nullptr);
     }
 
-    void lastChoiceMatchingNothingSelectsNothing() {
+    void lastChoiceMatchingNothingAndAnUnknownLanguage() {
         ShellFixture fx;
         Shared().LastListChoice = "A list deleted since";
         ChooseList* chooser = OpenChooser(fx, "Hang Glider");
-        QVERIFY(chooser->lists()->count() > 0);
-        QCOMPARE(chooser->lists()->currentRow(), -1);
+        QVERIFY(chooser->lists()->count() > 0 && chooser->lists()->currentRow() == -1);
         const QString caption = chooser->findChild<QLabel*>("Caption")->text();
         QVERIFY2(caption.startsWith("Choose a list: ") && caption.endsWith(" word lists."),
                  qPrintable(caption));
@@ -197,15 +179,12 @@ private slots:
         chooser->continueOn();
         QCOMPARE(fx.dialogs.texts(), QStringList{"You need to choose a list!"});
         QCOMPARE(CurrentScreen(), chooser);
-    }
-
-    void languageNotInTheFileOffersPlainSides() {
-        ShellFixture fx;
+        // A language not in the file offers plain sides.
         LangChoose box("X");
-        QCOMPARE(box.Option1->text(), "English words, foreign meanings");
-        QCOMPARE(box.Option2->text(), "Foreign words, English meanings");
-        QCOMPARE(box.findChild<QLabel*>("Label1")->text(),
-                 "How do you want to play this word list?");
+        QCOMPARE(std::tuple(box.Option1->text(), box.Option2->text(),
+                            box.findChild<QLabel*>("Label1")->text()),
+                 std::tuple("English words, foreign meanings", "Foreign words, English meanings",
+                            "How do you want to play this word list?"));
     }
 
     void optionsRowsAndClamping() {
@@ -215,28 +194,26 @@ private slots:
         s.CurrentGame = "Crossword";
         s.WordCount = 7;
         auto* opts = qobject_cast<GameOptions*>(OpenScreen("GameOptions", CurrentScreen()));
-        QCOMPARE(opts->SpeedBar->minimum(), 2);
-        QCOMPARE(opts->SpeedBar->maximum(), 7);  // clamped to the words loaded
-        QCOMPARE(opts->SpeedBar->value(), 7);
-        QCOMPARE(int(s.MaxDifficulty), 7);
-        QVERIFY(!opts->Frame2->isVisible());
+        // The most clamped to the words loaded.
+        QCOMPARE(
+            std::tuple(opts->SpeedBar->minimum(), opts->SpeedBar->maximum(),
+                       opts->SpeedBar->value(), int(s.MaxDifficulty), opts->Frame2->isVisible()),
+            std::tuple(2, 7, 7, 7, false));
         opts->Command2->click();  // Back: list-first games go back to the chooser
         QCOMPARE(CurrentScreen()->objectName(), "ChooseList");
 
         s.CurrentGame = "Word Search";
         opts = qobject_cast<GameOptions*>(OpenScreen("GameOptions", CurrentScreen()));
-        QCOMPARE(opts->Frame2->title(), "How do you want the clue?");
-        QCOMPARE(opts->Option2->text(), "Clue is Definition");
-        QVERIFY(opts->Frame2->isVisible());
+        QCOMPARE(
+            std::tuple(opts->Frame2->title(), opts->Option2->text(), opts->Frame2->isVisible()),
+            std::tuple("How do you want the clue?", "Clue is Definition", true));
         opts->SoundOFFOp->setChecked(true);
         opts->Option1->setChecked(true);
         opts->SpeedBar->setValue(9);
         opts->continueOn();
-        QCOMPARE(s.SoundOn, kFalse);
-        QCOMPARE(s.GameOptionOn, kFalse);
-        QCOMPARE(s.Difficulty, 9);
-        QVERIFY(!s.HowToText.empty());
-        QCOMPARE(CurrentScreen()->objectName(), "ChooseList");
+        QCOMPARE(std::tuple(s.SoundOn, s.GameOptionOn, int(s.Difficulty), s.HowToText.empty(),
+                            CurrentScreen()->objectName()),
+                 std::tuple(kFalse, kFalse, 9, false, "ChooseList"));
 
         s.CurrentGame = "Speed Type";
         opts = qobject_cast<GameOptions*>(OpenScreen("GameOptions", CurrentScreen()));

@@ -67,8 +67,7 @@ private slots:
         QVERIFY(TriggerMenu(game, "mnuHowTo"));
         QCOMPARE(std::tuple(fx->dialogs.shown.back().title, fx->dialogs.last()),
                  std::tuple("How To Play", "Play nicely."));
-        QVERIFY(TriggerMenu(game, "RS"));
-        QCOMPARE(std::tuple(game->starts, game->frame.round()), std::tuple(1, 1));
+        QVERIFY(TriggerMenu(game, "RS") && game->starts == 1 && game->frame.round() == 1);
     }
 
     void paletteMovesCurrentGameToTheKey() {
@@ -91,8 +90,8 @@ private slots:
         int ticks = 0;
         game->frame.timer("Timer1", 100, [&] { ++ticks; }).start();
         QTest::keyClick(game, Qt::Key_Escape);
-        QVERIFY(game->frame.leaving() && !game->frame.findTimer("Timer1")->isActive());
-        QVERIFY(Showing<Title>() != nullptr && fx->music.closes >= 1);
+        QVERIFY(game->frame.leaving() && !game->frame.findTimer("Timer1")->isActive() &&
+                Showing<Title>() != nullptr && fx->music.closes >= 1);
         // A second Quit (a box answered late, a key still queued) does nothing.
         const int closes = fx->music.closes;
         game->frame.quit();
@@ -155,7 +154,7 @@ private slots:
         QVERIFY(!flasher.isActive() && Showing<Title>() != nullptr);
     }
 
-    void nothingEndsOrSpeaksOnceTheGameIsLeft() {
+    void nothingEndsOrSpeaksOnceLeftAndAStrayGameIsReported() {
         services().speech = &voice;
         game->frame.setSayIt([] { return Spoken("perro"); });
         const int stops = voice.stops;
@@ -166,11 +165,8 @@ private slots:
         QPointer<TinyGame> gone(game);
         game = nullptr;
         Pump();
-        QVERIFY(gone.isNull());
-        QVERIFY(voice.stops > stops);  // the screen went, and its voice with it
-    }
-
-    void aGameNamingNoCardIsReported() {
+        QVERIFY(gone.isNull() && voice.stops > stops);  // the screen went, and its voice with it
+        // A game naming no card is reported.
         GameRegistrar stray("No Such Game", [] { return nullptr; }, {});
         QVERIFY(GameRegistrationErrors().contains("No Such Game"));
     }
@@ -203,8 +199,9 @@ private slots:
         Shared().SoundOn = kTrue;
         game->frame.setMusic(MusicKind::Own, "crossword.mid");
         game->frame.startMusic();
-        QVERIFY(game->frame.musicOpen() && fx->music.opened.endsWith("sounds/crossword.mid"));
-        QCOMPARE(Shared().BgmOpen, kFalse);  // a flag of its own, not the shared one
+        // A flag of its own, not the shared one.
+        QVERIFY(game->frame.musicOpen() && fx->music.opened.endsWith("sounds/crossword.mid") &&
+                Shared().BgmOpen == kFalse);
         game->frame.startMusic();
         QCOMPARE(fx->music.plays, 1);
         game->frame.stopMusic();
@@ -226,18 +223,14 @@ private slots:
         const QString placed = "You got a high score of 1234! Would you like to try again?";
         const QString money =
             "You won a cash and prize total of $1234! Would you like to try again?";
+        const QString unplaced = "Congratulations! You scored 1234! Would you like to try again?";
         // Placed in the table, the money texts, the answers, the questions, the difficulty after,
         // and whether the title is back. Not placed: no offer to raise.
         const std::tuple<bool, bool, QList<bool>, QStringList, int, bool> rows[] = {
             {true, false, {true, true}, {placed, raise}, 3, false},  // again, raised
             {true, false, {true, false}, {placed, raise}, 2, false},
             {true, false, {false}, {placed}, 2, true},
-            {false,
-             false,
-             {true},
-             {"Congratulations! You scored 1234! Would you like to try again?"},
-             2,
-             false},
+            {false, false, {true}, {unplaced}, 2, false},
             {true, true, {true, true}, {money, raise}, 3, false}};
         for (const auto& [isPlaced, isMoney, answers, texts, difficulty, onTitle] : rows) {
             init();
@@ -285,8 +278,7 @@ private slots:
         Shared().SpeechRate = -4;
         QVERIFY(TriggerMenu(game, "mnuSayIt"));
         now = Spoken("dog", ListSide::Meaning);
-        QVERIFY(TriggerMenu(game, "mnuSayIt"));
-        QCOMPARE(voice.said.size(), 2);
+        QVERIFY(TriggerMenu(game, "mnuSayIt") && voice.said.size() == 2);
         QCOMPARE(std::tuple(voice.said[0].text, voice.said[0].locale.language(), voice.said[0].rate,
                             voice.said[1].locale.language()),
                  std::tuple("perro", QLocale::Spanish, -4, QLocale::English));

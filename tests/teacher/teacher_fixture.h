@@ -39,11 +39,7 @@ struct TeacherFixture : ShellFixture {
 
     explicit TeacherFixture(const QStringList& lists = {"Animals", "cat", "a pet", "dog",
                                                         "a loyal pet"}) {
-        static bool once = [] {
-            RegisterTeacherScreens();
-            return true;
-        }();
-        (void)once;
+        [[maybe_unused]] static const bool once = (RegisterTeacherScreens(), true);
         QFile::copy(path("wmdata.new"), path("wmdata.dat"));
         writeLines("thelists.dat", lists);
         writeLines("folders.dat", {});
@@ -85,9 +81,8 @@ struct TeacherFixture : ShellFixture {
 
 // The first row of `list` whose text starts with `start`, or -1.
 inline int RowOf(QListWidget* list, const QString& start) {
-    for (int i = 0; i < list->count(); ++i) {
+    for (int i = 0; i < list->count(); ++i)
         if (list->item(i)->text().startsWith(start)) return i;
-    }
     return -1;
 }
 

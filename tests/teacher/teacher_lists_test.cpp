@@ -13,44 +13,33 @@ const QString kTaken =
 class TeacherListsTest : public QObject {
     Q_OBJECT
 private slots:
-    void createListRefusals_data() {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("foreign");
-        QTest::addColumn<int>("language");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("no language")
-            << "Verbs" << true << 0
-            << "Please choose a supported language for your vocabulary list from the drop-down "
-               "selection box...";
-        QTest::newRow("blank name") << "   " << false << 0
-                                    << "Type a name for your list before you continue...";
-        QTest::newRow("taken, other case and blanks") << " animals " << false << 0 << kTaken;
-        QTest::newRow("taken without the prefix") << "colours" << true << 1 << kTaken;
-    }
-
-    void createListRefusals() {
-        QFETCH(QString, name);
-        QFETCH(bool, foreign);
-        QFETCH(int, language);
-        QFETCH(QString, message);
-        TeacherFixture f(kTwoLists);
-        CreateList c;
-        c.name()->setText(name);
-        c.foreign()->setChecked(foreign);
-        c.languages()->setCurrentIndex(language);
-        c.confirm();
-        QCOMPARE(std::tuple(f.dialogs.texts(), c.result()),
-                 std::tuple(QStringList{message}, int(QDialog::Rejected)));
-    }
-
-    void createListKinds() {
+    void createListRefusalsAndKinds() {
+        // The name, whether foreign, the language picked, and the one message: no language, a
+        // blank name, taken in another case and with blanks, taken without the prefix.
+        const std::tuple<QString, bool, int, QString> rows[] = {
+            {"Verbs", true, 0,
+             "Please choose a supported language for your vocabulary list from the drop-down "
+             "selection box..."},
+            {"   ", false, 0, "Type a name for your list before you continue..."},
+            {" animals ", false, 0, kTaken},
+            {"colours", true, 1, kTaken}};
+        for (const auto& [name, foreign, language, message] : rows) {
+            TeacherFixture f(kTwoLists);
+            CreateList c;
+            c.name()->setText(name);
+            c.foreign()->setChecked(foreign);
+            c.languages()->setCurrentIndex(language);
+            c.confirm();
+            QCOMPARE(std::tuple(f.dialogs.texts(), c.result()),
+                     std::tuple(QStringList{message}, int(QDialog::Rejected)));
+        }
         TeacherFixture f(kTwoLists);
         CreateList c;
         QCOMPARE(c.languages()->itemText(0), "Choose a Supported Language...");
         // Ticking words-only warns; No unticks it.
         c.wordsOnly()->setChecked(true);
-        QVERIFY(f.dialogs.last().startsWith("Warning: If you create a words-only list"));
-        QVERIFY(!c.wordsOnly()->isChecked());
+        QVERIFY(f.dialogs.last().startsWith("Warning: If you create a words-only list") &&
+                !c.wordsOnly()->isChecked());
         c.foreign()->setChecked(true);
         QVERIFY(!c.languages()->isHidden());
         f.dialogs.answerYes();
@@ -68,8 +57,8 @@ private slots:
         foreign.foreign()->setChecked(true);
         foreign.languages()->setCurrentIndex(1);
         foreign.confirm();
-        QVERIFY(f.dialogs.last().startsWith("Tip: When creating your Foreign Language list"));
-        QVERIFY(!Shared().ListLanguage.empty() && Shared().WordsOnly == kFalse);
+        QVERIFY(f.dialogs.last().startsWith("Tip: When creating your Foreign Language list") &&
+                !Shared().ListLanguage.empty() && Shared().WordsOnly == kFalse);
     }
 
     void newListMessages() {
@@ -98,8 +87,7 @@ private slots:
                  std::tuple("owl", "wise bird", 1));
         m->words()->setCurrentRow(0);
         m->deleteWord();  // No
-        QVERIFY(f.box().startsWith("Confirm Delete: "));
-        QCOMPARE(m->words()->count(), 1);
+        QVERIFY(f.box().startsWith("Confirm Delete: ") && m->words()->count() == 1);
         f.dialogs.answerYes();
         m->deleteWord();
         QCOMPARE(std::tuple(m->words()->count(), m->totalText()),
@@ -132,8 +120,8 @@ private slots:
                  std::tuple("Birds", boxes + 1));  // the question alone
         f.dialogs.answerInput("  Garden Birds ");
         m->renameList();
-        QCOMPARE(m->caption(), "Garden Birds");
-        QCOMPARE(f.dialogs.last(), "List name changed successfully.");
+        QCOMPARE(std::tuple(m->caption(), f.dialogs.last()),
+                 std::tuple("Garden Birds", "List name changed successfully."));
         // Quit with No leaves the file alone; Quit with Yes and no words refuses.
         f.dialogs.answerYes();
         m->quitScreen();
@@ -143,9 +131,7 @@ private slots:
         m->word()->setText("robin");
         m->meaning()->setText("red breast");
         m->quitScreen();
-        QVERIFY(f.box().startsWith("Save?: "));
-        QCOMPARE(f.lists(), before);
-        QVERIFY(Showing<Manager>());
+        QVERIFY(f.box().startsWith("Save?: ") && f.lists() == before && Showing<Manager>());
         // Quit with Yes and a pair typed: the pair is added and the list saved.
         m = OpenMaker("Owls");
         m->word()->setText("barn owl");
@@ -272,11 +258,11 @@ private slots:
         again.lists()->item(1)->setSelected(true);
         again.lists()->item(2)->setSelected(true);
         again.confirm();
-        QVERIFY(f.dialogs.last().startsWith("If you merge words from a foreign language list"));
-        QCOMPARE(f.lists(), before);
+        QVERIFY(f.dialogs.last().startsWith("If you merge words from a foreign language list") &&
+                f.lists() == before);
     }
 
-    void buildFromTwoLists() {
+    void buildFromTwoListsThenDeleteTheFirstWord() {
         TeacherFixture f(kTwoLists +
                          QStringList{"<New List>", "Birds", "owl", "wise", "cat", "bird eater"});
         Manager manager;
@@ -313,12 +299,9 @@ private slots:
             b.save();
         });
         manager.command("Create List from Existing Lists");
-        QVERIFY(f.dialogs.saw(kTaken));
-        QVERIFY(f.lists().endsWith(f.crlf({"<New List>", "Mix", "cat", "a pet", "owl", "wise"})));
-    }
-
-    void editorDeletesTheFirstWord() {
-        TeacherFixture f(kTwoLists);
+        QVERIFY(f.dialogs.saw(kTaken) &&
+                f.lists().endsWith(f.crlf({"<New List>", "Mix", "cat", "a pet", "owl", "wise"})));
+        // The editor deletes the first word.
         EditList* edit = OpenEditor("Animals");
         edit->select(0);
         f.dialogs.answerYes();

@@ -5,9 +5,7 @@
 
 using namespace wm;
 
-namespace {
 using Lines = std::vector<std::string>;
-}
 
 TEST(PairCheck, WordThenDefinitionCaseBlindAndSkippingTheEditedLine) {
     const std::vector<WordPair> pairs = {{"cat", "a pet"}, {"dog", "a loyal pet"}};
@@ -27,10 +25,10 @@ TEST(Rename, RefusalsInOrder) {
     auto taken = [](const std::string& n) { return n == "Animals"; };
     for (const char* same : {"  ", " Fruit "})
         EXPECT_EQ(RenameRefusal("Fruit", same, taken), "You did not change the list name.");
-    EXPECT_EQ(RenameRefusal("Fruit", "^x", taken),
-              "You cannot use this character ^ as the first character in a list name.");
-    EXPECT_EQ(RenameRefusal("Fruit", "[x", taken),
-              "You cannot use this character [ as the first character in a list name.");
+    for (const std::string first : {"^", "["})
+        EXPECT_EQ(
+            RenameRefusal("Fruit", first + "x", taken),
+            "You cannot use this character " + first + " as the first character in a list name.");
     EXPECT_EQ(RenameRefusal("Fruit", "Animals", taken),
               "The list name you typed already exists. This list was not renamed.");
     EXPECT_EQ(RenameRefusal("Fruit", "a^b", taken), "");

@@ -26,14 +26,6 @@ QWidget* Focused(QWidget* window) {
     return w ? w : window;
 }
 
-void Type(QWidget* window, const QString& text) {
-    QTest::keyClicks(Focused(window), text);
-}
-
-void Enter(QWidget* window) {
-    QTest::keyClick(Focused(window), Qt::Key_Return);
-}
-
 QString Refusal(const QString& typed, const QString& characters) {
     return QString("The text \"%1\" %2: %3. Please type it without them.")
         .arg(typed, kCannotStore, characters);
@@ -43,6 +35,9 @@ QString Refusal(const QString& typed, const QString& characters) {
 
 class TeacherTypingTest : public QObject {
     Q_OBJECT
+    static void Type(QWidget* w, const QString& text) { QTest::keyClicks(Focused(w), text); }
+    static void Enter(QWidget* w) { QTest::keyClick(Focused(w), Qt::Key_Return); }
+
 private slots:
     // The boxes' own words (typos included), and the one button Enter presses in each: never
     // the way out.
@@ -81,9 +76,8 @@ private slots:
         for (const auto& [make, okText, captions] : boxes) {
             std::unique_ptr<QDialog> box(make());
             QStringList defaults;
-            for (QPushButton* b : box->findChildren<QPushButton*>()) {
+            for (QPushButton* b : box->findChildren<QPushButton*>())
                 if (b->isDefault()) defaults << b->text();
-            }
             QCOMPARE(defaults, QStringList{okText});
             for (const QString& c : captions) {
                 QWidget* w = box->findChild<QWidget*>(c.section('=', 0, 0));
@@ -94,14 +88,11 @@ private slots:
             WM_CHECK_LOOK("Teacher_" + box->objectName(), box);
         }
         // The teacher's full screens as they open.
-        for (const char* screen : {"Manager", "EditList"}) {
-            QWidget* shown = OpenScreen(screen);
+        for (const QString screen : {"Manager", "EditList", "MakeNewList"}) {
+            QWidget* shown = screen == "MakeNewList" ? OpenMaker("Birds") : OpenScreen(screen);
             Pump();
-            WM_CHECK_LOOK(QString("Teacher_") + screen, shown);
+            WM_CHECK_LOOK("Teacher_" + screen, shown);
         }
-        QWidget* maker = OpenMaker("Birds");
-        Pump();
-        WM_CHECK_LOOK("Teacher_MakeNewList", maker);
     }
 
     void addWordByKeys_data() {
@@ -125,8 +116,7 @@ private slots:
         f.then<WordBox>([&](WordBox& box) {
             QCOMPARE(box.objectName(), "AddWord");
             Enter(&box);  // empty word: moves on (or, words-only, beeps and stays)
-            QVERIFY(box.isVisible());
-            QCOMPARE(Focused(&box), wordsOnly ? box.word() : box.meaning());
+            QVERIFY(box.isVisible() && Focused(&box) == (wordsOnly ? box.word() : box.meaning()));
             if (!wordsOnly) {
                 Enter(&box);  // both empty: beeps and stays
                 QVERIFY(box.isVisible());
@@ -135,8 +125,7 @@ private slots:
             Type(&box, "owl");
             Enter(&box);
             if (!wordsOnly) {
-                QVERIFY(box.isVisible());
-                QCOMPARE(Focused(&box), box.meaning());
+                QVERIFY(box.isVisible() && Focused(&box) == box.meaning());
                 QCOMPARE(box.word()->text(), "owl");
                 Type(&box, "a wise bird");
                 Enter(&box);
@@ -228,8 +217,7 @@ private slots:
                 box.word()->setText(typed);
                 box.meaning()->setText("a bird");
                 box.confirm();
-                QVERIFY(f.dialogs.saw(message) && box.isVisible());
-                QCOMPARE(Focused(&box), box.word());
+                QVERIFY(f.dialogs.saw(message) && box.isVisible() && Focused(&box) == box.word());
                 box.reject();
             });
             edit->editWord();
@@ -315,7 +303,7 @@ private slots:
 
     // The palette's character goes into the box its button names; a palette closed without a
     // character puts nothing in, even with one left from before.
-    void paletteCharacterGoesToTheBoxItsButtonNames() {
+    void paletteCharacterAndCategoryFileNotNamedFoldersDat() {
         TeacherFixture f(kLists);
         WordBox box(WordBox::Add);
         box.word()->setText("caf");
@@ -337,12 +325,9 @@ private slots:
         box.foreign();
         QCOMPARE(std::tuple(box.word()->text(), box.meaning()->text()),
                  std::tuple("caf" + first, second));
-    }
-
-    // The settings may name a category file of another name. Readers then read its .lok name (kept
-    // so), which the editor would take for the categories and save over the real file: it refuses.
-    void categoryFileNotNamedFoldersDat() {
-        TeacherFixture f(kLists);
+        // The settings may name a category file of another name. Readers then read its .lok name
+        // (kept so), which the editor would take for the categories and save over the real file: it
+        // refuses.
         f.writeLines("cats.dat", {"^Zoo", "Animals"});
         const QByteArray before = f.read("cats.dat");
         Shared().FolderFilePath = f.path("cats.dat").toStdString();
@@ -359,8 +344,7 @@ private slots:
         // Opened all the same, the box holds nothing and its save writes nothing.
         {
             Categories c;
-            QVERIFY(!c.loaded());
-            QCOMPARE(f.dialogs.last(), refusal);
+            QVERIFY(!c.loaded() && f.dialogs.last() == refusal);
             f.dialogs.answerYes();
             c.save();
         }

@@ -58,7 +58,7 @@ TEST(TuneRecipe, MistakesNameTheFileAndLine) {
     }
 }
 
-TEST(Manifest, ReadsNamesWithBlanksAndSizes) {
+TEST(Manifest, ReadsNamesWithBlanksAndSizesAndRefusesBadLines) {
     std::vector<ManifestEntry> entries;
     QString error;
     ASSERT_TRUE(
@@ -73,9 +73,7 @@ TEST(Manifest, ReadsNamesWithBlanksAndSizes) {
         std::tuple("buttons/Bomb Squad 2.jpg", QSize(360, 270), 3, "buttons"));
     EXPECT_EQ(std::tuple(entries[1].source, entries[1].size.isEmpty(), groupOf(entries[2].kind)),
               std::tuple("sounds/a.sound", true, ""));
-}
-
-TEST(Manifest, BadLinesAreRefusedWithTheirLine) {
+    // Bad lines are refused with their line.
     const std::vector<std::pair<const char*, const char*>> cases = {
         {"sound a.sound sounds/a.wav\nmusic b.tune sounds/b.mid",
          "m.txt:2: unknown kind \"music\""},
