@@ -219,8 +219,8 @@ void FreezeScene::resizeEvent(QResizeEvent*) {
     flake_ = sprite("flake", QSize(fs, fs));
     flakes_.clear();
     for (int i = 0; i < kFlakes; ++i)
-        flakes_.push_back({rnd(dice_, 0, width()), rnd(dice_, 0, height()), rnd(dice_, 0.02, 0.06), rnd(dice_, -0.01, 0.01),
-                           int(rnd(dice_, 0.5, 1.0) * fs), QRect()});
+        flakes_.push_back({rnd(dice_, 0, width()), rnd(dice_, 0, height()), rnd(dice_, 0.02, 0.06),
+                           rnd(dice_, -0.01, 0.01), int(rnd(dice_, 0.5, 1.0) * fs), QRect()});
     layout();
 }
 
@@ -245,8 +245,9 @@ void FreezeScene::burst(int kind, int count, qint64 now) {
     if (b.isEmpty()) return;
     for (int i = 0; i < count; ++i) {
         const double a = rnd(dice_, 0, 2 * M_PI), v = rnd(dice_, 0.15, 0.55) * side_ / 60.0;
-        bits_.push_back({rnd(dice_, b.left(), b.right()), rnd(dice_, b.top(), b.bottom()), std::cos(a) * v,
-                         std::sin(a) * v - 0.25 * side_ / 60.0, rnd(dice_, -0.01, 0.01), rnd(dice_, 0, 6.28), now,
+        bits_.push_back({rnd(dice_, b.left(), b.right()), rnd(dice_, b.top(), b.bottom()),
+                         std::cos(a) * v, std::sin(a) * v - 0.25 * side_ / 60.0,
+                         rnd(dice_, -0.01, 0.01), rnd(dice_, 0, 6.28), now,
                          int(rnd(dice_, 600, 1100)), kind, QRect()});
     }
 }
