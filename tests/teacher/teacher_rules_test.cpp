@@ -70,6 +70,8 @@ TEST(ReadRecord, FindsByPlainNameAndDropsACutPair) {
                          ReadRecord(data, "Last", nullptr).size(),
                          ReadRecord(data, "Nothing", nullptr).size()),
               std::tuple("[S]Colours", 1u, 1u, 0u, 0u));
+    std::string untouched = "kept";  // a name not found leaves the stored name alone
+    EXPECT_TRUE(ReadRecord(data, "Nothing", &untouched).empty() && untouched == "kept");
     EXPECT_EQ(std::tuple(RecordLines(data, "Odd"), RecordLines(data, "Last"),
                          RecordLines(data, "Nothing")),
               std::tuple(Lines{"a", "b", "c"}, Lines{"x"}, Lines{}));
