@@ -2,6 +2,7 @@
 // every bad file is refused with a message and leaves the list file byte-identical, and an
 // exported list reads back as it was.
 #include <QFileDialog>
+#include <QLabel>
 #include <QTableWidget>
 
 #include "look.h"
@@ -213,6 +214,8 @@ private slots:
             QCOMPARE(
                 std::tuple(p.table()->rowCount(), p.table()->item(1, 1)->text(), p.name()->text()),
                 std::tuple(2, "fourchette", "Kitchen Words"));
+            const auto* ask = p.findChild<QLabel*>("Label1");
+            QVERIFY(ask && ask->text() == "Type in the name of your new list:");
             p.confirm();
         });
         m.command("Import List...");
@@ -363,9 +366,10 @@ private slots:
             e.kvtml()->setChecked(true);
             f.then<QFileDialog>([&](QFileDialog& box) {
                 QCOMPARE(std::tuple(box.nameFilters(), box.acceptMode(), box.windowTitle(),
-                                    QFileInfo(box.selectedFiles().value(0)).fileName()),
+                                    QFileInfo(box.selectedFiles().value(0)).fileName(),
+                                    box.objectName()),
                          std::tuple(QStringList{"KVTML files (*.kvtml)"}, QFileDialog::AcceptSave,
-                                    "Export List", "Animals.kvtml"));
+                                    "Export List", "Animals.kvtml", "SaveAs"));
                 box.selectFile(f.path("chosen.kvtml"));
                 static_cast<QDialog&>(box).accept();  // the save box's own check of the name
             });
