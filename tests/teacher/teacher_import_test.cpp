@@ -211,9 +211,9 @@ private slots:
         f.dialogs.fileAnswers.push_back(Corpus("languages.kvtml"));
         f.then<ImportPreview>([](ImportPreview& p) {
             QCOMPARE(p.summary(), "2 words found in languages.kvtml (KVTML).");
-            QCOMPARE(
-                std::tuple(p.table()->rowCount(), p.table()->item(1, 1)->text(), p.name()->text()),
-                std::tuple(2, "fourchette", "Kitchen Words"));
+            QCOMPARE(std::tuple(p.table()->rowCount(), p.table()->item(1, 1)->text(),
+                                p.name()->text(), p.objectName(), p.table()->objectName()),
+                     std::tuple(2, "fourchette", "Kitchen Words", "ImportPreview", "Preview"));
             const auto* ask = p.findChild<QLabel*>("Label1");
             QVERIFY(ask && ask->text() == "Type in the name of your new list:");
             p.confirm();
