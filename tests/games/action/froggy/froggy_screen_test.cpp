@@ -2,6 +2,7 @@
 // car, a stone, a held key and the wrong slot.
 #include "games/action/froggy/froggy_screen.h"
 #include "act_kit.h"
+#include "look.h"
 
 namespace {
 
@@ -67,6 +68,7 @@ void FroggyScreenTest::heldKeyHopsOnceAndStonesCrumble() {
     ShellFixture fx;
     auto* game = Start(fx, 4);
     QVERIFY(game);
+    WM_CHECK_LOOK("Froggy_start", game);  // the logs and cars where the clock left them, the slots
     ClearTheWay(game);
     SendKey(game, Qt::Key_Up);
     for (int n = 0; n < 5; ++n) {  // the keyboard repeats while the key is held

@@ -26,7 +26,8 @@ void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
     SetModalHook(PaletteThen(0xE9, fx.win));
     const Pairs pond{{"frog", "a jumping animal"}, {"caf\xE9", "a small restaurant"},
                      {"photosynthesis", "how green plants make food"}, {"newt", "a small animal"},
-                     {"reed", "a tall grass"}, {"lily", "a flower"}, {"swan", "a white bird"},
+                     {"reed", "a tall grass"}, {"lily", "a flower"},
+                     {"swan", "a large white water bird with a long curving neck"},
                      {"duck", "it quacks"}, {"moss", "soft green plants"}, {"fish", "it swims"},
                      {"rain", "water from clouds"}, {"mud", "wet earth"},
                      {"bank", "a river's edge"}};
@@ -35,7 +36,7 @@ void ToadRaceScreenTest::aRaceWonFromTheTitleToTheTable() {
     Shared().SoundOn = kTrue;
     Pump();
     WM_VERIFY(Called(fx, game->pond()->call(), "Ready...", "toadready.wav"));
-    WM_CHECK_LOOK("Toad_Race_ready", game);  // the call outlined, the name plates on the bank
+    WM_CHECK_LOOK("Toad_Race_ready", game);  // the call outlined, the plates, a long meaning
     QLineEdit* box = game->typingBox();
     // No false starts: nothing can be typed before "Go!".
     Enter(box, "frog");

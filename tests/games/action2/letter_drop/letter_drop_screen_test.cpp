@@ -3,6 +3,7 @@
 // nothing to drop refused; the close box that ends the program.
 #include "games/action/letter_drop/letter_drop_screen.h"
 #include "act_kit.h"
+#include "look.h"
 
 using namespace wm::letter_drop;
 
@@ -56,6 +57,7 @@ void LetterDropScreenTest::steerEveryLetterHomeToTheTable() {
     QCOMPARE(game->game().word(), std::string("OWL"));
     for (int i = 0; i < kTiles; ++i) QCOMPARE(game->tile(i)->isVisible(), i < 3);
     QCOMPARE(game->tile(0)->text(), QString());
+    WM_CHECK_LOOK("Letter_Drop_ready", game);  // the night sky, the three tiles, the O on top
 
     // A wrong landing: straight down onto the W's tile with the O falling.
     Steer(game, 1);
