@@ -226,7 +226,9 @@ private slots:
         f.dialogs.fileAnswers.push_back(Corpus("heading.csv"));
         f.then<ImportPreview>([](ImportPreview& p) {
             auto head = [&](int column) { return p.table()->horizontalHeaderItem(column)->text(); };
-            QVERIFY(p.heading()->isChecked() && p.heading()->text() == "First line is a heading");
+            QCOMPARE(std::tuple(p.heading()->isChecked(), p.heading()->text(),
+                                p.heading()->objectName()),
+                     std::tuple(true, "First line is a heading", "Heading"));
             QCOMPARE(p.summary(), "2 words found in heading.csv (CSV).");
             QCOMPARE(std::tuple(head(0), head(1), p.table()->item(0, 0)->text()),
                      std::tuple("Spanish", "English", "el perro"));
