@@ -93,6 +93,7 @@ private slots:
         QCOMPARE(LabelText(game, "Label2"), "\u00c9 ");
         // A wrong whole word is a miss; cancelling is nothing; a blank inside must match.
         fx.dialogs.answerInput(QString("cafe noir")).answerInput(std::nullopt);
+        QCOMPARE(game->findChild<QPushButton*>("Command2"), game->solveButton());
         game->solveButton()->click();
         QCOMPARE(game->round().Misses, 1);
         FinishClips(game);
