@@ -21,7 +21,10 @@ private slots:
         // "Please Wait..." holds the keys until the first tick of a round.
         QVERIFY(TriggerMenu(game, "RS"));
         QVERIFY(game->waiting());
-        QCOMPARE(LabelText(game, "Label3"), "Please Wait...");
+        const QLabel* wait = game->findChild<QLabel*>("Label3");  // big, amid the screen
+        QCOMPARE(wait->text(), "Please Wait...");
+        QVERIFY(wait->font() == ScreenFont(28, true) &&
+                wait->geometry().center() / 4 == QPoint(160, 100));
         Keys(game, "i");
         QCOMPARE(LabelText(game, "Label2"), "");
         Pump(20);
@@ -90,6 +93,7 @@ private slots:
         QCOMPARE(LabelText(game, "Label2"), "\u00c9 ");
         // A wrong whole word is a miss; cancelling is nothing; a blank inside must match.
         fx.dialogs.answerInput(QString("cafe noir")).answerInput(std::nullopt);
+        QCOMPARE(game->findChild<QPushButton*>("Command2"), game->solveButton());
         game->solveButton()->click();
         QCOMPARE(game->round().Misses, 1);
         FinishClips(game);

@@ -2,9 +2,9 @@
 // melted word, right answers) to the table; a game without points that ends without the table;
 // a list without letters refused.
 #include "games/guess/freeze_it/freeze_it_screen.h"
+#include "game_open.h"
 #include "look.h"
 #include "platform/speech.h"
-#include "game_open.h"
 
 using namespace wm::freeze_it;
 
@@ -47,7 +47,7 @@ private slots:
         const std::string first = s.TheWord;
         const int n = int(first.size());
         QCOMPARE(game->scene()->bannerText(), QString("Get ready!"));
-        QCOMPARE(game->clue()->text(), QString::fromStdString("Meaning: " + s.TheMeaning));
+        QCOMPARE(LabelText(game, "Label1"), QString::fromStdString("Meaning: " + s.TheMeaning));
 
         // Nothing thaws in the pause; then a block every 1800 - 300 x 3 = 900 ms.
         QVERIFY(UntilThawing(game));
@@ -81,12 +81,12 @@ private slots:
         QCOMPARE(fx.sound.played.last(), QString("freeze-wrong.wav"));
         Pump(900);
         QCOMPARE(game->game().hidden(), n - 2);
-        WM_CHECK_LOOK("Freeze-It_play", game);   // two letters out of the ice, the miss told
+        WM_CHECK_LOOK("Freeze-It_play", game);  // two letters out of the ice, the miss told
         QCOMPARE(IntervalOf(game->frame(), "Timer4"), 1300);  // then the banner goes
-        QVERIFY(TriggerMenu(game, "mnuSayIt"));  // the clue may be heard, not the word
+        QVERIFY(TriggerMenu(game, "mnuSayIt"));               // the clue may be heard, not the word
 
-        // The palette puts its letter into the answer box.
-        QTest::keyClick(game, Qt::Key_Space);
+        // The palette freezes the thawing ice first, then puts its letter into the answer box.
+        QVERIFY(TriggerMenu(game, "FLang") && game->scene()->isFrozen());
         game->answerBox()->setText("cafX");
         game->answerBox()->setSelection(3, 1);
         QVERIFY(TriggerMenu(game, "FLang"));
@@ -97,6 +97,7 @@ private slots:
         QCOMPARE(game->scoreLabel()->text(), QString("Score: %1").arg(firstPoints));
         QCOMPARE(fx.sound.played.last(), QString("freeze-right.wav"));
         QVERIFY(TriggerMenu(game, "mnuSayIt"));  // answered, the word itself may be heard
+        QVERIFY(TriggerMenu(game, "FLang") && game->answerBox()->text().isEmpty());  // no box
         QCOMPARE(voice.said.value(0).text + " | " + voice.said.value(1).text,
                  QString::fromStdString(s.TheMeaning + " | " + first));
 
@@ -132,13 +133,16 @@ private slots:
     }
 
     void noPointsNoTableAndAListWithNoLettersRefused() {
+        RecordingSpeech voice;
         Road fx(0);
+        services().speech = &voice;
         fx.dialogs.answerYes(false);
-        const Pairs words{{"ice", ""}, {"hail", ""}, {"sleet", ""}};
+        const Pairs words{{"ice", "cold"}, {"hail", "icy rain"}, {"sleet", "wet snow"}};
         WM_OPEN(game, fx,
                 QPointer(OpenGame<FreezeIt>(fx, "Freeze-It", words, 5, false, true, true)));
         QVERIFY(UntilThawing(game));
-        QVERIFY(!game->clue()->isVisible());       // no meaning on a words-only list
+        QVERIFY(!game->clue()->isVisible());  // no meaning on a words-only list
+        QVERIFY(TriggerMenu(game, "mnuSayIt") && voice.said.isEmpty());  // nor heard
         const int hidden = game->game().hidden();  // level 5 thaws a block every 300 ms
         Pump(300);
         QCOMPARE(game->game().hidden(), hidden - 1);

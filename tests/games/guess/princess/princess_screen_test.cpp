@@ -62,7 +62,8 @@ private slots:
         // The bridge comes down half way once the last plank is laid.
         Pump(450);
         QCOMPARE(game->view().bridge, 0.0);
-        Pump(1300);
+        QCOMPARE(game->view().points, "+30");  // floating up over the moat
+        QVERIFY(PaintsDuring(game, [] { Pump(1300); }) > 0);
         QCOMPARE(game->view().bridge, 0.5);
         // Each of the three stones is up on its plank.
         QCOMPARE(std::count(game->view().rise.begin(), game->view().rise.end(), 1.0), 3);
@@ -109,7 +110,7 @@ private slots:
         Click(game, 'w');
         QCOMPARE(game->game().nextPosition(), 1);
         Pump(2900);
-        QVERIFY(fx.dialogs.shown.empty());
+        QVERIFY(fx.dialogs.shown.empty() && game->view().wake > 0.9);  // the dragon nearly up
         Pump(100);
         WM_VERIFY(Box(fx, "The dragon woke up! The word was owl. Would you like to try again?",
                       "Try Again?"));
@@ -148,8 +149,11 @@ private slots:
             "This list has no word that Princess can use (the words are empty "
             "or too long). Please choose another list.";
         // A list that has lost its words by the second word is refused there.
-        WM_OPEN(game, fx, OpenGame<frmPrincess>(fx, "Princess", {{"ox", "a strong animal"}}, 2));
+        // A meaning too long for any size is shown in the smallest type.
+        WM_OPEN(game, fx,
+                OpenGame<frmPrincess>(fx, "Princess", {{"ox", std::string(900, 'o')}}, 2, true));
         Ready(game, 1650);
+        QCOMPARE(game->findChild<QLabel*>("MeaningLabel")->font(), ScreenFont(7, true));
         QTest::keyClicks(game, "ox");
         Shared().WordCount = 0;
         Pump(1820);
