@@ -12,7 +12,7 @@ constexpr double kSecond = 1.0 / 86400;
 // Waits out Ready... and Set... on the test clock.
 void toGo(SpeedType* game) {
     const QLabel* call = game->findChild<QLabel*>("Label1");
-    QVERIFY(call->text() == "Ready..." && call->size() == call->sizeHint());  // fitted anew
+    QVERIFY(call && call->text() == "Ready..." && call->size() == call->sizeHint());  // fitted anew
     QVERIFY(!game->findChild<QLabel*>("Label3")->isVisible());  // no typing box before the go
     Pump(1000);
     QCOMPARE(LabelText(game, "Label1"), "Set...");
