@@ -244,6 +244,18 @@ private slots:
         QCOMPARE(f.dialogs.last(), "The list \"Animales\" has been imported with 3 words.");
         QVERIFY(f.lists().endsWith("fourchette\r\n<New List>\r\nAnimales\r\nSpanish\r\nEnglish\r\n"
                                    "el perro\r\ndog\r\nel gato\r\ncat\r\n"));
+        // A long file: ten pairs shown, the rest counted under them.
+        QStringList twelve;
+        for (int i = 1; i <= 12; ++i) twelve << QString("word%1,meaning %1").arg(i);
+        f.writeLines("twelve.csv", twelve);
+        f.dialogs.fileAnswers.push_back(f.path("twelve.csv"));
+        f.then<ImportPreview>([](ImportPreview& p) {
+            const auto* more = p.findChild<QLabel*>("More");
+            QVERIFY(more && !more->isHidden() && p.table()->rowCount() == 10);
+            QCOMPARE(more->text(), "...and 2 more.");
+            p.reject();
+        });
+        m.command("Import List...");
     }
 
     void importNameChecksAndWordsOnly() {
