@@ -26,6 +26,8 @@ private slots:
         Keys(game, "z");
         QCOMPARE(fx.sound.played.last(), "bugbad1.wav");
         QVERIFY(game->sprayPlayer()->isPlaying() && game->bugPlayer()->isPlaying());
+        game->sprayPlayer()->advance(0.55);
+        WM_CHECK_LOOK("Bug_Spray_spray", game);  // the can's mist on its way to the bug
         FinishClips(game);
         Keys(game, "q");
         QCOMPARE(fx.sound.played.last(), "bugbad3.wav");  // Int(0.5 * 3 + 1) + 1

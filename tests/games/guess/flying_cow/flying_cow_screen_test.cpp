@@ -111,7 +111,9 @@ private slots:
         QCOMPARE(LabelText(game, "MeaningLabel"), "Meaning: it hoots at night");
         Keys(game, "w");
         QCOMPARE(game->game().tried(), "oxyz");
-        Pump(1800);
+        Pump(800);
+        WM_CHECK_LOOK("Flying_Cow_beamed", game);  // the cow rising in the beam, shrinking
+        Pump(1000);
         QVERIFY(fx.dialogs.shown.empty());
         Pump(1300);
         WM_VERIFY(Box(fx, "The cow was beamed up! The word was owl. Would you like to try again?",
