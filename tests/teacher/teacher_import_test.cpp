@@ -253,6 +253,7 @@ private slots:
             const auto* more = p.findChild<QLabel*>("More");
             QVERIFY(more && !more->isHidden() && p.table()->rowCount() == 10);
             QCOMPARE(more->text(), "...and 2 more.");
+            WM_CHECK_LOOK("Teacher_ImportPreview_more", &p);  // the count in small type
             p.reject();
         });
         m.command("Import List...");
