@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QToolBar>
 
+#include "shell/about_form.h"
 #include "shell/title.h"
 #include "teacher_fixture.h"
 
@@ -11,15 +12,20 @@ using namespace wm::test;
 
 namespace {
 
+// Triggers the entry `caption` of the screen's toolbar; whether it has one.
+bool Press(QWidget* screen, const QString& caption) {
+    for (QAction* a : screen->findChild<QToolBar*>("Toolbar1")->actions())
+        if (a->text() == caption) return a->trigger(), true;
+    return false;
+}
+
 // Through the gate from the title's toolbar, typing `password`.
 void enterGate(TeacherFixture& f, Title* title, const QString& password) {
     f.then<PasswordForm>([password](PasswordForm& p) {
         p.box()->setText(password);
         p.confirm();
     });
-    for (QAction* a : title->findChild<QToolBar*>("Toolbar1")->actions())
-        if (a->text() == "Teacher Management") return a->trigger();
-    QFAIL("no toolbar entry Teacher Management");
+    QVERIFY2(Press(title, "Teacher Management"), "no toolbar entry Teacher Management");
 }
 
 void typePair(MakeNewList* m, const QString& w, const QString& d) {
@@ -40,7 +46,9 @@ private slots:
         // The factory password is still set: the alert comes first.
         QCOMPARE(f.dialogs.shown.front().title, "Password Alert");
         auto* manager = Showing<Manager>();
-        QVERIFY(!title->isVisible());
+        QVERIFY(manager && manager->windowTitle() == "Teacher Management" && !title->isVisible());
+        f.then<AboutForm>([](AboutForm& about) { about.accept(); });  // over the manager
+        QVERIFY(Press(manager, "Program Info"));
 
         f.then<CreateList>([](CreateList& c) {
             c.name()->setText("Fruit");
@@ -165,6 +173,13 @@ private slots:
             QCOMPARE(f.read("wmdata.dat"), f.crlf({"Wordmere settings", "Version 1.01", "Sound On",
                                                    after, "listpath", "folderpath"}));
         }
+        // A settings file whose password line was left blank: an empty old password is no key.
+        TeacherFixture f;
+        RewriteSettingsLine(Shared().AppPath, kPasswordLine, "");
+        ChangePassword box;
+        for (int i : {1, 2}) box.field(i)->setText("owl");
+        box.confirm();
+        QCOMPARE(f.dialogs.last(), wrong);
     }
 
     void backupRestoreClearScoresAndLink() {
