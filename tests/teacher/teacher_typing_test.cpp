@@ -208,8 +208,9 @@ private slots:
             m->word()->setText(where == "new word" ? typed : "owl");
             m->meaning()->setText(where == "new word" ? "a bird" : typed);
             m->addWord();
-            QCOMPARE(std::tuple(m->words()->count(), Focused(m)),
-                     std::tuple(0, where == "new word" ? m->word() : m->meaning()));
+            QLineEdit* refused = where == "new word" ? m->word() : m->meaning();
+            QCOMPARE(std::tuple(m->words()->count(), Focused(m), refused->selectedText()),
+                     std::tuple(0, refused, typed));  // selected, to be typed over
         } else if (where == "edit box") {
             EditList* edit = OpenEditor("Animals");
             edit->select(0);
