@@ -68,6 +68,7 @@ private slots:
                 QVERIFY(fx.dialogs.last().startsWith("Would you like to raise"));
                 game->movie()->advance(0.9);
                 WM_CHECK_LOOK("HangMan_last_miss", game);  // the last piece in place, boxes below
+                QVERIFY(MakeScene("hangend") != nullptr);  // and the hanging's end to follow
             }
             FinishClips(game);
         }
