@@ -98,6 +98,7 @@ void CannonShotScreenTest::fiveWordsWonWithTheKeys() {
             Pump(CannonShotForm::kWordMs);
             QCOMPARE(game->sky()->call(), QString("Word %1 of 5").arg(w + 1));
             QCOMPARE(LabelText(game, "WordLabel"), QString("Word %1 of 5").arg(w + 1));
+            QCOMPARE(fx.sound.played.last(), "cannonready.wav");  // each word is readied aloud
             Pump(CannonShotForm::kReadyMs);
         }
     }
