@@ -129,7 +129,6 @@ private slots:
         QVERIFY(fx.win.tables.isEmpty());
         Pump(2400);
         WM_CHECK_WON(fx, "freeze it", QString("ICE %1").arg(expected));
-        QCOMPARE(MissingAssets(fx, "Freeze-It"), "");  // every sound it declares was made
     }
 
     void noPointsNoTableAndAListWithNoLettersRefused() {

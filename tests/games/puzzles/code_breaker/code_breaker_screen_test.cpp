@@ -168,7 +168,6 @@ private slots:
         QCOMPARE(TableRow(fx, "Code Breaker"), QString("SPY %1").arg(points));
         WM_VERIFY(WonBox(fx, points));
         QVERIFY(BackAtTitle());
-        QCOMPARE(MissingAssets(fx, "Code Breaker"), "");  // every sound it plays was made
     }
 
     void theClockRunsOut() {
