@@ -102,8 +102,7 @@ private slots:
         // Restart shows the wait panel; the layout follows on Timer2.
         auto* wait = game->findChild<QWidget*>("Frame1");
         QVERIFY(TriggerMenu(game, "RS"));
-        const GameTimer* layOut = game->frame().findTimer("Timer2");
-        QVERIFY(wait->isVisible() && layOut && layOut->isActive());
+        QVERIFY(wait->isVisible() && Runs(game->frame(), "Timer2"));
         WM_CHECK_LOOK("Crossword_wait", game);  // the wait panel over the sheet
         Pump();
         QVERIFY(!wait->isVisible());

@@ -79,12 +79,11 @@ private slots:
             if (word < 4) {
                 QCOMPARE(LabelText(game, "WLLabel"), QString("Words Left: %1").arg(4 - word));
                 // The word found flashes, and the flash stops when it is done.
-                const GameTimer* flash = game->frame().findTimer("FlashTimer");
-                QVERIFY(flash && flash->isActive());
+                QVERIFY(Runs(game->frame(), "FlashTimer"));
                 Pump(60);
                 if (word == 0) WM_CHECK_LOOK("Word_Search_play", game);  // the word flashes green
                 Pump(640);
-                QVERIFY(!flash->isActive());
+                QVERIFY(!Runs(game->frame(), "FlashTimer"));
             }
         }
         // The last word leaves the count be; the first game counts its seconds.
